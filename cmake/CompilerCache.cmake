@@ -1,0 +1,9 @@
+# Compiles through ccache where it is installed. The base directory lets several working trees share one cache.
+if(NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+    find_program(WORKBENCH_CCACHE ccache)
+    mark_as_advanced(WORKBENCH_CCACHE)
+    if(WORKBENCH_CCACHE)
+        set(CMAKE_CXX_COMPILER_LAUNCHER
+            "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1 "${WORKBENCH_CCACHE}")
+    endif()
+endif()
