@@ -1,0 +1,50 @@
+#include "core/cells.h"
+
+#include "core/numbers.h"
+#include "core/text.h"
+
+namespace wb {
+
+std::string HexTextToChar(Workbench& workbench, std::string_view text) {
+    return trappedOr(workbench, std::string(), [&] {
+        const int code = HexDigitValue(text.substr(0, 1)) * 16 +
+                         HexDigitValue(text.size() > 1 ? text.substr(1, 1) : text.substr(0, 0));
+        if (code < 0 || code > 255) {
+            throw Failure(FailureKind::InvalidCall);
+        }
+        return std::string(1, static_cast<char>(code));
+    });
+}
+
+std::string BinaryTextToDecimal(Workbench& workbench, std::string_view text) {
+    return trappedOr(workbench, std::string(), [&] {
+        std::uint32_t sum = 0;
+        for (std::size_t distance = 0; distance < text.size(); ++distance) {
+            if (text[text.size() - 1 - distance] == '1') {
+                if (distance > 31) {
+                    throw Failure(FailureKind::Overflow);
+                }
+                sum |= std::uint32_t{1} << distance;
+            }
+        }
+        return std::to_string(sum);
+    });
+}
+
+double Value(Workbench& workbench, std::string_view text) {
+    return trappedOr(workbench, 0.0, [&] { return leadingNumber(text); });
+}
+
+int byteOf(Workbench& workbench, std::string_view cellText) {
+    return characterCode(HexTextToChar(workbench, cellText));
+}
+
+int byteAt(BlockScreen& screen, int index) {
+    return byteOf(screen.workbench(), screen.txtEdit(index).text());
+}
+
+std::string hexToDecimalText(Workbench& workbench, std::string_view hexText) {
+    return BinaryTextToDecimal(workbench, HexToBinaryText(hexText));
+}
+
+} // namespace wb

@@ -1,0 +1,181 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/failure.h"
+
+namespace wb {
+
+struct Workbench;
+class Screen;
+class ControlArray;
+
+enum class ControlKind : std::uint8_t { Text, Label, Option, Check, Combo, Frame, Button, Document, Menu };
+
+/// Background of a cell: the window's own, or one of the two highlight colours.
+enum class CellColour : std::uint8_t { Window, Group, Field };
+
+/// What happens on the events of a control (all members of an array share it). Empty slots do nothing.
+struct Handlers {
+    void (*click)(Workbench&, int index) = nullptr;
+    void (*dblClick)(Workbench&, int index) = nullptr;
+    void (*gotFocus)(Workbench&, int index) = nullptr;
+    void (*lostFocus)(Workbench&, int index) = nullptr;
+    void (*keyPress)(Workbench&, int index, int& keyAscii) = nullptr; ///< may replace the key, or drop it with 0
+    void (*keyUp)(Workbench&, int index, int keyCode) = nullptr;
+};
+
+struct Bounds {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+/// A named control of a screen: the model behind whatever a view draws. A property that changes tells the view, if
+/// there is one.
+class Control {
+public:
+    static constexpr int noIndex = -1;
+
+    Control(Screen& screen, std::string_view name, ControlKind kind, Control* container, Handlers& handlers,
+            ControlArray* array, int index);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    std::string_view name() const { return name_; }
+    int index() const { return index_; }
+    ControlKind kind() const { return kind_; }
+    Screen& screen() const { return *screen_; }
+    Control* container() const { return container_; }
+    const Handlers& handlers() const { return *handlers_; }
+    ControlArray* array() const { return array_; }
+    /// "frmEDID.txtEdit(8)", or without the brackets for a control that is in no array.
+    std::string fullName() const;
+
+    const std::string& text() const { return text_; }
+    /// Puts the selection to 0, 0. On a combo the row follows where a row has that text; no event is raised.
+    void setText(std::string text);
+    const std::string& caption() const { return caption_; }
+    void setCaption(std::string caption);
+
+    /// Options 0 or -1, checks 0 or 1, combos the row (-1 none).
+    int value() const { return value_; }
+    bool selected() const { return value_ != 0; }
+    /// An option that becomes selected deselects the others of its array and raises Click; a check and a combo raise
+    /// Click when their value changes. A combo row that does not exist is an InvalidCall failure.
+    void setValue(int value);
+    /// The same without any event, for a user's action that raises its own.
+    void changeValue(int value);
+    void raiseClick();
+
+    /// Shown: its own flag, those of all its containers, and its screen's.
+    bool visible() const;
+    bool ownVisible() const { return visible_; }
+    void setVisible(bool visible);
+    bool enabled() const { return enabled_; }
+    void setEnabled(bool enabled);
+    /// Visible and enabled through all that contains it inside its screen: what a focus move needs.
+    bool usable() const;
+    bool canTakeFocus() const { return takesFocus() && usable(); }
+    bool takesFocus() const;
+
+    bool locked() const { return locked_; }
+    void setLocked(bool locked);
+    CellColour backColor() const { return backColor_; }
+    void setBackColor(CellColour colour);
+    bool fontBold() const { return fontBold_; }
+    void setFontBold(bool bold);
+    int maxLength() const { return maxLength_; } ///< 0: no limit; limits typing only
+    void setMaxLength(int length);
+    int tag() const { return tag_; }
+    void setTag(int tag) { tag_ = tag; }
+    int selStart() const { return selStart_; }
+    int selLength() const { return selLength_; }
+    void setSelection(int start, int length);
+    const std::vector<std::string>& rows() const { return rows_; }
+    void setRows(std::vector<std::string> rows) { rows_ = std::move(rows); }
+    /// Twips inside the container; all 0 where the logic never moves or sizes the control.
+    const Bounds& bounds() const { return bounds_; }
+    void setBounds(const Bounds& bounds);
+    void setTop(int top);
+    void setHeight(int height);
+    /// For the members of an array that stand in another container than the array's.
+    void placeIn(Control& container) { container_ = &container; }
+
+private:
+    void changed();
+
+    std::string_view name_;
+    Screen* screen_;
+    Control* container_;
+    Handlers* handlers_;
+    ControlArray* array_;
+    int index_;
+    int value_;
+    int maxLength_ = 0;
+    int tag_ = 0;
+    int selStart_ = 0;
+    int selLength_ = 0;
+    Bounds bounds_;
+    ControlKind kind_;
+    CellColour backColor_ = CellColour::Window;
+    bool visible_ = true;
+    bool enabled_ = true;
+    bool locked_ = false;
+    bool fontBold_ = false;
+    std::string text_;
+    std::string caption_;
+    std::vector<std::string> rows_;
+};
+
+/// A control that is in no array.
+class SingleControl : public Control {
+public:
+    SingleControl(Screen& screen, std::string_view name, ControlKind kind, Control* container = nullptr,
+                  std::string_view caption = {});
+
+    Handlers on;
+};
+
+/// Controls of one name, told apart by an index that need not start at 0. The options of one array are one exclusive
+/// group.
+class ControlArray {
+public:
+    ControlArray(Screen& screen, std::string_view name, ControlKind kind, int first, int count,
+                 Control* container = nullptr);
+    ControlArray(const ControlArray&) = delete;
+    ControlArray& operator=(const ControlArray&) = delete;
+
+    /// The element; an index outside the array is a ControlElementMissing failure.
+    Control& operator()(int index) {
+        if (index < first_ || index >= first_ + count_) {
+            throw Failure(FailureKind::ControlElementMissing);
+        }
+        return *elements_[static_cast<std::size_t>(index - first_)];
+    }
+    std::string_view name() const { return name_; }
+    int first() const { return first_; }
+    int last() const { return first_ + count_ - 1; }
+    /// Index of the first selected option, or `none`.
+    int firstSelected(int from, int to, int none = -1);
+    int firstSelected(int none = -1) { return firstSelected(first(), last(), none); }
+    void setCaptions(std::initializer_list<std::string_view> captions);
+
+    Handlers on;
+
+private:
+    std::string_view name_;
+    int first_;
+    int count_;
+    std::vector<std::unique_ptr<Control>> elements_;
+};
+
+/// Selection start 0, selection length the length of the text.
+void SelectAllInControl(Control& control);
+
+} // namespace wb

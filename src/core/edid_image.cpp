@@ -1,0 +1,44 @@
+#include "core/edid_image.h"
+
+#include "core/numbers.h"
+#include "core/text.h"
+
+namespace wb {
+
+void noteChecksum(Workbench& workbench, const std::string& checksumText) {
+    if (checksumText != workbench.Block0ChecksumAsLoaded) {
+        workbench.EDIDModified = flagTrue;
+    }
+    if (checksumText != workbench.Block0ChecksumLast) {
+        workbench.Block0ChecksumLast = checksumText;
+        workbench.EDIDRedecodeNeeded = flagTrue;
+    }
+}
+
+std::string checksumTextFor(int sum) {
+    return ByteToHex2(sum == 0 ? 0 : 256 - sum);
+}
+
+void RecalcBlock0Checksum(Workbench& workbench) {
+    trapped(workbench, [&] {
+        if (workbench.ModifyEDIDOn == flagFalse) {
+            return;
+        }
+        FrmEdid& screen = workbench.frmEDID();
+        int sum = 0;
+        for (int i = 0; i <= 126; ++i) {
+            sum += byteAt(screen, i);
+            if (sum > 255) {
+                sum -= 256;
+            }
+        }
+        screen.txtEdit(127).setText(checksumTextFor(sum));
+        noteChecksum(workbench, screen.txtEdit(127).text());
+    });
+}
+
+bool hasExtensionByDecimalText(Workbench& workbench) {
+    return Value(workbench, workbench.frmEDID().txtEdit(126).text()) != 0;
+}
+
+} // namespace wb

@@ -1,0 +1,324 @@
+#include "core/numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "core/failure.h"
+
+namespace wb {
+
+namespace {
+
+template <class Integer>
+Integer checkedFrom(std::int64_t value) {
+    if (value < std::numeric_limits<Integer>::min() || value > std::numeric_limits<Integer>::max()) {
+        throw Failure(FailureKind::Overflow);
+    }
+    return static_cast<Integer>(value);
+}
+
+template <class Integer>
+Integer checkedRound(double value) {
+    const double whole = roundHalfEven(value);
+    if (!(whole >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
+          whole <= static_cast<double>(std::numeric_limits<Integer>::max()))) {
+        throw Failure(FailureKind::Overflow);
+    }
+    return static_cast<Integer>(whole);
+}
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool isSkipped(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+int hexDigit(char c) {
+    if (isDigit(c)) {
+        return c - '0';
+    }
+    if (c >= 'A' && c <= 'F') {
+        return c - 'A' + 10;
+    }
+    return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
+}
+
+/// The double that a well-formed decimal text spells; what is too small becomes 0.
+double parseDecimal(const std::string& text) {
+    double value = 0;
+    const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (code == std::errc::result_out_of_range) {
+        // from_chars does not tell too large from too small; a negative exponent is always the latter here or a long
+        // fraction.
+        const auto exponent = text.find_first_of("eE");
+        const bool small = exponent != std::string::npos && exponent + 1 < text.size() && text[exponent + 1] == '-';
+        if (!small) {
+            const auto significant = text.find_first_of("123456789");
+            const auto point = text.find('.');
+            if (point == std::string::npos || significant == std::string::npos || significant < point) {
+                throw Failure(FailureKind::Overflow);
+            }
+        }
+        return 0;
+    }
+    return value;
+}
+
+/// Takes the characters of one decimal number from `next`, which gives 0 at the end and can peek and advance.
+class DecimalReader {
+public:
+    explicit DecimalReader(std::string_view text, bool skipBlanks) : text_(text), skipBlanks_(skipBlanks) {}
+
+    /// The longest prefix that is a number, or an empty text.
+    std::string read() {
+        std::string number;
+        if (peek() == '-' || peek() == '+') {
+            if (peek() == '-') {
+                number += '-';
+            }
+            ++at_;
+        }
+        const bool whole = digits(number);
+        bool fraction = false;
+        if (peek() == '.') {
+            ++at_;
+            number += '.';
+            fraction = digits(number);
+        }
+        if (!whole && !fraction) {
+            return {};
+        }
+        exponent(number);
+        return number;
+    }
+
+    bool atEnd() { return peek() == '\0' && at_ >= text_.size(); }
+
+private:
+    char peek() {
+        while (skipBlanks_ && at_ < text_.size() && isSkipped(text_[at_])) {
+            ++at_;
+        }
+        return at_ < text_.size() ? text_[at_] : '\0';
+    }
+
+    bool digits(std::string& number) {
+        bool any = false;
+        while (isDigit(peek())) {
+            number += peek();
+            ++at_;
+            any = true;
+        }
+        return any;
+    }
+
+    void exponent(std::string& number) {
+        if (peek() != 'E' && peek() != 'e') {
+            return;
+        }
+        const auto back = at_++;
+        std::string tail = "e";
+        if (peek() == '-' || peek() == '+') {
+            tail += peek();
+            ++at_;
+        }
+        if (digits(tail)) {
+            number += tail;
+        } else {
+            at_ = back;
+        }
+    }
+
+    std::string_view text_;
+    bool skipBlanks_;
+    std::size_t at_ = 0;
+};
+
+/// Integer part, decimals and sign of a finite double, rounded half away from zero at `decimals` on the double's exact
+/// value.
+std::string roundedDecimals(double magnitude, int decimals) {
+    // A double of the sizes met here that is no exact half differs from one within this many further digits.
+    constexpr int guardDigits = 60;
+    std::array<char, 512> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::fixed,
+                                      decimals + guardDigits);
+    std::string digits(buffer.data(), result.ptr);
+    const auto point = digits.find('.');
+    const bool up = digits[point + 1 + static_cast<std::size_t>(decimals)] >= '5';
+    digits.resize(point + 1 + static_cast<std::size_t>(decimals));
+    if (up) {
+        auto at = digits.size();
+        while (at > 0) {
+            char& c = digits[--at];
+            if (c == '.') {
+                continue;
+            }
+            if (c != '9') {
+                ++c;
+                return digits;
+            }
+            c = '0';
+        }
+        digits.insert(digits.begin(), '1');
+    }
+    return digits;
+}
+
+} // namespace
+
+std::int16_t int16From(std::int64_t value) {
+    return checkedFrom<std::int16_t>(value);
+}
+
+std::int32_t int32From(std::int64_t value) {
+    return checkedFrom<std::int32_t>(value);
+}
+
+double roundHalfEven(double value) {
+    const double floor = std::floor(value);
+    const double rest = value - floor;
+    if (rest < 0.5) {
+        return floor;
+    }
+    if (rest > 0.5) {
+        return floor + 1;
+    }
+    return std::fmod(floor, 2) == 0 ? floor : floor + 1;
+}
+
+std::int16_t roundToInt16(double value) {
+    return checkedRound<std::int16_t>(value);
+}
+
+std::int32_t roundToInt32(double value) {
+    return checkedRound<std::int32_t>(value);
+}
+
+double strictNumber(std::string_view text) {
+    while (!text.empty() && isSkipped(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isSkipped(text.back())) {
+        text.remove_suffix(1);
+    }
+    DecimalReader reader(text, false);
+    const std::string number = reader.read();
+    if (number.empty() || !reader.atEnd()) {
+        throw Failure(FailureKind::TypeMismatch);
+    }
+    return parseDecimal(number);
+}
+
+double leadingNumber(std::string_view text) {
+    std::size_t at = 0;
+    while (at < text.size() && isSkipped(text[at])) {
+        ++at;
+    }
+    if (at + 1 < text.size() && text[at] == '&' && (text[at + 1] == 'H' || text[at + 1] == 'h')) {
+        double value = 0;
+        for (at += 2; at < text.size(); ++at) {
+            if (isSkipped(text[at])) {
+                continue;
+            }
+            const int digit = hexDigit(text[at]);
+            if (digit < 0) {
+                break;
+            }
+            value = value * 16 + digit;
+        }
+        if (std::isinf(value)) {
+            throw Failure(FailureKind::Overflow);
+        }
+        return value;
+    }
+    const std::string number = DecimalReader(text.substr(at), true).read();
+    return number.empty() ? 0 : parseDecimal(number);
+}
+
+std::string formatNumber(double value, std::string_view pattern) {
+    const auto point = pattern.find('.');
+    const std::string_view wholePattern = pattern.substr(0, point);
+    const int decimals = point == std::string_view::npos ? 0 : static_cast<int>(pattern.size() - point - 1);
+    std::size_t minimum = 0;
+    for (const char c : wholePattern) {
+        minimum += c == '0' ? 1 : 0;
+    }
+    const std::string digits = roundedDecimals(std::fabs(value), decimals);
+    const auto split = digits.find('.');
+    std::string whole = digits.substr(0, split);
+    whole.erase(0, whole.find_first_not_of('0') == std::string::npos ? whole.size() : whole.find_first_not_of('0'));
+    const bool zero = digits.find_first_not_of("0.") == std::string::npos;
+    if (whole.size() < minimum) {
+        whole.insert(0, minimum - whole.size(), '0');
+    }
+    std::string result = value < 0 && !zero ? "-" : "";
+    result += whole;
+    if (decimals > 0) {
+        result += digits.substr(split);
+    }
+    return result;
+}
+
+std::string formatNumber(std::string_view text, std::string_view pattern) {
+    return formatNumber(strictNumber(text), pattern);
+}
+
+std::string plainDecimal(double value) {
+    std::array<char, 64> buffer{};
+    const auto scientific = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                          std::chars_format::scientific, 14);
+    const std::string text(buffer.data(), scientific.ptr);
+    const auto mark = text.find('e');
+    int exponent = 0;
+    const char* start = text.data() + mark + 1;
+    std::from_chars(*start == '+' ? start + 1 : start, text.data() + text.size(), exponent);
+    std::string digits = text.substr(0, 1) + text.substr(2, mark - 2);
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.empty()) {
+        return "0";
+    }
+    std::string result = value < 0 ? "-" : "";
+    const int count = static_cast<int>(digits.size());
+    if (exponent < 0) {
+        return result + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+    }
+    if (count <= exponent + 1) {
+        return result + digits + std::string(static_cast<std::size_t>(exponent + 1 - count), '0');
+    }
+    const auto whole = static_cast<std::size_t>(exponent + 1);
+    return result + digits.substr(0, whole) + "." + digits.substr(whole);
+}
+
+namespace {
+
+std::string hexadecimalOf(std::uint32_t value) {
+    std::string digits;
+    do {
+        digits.insert(digits.begin(), "0123456789ABCDEF"[value & 15U]);
+        value >>= 4U;
+    } while (value != 0);
+    return digits;
+}
+
+} // namespace
+
+std::string hexadecimal16(std::int16_t value) {
+    return hexadecimalOf(static_cast<std::uint16_t>(value));
+}
+
+std::string hexadecimal32(std::int32_t value) {
+    return hexadecimalOf(static_cast<std::uint32_t>(value));
+}
+
+int characterCode(std::string_view text) {
+    if (text.empty()) {
+        throw Failure(FailureKind::InvalidCall);
+    }
+    return static_cast<unsigned char>(text.front());
+}
+
+} // namespace wb

@@ -1,0 +1,71 @@
+#include "core/screen.h"
+
+#include <array>
+
+#include "core/view.h"
+#include "core/workbench.h"
+
+namespace wb {
+
+std::string_view screenName(ScreenId id) {
+    static constexpr std::array<std::string_view, screenCount> names = {"frmMain",    "frmSplash",   "frmEDID",
+                                                                        "frmCEA_EXT", "frmDocument", "frmHexCalculator",
+                                                                        "frmHelp",    "frmEDIDREG",  "frmAbout"};
+    return names[static_cast<std::size_t>(id)];
+}
+
+Screen::Screen(Workbench& workbench, ScreenId id, std::string_view caption)
+    : workbench_(&workbench), id_(id), caption_(caption) {}
+
+void Screen::setCaption(std::string caption) {
+    caption_ = std::move(caption);
+    if (workbench_->view != nullptr) {
+        workbench_->view->screenChanged(*this);
+    }
+}
+
+bool Screen::isChild() const {
+    return id_ == ScreenId::Edid || id_ == ScreenId::CeaExt || id_ == ScreenId::Document ||
+           id_ == ScreenId::HexCalculator;
+}
+
+void Screen::setShown(bool shown) {
+    if (shown_ != shown) {
+        shown_ = shown;
+        if (workbench_->view != nullptr) {
+            workbench_->view->screenChanged(*this);
+        }
+    }
+}
+
+Control* Screen::find(std::string_view name, int index) const {
+    for (Control* control : controls_) {
+        if (control->index() == index && control->name() == name) {
+            return control;
+        }
+    }
+    return nullptr;
+}
+
+Control* Screen::focusTarget() const {
+    if (lastFocus_ != nullptr && lastFocus_->canTakeFocus()) {
+        return lastFocus_;
+    }
+    if (firstInTabOrder_ != nullptr && firstInTabOrder_->canTakeFocus()) {
+        return firstInTabOrder_;
+    }
+    for (Control* control : controls_) {
+        if (control->canTakeFocus()) {
+            return control;
+        }
+    }
+    return nullptr;
+}
+
+void Screen::controlChanged(Control& control) {
+    if (workbench_->view != nullptr) {
+        workbench_->view->controlChanged(control);
+    }
+}
+
+} // namespace wb

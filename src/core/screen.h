@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/control.h"
+
+namespace wb {
+
+enum class ScreenId : std::uint8_t {
+    Main,
+    Splash,
+    Edid,
+    CeaExt,
+    Document,
+    HexCalculator,
+    Help,
+    EdidReg,
+    About,
+};
+inline constexpr int screenCount = 9;
+
+/// The name of a screen, such as "frmEDID".
+std::string_view screenName(ScreenId id);
+
+/// A screen is a set of named controls. Screens other than the frame come into being at first touch and run their load
+/// step then; unloading one discards it.
+class Screen {
+public:
+    Screen(Workbench& workbench, ScreenId id, std::string_view caption);
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+    virtual ~Screen() = default;
+
+    Workbench& workbench() const { return *workbench_; }
+    ScreenId id() const { return id_; }
+    std::string_view name() const { return screenName(id_); }
+    const std::string& caption() const { return caption_; }
+    void setCaption(std::string caption);
+
+    /// Hosted by the frame as a child window; the others are the frame, the splash and the modal screens.
+    bool isChild() const;
+
+    /// Whether the screen is on view; `Windows` alone changes it.
+    bool shown() const { return shown_; }
+    void setShown(bool shown);
+
+    /// All controls in order of creation, which is the tab order.
+    const std::vector<Control*>& controls() const { return controls_; }
+    /// The control of that name and index, or null.
+    Control* find(std::string_view name, int index = Control::noIndex) const;
+
+    /// The control that last had the focus here, or null.
+    Control* lastFocus() const { return lastFocus_; }
+    void setLastFocus(Control* control) { lastFocus_ = control; }
+    /// Where the focus goes when the screen gets it: where it last was, else the first in tab order that can take it,
+    /// or null.
+    Control* focusTarget() const;
+
+    /// Called after the key-up event of any control of the screen, and for bare key codes.
+    void (*keyUp)(Workbench&, int keyCode) = nullptr;
+
+    void add(Control& control) { controls_.push_back(&control); }
+    void controlChanged(Control& control);
+
+protected:
+    void setFirstInTabOrder(Control& control) { firstInTabOrder_ = &control; }
+
+private:
+    Workbench* workbench_;
+    ScreenId id_;
+    bool shown_ = false;
+    std::string caption_;
+    std::vector<Control*> controls_;
+    Control* lastFocus_ = nullptr;
+    Control* firstInTabOrder_ = nullptr;
+};
+
+} // namespace wb

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "core/screen.h"
+#include "core/shared_variables.h"
+
+namespace wb {
+
+/// The multi-document frame: its menu, tool bar, command buttons and status bar.
+class FrmMain : public Screen {
+public:
+    struct ToolBarKey {
+        std::string_view key;
+        std::string_view toolTip;
+    };
+    /// The buttons of the tool bar in their order; tbToolBar(1) is the first.
+    static constexpr std::array<ToolBarKey, 7> toolBarKeys = {{{"New", "New"},
+                                                               {"Open", "Open"},
+                                                               {"Save", "Save"},
+                                                               {"Print Preview", "Print Preview"},
+                                                               {"Print", "Print"},
+                                                               {"Calculator", "Displays Calculator"},
+                                                               {"GetEDID", "Retrieve EDID Data"}}};
+
+    explicit FrmMain(Workbench& workbench);
+
+    SingleControl mnuFile{*this, "mnuFile", ControlKind::Menu, nullptr, "&File"};
+    SingleControl mnuFileNew{*this, "mnuFileNew", ControlKind::Menu, &mnuFile, "&New"};
+    SingleControl mnuFileOpen{*this, "mnuFileOpen", ControlKind::Menu, &mnuFile, "&Open..."};
+    SingleControl mnuFileClose{*this, "mnuFileClose", ControlKind::Menu, &mnuFile, "&Close"};
+    SingleControl mnuFileBar0{*this, "mnuFileBar0", ControlKind::Menu, &mnuFile, "-"};
+    SingleControl mnuFileSave{*this, "mnuFileSave", ControlKind::Menu, &mnuFile, "&Save"};
+    SingleControl mnuFileSaveAs{*this, "mnuFileSaveAs", ControlKind::Menu, &mnuFile, "Save &As..."};
+    SingleControl mnuFileBar1{*this, "mnuFileBar1", ControlKind::Menu, &mnuFile, "-"};
+    SingleControl mnuFilePageSetup{*this, "mnuFilePageSetup", ControlKind::Menu, &mnuFile, "Page Set&up..."};
+    SingleControl mnuFilePrintPreview{*this, "mnuFilePrintPreview", ControlKind::Menu, &mnuFile, "Print Pre&view"};
+    SingleControl mnuFilePrint{*this, "mnuFilePrint", ControlKind::Menu, &mnuFile, "&Print..."};
+    SingleControl mnuFileBar2{*this, "mnuFileBar2", ControlKind::Menu, &mnuFile, "-"};
+    SingleControl ExportHex{*this, "ExportHex", ControlKind::Menu, &mnuFile, "&Export Hexadecimal EDID File"};
+    SingleControl HexCalculator{*this, "HexCalculator", ControlKind::Menu, &mnuFile, "&Hex Calculator"};
+    SingleControl GetEDIDData{*this, "GetEDIDData", ControlKind::Menu, &mnuFile, "Retreive EDID Data"};
+    SingleControl Windows2000{*this, "Windows2000", ControlKind::Menu, &mnuFile, "Windows 2000 Base Location"};
+    SingleControl mnuFileBar3{*this, "mnuFileBar3", ControlKind::Menu, &mnuFile, "-"};
+    SingleControl mnuFileExit{*this, "mnuFileExit", ControlKind::Menu, &mnuFile, "E&xit"};
+    SingleControl mnuWindow{*this, "mnuWindow", ControlKind::Menu, nullptr, "&Window"};
+    SingleControl mnuWindowCascade{*this, "mnuWindowCascade", ControlKind::Menu, &mnuWindow, "&Cascade"};
+    SingleControl mnuWindowTileHorizontal{*this, "mnuWindowTileHorizontal", ControlKind::Menu, &mnuWindow,
+                                          "Tile &Horizontal"};
+    SingleControl mnuWindowTileVertical{*this, "mnuWindowTileVertical", ControlKind::Menu, &mnuWindow,
+                                        "Tile &Vertical"};
+    SingleControl mnuWindowArrangeIcons{*this, "mnuWindowArrangeIcons", ControlKind::Menu, &mnuWindow,
+                                        "&Arrange Icons"};
+    SingleControl mnuHelp{*this, "mnuHelp", ControlKind::Menu, nullptr, "&Help"};
+    SingleControl Info{*this, "Info", ControlKind::Menu, &mnuHelp, "&Information"};
+    SingleControl mnuHelpAbout{*this, "mnuHelpAbout", ControlKind::Menu, &mnuHelp, "&About "};
+
+    ControlArray tbToolBar{*this, "tbToolBar", ControlKind::Menu, 1, static_cast<int>(toolBarKeys.size())};
+
+    SingleControl Command1{*this, "Command1", ControlKind::Button, nullptr, "Translate EDID"};
+    SingleControl Command2{*this, "Command2", ControlKind::Button, nullptr, "Modify EDID (OFF)"};
+    SingleControl Command3{*this, "Command3", ControlKind::Button, nullptr, "Auto Cell Seek (Off)"};
+    SingleControl Command4{*this, "Command4", ControlKind::Button, nullptr, "No Ext Block"};
+    SingleControl Command5{*this, "Command5", ControlKind::Button, nullptr, "Scan+Read EDID"};
+    SingleControl sbStatusBar{*this, "sbStatusBar", ControlKind::Label, nullptr, "Status"};
+
+    /// Position and size of the frame in twips; the view keeps them up to date.
+    float Left = 0;
+    float Top = 0;
+    float Width = 0;
+    float Height = 0;
+    bool minimised = false;
+    Flag FirstActivation = flagFalse;
+    void setPosition(float left, float top, float width, float height);
+};
+
+} // namespace wb

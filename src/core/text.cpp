@@ -1,0 +1,156 @@
+#include "core/text.h"
+
+#include <array>
+
+#include "core/numbers.h"
+
+namespace wb {
+
+char upperCase(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+std::string upperCase(std::string_view text) {
+    std::string result(text);
+    for (char& c : result) {
+        c = upperCase(c);
+    }
+    return result;
+}
+
+std::string lowerCase(std::string_view text) {
+    std::string result(text);
+    for (char& c : result) {
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    }
+    return result;
+}
+
+std::string PadRight(std::string_view text, int width) {
+    std::string result(text);
+    if (static_cast<int>(text.size()) < width) {
+        result.resize(static_cast<std::size_t>(width), ' ');
+    }
+    return result;
+}
+
+std::string PadLeft(std::string_view text, int width) {
+    const int missing = width - static_cast<int>(text.size());
+    return IndentText(text, missing);
+}
+
+std::string RepeatText(std::string_view text, int count) {
+    std::string result;
+    for (int i = 0; i < count; ++i) {
+        result += text;
+    }
+    return result;
+}
+
+std::string IndentText(std::string_view text, int count) {
+    std::string result(static_cast<std::size_t>(count > 0 ? count : 0), ' ');
+    result += text;
+    return result;
+}
+
+std::string CenterText(std::string_view text, int width) {
+    std::string_view counted = text;
+    if (text.find(crLf) != std::string_view::npos) {
+        counted.remove_suffix(2);
+    }
+    const int length = static_cast<int>(counted.size());
+    if (length == 0 || length >= width) {
+        return {};
+    }
+    const double indent = roundHalfEven(width / 2.0 - length / 2.0);
+    return IndentText(text, static_cast<int>(indent));
+}
+
+std::string StripTrailingCrLf(std::string_view text) {
+    if (text.size() >= crLf.size() && text.substr(text.size() - crLf.size()) == crLf) {
+        text.remove_suffix(crLf.size());
+    }
+    return std::string(text);
+}
+
+int HexDigitValue(std::string_view text) {
+    if (text.empty()) {
+        return 0;
+    }
+    const char first = upperCase(text.front());
+    if (text.size() == 1 && first >= 'A' && first <= 'F') {
+        return first - 'A' + 10;
+    }
+    return static_cast<unsigned char>(text.front()) - '0';
+}
+
+std::string ByteToHex2(long long value) {
+    std::string digits = hexadecimal16(int16From(value));
+    if (digits.size() == 1) {
+        digits.insert(digits.begin(), '0');
+    }
+    return digits;
+}
+
+std::string HexToBinaryText(std::string_view text) {
+    static constexpr std::array<std::string_view, 16> nibbles = {"0000", "0001", "0010", "0011", "0100", "0101",
+                                                                 "0110", "0111", "1000", "1001", "1010", "1011",
+                                                                 "1100", "1101", "1110", "1111"};
+    std::string result;
+    result.reserve(text.size() * 4);
+    for (const char c : text) {
+        if (c >= '0' && c <= '9') {
+            result += nibbles[static_cast<std::size_t>(c - '0')];
+        } else if (c >= 'A' && c <= 'F') {
+            result += nibbles[static_cast<std::size_t>(c - 'A' + 10)];
+        }
+    }
+    return result;
+}
+
+std::string leftPart(std::string_view text, std::size_t count) {
+    return std::string(text.substr(0, count));
+}
+
+std::string rightPart(std::string_view text, std::size_t count) {
+    return std::string(text.size() > count ? text.substr(text.size() - count) : text);
+}
+
+std::string middlePart(std::string_view text, std::size_t position, std::size_t count) {
+    return position > text.size() ? std::string() : std::string(text.substr(position - 1, count));
+}
+
+std::string quoted(std::string_view text) {
+    std::string result = "\"";
+    for (const char c : text) {
+        switch (c) {
+            case '"':
+                result += "\\\"";
+                break;
+            case '\\':
+                result += "\\\\";
+                break;
+            case '\r':
+                result += "\\r";
+                break;
+            case '\n':
+                result += "\\n";
+                break;
+            case '\t':
+                result += "\\t";
+                break;
+            default:
+                if (c >= ' ' && c <= '~') {
+                    result += c;
+                } else {
+                    const auto code = static_cast<unsigned char>(c);
+                    result += "\\x";
+                    result += "0123456789ABCDEF"[code >> 4U];
+                    result += "0123456789ABCDEF"[code & 15U];
+                }
+        }
+    }
+    return result + '"';
+}
+
+} // namespace wb

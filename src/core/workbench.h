@@ -1,0 +1,166 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "core/focus.h"
+#include "core/screens/frm_cea_ext.h"
+#include "core/screens/frm_edid.h"
+#include "core/screens/frm_main.h"
+#include "core/screens/small_screens.h"
+#include "core/shared_variables.h"
+#include "core/windows.h"
+#include "platform/services.h"
+
+namespace wb {
+
+class View;
+
+/// What the higher floors connect to the life of a screen.
+struct ScreenLife {
+    void (*connect)(Screen&) = nullptr;                 ///< connects the handlers of a new screen's controls
+    void (*load)(Workbench&) = nullptr;                 ///< the load step
+    void (*unload)(Workbench&, bool& cancel) = nullptr; ///< the unload step; may refuse
+};
+
+using Wiring = std::array<ScreenLife, screenCount>;
+
+/// The running program: its shared variables, its screens, and the platform it runs on. Tests make as many as they
+/// like.
+struct Workbench : SharedVariables {
+    /// Both referred objects must outlive the program.
+    Workbench(const platform::Services& services, const Wiring& wiring);
+    Workbench(const Workbench&) = delete;
+    Workbench& operator=(const Workbench&) = delete;
+    ~Workbench();
+
+    // The screens. Each call is a touch: a screen that does not exist is created and runs its load step.
+    FrmMain& frmMain() { return touchAs<FrmMain>(ScreenId::Main); }
+    FrmSplash& frmSplash() { return touchAs<FrmSplash>(ScreenId::Splash); }
+    FrmEdid& frmEDID() { return touchAs<FrmEdid>(ScreenId::Edid); }
+    FrmCeaExt& frmCEA_EXT() { return touchAs<FrmCeaExt>(ScreenId::CeaExt); }
+    FrmDocument& frmDocument() { return touchAs<FrmDocument>(ScreenId::Document); }
+    FrmHexCalculator& frmHexCalculator() { return touchAs<FrmHexCalculator>(ScreenId::HexCalculator); }
+    FrmHelp& frmHelp() { return touchAs<FrmHelp>(ScreenId::Help); }
+    FrmEdidReg& frmEDIDREG() { return touchAs<FrmEdidReg>(ScreenId::EdidReg); }
+    FrmAbout& frmAbout() { return touchAs<FrmAbout>(ScreenId::About); }
+
+    Screen& touch(ScreenId id);
+    /// The screen if it exists, without touching it.
+    Screen* loaded(ScreenId id) const { return screens_[static_cast<std::size_t>(id)].get(); }
+    /// The existing screens in the order of their creation.
+    std::vector<Screen*> loadedInOrder() const { return creationOrder_; }
+    /// Runs the unload step; false when it refused.
+    bool runUnload(Screen& screen);
+    /// Takes the screen out of the program. The object itself lives until the outermost action has returned.
+    void discard(ScreenId id);
+
+    /// Shows the box of a failure: its text, an OK button, no title.
+    void showFailure(const Failure& failure);
+    /// Shows a text with an OK button.
+    void showMessage(const std::string& text);
+    /// Asks with Yes and No; true for Yes.
+    bool askYesNo(const std::string& text, const std::string& title = {}, platform::Icon icon = platform::Icon::None);
+
+    /// Runs what the user (or the system) caused: a failure that no procedure trapped ends it and is shown like any
+    /// other.
+    template <class Action>
+    void runAction(Action&& action) {
+        const ActionDepth depth(*this);
+        try {
+            std::forward<Action>(action)();
+        } catch (const Failure& failure) {
+            showFailure(failure);
+        }
+    }
+
+    const platform::Services& platform;
+    Focus focus;
+    Windows windows;
+    View* view = nullptr;
+    bool ended = false; ///< the program has ended; nothing is in the user's reach any more
+
+private:
+    class ActionDepth {
+    public:
+        explicit ActionDepth(Workbench& workbench) : workbench_(workbench) { ++workbench_.actionDepth_; }
+        ActionDepth(const ActionDepth&) = delete;
+        ActionDepth& operator=(const ActionDepth&) = delete;
+        ~ActionDepth() {
+            if (--workbench_.actionDepth_ == 0) {
+                workbench_.retired_.clear();
+            }
+        }
+
+    private:
+        Workbench& workbench_;
+    };
+
+    template <class ScreenType>
+    ScreenType& touchAs(ScreenId id) {
+        return static_cast<ScreenType&>(touch(id));
+    }
+    std::unique_ptr<Screen> makeScreen(ScreenId id);
+
+    const Wiring* wiring_;
+    std::array<std::unique_ptr<Screen>, screenCount> screens_;
+    std::vector<Screen*> creationOrder_;
+    std::vector<std::unique_ptr<Screen>> retired_;
+    int actionDepth_ = 0;
+};
+
+/// The usual trap of a procedure: a failure is shown, the procedure is left with its state as it stands.
+template <class Body>
+void trapped(Workbench& workbench, Body&& body) {
+    try {
+        std::forward<Body>(body)();
+    } catch (const Failure& failure) {
+        workbench.showFailure(failure);
+    }
+}
+
+/// The same for a function: after a failure it gives `otherwise`.
+template <class Result, class Body>
+Result trappedOr(Workbench& workbench, Result otherwise, Body&& body) {
+    try {
+        return std::forward<Body>(body)();
+    } catch (const Failure& failure) {
+        workbench.showFailure(failure);
+        return otherwise;
+    }
+}
+
+/// How a procedure goes on after one of its statements has failed: the two block screens share code and differ in this.
+class Statements {
+public:
+    enum class OnFailure { LeaveProcedure, NextStatement };
+
+    Statements(Workbench& workbench, OnFailure onFailure) : workbench_(&workbench), onFailure_(onFailure) {}
+
+    /// Runs one statement. With NextStatement a failure is shown and the procedure goes on; otherwise it passes to the
+    /// trap.
+    template <class Statement>
+    void operator()(Statement&& statement) const {
+        if (onFailure_ == OnFailure::LeaveProcedure) {
+            std::forward<Statement>(statement)();
+        } else {
+            trapped(*workbench_, std::forward<Statement>(statement));
+        }
+    }
+    /// A statement that reads a value: a local value that could not be read counts as 0 or empty.
+    template <class Statement>
+    auto read(Statement&& statement) const -> decltype(statement()) {
+        if (onFailure_ == OnFailure::LeaveProcedure) {
+            return std::forward<Statement>(statement)();
+        }
+        return trappedOr<decltype(statement())>(*workbench_, {}, std::forward<Statement>(statement));
+    }
+
+private:
+    Workbench* workbench_;
+    OnFailure onFailure_;
+};
+
+} // namespace wb
