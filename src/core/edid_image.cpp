@@ -37,6 +37,14 @@ void RecalcBlock0Checksum(Workbench& workbench) {
     });
 }
 
+bool UpdateExtensionButton(Workbench& workbench) {
+    const bool extension = byteAt(workbench.frmEDID(), 126) != 0;
+    Control& button = workbench.frmMain().Command4;
+    button.setEnabled(extension);
+    button.setCaption(extension ? "See Ext Block" : "No Ext Block");
+    return extension;
+}
+
 bool hasExtensionByDecimalText(Workbench& workbench) {
     return Value(workbench, workbench.frmEDID().txtEdit(126).text()) != 0;
 }

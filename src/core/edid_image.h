@@ -17,6 +17,10 @@ void noteChecksum(Workbench& workbench, const std::string& checksumText);
 /// The text of a check sum cell for that sum of the other cells (0 to 255).
 std::string checksumTextFor(int sum);
 
+/// Enables Command4 with "See Ext Block" where the value of byte 126 is not 0; otherwise disables it with "No Ext
+/// Block". Gives whether there is an extension. Failures pass to the caller.
+bool UpdateExtensionButton(Workbench& workbench);
+
 /// Whether byte 126 counts as an extension in the report and in files: by the decimal number at the start of its text,
 /// so that "0A" and "FF" do not.
 bool hasExtensionByDecimalText(Workbench& workbench);
