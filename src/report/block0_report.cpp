@@ -1,0 +1,159 @@
+#include "report/block0_report.h"
+
+#include <array>
+
+#include "core/text.h"
+#include "report/report_lines.h"
+
+namespace wb::report {
+
+namespace {
+
+struct FieldLine {
+    int entry;
+    std::string_view place;
+    std::string_view words;
+    std::string SharedVariables::*text;
+};
+
+constexpr std::array<FieldLine, 8> identityLines = {{
+    {34, "(08-09)", "  ID Manufacturer Name ________________", &SharedVariables::IDManufacturerName},
+    {35, "(11-10)", "  Product ID Code _____________________", &SharedVariables::ProductIDCode},
+    {36, "(12-15)", "  Last 5 Digits of Serial Number ______", &SharedVariables::SerialLast5},
+    {37, "(16)", "  Week of Manufacture _________________", &SharedVariables::ManufactureWeek},
+    {38, "(17)", "  Year of Manufacture _________________", &SharedVariables::ManufactureYear},
+    {39, "(10-17)", "  Complete Serial Number ______________", &SharedVariables::CompleteSerial},
+    {40, "(18)", "  EDID Version Number _________________", &SharedVariables::EDIDVersionText},
+    {41, "(19)", "  EDID Revision Number ________________", &SharedVariables::EDIDRevisionText},
+}};
+
+constexpr std::array<FieldLine, 3> sizeLines = {{
+    {46, "(21)", "  Maximum Horizontal Image Size ________________", &SharedVariables::MaxHImageSizeText},
+    {47, "(22)", "  Maximum Vertical Image Size __________________", &SharedVariables::MaxVImageSizeText},
+    {48, "(23)", "  Display Gamma ________________________________", &SharedVariables::DisplayGammaText},
+}};
+
+struct HeadingLine {
+    int entry;
+    std::string_view place;
+    std::string_view words;
+};
+
+constexpr std::array<HeadingLine, 7> headingLines = {{
+    {43, "(20)", "  VIDEO INPUT DEFINITION:"},
+    {50, "(24)", "  Power Management and Supported Feature(s):"},
+    {54, "(25-34)", "  CHROMA INFO:"},
+    {58, "(35)", "  ESTABLISHED TIMING I:"},
+    {61, "(36)", "  ESTABLISHED TIMING II:"},
+    {64, "(37)", "  Manufacturer's Reserved Timing:"},
+    {67, "(38-53)", "  Standard Timing Identification:"},
+}};
+
+constexpr std::array<int, 3> ruleEntries = {11, 12, 32};
+constexpr std::array<int, 11> emptyEntries = {15, 31, 33, 42, 45, 49, 53, 57, 60, 63, 66};
+constexpr int firstTimingEntry = 68;
+constexpr int detailedBlocks = 4;
+
+std::string indented(std::string_view text) {
+    return line(IndentText(text, 9));
+}
+
+void putTitles(Workbench& workbench, TextArray& lines) {
+    FrmEdid& screen = workbench.frmEDID();
+    lines(9) =
+        centredLine("EDID Version # " + workbench.EDIDVersionText + ",  Revision # " + workbench.EDIDRevisionText);
+    lines(10) = centredLine("Vantrel For: " + screen.txtBrand.text() + " " + screen.txtModel.text());
+    lines(13) = line("EDID Block 0, Bytes 0-127");
+    lines(14) = line("128 BYTES OF EDID CODE:");
+}
+
+void putLayout(TextArray& lines) {
+    for (const int entry : ruleEntries) {
+        lines(entry) = ruleLine();
+    }
+    for (const int entry : emptyEntries) {
+        lines(entry) = line();
+    }
+    for (const HeadingLine& heading : headingLines) {
+        lines(heading.entry) = line(placeTag(heading.place) + std::string(heading.words));
+    }
+}
+
+void putFieldLines(Workbench& workbench, TextArray& lines) {
+    for (const FieldLine& field : identityLines) {
+        lines(field.entry) =
+            line(placeTag(field.place) + std::string(field.words) + PadRight("=", 3) + " " + workbench.*field.text);
+    }
+    for (const FieldLine& field : sizeLines) {
+        lines(field.entry) =
+            line(placeTag(field.place) + std::string(field.words) + PadRight("=", 5) + "  " + workbench.*field.text);
+    }
+}
+
+void putDecodedTexts(Workbench& workbench, TextArray& lines) {
+    lines(44) = indented(PadRight(workbench.VideoInputText, 10));
+    lines(51) = indented(workbench.PowerFeatureText);
+    lines(52) = indented("Display Type = " + workbench.DisplayTypeText);
+    lines(55) = indented(workbench.ChromaText1);
+    lines(56) = indented(workbench.ChromaText2);
+    lines(59) = line(workbench.EstablishedTiming1Text);
+    lines(62) = line(workbench.EstablishedTiming2Text);
+    lines(65) =
+        workbench.ReservedTimingText.empty() ? indented("  None Specified") : line(workbench.ReservedTimingText);
+}
+
+/// Gives the entry after the last line. Each line lies one entry further from the one before than that from its own
+/// predecessor; the entries between stay unset and do not show.
+int putStandardTimings(Workbench& workbench, TextArray& lines) {
+    int entry = firstTimingEntry;
+    for (int i = 0; i < workbench.StandardTimingText.size(); ++i) {
+        entry += i;
+        lines(entry) = indented(workbench.StandardTimingText(i));
+    }
+    return entry + 1;
+}
+
+/// Gives the entry after the last block, which holds an empty line that the next part overwrites.
+int putDetailedBlocks(Workbench& workbench, TextArray& lines, int entry) {
+    for (int block = 0; block < detailedBlocks; ++block) {
+        const std::string& text = workbench.DetailedBlockText(block);
+        if (text.empty()) {
+            continue;
+        }
+        const int base = block * 18 + 54;
+        lines(entry++) = ruleLine();
+        lines(entry++) = line();
+        lines(entry++) = line("(" + placeRange(base, base + 17) + ") Detailed Timing / Descriptor Block " +
+                              std::to_string(block + 1) + ":") +
+                         line(text);
+        lines(entry) = line();
+    }
+    return entry;
+}
+
+void putEnd(Workbench& workbench, TextArray& lines, int entry) {
+    lines(entry) = line();
+    lines(entry + 1) = placeTag("(126)") + "  " + workbench.ExtensionFlagText;
+    lines(entry + 2) = placeTag("(127)") + "  " + workbench.Block0ChecksumText;
+    lines(entry + 3) = endOfReport;
+}
+
+} // namespace
+
+void BuildBlock0Report(Workbench& workbench) {
+    trapped(workbench, [&] {
+        TextArray& lines = workbench.ReportBlock0Lines;
+        lines.create(reportEntries);
+        putHead(workbench, lines, 0);
+        putTitles(workbench, lines);
+        putLayout(lines);
+        putDump(workbench.frmEDID(), lines, 16);
+        putFieldLines(workbench, lines);
+        putDecodedTexts(workbench, lines);
+        const int blocks = putStandardTimings(workbench, lines);
+        const int end = putDetailedBlocks(workbench, lines, blocks);
+        putEnd(workbench, lines, end);
+    });
+}
+
+} // namespace wb::report

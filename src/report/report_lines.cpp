@@ -1,0 +1,100 @@
+#include "report/report_lines.h"
+
+#include <algorithm>
+
+#include "core/numbers.h"
+#include "core/text.h"
+
+namespace wb::report {
+
+namespace {
+
+constexpr int columns = 10;
+
+std::string twoDigits(int number) {
+    return formatNumber(number, "00");
+}
+
+std::string timeText(const platform::DateTime& now) {
+    return twoDigits(now.hour) + ":" + twoDigits(now.minute) + ":" + twoDigits(now.second);
+}
+
+std::string dateText(const platform::Clock& clock, const platform::DateTime& now) {
+    return clock.dayName(now) + " " + clock.monthName(now) + " " + twoDigits(now.day) + ", " +
+           formatNumber(now.year, "0000");
+}
+
+std::string columnHead() {
+    std::string head = IndentText("", 6);
+    for (int column = 0; column < columns; ++column) {
+        head += PadRight(std::to_string(column), 4);
+    }
+    return line(head);
+}
+
+std::string dumpRow(BlockScreen& screen, int row) {
+    const int first = row * columns;
+    const int end = std::min(first + columns, BlockScreen::cellCount);
+    std::string text = PadRight(std::to_string(first), 3) + "  |";
+    for (int cell = first; cell < end; ++cell) {
+        text += PadRight(screen.txtEdit(cell).text(), 4);
+    }
+    return line(text);
+}
+
+} // namespace
+
+std::string line(std::string_view text) {
+    std::string result(text);
+    result += crLf;
+    return result;
+}
+
+std::string ruleLine() {
+    return line(RepeatText("_", reportWidth));
+}
+
+std::string centredLine(std::string_view text) {
+    return CenterText(line(text), reportWidth);
+}
+
+std::string placeTag(std::string_view place) {
+    return PadLeft(place, 7);
+}
+
+std::string placeRange(int first, int last) {
+    return std::to_string(first) + "-" + std::to_string(last);
+}
+
+void putHead(Workbench& workbench, TextArray& lines, int first) {
+    const platform::Clock& clock = workbench.platform.clock;
+    const platform::DateTime now = clock.now();
+    lines(first) = line();
+    lines(first + 1) = line();
+    lines(first + 2) = line();
+    lines(first + 3) = centredLine("Time:  " + timeText(now));
+    lines(first + 4) = centredLine("Date:  " + dateText(clock, now));
+    lines(first + 5) = ruleLine();
+    lines(first + 6) = ruleLine();
+    lines(first + 7) = line();
+    lines(first + 8) = centredLine("HALVORINE CORPORATION");
+}
+
+void putDump(BlockScreen& screen, TextArray& lines, int first) {
+    constexpr int rows = (BlockScreen::cellCount + columns - 1) / columns;
+    lines(first) = columnHead();
+    lines(first + 1) = line(IndentText(RepeatText("_", 4 * columns), 6));
+    for (int row = 0; row < rows; ++row) {
+        lines(first + 2 + row) = dumpRow(screen, row);
+    }
+}
+
+std::string joinedEntries(const TextArray& lines) {
+    std::string text;
+    for (int entry = 0; entry < lines.size() && lines(entry) != endOfReport; ++entry) {
+        text += lines(entry);
+    }
+    return text;
+}
+
+} // namespace wb::report

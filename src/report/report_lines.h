@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/workbench.h"
+
+/// What the reports of both blocks share: the buffer's size and end mark, the pieces of the layout, and how a buffer is
+/// read.
+namespace wb::report {
+
+inline constexpr int reportWidth = 70;    ///< columns
+inline constexpr int reportEntries = 301; ///< of a report buffer, index 0 to 300
+inline constexpr std::string_view endOfReport = "END REPORT";
+
+/// `text` and a line end.
+std::string line(std::string_view text = {});
+/// A line of underscores over the whole width.
+std::string ruleLine();
+/// `text` and its line end, centred. A text that fills the width is lost: the result is empty.
+std::string centredLine(std::string_view text);
+/// The place of a field in the block, such as "(126)", right-justified in its column of seven.
+std::string placeTag(std::string_view place);
+/// "FIRST-LAST" in decimal.
+std::string placeRange(int first, int last);
+
+/// Nine entries from `first` on: empty lines, time and date of the platform's clock, rules, the company.
+void putHead(Workbench& workbench, TextArray& lines, int first);
+/// Fifteen entries from `first` on: the head of the columns and the 13 rows of the hex dump, straight from the cells.
+void putDump(BlockScreen& screen, TextArray& lines, int first);
+
+/// The entries of a buffer up to the end mark, or to the end of a buffer that has none, joined to one text.
+std::string joinedEntries(const TextArray& lines);
+
+} // namespace wb::report
