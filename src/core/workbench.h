@@ -132,6 +132,16 @@ Result trappedOr(Workbench& workbench, Result otherwise, Body&& body) {
     }
 }
 
+/// Runs a statement whose failure is passed over in silence.
+template <class Body>
+void silently(Body&& body) {
+    try {
+        std::forward<Body>(body)();
+    } catch (const Failure&) {
+        return;
+    }
+}
+
 /// How a procedure goes on after one of its statements has failed: the two block screens share code and differ in this.
 class Statements {
 public:
