@@ -73,6 +73,10 @@ public:
     bool minimised = false;
     Flag FirstActivation = flagFalse;
     void setPosition(float left, float top, float width, float height);
+
+    /// The shared file dialog dlgCommonDialog keeps these between calls.
+    std::string dialogFilter;
+    std::string dialogFileName;
 };
 
 } // namespace wb

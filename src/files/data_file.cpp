@@ -1,0 +1,70 @@
+#include "files/data_file.h"
+
+#include "core/text.h"
+#include "files/text_file.h"
+
+namespace wb::files {
+
+bool ReadEDIDDataFile(Workbench& workbench) {
+    return trappedOr(workbench, false, [&] {
+        workbench.EDIDCells.create(256);
+        bool found = false;
+        int nextIndex = 0;
+        LineReader reader(workbench.CurrentFileName);
+        while (!reader.atEnd()) {
+            const std::string line = reader.readLine();
+            if (found) {
+                ParseHexRowLine(workbench, line, nextIndex);
+            }
+            // A second marker line has been offered to the parser by now and still costs the two lines that follow it.
+            if (upperCase(line).find(dataFileMarker) != std::string::npos) {
+                reader.readLine();
+                reader.readLine();
+                found = true;
+            }
+        }
+        if (!found) {
+            workbench.showMessage("This File is not a Valid EDID/DDC File");
+        }
+        return found;
+    });
+}
+
+void ParseHexRowLine(Workbench& workbench, std::string_view line, int& nextIndex) {
+    trapped(workbench, [&] {
+        bool sawBar = false;
+        bool haveHigh = false;
+        char high = ' ';
+        for (const char c : line) {
+            if (c == '|') {
+                sawBar = true;
+                continue;
+            }
+            if (!sawBar || static_cast<unsigned char>(c) <= ' ') {
+                continue;
+            }
+            if (!haveHigh) {
+                high = c;
+                haveHigh = true;
+                continue;
+            }
+            workbench.EDIDCells(nextIndex) = std::string{high, c};
+            ++nextIndex;
+            haveHigh = false;
+        }
+    });
+}
+
+std::string dataFileText(const TextArray& reportLines) {
+    std::string text;
+    for (int i = 0; i < reportLines.size() && reportLines(i) != "END REPORT"; ++i) {
+        const std::string line = StripTrailingCrLf(reportLines(i));
+        if (!line.empty()) {
+            text += line;
+            text += crLf;
+        }
+    }
+    return text;
+}
+
+} // namespace wb::files

@@ -1,0 +1,72 @@
+#include "files/image_loading.h"
+
+#include "core/cells.h"
+#include "report/definitions.h"
+
+namespace wb::files {
+
+namespace {
+
+/// Value of cell 0 of a CEA timing extension.
+constexpr int ceaTag = 2;
+/// Where the buffer holds the offset of the first detailed timing of the extension block.
+constexpr int dtdOffsetCell = 130;
+
+void fillCells(BlockScreen& screen, std::string_view text) {
+    for (int i = 0; i < BlockScreen::cellCount; ++i) {
+        screen.txtEdit(i).setText(std::string(text));
+    }
+}
+
+} // namespace
+
+void LoadBlock0Cells(Workbench& workbench) {
+    trapped(workbench, [&] {
+        for (int i = 0; i < BlockScreen::cellCount; ++i) {
+            workbench.frmEDID().txtEdit(i).setText(workbench.EDIDCells(i));
+        }
+        report::BuildEDIDDefinations(workbench);
+    });
+}
+
+void LoadExtensionCells(Workbench& workbench) {
+    trapped(workbench, [&] {
+        FrmCeaExt& screen = workbench.frmCEA_EXT();
+        for (int i = 0; i < BlockScreen::cellCount; ++i) {
+            screen.txtEdit(i).setText(workbench.EDIDCells(BlockScreen::cellCount + i));
+        }
+        if (byteAt(screen, 0) != ceaTag) {
+            return;
+        }
+        workbench.CEADtdOffset = static_cast<std::int16_t>(byteOf(workbench, workbench.EDIDCells(dtdOffsetCell)));
+        screen.txtModel.setText(workbench.frmEDID().txtModel.text());
+    });
+}
+
+void InitNewImage(Workbench& workbench) {
+    FrmEdid& screen = workbench.frmEDID();
+    fillCells(screen, "00");
+    if (workbench.askYesNo("CEA 861 EDID Timing Extension?")) {
+        screen.txtEdit(126).setText("01");
+        FrmCeaExt& extension = workbench.frmCEA_EXT();
+        fillCells(extension, "00");
+        extension.txtEdit(0).setText("02");
+    } else {
+        screen.txtEdit(126).setText("00");
+    }
+    for (int i = 1; i <= 6; ++i) {
+        screen.txtEdit(i).setText("FF");
+    }
+    clearIdentityTexts(workbench);
+    workbench.focus.moveTo(screen.txtEdit(0));
+}
+
+void clearIdentityTexts(Workbench& workbench) {
+    FrmEdid& screen = workbench.frmEDID();
+    screen.txtBrand.setText("");
+    screen.txtModel.setText("");
+    screen.txtVersion.setText("");
+    screen.txtRevision.setText("");
+}
+
+} // namespace wb::files

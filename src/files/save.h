@@ -1,0 +1,17 @@
+#pragma once
+
+#include "core/workbench.h"
+
+/// The save commands: the open image as a data file.
+namespace wb::files {
+
+/// Writes the open image to CurrentFileName, asking for a name where there is none. Clears EDIDModified when the file
+/// is whole.
+void FileSave(Workbench& workbench);
+/// Asks for a name, makes it the image's and saves. No at the replace question leaves the name and writes nothing.
+void FileSaveAs(Workbench& workbench);
+
+/// The question before a file is replaced.
+bool askReplace(Workbench& workbench, const std::string& name);
+
+} // namespace wb::files

@@ -1,0 +1,130 @@
+#include "files/text_file.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+#include "core/failure.h"
+
+namespace wb::files {
+
+namespace {
+
+constexpr std::size_t chunkSize = std::size_t{1} << 16U;
+
+FailureKind kindOf(int error) {
+    switch (error) {
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return FailureKind::PermissionDenied;
+        case ENOSPC:
+            return FailureKind::DiskFull;
+        default:
+            return FailureKind::PathFileAccess;
+    }
+}
+
+bool folderExists(const std::filesystem::path& folder) {
+    std::error_code error;
+    return folder.empty() || std::filesystem::is_directory(folder, error);
+}
+
+std::FILE* openFile(const std::string& name, const char* mode) {
+    std::error_code error;
+    const std::filesystem::path path(name);
+    if (name.empty() || std::filesystem::is_directory(path, error)) {
+        throw Failure(FailureKind::PathFileAccess);
+    }
+    std::FILE* file = std::fopen(name.c_str(), mode);
+    if (file == nullptr) {
+        const int code = errno;
+        const bool missing = code == ENOENT && folderExists(path.parent_path());
+        throw Failure(missing ? FailureKind::FileNotFound : kindOf(code));
+    }
+    return file;
+}
+
+} // namespace
+
+bool fileExists(const std::string& name) {
+    std::error_code error;
+    return std::filesystem::is_regular_file(name, error);
+}
+
+void deleteFile(const std::string& name) {
+    std::error_code error;
+    if (!std::filesystem::remove(name, error)) {
+        throw Failure(error ? kindOf(error.value()) : FailureKind::FileNotFound);
+    }
+}
+
+LineReader::LineReader(const std::string& name) : file_(openFile(name, "rb")), buffer_(chunkSize) {}
+
+bool LineReader::fill() {
+    if (at_ < end_) {
+        return true;
+    }
+    at_ = 0;
+    end_ = std::fread(buffer_.data(), 1, buffer_.size(), file_.get());
+    if (end_ == 0 && std::ferror(file_.get()) != 0) {
+        throw Failure(kindOf(errno));
+    }
+    return end_ > 0;
+}
+
+bool LineReader::atEnd() {
+    return !fill();
+}
+
+std::string LineReader::readLine() {
+    if (atEnd()) {
+        throw Failure(FailureKind::InputPastEnd);
+    }
+    std::string line;
+    while (fill()) {
+        const char* from = buffer_.data() + at_;
+        const auto* newLine = static_cast<const char*>(std::memchr(from, '\n', end_ - at_));
+        const std::size_t count = newLine == nullptr ? end_ - at_ : static_cast<std::size_t>(newLine - from);
+        line.append(from, count);
+        at_ += count;
+        if (newLine != nullptr) {
+            ++at_;
+            if (!line.empty() && line.back() == '\r') {
+                line.pop_back();
+            }
+            break;
+        }
+    }
+    return line;
+}
+
+Writer::Writer(const std::string& name, Buffering buffering) : file_(openFile(name, "wb")) {
+    if (buffering == Buffering::EachWrite) {
+        std::setvbuf(file_.get(), nullptr, _IONBF, 0);
+    }
+}
+
+void Writer::write(std::string_view text) {
+    if (file_ == nullptr) {
+        throw Failure(FailureKind::PathFileAccess);
+    }
+    errno = 0;
+    if (std::fwrite(text.data(), 1, text.size(), file_.get()) != text.size()) {
+        throw Failure(kindOf(errno));
+    }
+}
+
+void Writer::close() {
+    if (file_ == nullptr) {
+        return;
+    }
+    errno = 0;
+    if (std::fclose(file_.release()) != 0) {
+        throw Failure(kindOf(errno));
+    }
+}
+
+} // namespace wb::files

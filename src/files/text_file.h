@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Files of lines of 8-bit text. All failures are those of the run-time: a missing file is FileNotFound, a folder as
+/// name or a missing folder PathFileAccess, a refused one PermissionDenied, a full device DiskFull. A file that goes
+/// out of scope is closed.
+namespace wb::files {
+
+/// Whether an ordinary file of that name exists.
+bool fileExists(const std::string& name);
+/// Deletes the file.
+void deleteFile(const std::string& name);
+
+class LineReader {
+public:
+    explicit LineReader(const std::string& name);
+
+    bool atEnd();
+    /// The next line without its end, which is LF with a CR before it or not. Past the end it is an InputPastEnd
+    /// failure.
+    std::string readLine();
+
+private:
+    bool fill();
+
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    std::unique_ptr<std::FILE, Closer> file_;
+    std::vector<char> buffer_;
+    std::size_t at_ = 0;
+    std::size_t end_ = 0;
+};
+
+class Writer {
+public:
+    enum class Buffering { Whole, EachWrite };
+
+    /// Creates the file or empties the one that exists.
+    explicit Writer(const std::string& name, Buffering buffering = Buffering::Whole);
+    void write(std::string_view text);
+    /// Closes the file and tells what the system kept back until then.
+    void close();
+
+private:
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    std::unique_ptr<std::FILE, Closer> file_;
+};
+
+} // namespace wb::files

@@ -1,0 +1,173 @@
+#include "platform/headless/registry_tree.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+#include "core/text.h"
+
+namespace wb::platform::headless {
+
+namespace {
+
+constexpr std::size_t bufferSize = 1024;
+
+std::vector<std::string> pathParts(const std::string& path) {
+    std::vector<std::string> parts;
+    std::size_t start = 0;
+    while (start <= path.size()) {
+        const std::size_t end = std::min(path.find('\\', start), path.size());
+        if (end > start) {
+            parts.push_back(path.substr(start, end - start));
+        }
+        start = end + 1;
+    }
+    return parts;
+}
+
+} // namespace
+
+struct RegistryTree::Node {
+    std::string name;
+    RegistryCode openCode = RegistryCode::Ok;
+    std::vector<Node*> children;
+    std::unordered_map<std::string, Node*> childByName; ///< by upper-case name
+    std::vector<RegistryValue> values;
+    std::unordered_map<std::string, std::size_t> valueByName;
+};
+
+RegistryTree::RegistryTree() {
+    clear();
+}
+
+RegistryTree::~RegistryTree() = default;
+
+void RegistryTree::clear() {
+    open_.clear();
+    nodes_.clear();
+    nodes_.push_back(std::make_unique<Node>());
+    root_ = nodes_.back().get();
+}
+
+RegistryTree::Node* RegistryTree::find(const std::string& path) const {
+    Node* node = root_;
+    for (const std::string& part : pathParts(path)) {
+        const auto child = node->childByName.find(upperCase(part));
+        if (child == node->childByName.end()) {
+            return nullptr;
+        }
+        node = child->second;
+    }
+    return node;
+}
+
+RegistryTree::Node& RegistryTree::make(const std::string& path) {
+    Node* node = root_;
+    for (const std::string& part : pathParts(path)) {
+        Node*& child = node->childByName[upperCase(part)];
+        if (child == nullptr) {
+            nodes_.push_back(std::make_unique<Node>());
+            child = nodes_.back().get();
+            child->name = part;
+            node->children.push_back(child);
+        }
+        node = child;
+    }
+    return *node;
+}
+
+RegistryTree::Node* RegistryTree::opened(Key key) const {
+    const auto found = open_.find(key);
+    return found == open_.end() ? nullptr : found->second;
+}
+
+void RegistryTree::addKey(const std::string& path) {
+    make(path);
+}
+
+void RegistryTree::setValue(const std::string& path, RegistryValue value) {
+    Node& node = make(path);
+    const auto [place, isNew] = node.valueByName.try_emplace(upperCase(value.name), node.values.size());
+    if (isNew) {
+        node.values.push_back(std::move(value));
+    } else {
+        node.values[place->second] = std::move(value);
+    }
+}
+
+void RegistryTree::refuse(const std::string& path, RegistryCode code) {
+    make(path).openCode = code;
+}
+
+RegistryCode RegistryTree::open(const std::string& path, Key& key) {
+    Node* node = find(path);
+    if (node == nullptr) {
+        return RegistryCode::NotFound;
+    }
+    if (node->openCode != RegistryCode::Ok) {
+        return node->openCode;
+    }
+    key = nextKey_++;
+    open_[key] = node;
+    return RegistryCode::Ok;
+}
+
+RegistryCode RegistryTree::queryInfo(Key key, int& subKeys, int& values) {
+    const Node* node = opened(key);
+    if (node == nullptr) {
+        return RegistryCode::Refused;
+    }
+    subKeys = static_cast<int>(node->children.size());
+    values = static_cast<int>(node->values.size());
+    return RegistryCode::Ok;
+}
+
+RegistryCode RegistryTree::enumerateKey(Key key, int index, std::string& name) {
+    const Node* node = opened(key);
+    if (node == nullptr) {
+        return RegistryCode::Refused;
+    }
+    if (index < 0 || index >= static_cast<int>(node->children.size())) {
+        return RegistryCode::NoMoreItems;
+    }
+    const std::string& found = node->children[static_cast<std::size_t>(index)]->name;
+    if (found.size() > bufferSize) {
+        return RegistryCode::MoreData;
+    }
+    name = found;
+    return RegistryCode::Ok;
+}
+
+RegistryCode RegistryTree::enumerateValue(Key key, int index, RegistryValue& value) {
+    const Node* node = opened(key);
+    if (node == nullptr) {
+        return RegistryCode::Refused;
+    }
+    if (index < 0 || index >= static_cast<int>(node->values.size())) {
+        return RegistryCode::NoMoreItems;
+    }
+    const RegistryValue& found = node->values[static_cast<std::size_t>(index)];
+    if (found.name.size() > bufferSize || found.data.size() > bufferSize) {
+        return RegistryCode::MoreData;
+    }
+    value = found;
+    return RegistryCode::Ok;
+}
+
+RegistryCode RegistryTree::readValue(Key key, const std::string& name, RegistryValue& value) {
+    const Node* node = opened(key);
+    if (node == nullptr) {
+        return RegistryCode::Refused;
+    }
+    const auto found = node->valueByName.find(upperCase(name));
+    if (found == node->valueByName.end()) {
+        return RegistryCode::NotFound;
+    }
+    value = node->values[found->second];
+    return RegistryCode::Ok;
+}
+
+void RegistryTree::close(Key key) {
+    open_.erase(key);
+}
+
+} // namespace wb::platform::headless

@@ -1,0 +1,184 @@
+#include "shell/lifecycle.h"
+
+#include "core/edid_image.h"
+#include "core/text.h"
+#include "files/common_dialog.h"
+#include "files/data_file.h"
+#include "files/image_loading.h"
+#include "files/save.h"
+#include "report/identity.h"
+#include "shell/frame.h"
+
+namespace wb::shell {
+
+namespace {
+
+/// Offers to save a modified image. False when the command is to stop: the save was wanted and abandoned.
+bool offerSave(Workbench& workbench) {
+    if (workbench.EDIDModified == flagFalse || !workbench.askYesNo("Save Changes?")) {
+        return true;
+    }
+    files::FileSave(workbench);
+    return workbench.EDIDModified == flagFalse;
+}
+
+void rememberChecksum(Workbench& workbench) {
+    workbench.Block0ChecksumAsLoaded = workbench.frmEDID().txtEdit(127).text();
+    workbench.Block0ChecksumLast = workbench.Block0ChecksumAsLoaded;
+}
+
+void openNamedFile(Workbench& workbench) {
+    workbench.frmEDID().setCaption(workbench.CurrentFileName);
+    if (!files::ReadEDIDDataFile(workbench)) {
+        return;
+    }
+    files::LoadBlock0Cells(workbench);
+    workbench.focus.moveTo(workbench.frmEDID().txtEdit(0));
+    if (UpdateExtensionButton(workbench)) {
+        files::LoadExtensionCells(workbench);
+    }
+    rememberChecksum(workbench);
+    workbench.EDIDModified = flagFalse;
+}
+
+} // namespace
+
+void mnuFileNew(Workbench& workbench) {
+    trapped(workbench, [&] {
+        if (!offerSave(workbench)) {
+            return;
+        }
+        if (workbench.EDIDLoaded != flagFalse) {
+            if (workbench.askYesNo("Are You Sure?", "New EDID Data File", platform::Icon::Question)) {
+                files::InitNewImage(workbench);
+            }
+        } else {
+            workbench.windows.show(workbench.frmEDID());
+            files::InitNewImage(workbench);
+        }
+        workbench.CurrentFileName.clear();
+        if (UpdateExtensionButton(workbench) && workbench.ModifyEDIDOn == flagFalse) {
+            Command2_Click(workbench);
+        }
+        rememberChecksum(workbench);
+        workbench.focus.moveTo(workbench.frmEDID());
+        workbench.EDIDModified = flagFalse;
+    });
+}
+
+void mnuFileOpen(Workbench& workbench) {
+    workbench.CurrentFileName.clear();
+    if (workbench.EDIDLoaded == flagFalse) {
+        workbench.windows.show(workbench.frmEDID());
+    } else {
+        files::clearIdentityTexts(workbench);
+    }
+    const std::string name = files::askOpenName(workbench, "Open", "EDID/DDC Data Files (*.DAT)|*.DAT");
+    if (!name.empty()) {
+        workbench.CurrentFileName = name;
+        openNamedFile(workbench);
+    }
+    workbench.EDIDLoaded = flagTrue;
+}
+
+void mnuFileClose(Workbench& workbench) {
+    for (const ScreenId id : {ScreenId::HexCalculator, ScreenId::Edid, ScreenId::Document, ScreenId::CeaExt}) {
+        const Screen* active = workbench.windows.activeChild();
+        if (active != nullptr && active->id() == id) {
+            try {
+                workbench.windows.unload(id);
+            } catch (const Failure&) {
+                continue;
+            }
+        }
+    }
+}
+
+void frmEDID_Load(Workbench& workbench) {
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        for (int i = 0; i < BlockScreen::cellCount; ++i) {
+            screen.txtEdit(i).setText("00");
+        }
+        workbench.EDIDModified = flagFalse;
+        workbench.EDIDRedecodeNeeded = flagFalse;
+        workbench.EDIDLoaded = flagTrue;
+        workbench.DetailedBlockText.create(4);
+    });
+}
+
+void frmEDID_Unload(Workbench& workbench, bool& cancel) {
+    cancel = !offerSave(workbench);
+    workbench.EDIDLoaded = flagFalse;
+}
+
+void frmCEA_EXT_Unload(Workbench& workbench, bool&) {
+    workbench.CEAScreenOpen = flagFalse;
+}
+
+void frmDocument_Load(Workbench& workbench) {
+    frmDocument_Resize(workbench);
+    workbench.DocumentOpen = flagTrue;
+}
+
+void frmDocument_Unload(Workbench& workbench, bool&) {
+    workbench.DocumentOpen = flagFalse;
+}
+
+void frmDocument_Resize(Workbench& workbench) {
+    constexpr int margin = 100;
+    FrmDocument& screen = workbench.frmDocument();
+    const int width = screen.innerWidth - 2 * margin;
+    const int height = screen.innerHeight - 2 * margin;
+    if (width >= 0 && height >= 0) {
+        screen.rtftext.setBounds({.left = margin, .top = margin, .width = width, .height = height});
+    }
+}
+
+bool FillInModelInfo(Workbench& workbench) {
+    FrmEdid& screen = workbench.frmEDID();
+    screen.txtModel.setText("");
+    screen.txtBrand.setText("");
+    std::string code = report::GetProductCode(workbench);
+    code = code.substr(0, code.find('('));
+    // Vendor and code are joined with the bytes of the code in the other order; nothing uses the outcome.
+    [[maybe_unused]] const std::string joined =
+        report::GetManufacturer(workbench) + rightPart(code, 2) + leftPart(code, 2);
+    if (screen.txtModel.text().empty()) {
+        screen.txtModel.setText(GetModelName(workbench, "UNKNOWN MODEL"));
+    }
+    if (screen.txtBrand.text().empty()) {
+        screen.txtBrand.setText(GetBrandName(workbench, "UNKNOWN BRAND"));
+    }
+    return true;
+}
+
+std::string GetModelName(Workbench& workbench, const std::string& otherwise) {
+    return trappedOr(workbench, std::string(), [&] {
+        constexpr int firstTagCell = 57;
+        constexpr int blockSize = 18;
+        constexpr int lineFeed = 10;
+        FrmEdid& screen = workbench.frmEDID();
+        std::string name;
+        for (int block = 0; block < 4; ++block) {
+            const int tagCell = firstTagCell + blockSize * block;
+            if (screen.txtEdit(tagCell).text() != "FC") {
+                continue;
+            }
+            for (int j = 2; j <= 14; ++j) {
+                const int code = byteAt(screen, tagCell + j);
+                if (code == lineFeed) {
+                    return name;
+                }
+                name += static_cast<char>(code);
+            }
+        }
+        return otherwise;
+    });
+}
+
+std::string GetBrandName(Workbench& workbench, const std::string& otherwise) {
+    return workbench.IDManufacturerName.empty() ? otherwise : workbench.IDManufacturerName;
+}
+
+} // namespace wb::shell

@@ -1,0 +1,100 @@
+#include "shell/startup.h"
+
+#include "core/numbers.h"
+
+namespace wb::shell {
+
+namespace {
+
+constexpr const char* defaultBaseLocation = "SYSTEM\\CurrentControlSet\\Enum\\Display";
+constexpr int splashMilliseconds = 2000;
+/// The major version of the systems whose registry tree holds the stored EDIDs.
+constexpr int registryMajorVersion = 5;
+
+float positionSetting(Workbench& workbench, const char* name, float otherwise) {
+    const auto stored = workbench.platform.settings.read(name);
+    return stored ? static_cast<float>(strictNumber(*stored)) : otherwise;
+}
+
+void endProgram(Workbench& workbench) {
+    workbench.ended = true;
+}
+
+} // namespace
+
+void Main(Workbench& workbench) {
+    trapped(workbench, [&] {
+        platform::EventLoop& events = workbench.platform.eventLoop;
+        events.setPointer(platform::Pointer::Hourglass);
+        events.processPending();
+        workbench.SplashShowing = flagTrue;
+        workbench.windows.reveal(workbench.frmSplash());
+        FrmMain& frame = workbench.frmMain();
+        events.startTimer(splashMilliseconds, [&workbench] { workbench.SplashShowing = flagFalse; });
+        while (workbench.SplashShowing != flagFalse) {
+            events.processPending();
+        }
+        workbench.windows.reveal(frame);
+        frmMain_Activate(workbench);
+        workbench.windows.unload(ScreenId::Splash);
+        events.setPointer(platform::Pointer::Normal);
+        events.processPending();
+    });
+}
+
+void frmMain_Load(Workbench& workbench) {
+    trapped(workbench, [&] {
+        FrmMain& frame = workbench.frmMain();
+        frame.setPosition(positionSetting(workbench, "MainLeft", 1000), positionSetting(workbench, "MainTop", 1000),
+                          positionSetting(workbench, "MainWidth", 6500),
+                          positionSetting(workbench, "MainHeight", 6500));
+        workbench.RegBaseLocation = defaultBaseLocation;
+        // Never so, as the location has just been set: the entry keeps its design state.
+        if (workbench.RegBaseLocation.empty() &&
+            workbench.platform.operatingSystem.majorVersion() == registryMajorVersion) {
+            frame.Windows2000.setVisible(true);
+        }
+        frame.FirstActivation = flagTrue;
+        frame.setCaption(programTitle);
+        workbench.HexCalculatorOpen = flagFalse;
+        workbench.CEAScreenOpen = flagFalse;
+        workbench.ModifyEDIDOn = flagFalse;
+        workbench.AutoCellSeekOn = flagFalse;
+    });
+}
+
+void frmMain_Activate(Workbench& workbench) {
+    FrmMain& frame = workbench.frmMain();
+    // The fallback of an empty base location; the load step sets one, so that it does not run.
+    if (workbench.RegBaseLocation.empty() && frame.FirstActivation != flagFalse &&
+        workbench.platform.operatingSystem.majorVersion() == registryMajorVersion) {
+        workbench.RegBaseLocation = defaultBaseLocation;
+        workbench.windows.showModal(workbench.frmEDIDREG());
+    }
+    frame.FirstActivation = flagFalse;
+}
+
+void frmMain_Unload(Workbench& workbench, bool& cancel) {
+    for (const Screen* screen : workbench.loadedInOrder()) {
+        if (screen->isChild() && !workbench.windows.unload(screen->id())) {
+            cancel = true;
+            return;
+        }
+    }
+    const FrmMain& frame = workbench.frmMain();
+    if (!frame.minimised) {
+        platform::Settings& settings = workbench.platform.settings;
+        settings.write("MainLeft", plainDecimal(frame.Left));
+        settings.write("MainTop", plainDecimal(frame.Top));
+        settings.write("MainWidth", plainDecimal(frame.Width));
+        settings.write("MainHeight", plainDecimal(frame.Height));
+    }
+    endProgram(workbench);
+}
+
+void mnuFileExit(Workbench& workbench) {
+    workbench.windows.unload(ScreenId::Main);
+    endProgram(workbench);
+}
+
+} // namespace wb::shell

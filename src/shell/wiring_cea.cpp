@@ -1,0 +1,7 @@
+#include "shell/wiring.h"
+
+namespace wb::shell {
+
+void connectCeaExtScreen(Screen&) {}
+
+} // namespace wb::shell

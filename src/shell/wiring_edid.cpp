@@ -1,0 +1,7 @@
+#include "shell/wiring.h"
+
+namespace wb::shell {
+
+void connectEdidScreen(Screen&) {}
+
+} // namespace wb::shell

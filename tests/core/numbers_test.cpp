@@ -1,0 +1,121 @@
+#include "core/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "core/failure.h"
+
+namespace wb {
+namespace {
+
+FailureKind failureOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Failure& failure) {
+        return failure.kind();
+    }
+    ADD_FAILURE() << "no failure";
+    return FailureKind::InvalidCall;
+}
+
+TEST(Numbers, IntegersAreChecked) {
+    EXPECT_EQ(int16From(32767), 32767);
+    EXPECT_EQ(int16From(-32768), -32768);
+    EXPECT_EQ(failureOf([] { int16From(32768); }), FailureKind::Overflow);
+    EXPECT_EQ(failureOf([] { int32From(2147483648LL); }), FailureKind::Overflow);
+    EXPECT_EQ(failureOf([] { roundToInt16(32767.5); }), FailureKind::Overflow);
+}
+
+TEST(Numbers, RoundsHalvesToEven) {
+    EXPECT_EQ(roundToInt16(0.5), 0);
+    EXPECT_EQ(roundToInt16(1.5), 2);
+    EXPECT_EQ(roundToInt16(2.5), 2);
+    EXPECT_EQ(roundToInt16(-0.5), 0);
+    EXPECT_EQ(roundToInt16(-1.5), -2);
+    EXPECT_EQ(roundToInt16(643.5), 644);
+}
+
+struct PatternCase {
+    double value;
+    const char* pattern;
+    const char* text;
+};
+
+class Patterns : public testing::TestWithParam<PatternCase> {};
+
+TEST_P(Patterns, FormatNumber) {
+    EXPECT_EQ(formatNumber(GetParam().value, GetParam().pattern), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Patterns,
+    testing::Values(PatternCase{0, "0", "0"}, PatternCase{2.5, "0", "3"}, PatternCase{3.5, "0", "4"},
+                    PatternCase{-2.5, "0", "-3"}, PatternCase{0.4, "0", "0"}, PatternCase{-0.4, "0", "0"},
+                    PatternCase{0, "###", ""}, PatternCase{400, "###", "400"}, PatternCase{2550, "###", "2550"},
+                    PatternCase{7, "00", "07"}, PatternCase{255, "00", "255"}, PatternCase{1, "00000", "00001"},
+                    PatternCase{4294967295.0, "00000", "4294967295"}, PatternCase{148.5, "0.00", "148.50"},
+                    PatternCase{0.125, "0.00", "0.13"},
+                    // The double next to 1.005 lies below it.
+                    PatternCase{1.005, "0.00", "1.00"}, PatternCase{9.999, "0.00", "10.00"},
+                    PatternCase{0.5, "##0.000", "0.500"}, PatternCase{0.9990234375, "##0.000", "0.999"},
+                    PatternCase{0.0625, "##0.000", "0.063"}, PatternCase{-0.001, "0.00", "0.00"},
+                    PatternCase{1e20, "0", "100000000000000000000"}));
+
+struct ValueCase {
+    const char* text;
+    double value;
+};
+
+class LeadingNumber : public testing::TestWithParam<ValueCase> {};
+
+TEST_P(LeadingNumber, StopsAtTheFirstCharacterThatCannotContinue) {
+    EXPECT_DOUBLE_EQ(leadingNumber(GetParam().text), GetParam().value);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, LeadingNumber,
+                         testing::Values(ValueCase{"", 0}, ValueCase{"01", 1}, ValueCase{"10", 10}, ValueCase{"0A", 0},
+                                         ValueCase{"FF", 0}, ValueCase{"1E", 1}, ValueCase{"1E2", 100},
+                                         ValueCase{"1e+2", 100}, ValueCase{"1E-2x", 0.01}, ValueCase{" 1 2\t3 ", 123},
+                                         ValueCase{"-5", -5}, ValueCase{"+5", 5}, ValueCase{".5", 0.5},
+                                         ValueCase{"5.", 5}, ValueCase{"1.2.3", 1.2}, ValueCase{"abc", 0},
+                                         ValueCase{"&H1F", 31}, ValueCase{"&hFFFFFFFF", 4294967295.0},
+                                         ValueCase{"&HG", 0}, ValueCase{"- 1 . 5", -1.5}, ValueCase{"1E-999", 0}));
+
+TEST(Numbers, LeadingNumberBeyondADoubleIsAnOverflow) {
+    EXPECT_EQ(failureOf([] { leadingNumber("1E999"); }), FailureKind::Overflow);
+    EXPECT_EQ(failureOf([] { leadingNumber(std::string(400, '9')); }), FailureKind::Overflow);
+}
+
+TEST(Numbers, StrictConversionTakesTheWholeText) {
+    EXPECT_DOUBLE_EQ(strictNumber("  -1.5E1 "), -15);
+    for (const char* text : {"", " ", "1x", "x", "1 2", "&H10", "."}) {
+        EXPECT_EQ(failureOf([&] { strictNumber(text); }), FailureKind::TypeMismatch) << text;
+    }
+}
+
+TEST(Numbers, PlainDecimalHasNoExponent) {
+    EXPECT_EQ(plainDecimal(0), "0");
+    EXPECT_EQ(plainDecimal(0.5), "0.5");
+    EXPECT_EQ(plainDecimal(-3), "-3");
+    EXPECT_EQ(plainDecimal(1.0 / 3), "0.333333333333333");
+    EXPECT_EQ(plainDecimal(1e20), "100000000000000000000");
+    EXPECT_EQ(plainDecimal(1e-7), "0.0000001");
+    EXPECT_EQ(plainDecimal(123456.75), "123456.75");
+    EXPECT_EQ(plainDecimal(0.1 + 0.2), "0.3");
+}
+
+TEST(Numbers, HexadecimalOfNegativeNumbers) {
+    EXPECT_EQ(hexadecimal16(-1), "FFFF");
+    EXPECT_EQ(hexadecimal32(-1), "FFFFFFFF");
+    EXPECT_EQ(hexadecimal32(0), "0");
+    EXPECT_EQ(hexadecimal32(6500), "1964");
+}
+
+TEST(Numbers, CharacterCodeOfNothingIsAnInvalidCall) {
+    EXPECT_EQ(characterCode("\xFF"), 255);
+    EXPECT_EQ(failureOf([] { characterCode(""); }), FailureKind::InvalidCall);
+}
+
+} // namespace
+} // namespace wb
