@@ -48,6 +48,8 @@ struct Workbench : SharedVariables {
     FrmAbout& frmAbout() { return touchAs<FrmAbout>(ScreenId::About); }
 
     Screen& touch(ScreenId id);
+    /// A new screen of that kind that is no part of the program: without handlers, and its load step has not run.
+    std::unique_ptr<Screen> makeScreen(ScreenId id);
     /// The screen if it exists, without touching it.
     Screen* loaded(ScreenId id) const { return screens_[static_cast<std::size_t>(id)].get(); }
     /// The existing screens in the order of their creation.
@@ -102,7 +104,6 @@ private:
     ScreenType& touchAs(ScreenId id) {
         return static_cast<ScreenType&>(touch(id));
     }
-    std::unique_ptr<Screen> makeScreen(ScreenId id);
 
     const Wiring* wiring_;
     std::array<std::unique_ptr<Screen>, screenCount> screens_;
