@@ -1,0 +1,21 @@
+#include "block0/cell_writing.h"
+
+#include "core/cells.h"
+#include "core/numbers.h"
+#include "core/text.h"
+
+namespace wb::block0 {
+
+void writeByte(BlockScreen& screen, int cell, int value) {
+    screen.txtEdit(cell).setText(ByteToHex2(value));
+}
+
+void replaceBits(BlockScreen& screen, int cell, int keep, int bits) {
+    writeByte(screen, cell, (byteAt(screen, cell) & keep) | bits);
+}
+
+std::int16_t patternInt16(double entry) {
+    return roundToInt16(strictNumber(formatNumber(entry, "0")));
+}
+
+} // namespace wb::block0

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/workbench.h"
+
+/// How the panels write numbers and bits into cells.
+namespace wb::block0 {
+
+/// Replaces the text of a cell by the number in hexadecimal: at least two digits, more where it does not fit a byte. A
+/// number that does not fit 16 bits is an Overflow.
+void writeByte(BlockScreen& screen, int cell, int value);
+
+/// Reads a cell as a byte, leaves the bits of `keep` and adds `bits`.
+void replaceBits(BlockScreen& screen, int cell, int keep, int bits);
+
+/// An entry as it is written: rounded by the pattern "0" (halves away from zero) and read back as a 16-bit number.
+std::int16_t patternInt16(double entry);
+
+} // namespace wb::block0
