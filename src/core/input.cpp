@@ -135,11 +135,15 @@ bool pick(Control& combo, int row) {
 }
 
 bool typeCharacter(Workbench& workbench, char character) {
+    return typeCharacter(workbench, character, keyCodeOf(character));
+}
+
+bool typeCharacter(Workbench& workbench, char character, int code) {
     Control* control = focused(workbench);
     if (control == nullptr) {
         return false;
     }
-    workbench.runAction([&] { runKey(workbench, *control, character, keyCodeOf(character)); });
+    workbench.runAction([&] { runKey(workbench, *control, character, code); });
     return true;
 }
 

@@ -23,6 +23,8 @@ bool pick(Control& combo, int row);
 /// A character typed into the control that has the focus: KeyPress, the text, KeyUp. 13 is Enter, 8 takes back a
 /// character.
 bool typeCharacter(Workbench& workbench, char character);
+/// The same where the key is not the usual one of the character, such as an operator of the number pad.
+bool typeCharacter(Workbench& workbench, char character, int code);
 bool enter(Workbench& workbench);
 /// A bare key code, for the control that has the focus on the active screen, and for that screen.
 bool keyCode(Workbench& workbench, int code);
