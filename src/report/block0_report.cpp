@@ -55,7 +55,7 @@ constexpr int firstTimingEntry = 68;
 constexpr int detailedBlocks = 4;
 
 std::string indented(std::string_view text) {
-    return line(IndentText(text, 9));
+    return line(IndentText(text, reportIndent));
 }
 
 void putTitles(Workbench& workbench, TextArray& lines) {

@@ -2,17 +2,51 @@
 
 #include <array>
 
+#include "report/basic_display.h"
+#include "report/checksum.h"
+#include "report/chromaticity.h"
+#include "report/detailed_timing.h"
+#include "report/established_timings.h"
 #include "report/identity.h"
+#include "report/standard_timings.h"
 
 namespace wb::report {
 
 namespace {
 
+void convertDetailedTimings(Workbench& workbench) {
+    FrmEdid& screen = workbench.frmEDID();
+    for (std::int16_t block = 0; block < 4; ++block) {
+        screen.CurrentBlockBase = static_cast<std::int16_t>(54 + 18 * block);
+        screen.CurrentBlockNumber = block;
+        ConvertDetailedTiming(workbench);
+    }
+}
+
 using Decoder = void (*)(Workbench&);
 
-constexpr std::array decoders = {
-    ConvertManufacturer, ConvertProductCode, ConvertRevision, ConvertSerialNumber,
-    ConvertVersion,      ConvertWeek,        ConvertYear,
+// The version needs the manufacturer's name; the complete serial number, which four of them build, what the others
+// left.
+constexpr std::array<Decoder, 19> decoders = {
+    ConvertChromaticity,
+    convertDetailedTimings,
+    ConvertFeatureSupport,
+    ConvertGamma,
+    ConvertMaxHorizontalSize,
+    ConvertManufacturer,
+    ConvertProductCode,
+    ConvertRevision,
+    ConvertSerialNumber,
+    ConvertStandardTimings,
+    ConvertEstablishedTiming1,
+    ConvertEstablishedTiming2,
+    ConvertReservedTiming,
+    ConvertVersion,
+    ConvertMaxVerticalSize,
+    ConvertVideoInput,
+    ConvertWeek,
+    ConvertYear,
+    ConvertExtCheckSum,
 };
 
 } // namespace

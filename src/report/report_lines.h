@@ -10,6 +10,7 @@
 namespace wb::report {
 
 inline constexpr int reportWidth = 70;    ///< columns
+inline constexpr int reportIndent = 9;    ///< blanks before the words of a field
 inline constexpr int reportEntries = 301; ///< of a report buffer, index 0 to 300
 inline constexpr std::string_view endOfReport = "END REPORT";
 

@@ -1,0 +1,360 @@
+#include "report/detailed_timing.h"
+
+#include <array>
+
+#include "core/edid_image.h"
+#include "core/numbers.h"
+#include "core/text.h"
+#include "report/monitor_descriptor.h"
+#include "report/report_lines.h"
+
+namespace wb::report {
+
+namespace {
+
+/// One number of a timing: (high cell and mask) x factor + (low cell and mask) / divisor. Cells count from the first of
+/// the block; a number without a high cell has a high mask of 0.
+struct Field {
+    int highCell, highMask, highFactor;
+    int lowCell, lowMask, lowDivisor;
+    std::string_view words;
+    std::string_view unit;
+};
+
+enum FieldIndex {
+    PixelClock,
+    HActive,
+    HBlanking,
+    VActive,
+    VBlanking,
+    HSyncOffset,
+    HSyncWidth,
+    VSyncOffset,
+    VSyncWidth,
+    HBorder,
+    VBorder,
+    HImageSize,
+    VImageSize,
+    fieldCount
+};
+
+constexpr std::array<Field, fieldCount> fields = {{
+    {1, 255, 256, 0, 255, 1, "Pixel Clock", " MHz"},
+    {4, 240, 16, 2, 255, 1, "Active Time", " pixels"},
+    {4, 15, 256, 3, 255, 1, "Blanking Time", " pixels"},
+    {7, 240, 16, 5, 255, 1, "Active Time", " lines"},
+    {7, 15, 256, 6, 255, 1, "Blanking Time", " lines"},
+    {11, 192, 4, 8, 255, 1, "Sync Offset", " pixels"},
+    {11, 48, 16, 9, 255, 1, "Sync Pulse Width", " pixels"},
+    {11, 12, 4, 10, 240, 16, "Sync Offset", " lines"},
+    {11, 3, 16, 10, 15, 1, "Sync Pulse Width", " lines"},
+    {0, 0, 0, 15, 255, 1, "Border", " pixels"},
+    {0, 0, 0, 16, 255, 1, "Border", " lines"},
+    {14, 240, 16, 12, 255, 1, "Image Size", " mm"},
+    {14, 15, 256, 13, 255, 1, "Image Size", " mm"},
+}};
+
+constexpr int flagCell = 17;
+constexpr std::string_view normalDisplay = "Normal Display - No Stereo";
+constexpr std::string_view stereoDisplay = "Stereo";
+
+/// The option of the stereo kind by bits 6, 5 and 0 of the flags; -1 selects none.
+constexpr std::array<int, 8> stereoOptions = {6, -1, 0, 2, 1, 3, 4, 5};
+
+struct SyncWords {
+    std::string_view line;
+    std::string_view vertical; ///< empty: the caption keeps its text
+    int serrate;
+};
+
+constexpr int separateSync = 3;
+
+constexpr std::array<SyncWords, 4> analogSync = {{
+    {"Sync On Green", "", 0},
+    {"Sync on RGB", "", 0},
+    {"Sync On Green", "", 1},
+    {"Sync on RGB", "", 1},
+}};
+
+/// By bits 4 and 3 of the flags, then by bits 2 and 1.
+constexpr std::array<std::array<SyncWords, 4>, 4> syncWords = {{
+    analogSync,
+    analogSync,
+    {{
+        {"Composite Polarity (-)", "", 0},
+        {"Composite Polarity (+)", "", 0},
+        {"Composite Polarity (-)", "", 1},
+        {"Composite Polarity (+)", "", 1},
+    }},
+    {{
+        {"Horizontal Polarity (-)", "Vertical Polarity (-)", 0},
+        {"Horizontal Polarity (+)", "Vertical Polarity (-)", 0},
+        {"Horizontal Polarity (-)", "Vertical Polarity (+)", 0},
+        {"Horizontal Polarity (+)", "Vertical Polarity (+)", 0},
+    }},
+}};
+
+/// What the report puts before the caption of a composite sync, by kind, without and with serration.
+constexpr std::array<std::array<std::string_view, 2>, 3> compositeWords = {{
+    {"Analog Composite ", "Analog Composite (Serrate) "},
+    {"Bipolar Analog Composite ", "Bipolar Analog Composite (Serrate) "},
+    {"Digital Composite ", "Digital Composite (Serrate) "},
+}};
+
+/// One run over one block. Every member function is one step of it.
+class TimingDecoder {
+public:
+    TimingDecoder(BlockScreen& screen, const DetailedTimingRules& rules)
+        : workbench_(screen.workbench()),
+          screen_(screen),
+          rules_(rules),
+          statement_(workbench_, rules.onFailure),
+          base_(screen.CurrentBlockBase),
+          number_(screen.CurrentBlockNumber) {}
+
+    void run() {
+        if (isDescriptor()) {
+            rules_.convertDescriptor(workbench_);
+            return;
+        }
+        begin();
+        if (rules_.titleTellsScan) {
+            statement_([&] { convertInterlace(); });
+        }
+        for (int i = 0; i < fieldCount; ++i) {
+            statement_([&] { convertField(i); });
+        }
+        if (!rules_.titleTellsScan) {
+            statement_([&] { convertInterlace(); });
+        }
+        statement_([&] { convertStereo(); });
+        statement_([&] { convertSync(); });
+        statement_([&] { convertFrequencies(); });
+        statement_([&] { writeReport(); });
+        finish();
+    }
+
+private:
+    int cellValue(int offset) { return byteAt(screen_, base_ + offset); }
+    std::string& reportText() { return (workbench_.*rules_.texts)(number_); }
+
+    bool isDescriptor() {
+        const bool zeros = statement_.read([&] {
+            return screen_.txtEdit(base_).text() + screen_.txtEdit(base_ + 1).text() +
+                       screen_.txtEdit(base_ + 2).text() ==
+                   "000000";
+        });
+        return zeros || (rules_.obeysDescriptorFlag && screen_.CurrentBlockIsDescriptor != flagFalse);
+    }
+
+    void begin() {
+        statement_([&] {
+            reportText().clear();
+            screen_.InFocusDispatch = flagTrue;
+        });
+        if (rules_.emptiedTexts != nullptr) {
+            statement_([&] { (workbench_.*rules_.emptiedTexts)(number_).clear(); });
+        }
+    }
+
+    int fieldValue(const Field& field) {
+        const int high = field.highMask == 0 ? 0 : (cellValue(field.highCell) & field.highMask) * field.highFactor;
+        return high + (cellValue(field.lowCell) & field.lowMask) / field.lowDivisor;
+    }
+
+    void convertField(int i) {
+        const Field& field = fields[static_cast<std::size_t>(i)];
+        const int value = fieldValue(field);
+        const std::string number = i == PixelClock ? formatNumber(value / 100.0, "0.00") : formatNumber(value, "0");
+        const std::string words(field.words);
+        const std::string amount = number + std::string(field.unit);
+        screen_.DT(i).setCaption(words + " - " + amount);
+        fieldReports_[static_cast<std::size_t>(i)] = words + ": " + amount;
+        keep(i, value, number);
+    }
+
+    void keep(int i, int value, const std::string& number) {
+        switch (i) {
+            case PixelClock:
+                pixelMHz_ = strictNumber(number);
+                break;
+            case HActive:
+                hTotal_ = value;
+                hText_ = number;
+                // Seen only if the run fails before the report is complete.
+                reportText() += line("Horizontal:") + line();
+                break;
+            case HBlanking:
+                hTotal_ += value;
+                break;
+            case VActive:
+                vTotal_ = value;
+                vText_ = scan_ == "i" ? plainDecimal(2 * value) : number;
+                break;
+            case VBlanking:
+                vTotal_ += value;
+                break;
+            default:
+                break;
+        }
+    }
+
+    void convertInterlace() {
+        flags_ = cellValue(flagCell);
+        const bool interlaced = (flags_ & 128) == 128;
+        screen_.DT1.setValue(interlaced ? 1 : 0);
+        refresh_ = interlaced ? "Refreshed Mode: Interlaced" : "Refreshed Mode: Non-Interlaced";
+        if (rules_.titleTellsScan) {
+            scan_ = interlaced ? "i" : "p";
+        }
+    }
+
+    void showNormalDisplay() {
+        screen_.frmStereo.setCaption(std::string(normalDisplay));
+        stereo_ = normalDisplay;
+    }
+
+    void convertStereo() {
+        for (int i = 0; i <= 5; ++i) {
+            screen_.DTStereo(i).setValue(0);
+        }
+        screen_.frmStereo.setCaption(std::string(stereoDisplay));
+        stereo_ = stereoDisplay;
+        if (rules_.testsStereoDigit) {
+            const std::string digit = leftPart(screen_.txtEdit(base_ + flagCell).text(), 1);
+            if (middlePart(HexToBinaryText(digit), 2, 2) == "00") {
+                showNormalDisplay();
+            }
+        }
+        const int kind = (flags_ & 96) / 16 + (flags_ & 1);
+        const int option = stereoOptions[static_cast<std::size_t>(kind)];
+        if (option < 0) {
+            return;
+        }
+        screen_.DTStereo(option).setValue(1);
+        if (kind == 0) {
+            showNormalDisplay();
+        }
+    }
+
+    void convertSync() {
+        for (int i = 0; i <= 3; ++i) {
+            screen_.DTSync(i).setValue(0);
+        }
+        const int kind = (flags_ & 24) / 8;
+        screen_.DTSync(kind).setValue(1);
+        screen_.VSyncLine.setVisible(false);
+        screen_.SyncSerrate.setVisible(true);
+        const SyncWords& words = syncWords[static_cast<std::size_t>(kind)][static_cast<std::size_t>((flags_ & 6) / 2)];
+        screen_.SyncLine.setCaption(std::string(words.line));
+        if (!words.vertical.empty()) {
+            screen_.VSyncLine.setCaption(std::string(words.vertical));
+        }
+        // A change of the check decodes the block inside this run, so the words below come from the controls.
+        screen_.SyncSerrate.setValue(words.serrate);
+        if (kind == separateSync) {
+            syncText_ = "Digital Separate, " + screen_.SyncLine.caption() + " " + screen_.VSyncLine.caption();
+            screen_.VSyncLine.setVisible(true);
+            screen_.SyncSerrate.setValue(0);
+            screen_.SyncSerrate.setVisible(false);
+        } else {
+            const std::size_t serrated = screen_.SyncSerrate.value() == 1 ? 1 : 0;
+            syncText_ =
+                std::string(compositeWords[static_cast<std::size_t>(kind)][serrated]) + screen_.SyncLine.caption();
+        }
+    }
+
+    /// The borders do not enter, nor does the interlace bit: the rate is that of the frame formula in any case.
+    void convertFrequencies() {
+        const double period = pixelMHz_ > 0 ? 1 / pixelMHz_ : pixelMHz_;
+        double lineTime = hTotal_ * period;
+        if (lineTime == 0) {
+            lineTime = 1;
+        }
+        if (vTotal_ == 0) {
+            vTotal_ = 1;
+        }
+        const std::string horizontal = formatNumber(1000 / lineTime, "0.00") + " KHz";
+        const std::string vertical = formatNumber(1 / (vTotal_ * lineTime) * 1000000, "0.00") + " Hz";
+        screen_.Freq(0).setCaption("Horizontal - " + horizontal);
+        screen_.Freq(1).setCaption("Vertical - " + vertical);
+        hReport_ = "Frequency: " + horizontal;
+        vReport_ = "Frequency: " + vertical;
+    }
+
+    const std::string& fieldReport(FieldIndex i) const { return fieldReports_[i]; }
+
+    static std::string twoColumns(const std::string& left, const std::string& right) {
+        return line(IndentText(PadRight(left, 34) + right, reportIndent));
+    }
+
+    std::string titlePart() const {
+        return centredLine(hText_ + "x" + vText_ + scan_ + "  " + fieldReport(PixelClock)) + ruleLine() +
+               line(IndentText(
+                   "Horizontal " + PadRight(fieldReport(HImageSize), 23) + "Vertical " + fieldReport(VImageSize),
+                   reportIndent)) +
+               twoColumns(refresh_, stereo_) + line();
+    }
+
+    std::string horizontalPart() const {
+        return line("Horizontal:") + twoColumns(fieldReport(HActive), fieldReport(HBlanking)) +
+               twoColumns(fieldReport(HSyncOffset), fieldReport(HSyncWidth)) +
+               twoColumns(fieldReport(HBorder), hReport_) + line();
+    }
+
+    std::string verticalPart() const {
+        return line("Vertical:") + twoColumns(fieldReport(VActive), fieldReport(VBlanking)) +
+               twoColumns(fieldReport(VSyncOffset), fieldReport(VSyncWidth)) +
+               twoColumns(fieldReport(VBorder), vReport_) + line();
+    }
+
+    void writeReport() { reportText() = titlePart() + horizontalPart() + verticalPart() + line(syncText_) + line(); }
+
+    void finish() {
+        screen_.InFocusDispatch = flagFalse;
+        statement_([&] { rules_.recalculateChecksum(workbench_); });
+        statement_([&] {
+            if (screen_.DTInput.visible() && workbench_.ModifyEDIDOn != flagFalse &&
+                workbench_.AutoCellSeekOn != flagFalse) {
+                workbench_.focus.moveTo(screen_.DTInput);
+            }
+        });
+    }
+
+    Workbench& workbench_;
+    BlockScreen& screen_;
+    const DetailedTimingRules& rules_;
+    Statements statement_;
+    const int base_;
+    const int number_;
+
+    int flags_ = 0;
+    double pixelMHz_ = 0;
+    double hTotal_ = 0; ///< pixels of a line
+    double vTotal_ = 0; ///< lines of a frame
+    std::array<std::string, fieldCount> fieldReports_;
+    std::string hText_, vText_, scan_, refresh_, stereo_, syncText_, hReport_, vReport_;
+};
+
+constexpr DetailedTimingRules block0Rules = {
+    .onFailure = Statements::OnFailure::LeaveProcedure,
+    .texts = &SharedVariables::DetailedBlockText,
+    .emptiedTexts = nullptr,
+    .convertDescriptor = ConvertDetailedTiminga,
+    .recalculateChecksum = RecalcBlock0Checksum,
+    .obeysDescriptorFlag = true,
+    .titleTellsScan = false,
+    .testsStereoDigit = false,
+};
+
+} // namespace
+
+void decodeDetailedTiming(BlockScreen& screen, const DetailedTimingRules& rules) {
+    trapped(screen.workbench(), [&] { TimingDecoder(screen, rules).run(); });
+}
+
+void ConvertDetailedTiming(Workbench& workbench) {
+    decodeDetailedTiming(workbench.frmEDID(), block0Rules);
+}
+
+} // namespace wb::report

@@ -1,0 +1,82 @@
+#include "report/established_timings.h"
+
+#include <array>
+
+#include "core/edid_image.h"
+#include "core/text.h"
+#include "report/report_lines.h"
+
+namespace wb::report {
+
+namespace {
+
+/// From bit 7 down to bit 0.
+using TimingWords = std::array<std::string_view, 8>;
+
+constexpr TimingWords timings1 = {
+    "720 X 400 @ 70Hz (IBM,VGA)",      "720 X 400 @ 88Hz (IBM,XGA2)", "640 X 480 @ 60Hz (IBM,VGA)",
+    "640 X 480 @ 67Hz (Apple,Mac II)", "640 X 480 @ 72Hz (VESA)",     "640 X 480 @ 75Hz (VESA)",
+    "800 X 600 @ 56Hz (VESA)",         "800 X 600 @ 60Hz (VESA)",
+};
+
+constexpr TimingWords timings2 = {
+    "800 X 600 @ 72Hz (VESA)",         "800 X 600 @ 75Hz (VESA)",
+    "832 X 624 @ 75Hz (Apple,Mac II)", "1024 X 768 @ 87Hz(Interlaced 8514a, IBM)",
+    "1024 X 768 @ 60Hz (VESA)",        "1024 X 768 @ 70Hz (VESA)",
+    "1024 X 768 @ 75Hz (VESA)",        "1280 X 1024 @ 75Hz (VESA)",
+};
+
+constexpr std::string_view reservedTiming = "1152 X 870 @ 75Hz (Apple,Mac II)";
+
+void convertTimings(Workbench& workbench, int cell, const TimingWords& words, ControlArray& checks, std::string& text) {
+    FrmEdid& screen = workbench.frmEDID();
+    text.clear();
+    screen.InFocusDispatch = flagTrue;
+    for (int i = checks.first(); i <= checks.last(); ++i) {
+        checks(i).setValue(0);
+    }
+    const int byte = byteAt(screen, cell);
+    for (int i = 0; i < 8; ++i) {
+        if ((byte & (128 >> i)) == 0) {
+            continue;
+        }
+        checks(i).setValue(1);
+        if (!text.empty()) {
+            text += crLf;
+        }
+        text += IndentText(words[static_cast<std::size_t>(i)], reportIndent);
+    }
+    RecalcBlock0Checksum(workbench);
+    screen.InFocusDispatch = flagFalse;
+}
+
+} // namespace
+
+void ConvertEstablishedTiming1(Workbench& workbench) {
+    trapped(workbench, [&] {
+        convertTimings(workbench, 35, timings1, workbench.frmEDID().ET1, workbench.EstablishedTiming1Text);
+    });
+}
+
+void ConvertEstablishedTiming2(Workbench& workbench) {
+    trapped(workbench, [&] {
+        convertTimings(workbench, 36, timings2, workbench.frmEDID().ET2, workbench.EstablishedTiming2Text);
+    });
+}
+
+void ConvertReservedTiming(Workbench& workbench) {
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        workbench.ReservedTimingText.clear();
+        screen.InFocusDispatch = flagTrue;
+        screen.ET3(7).setValue(0);
+        if ((byteAt(screen, 37) & 128) != 0) {
+            screen.ET3(7).setValue(1);
+            workbench.ReservedTimingText = IndentText(reservedTiming, reportIndent);
+        }
+        RecalcBlock0Checksum(workbench);
+        screen.InFocusDispatch = flagFalse;
+    });
+}
+
+} // namespace wb::report

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/workbench.h"
+
+/// Established timings, one bit each (VESA E-EDID Standard, established timings I, II and manufacturer's timings). A
+/// failure is shown and ends the decoder.
+namespace wb::report {
+
+void ConvertEstablishedTiming1(Workbench& workbench); ///< cell 35
+void ConvertEstablishedTiming2(Workbench& workbench); ///< cell 36
+/// Cell 37, of which only bit 7 has a meaning.
+void ConvertReservedTiming(Workbench& workbench);
+
+} // namespace wb::report
