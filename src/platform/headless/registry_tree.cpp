@@ -1,28 +1,15 @@
 #include "platform/headless/registry_tree.h"
 
-#include <algorithm>
 #include <unordered_map>
 
 #include "core/text.h"
+#include "platform/registry_path.h"
 
 namespace wb::platform::headless {
 
 namespace {
 
 constexpr std::size_t bufferSize = 1024;
-
-std::vector<std::string> pathParts(const std::string& path) {
-    std::vector<std::string> parts;
-    std::size_t start = 0;
-    while (start <= path.size()) {
-        const std::size_t end = std::min(path.find('\\', start), path.size());
-        if (end > start) {
-            parts.push_back(path.substr(start, end - start));
-        }
-        start = end + 1;
-    }
-    return parts;
-}
 
 } // namespace
 
@@ -50,7 +37,7 @@ void RegistryTree::clear() {
 
 RegistryTree::Node* RegistryTree::find(const std::string& path) const {
     Node* node = root_;
-    for (const std::string& part : pathParts(path)) {
+    for (const std::string_view part : registryPathParts(path)) {
         const auto child = node->childByName.find(upperCase(part));
         if (child == node->childByName.end()) {
             return nullptr;
@@ -62,12 +49,12 @@ RegistryTree::Node* RegistryTree::find(const std::string& path) const {
 
 RegistryTree::Node& RegistryTree::make(const std::string& path) {
     Node* node = root_;
-    for (const std::string& part : pathParts(path)) {
+    for (const std::string_view part : registryPathParts(path)) {
         Node*& child = node->childByName[upperCase(part)];
         if (child == nullptr) {
             nodes_.push_back(std::make_unique<Node>());
             child = nodes_.back().get();
-            child->name = part;
+            child->name = std::string(part);
             node->children.push_back(child);
         }
         node = child;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace wb::platform::linux_system {
+
+/// The connectors of the graphics adapters as the kernel shows them: the folders of `class/drm` below the root of sysfs
+/// that have a file `status` or `edid`.
+class DrmConnectors {
+public:
+    /// `sysfs` is the root, normally "/sys". It need not exist.
+    explicit DrmConnectors(const std::filesystem::path& sysfs) : folder_(sysfs / "class" / "drm") {}
+
+    /// Sorted by name.
+    std::vector<std::string> names() const;
+    /// The connector of that name in any letter case.
+    std::optional<std::string> find(std::string_view name) const;
+
+    /// "connected", "disconnected" or "unknown"; empty where it cannot be read.
+    std::string status(const std::string& name) const;
+    bool connected(const std::string& name) const { return status(name) == "connected"; }
+    /// Whether there is a file `edid` that can be opened.
+    bool hasEdid(const std::string& name) const;
+    /// At most `limit` bytes of the EDID, which is empty where none was read from the monitor; nothing where the file
+    /// cannot be read.
+    std::optional<std::string> edid(const std::string& name, std::size_t limit) const;
+    std::filesystem::path edidPath(const std::string& name) const { return folder_ / name / "edid"; }
+
+    /// Has the kernel look at every connector anew, as far as permitted.
+    void detect() const;
+
+private:
+    bool isConnector(const std::filesystem::path& entry) const;
+
+    std::filesystem::path folder_;
+};
+
+} // namespace wb::platform::linux_system
