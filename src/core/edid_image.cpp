@@ -15,6 +15,11 @@ void noteChecksum(Workbench& workbench, const std::string& checksumText) {
     }
 }
 
+void rememberChecksum(Workbench& workbench) {
+    workbench.Block0ChecksumAsLoaded = workbench.frmEDID().txtEdit(127).text();
+    workbench.Block0ChecksumLast = workbench.Block0ChecksumAsLoaded;
+}
+
 std::string checksumTextFor(int sum) {
     return ByteToHex2(sum == 0 ? 0 : 256 - sum);
 }

@@ -14,6 +14,9 @@ void RecalcBlock0Checksum(Workbench& workbench);
 /// The check sum memory that both blocks share: compares the text of a check sum cell with the loaded and the last one.
 void noteChecksum(Workbench& workbench, const std::string& checksumText);
 
+/// Takes the check sum of block 0 as that of the image as it was loaded.
+void rememberChecksum(Workbench& workbench);
+
 /// The text of a check sum cell for that sum of the other cells (0 to 255).
 std::string checksumTextFor(int sum);
 

@@ -90,6 +90,14 @@ void FileSaveAs(Workbench& workbench) {
     });
 }
 
+bool offerSave(Workbench& workbench) {
+    if (workbench.EDIDModified == flagFalse || !workbench.askYesNo("Save Changes?")) {
+        return true;
+    }
+    FileSave(workbench);
+    return workbench.EDIDModified == flagFalse;
+}
+
 bool askReplace(Workbench& workbench, const std::string& name) {
     return workbench.askYesNo(name + "\r\n\r\nExists! Do you want to Replace it?");
 }

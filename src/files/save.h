@@ -11,6 +11,9 @@ void FileSave(Workbench& workbench);
 /// Asks for a name, makes it the image's and saves. No at the replace question leaves the name and writes nothing.
 void FileSaveAs(Workbench& workbench);
 
+/// Offers to save a modified image. False when the command that asks is to stop: the save was wanted and abandoned.
+bool offerSave(Workbench& workbench);
+
 /// The question before a file is replaced.
 bool askReplace(Workbench& workbench, const std::string& name);
 

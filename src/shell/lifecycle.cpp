@@ -13,20 +13,6 @@ namespace wb::shell {
 
 namespace {
 
-/// Offers to save a modified image. False when the command is to stop: the save was wanted and abandoned.
-bool offerSave(Workbench& workbench) {
-    if (workbench.EDIDModified == flagFalse || !workbench.askYesNo("Save Changes?")) {
-        return true;
-    }
-    files::FileSave(workbench);
-    return workbench.EDIDModified == flagFalse;
-}
-
-void rememberChecksum(Workbench& workbench) {
-    workbench.Block0ChecksumAsLoaded = workbench.frmEDID().txtEdit(127).text();
-    workbench.Block0ChecksumLast = workbench.Block0ChecksumAsLoaded;
-}
-
 void openNamedFile(Workbench& workbench) {
     workbench.frmEDID().setCaption(workbench.CurrentFileName);
     if (!files::ReadEDIDDataFile(workbench)) {
@@ -45,7 +31,7 @@ void openNamedFile(Workbench& workbench) {
 
 void mnuFileNew(Workbench& workbench) {
     trapped(workbench, [&] {
-        if (!offerSave(workbench)) {
+        if (!files::offerSave(workbench)) {
             return;
         }
         if (workbench.EDIDLoaded != flagFalse) {
@@ -108,7 +94,7 @@ void frmEDID_Load(Workbench& workbench) {
 }
 
 void frmEDID_Unload(Workbench& workbench, bool& cancel) {
-    cancel = !offerSave(workbench);
+    cancel = !files::offerSave(workbench);
     workbench.EDIDLoaded = flagFalse;
 }
 
