@@ -1,5 +1,8 @@
 #include "shell/wiring.h"
 
+#include "acquire/base_location.h"
+#include "shell/calculator.h"
+#include "shell/information.h"
 #include "shell/lifecycle.h"
 #include "shell/startup.h"
 
@@ -13,10 +16,10 @@ const Wiring& wiring() {
         life(ScreenId::Edid) = {&connectEdidScreen, &frmEDID_Load, &frmEDID_Unload};
         life(ScreenId::CeaExt) = {&connectCeaExtScreen, nullptr, &frmCEA_EXT_Unload};
         life(ScreenId::Document) = {nullptr, &frmDocument_Load, &frmDocument_Unload};
-        life(ScreenId::HexCalculator) = {nullptr, nullptr, nullptr};
-        life(ScreenId::Help) = {nullptr, nullptr, nullptr};
-        life(ScreenId::EdidReg) = {nullptr, nullptr, nullptr};
-        life(ScreenId::About) = {nullptr, nullptr, nullptr};
+        life(ScreenId::HexCalculator) = {&connectHexCalculatorScreen, nullptr, &frmHexCalculator_Unload};
+        life(ScreenId::Help) = {&connectHelpScreen, &frmHelp_Load, nullptr};
+        life(ScreenId::EdidReg) = {&connectEdidRegScreen, &acquire::frmEDIDREG_Load, nullptr};
+        life(ScreenId::About) = {&connectAboutScreen, &frmAbout_Load, nullptr};
         return lives;
     }();
     return table;

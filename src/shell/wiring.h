@@ -11,5 +11,9 @@ const Wiring& wiring();
 void connectEdidScreen(Screen& screen);
 void connectCeaExtScreen(Screen& screen);
 void connectMainScreen(Screen& screen);
+void connectHexCalculatorScreen(Screen& screen);
+void connectHelpScreen(Screen& screen);
+void connectEdidRegScreen(Screen& screen);
+void connectAboutScreen(Screen& screen);
 
 } // namespace wb::shell

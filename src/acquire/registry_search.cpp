@@ -1,0 +1,143 @@
+#include "acquire/registry_search.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "acquire/open_key.h"
+#include "core/text.h"
+
+namespace wb::acquire {
+
+namespace {
+
+using platform::RegistryCode;
+
+/// Display adapters and virtual monitors: they carry no EDID of a real monitor. Exact spelling.
+constexpr std::array<std::string_view, 13> skippedMonitors = {
+    "CH-7009-A",           "CH-7009-B",       "Default_Monitor", "IN-807",     "IN-KCH-8XX-CHIPSETS",
+    "IN-SB-8XX-PLATFORMS", "NVWIN2KDUALVIEW", "SI-164",          "NTativmd34", "NTativrv34",
+    "NTativmd40",          "NTativrv40",      "MTX0000"};
+
+bool isSkipped(std::string_view name) {
+    return std::find(skippedMonitors.begin(), skippedMonitors.end(), name) != skippedMonitors.end();
+}
+
+/// One walk through the tree, depth first. It keeps its own stack, so that the depth of a foreign tree is no danger.
+class Walk {
+public:
+    Walk(Workbench& workbench, std::string path, bool walkKeys)
+        : workbench_(workbench), registry_(workbench.platform.registry), path_(std::move(path)), walkKeys_(walkKeys) {}
+
+    std::string run() {
+        if (const std::string found = enter(); !found.empty() || !walkKeys_) {
+            return found;
+        }
+        while (!levels_.empty()) {
+            if (const std::string found = visitNext(); !found.empty()) {
+                return found;
+            }
+        }
+        return {};
+    }
+
+private:
+    struct Level {
+        OpenKey key;
+        std::size_t pathLength;
+        int subKeys;
+        int next = 0;
+    };
+
+    /// Opens the key at the current path and makes it the innermost level; gives what it holds itself.
+    std::string enter() {
+        OpenKey key(registry_, path_);
+        if (!key.isOpen()) {
+            tellUnlessMissing(key.code());
+            return {};
+        }
+        int subKeys = 0;
+        int values = 0;
+        if (registry_.queryInfo(key.key(), subKeys, values) != RegistryCode::Ok) {
+            return {};
+        }
+        std::string found = ReadEDIDValueFromKey(registry_, key.key(), values, walkKeys_);
+        levels_.push_back({.key = std::move(key), .pathLength = path_.size(), .subKeys = subKeys});
+        return found;
+    }
+
+    /// Takes one sub-key of the innermost level, or leaves that level when it is through.
+    std::string visitNext() {
+        Level& level = levels_.back();
+        path_.resize(level.pathLength);
+        if (level.next > level.subKeys) {
+            levels_.pop_back();
+            return {};
+        }
+        std::string name;
+        if (registry_.enumerateKey(level.key.key(), level.next++, name) != RegistryCode::Ok || name.empty()) {
+            return {};
+        }
+        return isSkipped(name) ? std::string() : visit(name);
+    }
+
+    std::string visit(const std::string& name) {
+        if (name == "Control") {
+            return path_ + "\\Device Parameters";
+        }
+        // Each level keeps its own handle; what counts is that the key can still be opened before the walk goes deeper.
+        if (!OpenKey(registry_, path_).isOpen()) {
+            tellUnlessMissing(OpenKey(registry_, path_).code());
+            levels_.pop_back();
+            return {};
+        }
+        if (upperCase(name) == "CONTROL") {
+            return path_;
+        }
+        path_ += '\\';
+        path_ += name;
+        return enter();
+    }
+
+    /// After a failed re-open even a second try that succeeds is told: any code but that of a missing key is.
+    void tellUnlessMissing(RegistryCode code) {
+        if (code != RegistryCode::NotFound) {
+            workbench_.showMessage("Unable to read Registry");
+        }
+    }
+
+    Workbench& workbench_;
+    platform::Registry& registry_;
+    std::string path_;
+    bool walkKeys_;
+    std::vector<Level> levels_;
+};
+
+} // namespace
+
+std::string SearchRegistryForEDID(Workbench& workbench, const std::string& path, bool walkKeys) {
+    return trappedOr(workbench, std::string(), [&] { return Walk(workbench, path, walkKeys).run(); });
+}
+
+std::string ReadEDIDValueFromKey(platform::Registry& registry, platform::Registry::Key key, int valueCount,
+                                 bool walkKeys) {
+    if (valueCount == 0 || walkKeys) {
+        return {};
+    }
+    for (int index = 0; index <= valueCount; ++index) {
+        platform::RegistryValue value;
+        if (registry.enumerateValue(key, index, value) == RegistryCode::Ok && !value.name.empty() &&
+            upperCase(value.name) <= "EDID") {
+            return value.data;
+        }
+    }
+    return {};
+}
+
+bool IsEDIDHeaderValid(std::string_view text) {
+    using namespace std::string_view_literals;
+    return text.substr(0, 8) == "\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00"sv;
+}
+
+} // namespace wb::acquire

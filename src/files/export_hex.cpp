@@ -1,0 +1,71 @@
+#include "files/export_hex.h"
+
+#include <optional>
+
+#include "core/edid_image.h"
+#include "files/common_dialog.h"
+#include "files/save.h"
+#include "files/text_file.h"
+
+namespace wb::files {
+
+namespace {
+
+constexpr const char* hexFilter = "Hexadecimal Files (*.hex)|*.hex";
+
+/// A name from the last export stays offered, that of a data file does not.
+std::string askExportName(Workbench& workbench) {
+    FrmMain& frame = workbench.frmMain();
+    if (frame.dialogFilter != hexFilter) {
+        frame.dialogFileName.clear();
+    }
+    return askSaveName(workbench, "Save As", hexFilter);
+}
+
+void writeCells(const Statements& statement, BlockScreen& screen, std::optional<Writer>& file) {
+    for (int i = 0; i < BlockScreen::cellCount; ++i) {
+        statement([&] {
+            if (!file) {
+                throw Failure(FailureKind::PathFileAccess);
+            }
+            file->write(screen.txtEdit(i).text() + ' ');
+        });
+    }
+}
+
+void writeImage(Workbench& workbench, const std::string& name) {
+    const Statements statement(workbench, Statements::OnFailure::NextStatement);
+    std::optional<Writer> file;
+    // Without a buffer, so that a full device is told for each cell.
+    statement([&] { file.emplace(name, Writer::Buffering::EachWrite); });
+    writeCells(statement, workbench.frmEDID(), file);
+    if (hasExtensionByDecimalText(workbench)) {
+        writeCells(statement, workbench.frmCEA_EXT(), file);
+    }
+    if (file) {
+        statement([&] { file->close(); });
+    }
+}
+
+} // namespace
+
+void ExportHex_Click(Workbench& workbench) {
+    if (workbench.EDIDLoaded == flagFalse) {
+        return;
+    }
+    const std::string name = askExportName(workbench);
+    if (name.empty()) {
+        return;
+    }
+    workbench.CurrentFileName = name;
+    if (fileExists(name)) {
+        if (!askReplace(workbench, name)) {
+            workbench.CurrentFileName.clear();
+            return;
+        }
+        silently([&] { deleteFile(name); });
+    }
+    writeImage(workbench, name);
+}
+
+} // namespace wb::files
