@@ -1,0 +1,119 @@
+#include "block0/block_dispatch.h"
+
+#include "block0/grid.h"
+#include "block0/panel_detailed_timing.h"
+#include "core/text.h"
+#include "report/detailed_timing.h"
+
+namespace wb::block0 {
+
+namespace {
+
+constexpr int firstBlock = 54;
+constexpr int descriptorPanel = 11;
+constexpr int standardTimingPanel = 12;
+constexpr int lastStereo = 5;
+
+void captionPanels(FrmEdid& screen) {
+    const std::string caption = detailedTimingCaption(screen.CurrentBlockBase);
+    for (const int panel : {9, 10, descriptorPanel}) {
+        screen.Hints(panel).setCaption(caption);
+    }
+    screen.Hints(standardTimingPanel).setCaption("Ext. Standard Timing" + caption.substr(caption.find(" (")));
+}
+
+void deselect(ControlArray& options, int last) {
+    for (int i = options.first(); i <= last; ++i) {
+        options(i).setValue(0);
+    }
+}
+
+/// The cell at `offset` of the block in the field colour; the first two are one field.
+void colourDescriptorCell(FrmEdid& screen, int offset) {
+    const int base = screen.CurrentBlockBase;
+    colourField(screen, noCells, offset <= 1 ? CellRange{base, base + 1} : CellRange{base + offset, base + offset});
+}
+
+void openRangeLimits(FrmEdid& screen, int offset) {
+    const int base = screen.CurrentBlockBase;
+    if (screen.txtEdit(base + 10).text() != "00") {
+        for (int i = base + 10; i <= base + 17; ++i) {
+            screen.txtEdit(i).setLocked(false);
+        }
+    }
+    deselect(screen.DtaOpt, 4);
+    if (offset >= 5 && offset <= 9) {
+        screen.DtaOpt(offset - 5).setValue(-1);
+    }
+}
+
+void openColourPoint(FrmEdid& screen, int offset) {
+    screen.Windex(0).setVisible(true);
+    screen.Windex(1).setVisible(true);
+    deselect(screen.DtaOptWhite, 5);
+    if (offset >= 7 && offset <= 9) {
+        screen.DtaOptWhite(offset - 7).setValue(-1);
+    } else if (offset >= 12 && offset <= 14) {
+        screen.DtaOptWhite(offset - 9).setValue(-1);
+    }
+}
+
+void openStandardTimings(FrmEdid& screen, int offset) {
+    screen.Hints(descriptorPanel).setVisible(false);
+    screen.Hints(standardTimingPanel).setVisible(true);
+    deselect(screen.ExtSTOpt, 5);
+    const bool isPair = offset >= 5 && offset <= 16;
+    screen.ExtStaFrame.setEnabled(isPair);
+    if (isPair) {
+        screen.ExtSTOpt((offset - 5) / 2).setValue(-1);
+    } else if (offset <= 1) {
+        screen.DT(0).setValue(-1); // though this option lies on a hidden panel
+    }
+}
+
+void openDescriptor(FrmEdid& screen, int offset) {
+    screen.Hints(descriptorPanel).setVisible(true);
+    screen.CurrentBlockIsDescriptor = flagTrue;
+    screen.DTInput.setVisible(true);
+    colourDescriptorCell(screen, offset);
+    const std::string tag = upperCase(screen.txtEdit(screen.CurrentBlockBase + 3).text());
+    if (tag == "FD") {
+        openRangeLimits(screen, offset);
+    } else if (tag == "FB") {
+        openColourPoint(screen, offset);
+    } else if (tag == "FA") {
+        openStandardTimings(screen, offset);
+    }
+}
+
+bool isDescriptor(FrmEdid& screen) {
+    const int base = screen.CurrentBlockBase;
+    return screen.txtEdit(base).text() + screen.txtEdit(base + 1).text() + screen.txtEdit(base + 2).text() == "000000";
+}
+
+} // namespace
+
+void openBlock(Workbench& workbench, int index) {
+    FrmEdid& screen = workbench.frmEDID();
+    screen.Windex(0).setVisible(false);
+    screen.Windex(1).setVisible(false);
+    if (workbench.ModifyEDIDOn != flagFalse) {
+        screen.DTHelp.setVisible(true);
+    }
+    const int number = (index - firstBlock) / detailedTimingSize;
+    const int base = firstBlock + number * detailedTimingSize;
+    screen.CurrentBlockBase = static_cast<std::int16_t>(base);
+    screen.CurrentBlockNumber = static_cast<std::int16_t>(number);
+    resetDetailedTiming(screen, lastStereo);
+    colourField(screen, {base, base + detailedTimingSize - 1}, noCells);
+    captionPanels(screen);
+    if (isDescriptor(screen)) {
+        openDescriptor(screen, index - base);
+    } else {
+        screen.CurrentBlockIsDescriptor = flagFalse;
+        showDetailedTimingField(Statements(workbench, Statements::OnFailure::LeaveProcedure), screen, index - base);
+    }
+    report::ConvertDetailedTiming(workbench);
+}
+
+} // namespace wb::block0

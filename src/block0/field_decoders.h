@@ -1,0 +1,11 @@
+#pragma once
+
+#include "core/workbench.h"
+
+namespace wb::block0 {
+
+/// Runs the decoder of the field that a cell of block 0 belongs to; the header, the extension flag and the check sum
+/// have none.
+void decodeFieldOf(Workbench& workbench, int cell);
+
+} // namespace wb::block0

@@ -1,0 +1,186 @@
+#include "block0/panel_basic.h"
+
+#include <array>
+
+#include "block0/cell_writing.h"
+#include "block0/field_decoders.h"
+#include "block0/grid.h"
+#include "core/cells.h"
+#include "core/edid_image.h"
+#include "report/basic_display.h"
+
+namespace wb::block0 {
+
+namespace {
+
+constexpr int videoCell = 20;
+constexpr int firstValueCell = 21;
+constexpr int gammaCell = 23;
+constexpr int featureCell = 24;
+
+/// Runs a handler of this panel unless the dispatch or a decoder is setting its controls.
+template <class Body>
+void whenUserActs(Workbench& workbench, Body&& body) {
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        if (screen.InFocusDispatch == flagFalse) {
+            body(screen);
+        }
+    });
+}
+
+/// A bit control: leaves the bits of `keep`, adds `bits`, and decodes the byte.
+void changeBits(Workbench& workbench, int cell, int keep, int bits) {
+    replaceBits(workbench.frmEDID(), cell, keep, bits);
+    decodeFieldOf(workbench, cell);
+    RecalcBlock0Checksum(workbench);
+}
+
+void openValue(Workbench& workbench, int index) {
+    FrmEdid& screen = workbench.frmEDID();
+    screen.Basic(index - firstValueCell).setValue(-1);
+    for (int i = 0; i <= 2; ++i) {
+        screen.Basic(i).setVisible(true);
+    }
+    decodeFieldOf(workbench, index);
+    const std::array<const std::string*, 3> decoded = {&workbench.MaxHImageSizeText, &workbench.MaxVImageSizeText,
+                                                       &workbench.DisplayGammaText};
+    const std::string& text = *decoded[static_cast<std::size_t>(index - firstValueCell)];
+    const std::size_t blank = text.find(' ');
+    if (index == gammaCell) {
+        screen.BasicInput.setText(text);
+    } else if (blank != std::string::npos) {
+        screen.BasicInput.setText(text.substr(0, blank));
+    }
+    if (seeks(workbench)) {
+        workbench.focus.moveTo(screen.BasicInput);
+    }
+}
+
+void writeImageSize(Workbench& workbench, int cell, double entry) {
+    const double size = entry > 0 ? entry / 10 : entry; // negative entries are taken as they are
+    if (size > 255) {
+        workbench.showMessage("This value must value between 0 and 2550");
+        return;
+    }
+    writeByte(workbench.frmEDID(), cell, patternInt16(size));
+    decodeFieldOf(workbench, cell);
+}
+
+void writeGamma(Workbench& workbench, double entry) {
+    if (isGammaEntry(workbench, entry)) {
+        writeByte(workbench.frmEDID(), gammaCell, gammaByte(entry));
+        report::ConvertGamma(workbench);
+    }
+}
+
+} // namespace
+
+void openBasicPanel(Workbench& workbench, int index) {
+    FrmEdid& screen = workbench.frmEDID();
+    screen.VideoInput.setVisible(false);
+    screen.DPMS.setVisible(false);
+    screen.BasicInput.setText("");
+    screen.BasicInput.setVisible(index >= firstValueCell && index <= gammaCell);
+    report::ConvertMaxHorizontalSize(workbench);
+    report::ConvertMaxVerticalSize(workbench);
+    report::ConvertGamma(workbench);
+    screen.lbBasic(0).setFontBold(false);
+    screen.lbBasic(1).setFontBold(false);
+    colourField(screen, {videoCell, featureCell}, {index, index});
+    for (int i = 0; i <= 2; ++i) {
+        screen.Basic(i).setVisible(false);
+    }
+    if (index == videoCell) {
+        screen.lbBasic(0).setFontBold(true);
+        report::ConvertVideoInput(workbench);
+        screen.VideoInput.setVisible(true);
+    } else if (index == featureCell) {
+        report::ConvertFeatureSupport(workbench);
+        screen.DPMS.setVisible(true);
+    } else {
+        openValue(workbench, index);
+    }
+}
+
+void Basic_Click(Workbench& workbench, int index) {
+    whenUserActs(workbench, [&](FrmEdid& screen) {
+        if (screen.Basic.firstSelected() >= 0) {
+            workbench.focus.moveTo(screen.txtEdit(index + firstValueCell));
+        }
+    });
+}
+
+void BasicInput_GotFocus(Workbench& workbench, int) {
+    whenUserActs(workbench, [](FrmEdid& screen) { SelectAllInControl(screen.BasicInput); });
+}
+
+void BasicInput_KeyUp(Workbench& workbench, int, int keyCode) {
+    if (keyCode != enterKey) {
+        return;
+    }
+    whenUserActs(workbench, [&](FrmEdid& screen) {
+        const int field = screen.Basic.firstSelected();
+        if (field < 0) {
+            return;
+        }
+        const double entry = Value(workbench, screen.BasicInput.text());
+        const int cell = firstValueCell + field;
+        if (cell == gammaCell) {
+            writeGamma(workbench, entry);
+        } else {
+            writeImageSize(workbench, cell, entry);
+        }
+    });
+}
+
+void VideoMode_Click(Workbench& workbench, int index) {
+    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, videoCell, 0, index == 1 ? 128 : 0); });
+}
+
+void Signal_Click(Workbench& workbench, int index) {
+    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, videoCell, 159, index * 32); });
+}
+
+void Sync_Click(Workbench& workbench, int index) {
+    whenUserActs(workbench, [&](FrmEdid& screen) {
+        const int bit = 1 << index;
+        changeBits(workbench, videoCell, 255 - bit, screen.Sync(index).value() == 1 ? bit : 0);
+    });
+}
+
+void DFP_1_Click(Workbench& workbench, int index) {
+    whenUserActs(workbench, [&](FrmEdid& screen) {
+        if (screen.DFP_1(index).value() == 1) {
+            changeBits(workbench, videoCell, 255, 1);
+        } else {
+            changeBits(workbench, videoCell, 128, 0);
+        }
+    });
+}
+
+void DisplayType_Click(Workbench& workbench, int index) {
+    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, featureCell, 231, index * 8); });
+}
+
+void FSupport_Click(Workbench& workbench, int index) {
+    constexpr std::array<int, 6> bits = {128, 64, 32, 4, 2, 1};
+    whenUserActs(workbench, [&](FrmEdid& screen) {
+        const int bit = bits[static_cast<std::size_t>(index)];
+        changeBits(workbench, featureCell, 255 - bit, screen.FSupport(index).value() == 1 ? bit : 0);
+    });
+}
+
+bool isGammaEntry(Workbench& workbench, double entry) {
+    if (entry < 1.0 || entry > 3.55) {
+        workbench.showMessage("This value must value between 1.00-3.55");
+        return false;
+    }
+    return true;
+}
+
+int gammaByte(double entry) {
+    return patternInt16(entry * 100 - 100);
+}
+
+} // namespace wb::block0

@@ -1,0 +1,82 @@
+#include "block0/panel_chromaticity.h"
+
+#include "block0/cell_writing.h"
+#include "block0/grid.h"
+#include "core/cells.h"
+#include "core/numbers.h"
+#include "core/text.h"
+#include "report/chromaticity.h"
+
+namespace wb::block0 {
+
+namespace {
+
+constexpr int firstHighCell = 27;
+
+int numberOfBits(Workbench& workbench, const std::string& bits) {
+    return roundToInt16(strictNumber(BinaryTextToDecimal(workbench, bits)));
+}
+
+} // namespace
+
+void openChromaticityPanel(Workbench& workbench, int index) {
+    FrmEdid& screen = workbench.frmEDID();
+    const bool isValue = index >= firstHighCell; // the two cells before hold low bits only
+    for (int i = screen.chkChroma.first(); i <= screen.chkChroma.last(); ++i) {
+        screen.chkChroma(i).setValue(0);
+    }
+    screen.lbChromaChange(0).setVisible(isValue);
+    screen.lbChromaChange(1).setVisible(!isValue);
+    screen.ChromaValue.setVisible(isValue);
+    if (isValue) {
+        screen.chkChroma(index - firstHighCell).setValue(-1);
+    }
+    colourField(screen, {25, 34}, {index, index});
+    report::ConvertChromaticity(workbench);
+    if (isValue && seeks(workbench)) {
+        workbench.focus.moveTo(screen.ChromaValue);
+    }
+}
+
+void chkChroma_Click(Workbench& workbench, int index) {
+    trapped(workbench, [&] { workbench.focus.moveTo(workbench.frmEDID().txtEdit(firstHighCell + index)); });
+}
+
+void ChromaValue_GotFocus(Workbench& workbench, int) {
+    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().ChromaValue); });
+}
+
+void ChromaValue_KeyUp(Workbench& workbench, int, int keyCode) {
+    if (keyCode != enterKey) {
+        return;
+    }
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        const double entry = strictNumber(screen.ChromaValue.text());
+        if (!isCoordinate(workbench, entry)) {
+            return;
+        }
+        const std::string bits = report::FractionToChromaBits(workbench, entry);
+        const int coordinate = screen.chkChroma.firstSelected();
+        if (coordinate >= 0) {
+            writeCoordinate(screen, bits, coordinate < 4 ? 25 : 26, 6 - coordinate % 4 * 2, firstHighCell + coordinate);
+        }
+        report::ConvertChromaticity(workbench);
+    });
+}
+
+bool isCoordinate(Workbench& workbench, double entry) {
+    if (entry > 1.0) {
+        workbench.showMessage("This value must be a fraction less than 1.00");
+        return false;
+    }
+    return true;
+}
+
+void writeCoordinate(BlockScreen& screen, const std::string& bits, int lowCell, int shift, int highCell) {
+    Workbench& workbench = screen.workbench();
+    replaceBits(screen, lowCell, 255 - (3 << shift), numberOfBits(workbench, rightPart(bits, 2)) << shift);
+    writeByte(screen, highCell, numberOfBits(workbench, leftPart(bits, 8)));
+}
+
+} // namespace wb::block0

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "core/workbench.h"
+
+/// The panel Hints(4) of the chromaticity coordinates, cells 25 to 34.
+namespace wb::block0 {
+
+/// Further steps of the focus dispatch.
+void openChromaticityPanel(Workbench& workbench, int index);
+
+/// Focus on the cell with the high bits of the coordinate; tests no flag.
+void chkChroma_Click(Workbench& workbench, int index);
+void ChromaValue_GotFocus(Workbench& workbench, int index);
+/// On Enter writes a fraction up to 1.0 to the selected coordinate.
+void ChromaValue_KeyUp(Workbench& workbench, int index, int keyCode);
+
+/// Whether an entry can be a coordinate; otherwise tells the user.
+bool isCoordinate(Workbench& workbench, double entry);
+/// Writes the ten bits of a coordinate: the last two to `lowCell`, shifted by `shift` bits, whose other bits stay, the
+/// first eight to `highCell`.
+void writeCoordinate(BlockScreen& screen, const std::string& bits, int lowCell, int shift, int highCell);
+
+} // namespace wb::block0

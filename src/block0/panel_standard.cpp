@@ -1,0 +1,160 @@
+#include "block0/panel_standard.h"
+
+#include "block0/cell_writing.h"
+#include "block0/grid.h"
+#include "core/cells.h"
+#include "core/numbers.h"
+#include "core/text.h"
+#include "report/detailed_timing.h"
+#include "report/standard_timings.h"
+
+namespace wb::block0 {
+
+namespace {
+
+constexpr int firstCell = 38;
+constexpr int descriptorPanel = 11;
+constexpr int standardTimingPanel = 12;
+constexpr int disablingOption = 6;
+
+/// First cell of a pair of the descriptor in hand.
+int descriptorPair(const FrmEdid& screen, int pair) {
+    return screen.CurrentBlockBase + 5 + 2 * pair;
+}
+
+void writeAspect(BlockScreen& screen, int cell, int aspect) {
+    replaceBits(screen, cell, 63, aspect * 64);
+}
+
+/// Writes an entry to the pair that begins at `first`. False when it was refused.
+bool writeEntry(FrmEdid& screen, int first, const Control& adjustHorizontal, const std::string& text) {
+    constexpr int largest = 255;
+    Workbench& workbench = screen.workbench();
+    int entry = roundToInt16(Value(workbench, text));
+    if (adjustHorizontal.selected()) {
+        entry = entry > 0 ? roundToInt16(entry / 8.0 - 31) : entry;
+    } else {
+        entry = int16From(entry - 60);
+    }
+    if (entry > largest) {
+        workbench.showMessage("Invalid Value");
+        return false;
+    }
+    if (!adjustHorizontal.selected()) {
+        replaceBits(screen, first + 1, 192, entry);
+    } else if (entry == 0) { // the mark of an unused pair
+        screen.txtEdit(first).setText("01");
+        screen.txtEdit(first + 1).setText("01");
+    } else {
+        writeByte(screen, first, entry);
+    }
+    return true;
+}
+
+void focusUnlessDispatching(Workbench& workbench, Control& control) {
+    trapped(workbench, [&] {
+        if (workbench.frmEDID().InFocusDispatch == flagFalse) {
+            workbench.focus.moveTo(control);
+        }
+    });
+}
+
+} // namespace
+
+void openStandardTimingPanel(Workbench& workbench, int index) {
+    FrmEdid& screen = workbench.frmEDID();
+    const int pair = (index - firstCell) / 2;
+    screen.STOpt(pair).setValue(-1);
+    screen.CurrentBlockBase = static_cast<std::int16_t>(firstCell + 1 + 2 * pair);
+    report::ConvertStandardTimings(workbench);
+}
+
+void STOpt_Click(Workbench& workbench, int index) {
+    focusUnlessDispatching(workbench, workbench.frmEDID().txtEdit(firstCell + 2 * index));
+}
+
+void ExtSTOpt_Click(Workbench& workbench, int index) {
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        if (screen.InFocusDispatch != flagFalse) {
+            return;
+        }
+        if (index != disablingOption) {
+            workbench.focus.moveTo(screen.txtEdit(descriptorPair(screen, index)));
+            return;
+        }
+        screen.Hints(descriptorPanel).setVisible(true);
+        screen.Hints(standardTimingPanel).setVisible(false);
+        Control& tag = screen.txtEdit(screen.CurrentBlockBase + 3);
+        tag.setText("FF");
+        workbench.focus.moveTo(tag);
+    });
+}
+
+void STAOptb_Click(Workbench& workbench, int index) {
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        const int pair = screen.STOpt.firstSelected();
+        if (screen.InFocusDispatch == flagFalse && pair >= 0) {
+            writeAspect(screen, firstCell + 2 * pair + 1, index);
+            report::ConvertStandardTimings(workbench);
+        }
+    });
+}
+
+void ExtSTAOptb_Click(Workbench& workbench, int index) {
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        const int pair = screen.ExtSTOpt.firstSelected(0, disablingOption - 1);
+        if (screen.InFocusDispatch == flagFalse && pair >= 0) {
+            writeAspect(screen, descriptorPair(screen, pair) + 1, index);
+            report::ConvertDetailedTiming(workbench);
+        }
+    });
+}
+
+void STAOpta_Click(Workbench& workbench, int) {
+    focusUnlessDispatching(workbench, workbench.frmEDID().STAInput);
+}
+
+void ExtSTAOpta_Click(Workbench& workbench, int) {
+    focusUnlessDispatching(workbench, workbench.frmEDID().ExtStaInput);
+}
+
+void STAInput_GotFocus(Workbench& workbench, int) {
+    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().STAInput); });
+}
+
+void ExtStaInput_GotFocus(Workbench& workbench, int) {
+    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().ExtStaInput); });
+}
+
+void STAInput_KeyUp(Workbench& workbench, int, int keyCode) {
+    if (keyCode != enterKey) {
+        return;
+    }
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        if (writeEntry(screen, screen.CurrentBlockBase - 1, screen.STAOpta(0), screen.STAInput.text())) {
+            report::ConvertStandardTimings(workbench);
+            screen.STAInput.setText("");
+        }
+    });
+}
+
+void ExtStaInput_KeyUp(Workbench& workbench, int, int keyCode) {
+    if (keyCode != enterKey) {
+        return;
+    }
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        // With no pair selected the entry goes behind the last one.
+        const int pair = screen.ExtSTOpt.firstSelected(0, disablingOption - 1, disablingOption);
+        if (writeEntry(screen, descriptorPair(screen, pair), screen.ExtSTAOpta(0), screen.ExtStaInput.text())) {
+            report::ConvertDetailedTiming(workbench);
+            screen.ExtStaInput.setText("");
+        }
+    });
+}
+
+} // namespace wb::block0

@@ -1,0 +1,221 @@
+#include "block0/panel_vendor.h"
+
+#include <array>
+
+#include "block0/cell_writing.h"
+#include "block0/field_decoders.h"
+#include "core/cells.h"
+#include "core/numbers.h"
+#include "core/text.h"
+#include "report/identity.h"
+
+namespace wb::block0 {
+
+namespace {
+
+/// An identity field, by the index of its label lbVendor, which is the tag of its cells.
+struct IdentityField {
+    CellRange cells;
+    int maxLength; ///< of an entry
+    void (*decode)(Workbench&);
+    void (*encode)(Workbench&, const std::string& entry);
+};
+
+void encodeManufacturer(Workbench& workbench, const std::string& entry) {
+    // Missing letters count as 0; a character before "@" as a negative number, which then takes four digits.
+    std::array<int, 3> letters{};
+    for (std::size_t i = 0; i < letters.size() && i < entry.size(); ++i) {
+        letters[i] = static_cast<unsigned char>(entry[i]) - 64;
+    }
+    FrmEdid& screen = workbench.frmEDID();
+    writeByte(screen, 8, letters[0] * 4 + (letters[1] & 24) / 8);
+    writeByte(screen, 9, (letters[1] & 7) * 32 + letters[2]);
+    report::ConvertManufacturer(workbench);
+}
+
+/// Writes the entry in reading order, whereas the decoder reads the second cell first: "1234" comes back as "3412".
+void encodeProductCode(Workbench& workbench, const std::string& entry) {
+    FrmEdid& screen = workbench.frmEDID();
+    const std::size_t length = entry.size();
+    if (length >= 1 && length <= 4) {
+        const std::string first = length <= 2 ? "00" : length == 3 ? '0' + leftPart(entry, 1) : leftPart(entry, 2);
+        screen.txtEdit(10).setText(first);
+        screen.txtEdit(11).setText(rightPart(entry, 2));
+    }
+    report::ConvertProductCode(workbench);
+}
+
+void encodeSerialNumber(Workbench& workbench, const std::string& entry) {
+    FrmEdid& screen = workbench.frmEDID();
+    std::string digits = hexadecimal32(roundToInt32(Value(workbench, entry)));
+    digits.insert(0, 8 - digits.size(), '0');
+    for (int i = 0; i < 4; ++i) {
+        screen.txtEdit(15 - i).setText(digits.substr(static_cast<std::size_t>(2 * i), 2));
+    }
+    report::ConvertSerialNumber(workbench);
+}
+
+void encodeWeek(Workbench& workbench, const std::string& entry) {
+    const int week = roundToInt16(Value(workbench, entry));
+    if (week >= 53) {
+        workbench.showMessage("Max value is 52");
+        return;
+    }
+    writeByte(workbench.frmEDID(), 16, week);
+    report::ConvertWeek(workbench);
+}
+
+void encodeYear(Workbench& workbench, const std::string& entry) {
+    constexpr int firstYear = 1990;
+    if (entry.size() < 4) {
+        workbench.showMessage("Please enter in the full year (1999)");
+        return;
+    }
+    const int year = roundToInt16(Value(workbench, entry));
+    if (year < firstYear) {
+        workbench.showMessage("The Range is 1990-2155"); // the upper end is told but not tested
+        return;
+    }
+    writeByte(workbench.frmEDID(), 17, year - firstYear);
+    report::ConvertYear(workbench);
+}
+
+constexpr std::array<IdentityField, 5> identityFields = {{
+    {{8, 9}, 3, &report::ConvertManufacturer, &encodeManufacturer},
+    {{10, 11}, 4, &report::ConvertProductCode, &encodeProductCode},
+    {{12, 15}, 20, &report::ConvertSerialNumber, &encodeSerialNumber},
+    {{16, 16}, 2, &report::ConvertWeek, &encodeWeek},
+    {{17, 17}, 4, &report::ConvertYear, &encodeYear},
+}};
+constexpr int manufacturer = 0;
+constexpr int productCode = 1;
+constexpr int serialNumber = 2;
+constexpr int noField = -1;
+
+const IdentityField& fieldOf(int tag) {
+    return identityFields[static_cast<std::size_t>(tag)];
+}
+
+/// The field being edited is kept nowhere else: it is that of the first bold label.
+int activeField(FrmEdid& screen) {
+    for (int i = 0; i < static_cast<int>(identityFields.size()); ++i) {
+        if (screen.lbVendor(i).fontBold()) {
+            return i;
+        }
+    }
+    return noField;
+}
+
+/// Passes a key from `first` to `last` by its code; tells about any other and drops it.
+void filterKey(Workbench& workbench, int& keyAscii, char first, char last, const char* message) {
+    const char key = upperCase(static_cast<char>(keyAscii));
+    if (key >= first && key <= last) {
+        keyAscii = key;
+    } else {
+        workbench.showMessage(message);
+        keyAscii = 0;
+    }
+}
+
+} // namespace
+
+CellRange identityField(int index) {
+    for (const IdentityField& field : identityFields) {
+        if (field.cells.contains(index)) {
+            return field.cells;
+        }
+    }
+    return noCells;
+}
+
+void openVendorPanel(Workbench& workbench, int index) {
+    FrmEdid& screen = workbench.frmEDID();
+    for (int i = 0; i < static_cast<int>(identityFields.size()); ++i) {
+        screen.lbVendor(i).setFontBold(false);
+    }
+    const int tag = screen.txtEdit(index).tag();
+    screen.lbVendor(tag).setFontBold(true);
+    for (const IdentityField& field : identityFields) {
+        field.decode(workbench);
+    }
+    screen.VendorInfo.setMaxLength(fieldOf(tag).maxLength);
+    fieldOf(tag).decode(workbench); // each decoder leaves its own text in VendorInfo
+    if (seeks(workbench)) {
+        workbench.focus.moveTo(screen.VendorInfo);
+    }
+}
+
+void openVersionPanel(Workbench& workbench, int index) {
+    constexpr int versionCell = 18;
+    FrmEdid& screen = workbench.frmEDID();
+    report::ConvertVersion(workbench);
+    report::ConvertRevision(workbench);
+    screen.lbEDID(0).setFontBold(index == versionCell);
+    screen.lbEDID(1).setFontBold(index != versionCell);
+    screen.VerRev.setText(formatNumber(byteAt(screen, index), "0"));
+    if (seeks(workbench)) {
+        workbench.focus.moveTo(screen.VerRev);
+    }
+}
+
+void VendorInfo_GotFocus(Workbench& workbench, int) {
+    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().VendorInfo); });
+}
+
+void VendorInfo_KeyPress(Workbench& workbench, int, int& keyAscii) {
+    constexpr int tabulator = 9;
+    constexpr int backspace = 8;
+    constexpr int deleteKey = 46; // the full stop has the same code and passes in every field
+    if (keyAscii == tabulator || keyAscii == enterKey || keyAscii == backspace || keyAscii == deleteKey) {
+        return;
+    }
+    switch (activeField(workbench.frmEDID())) {
+        case manufacturer:
+            filterKey(workbench, keyAscii, 'A', 'Z', "A-Z Only");
+            break;
+        case serialNumber:
+            filterKey(workbench, keyAscii, '0', '9', "0-9 Only");
+            break;
+        case productCode: // by code: the seven characters between "9" and "A" pass
+            filterKey(workbench, keyAscii, '0', 'F', "Hexadecimal Only");
+            break;
+        default:
+            break;
+    }
+}
+
+void VendorInfo_KeyUp(Workbench& workbench, int, int keyCode) {
+    if (keyCode != enterKey) {
+        return;
+    }
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        const int field = activeField(screen);
+        if (field != noField) {
+            fieldOf(field).encode(workbench, screen.VendorInfo.text());
+        }
+    });
+}
+
+void VerRev_GotFocus(Workbench& workbench, int) {
+    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().VerRev); });
+}
+
+void VerRev_KeyUp(Workbench& workbench, int, int keyCode) {
+    if (keyCode != enterKey) {
+        return;
+    }
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        const double entry = Value(workbench, screen.VerRev.text());
+        if (entry > 255) {
+            workbench.showMessage("This value must value between 0 and 255");
+            return;
+        }
+        writeByte(screen, screen.lbEDID(0).fontBold() ? 18 : 19, patternInt16(entry));
+        report::ConvertVersion(workbench);
+        report::ConvertRevision(workbench);
+    });
+}
+
+} // namespace wb::block0

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "block0/grid.h"
+
+/// The panels of the identity fields: Hints(1) for cells 8 to 17, Hints(2) for version and revision.
+namespace wb::block0 {
+
+/// The cells of the identity field that a cell of 8 to 17 belongs to.
+CellRange identityField(int index);
+
+// Further steps of the focus dispatch.
+void openVendorPanel(Workbench& workbench, int index);
+void openVersionPanel(Workbench& workbench, int index);
+
+void VendorInfo_GotFocus(Workbench& workbench, int index);
+/// Lets through what the active field can hold and tells about anything else; week and year take any key.
+void VendorInfo_KeyPress(Workbench& workbench, int index, int& keyAscii);
+/// On Enter writes the entry to the active field.
+void VendorInfo_KeyUp(Workbench& workbench, int index, int keyCode);
+
+void VerRev_GotFocus(Workbench& workbench, int index);
+/// On Enter writes the entry to version or revision.
+void VerRev_KeyUp(Workbench& workbench, int index, int keyCode);
+
+} // namespace wb::block0
