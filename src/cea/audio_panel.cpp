@@ -1,0 +1,111 @@
+#include "cea/audio_panel.h"
+
+#include <algorithm>
+
+#include "cea/digits.h"
+#include "cea/flag_list.h"
+#include "cea/short_audio.h"
+
+namespace wb::cea {
+
+namespace {
+
+bool hasLastDescriptor(const Workbench& workbench) {
+    return workbench.AudioBlockLength >= 6 && workbench.LastAudioDescriptor > workbench.AudioBlockStart;
+}
+
+bool lastInFocus(const Workbench& workbench) {
+    return hasLastDescriptor(workbench) && workbench.LastAudioFocus != flagFalse;
+}
+
+int audioCell(const Workbench& workbench, bool last, int byte) {
+    return last ? lastAudioCell(workbench, byte) : firstAudioCell(workbench, byte);
+}
+
+std::string keptChannels(const Procedure& run, int cellIndex) {
+    return channelDigits(run.readText(cellIndex));
+}
+
+void writeDigits(const Procedure& run, int cellIndex, const std::string& digits) {
+    run.write(cellIndex, ByteToHex2(binaryNumber(run.wb, digits)));
+}
+
+} // namespace
+
+void AudioFormat_Click(Workbench& workbench, int index) {
+    panelHandler(workbench, [&](const Procedure& run) {
+        const int cellIndex = firstAudioCell(run.wb, 1);
+        const std::string channels = keptChannels(run, cellIndex);
+        if (run.screen.AudioFormat(index).selected()) {
+            writeDigits(run, cellIndex, (index == 0 ? "00001" : "00000") + channels);
+        }
+    });
+}
+
+void AudFormCode_Click(Workbench& workbench, int index) {
+    panelHandler(workbench, [&](const Procedure& run) {
+        const int cellIndex = audioCell(run.wb, hasLastDescriptor(run.wb), 1);
+        const std::string channels = keptChannels(run, cellIndex);
+        writeDigits(run, cellIndex, "0" + binaryDigits(index, 4) + channels);
+        run.screen.AudFormCode(index).setValue(flagTrue);
+        run.screen.Hints(0).setCaption((index == 1 ? "Uncompressed Audio (" : "Compressed Audio Codes(") +
+                                       std::to_string(cellIndex) + ")");
+    });
+}
+
+void AudChCBox_Click(Workbench& workbench, int /*index*/) {
+    panelHandler(workbench, [](const Procedure& run) {
+        const bool last = lastInFocus(run.wb);
+        const int cellIndex = audioCell(run.wb, last, 1);
+        if (last) {
+            run.colour(cellIndex, cellIndex, CellColour::Group);
+            run.colour(cellIndex, cellIndex, CellColour::Field);
+        }
+        const int row = std::max(shownRow(run.screen.AudChCBox), 0);
+        run.wb.AudioChannelDigit = std::to_string(row + 1);
+        const std::string old = run.readText(cellIndex);
+        const std::string digits = leftPart(lowerDigits(old), 1) + binaryDigits(row, 3);
+        run.write(cellIndex, leftPart(old, 1) + hexadecimal16(int16From(binaryNumber(run.wb, digits))));
+    });
+}
+
+void SampFreq_Click(Workbench& workbench, int index) {
+    panelHandler(workbench, [&](const Procedure& run) {
+        const bool last = lastInFocus(run.wb);
+        const int cellIndex = audioCell(run.wb, last, 2);
+        const int bit = 1 << index;
+        constexpr int withoutReserved = 127;
+        const int byte = withFlag(run.readByte(cellIndex), withoutReserved & ~bit, bit, run.screen.SampFreq(index));
+        run.write(cellIndex, ByteToHex2(byte));
+        if (last) {
+            BuildLastSampFreq(run.wb);
+        } else {
+            BuildSampFreq(run.wb);
+        }
+    });
+}
+
+void bitrate_Click(Workbench& workbench, int index) {
+    panelHandler(workbench, [&](const Procedure& run) {
+        const bool last = lastInFocus(run.wb);
+        const int cellIndex = audioCell(run.wb, last, 3);
+        const int bit = 1 << index;
+        constexpr int sizeBits = 7;
+        const int byte = withFlag(run.readByte(cellIndex), sizeBits & ~bit, bit, run.screen.bitrate(index));
+        run.write(cellIndex, ByteToHex2(byte));
+        if (last) {
+            BuildLastBitRate(run.wb);
+        } else {
+            BuildBitRate(run.wb);
+        }
+    });
+}
+
+void bitrateCBox_Click(Workbench& workbench, int /*index*/) {
+    panelHandler(workbench, [](const Procedure& run) {
+        const int row = std::max(shownRow(run.screen.bitrateCBox), 0);
+        run.write(audioCell(run.wb, run.wb.LastAudioFocus != flagFalse, 3), ByteToHex2(row));
+    });
+}
+
+} // namespace wb::cea

@@ -1,0 +1,93 @@
+#include "cea/detailed_slots.h"
+
+#include <array>
+
+#include "block0/panel_detailed_timing.h"
+#include "cea/procedure.h"
+#include "report/detailed_timing.h"
+
+namespace wb::cea {
+
+namespace {
+
+constexpr int slotLength = block0::detailedTimingSize;
+constexpr int lastFixedSlot = 6;
+
+constexpr report::DetailedTimingRules slotRules = {
+    .onFailure = Statements::OnFailure::NextStatement,
+    .texts = &SharedVariables::ExtDetailedBlockText,
+    .emptiedTexts = &SharedVariables::ExtDetailedBlockNote,
+    .convertDescriptor = ConvertDetailedTiminga,
+    .recalculateChecksum = CalcCheckSum,
+    .obeysDescriptorFlag = false,
+    .titleTellsScan = true,
+    .testsStereoDigit = true,
+};
+
+struct Heading {
+    std::string_view tag;
+    std::string_view words;
+};
+
+constexpr std::array<Heading, 7> headings = {{{"FF", "Monitor Serial Number:"},
+                                              {"FE", "ASCII Data:"},
+                                              {"FD", "Monitor Range Limits:"},
+                                              {"FC", "Monitor Name:"},
+                                              {"FB", "Color Point:"},
+                                              {"FA", "Standard Timing Identifiers:"},
+                                              {"00", "Defined by Manufacturer:"}}};
+
+std::string_view headingOf(std::string_view tag) {
+    for (const Heading& heading : headings) {
+        if (heading.tag == tag) {
+            return heading.words;
+        }
+    }
+    return "No Data:";
+}
+
+/// A last slot that is not whole counts too: it runs into the cells behind the timing area.
+void findSlot(const Procedure& run, int index) {
+    for (int slot = 0; slot <= lastFixedSlot; ++slot) {
+        const int base = location(run.wb.ExtDtdStart, slotLength * slot);
+        if (index >= base && index < base + slotLength) {
+            run.screen.CurrentBlockBase = int16From(base);
+            run.screen.CurrentBlockNumber = int16From(slot);
+        }
+    }
+}
+
+} // namespace
+
+std::int16_t lastSlotOf(const Workbench& workbench) {
+    return int16From((lastTimingCell - workbench.ExtDtdStart) / slotLength);
+}
+
+void ConvertDetailedTiming(Workbench& workbench) {
+    report::decodeDetailedTiming(workbench.frmCEA_EXT(), slotRules);
+}
+
+void ConvertDetailedTiminga(Workbench& workbench) {
+    decoder(workbench, [](const Procedure& run) {
+        const std::string tag = upperCase(run.readText(location(run.screen.CurrentBlockBase, 3)));
+        run.statement([&] { run.wb.ExtDetailedBlockText(run.screen.CurrentBlockNumber) = headingOf(tag); });
+    });
+}
+
+void openSlot(Workbench& workbench, int index) {
+    procedure(workbench, [&](const Procedure& run) {
+        run.wb.ExtDtdSlotCount = lastSlotOf(run.wb);
+        findSlot(run, index);
+        FrmCeaExt& screen = run.screen;
+        const int base = screen.CurrentBlockBase;
+        block0::resetDetailedTiming(screen, screen.DTStereo.last());
+        run.colour(base, base + slotLength - 1, CellColour::Group);
+        screen.Hints(9).setCaption(block0::detailedTimingCaption(base));
+        screen.Hints(10).setCaption(block0::detailedTimingCaption(base));
+        screen.CurrentBlockIsDescriptor = flagFalse;
+        block0::showDetailedTimingField(run.statement, screen, index - base);
+        ConvertDetailedTiming(run.wb);
+    });
+}
+
+} // namespace wb::cea

@@ -1,0 +1,214 @@
+#include "cea/dispatch.h"
+
+#include "cea/data_blocks.h"
+#include "cea/detailed_slots.h"
+#include "cea/dispatch_audio.h"
+#include "cea/dispatch_steps.h"
+#include "cea/dtv_support.h"
+#include "cea/header.h"
+#include "cea/screen.h"
+#include "cea/short_audio.h"
+#include "cea/short_video.h"
+#include "cea/speaker.h"
+#include "cea/tag_panel.h"
+#include "cea/vendor.h"
+
+namespace wb::cea {
+
+namespace {
+
+/// Cells counted from the start of a block.
+bool isIn(int index, int start, int first, int last) {
+    return index >= location(start, first) && index <= location(start, last);
+}
+
+void seekBox(const Procedure& run, Control& box) {
+    if (block0::seeks(run.wb)) {
+        box.setEnabled(true);
+        run.focusOn(box);
+    }
+}
+
+void openPlainCell(const Procedure& run, int index) {
+    run.screen.Hints(tagPanel).setVisible(false);
+    colourField(run, index);
+}
+
+void openVersion(const Procedure& run, int index) {
+    showPanel(run, 2);
+    for (int i = 1; i <= 3; ++i) {
+        run.screen.lbEDID(i).setVisible(false);
+    }
+    run.screen.VerRel.setEnabled(false);
+    colourField(run, index);
+    BuildVersion(run.wb);
+    const std::string version = std::to_string(run.readByte(index));
+    run.screen.VerRev.setText(version);
+    run.screen.lbEDID(0).setCaption("Version Number - " + version);
+    seekBox(run, run.screen.VerRev);
+}
+
+void openOffset(const Procedure& run, int index) {
+    showPanel(run, 3);
+    run.screen.Hints(2).setVisible(false);
+    run.screen.lbEDID(1).setVisible(false);
+    run.screen.lbEDID(2).setVisible(false);
+    run.screen.lbEDID(5).setVisible(true);
+    run.screen.VerRev.setEnabled(false);
+    run.screen.VerRel.setEnabled(false);
+    colourField(run, index);
+    LocateDataBlocks(run.wb);
+    const std::string offset = std::to_string(run.readByte(index));
+    run.screen.DetailOffset.setText(offset);
+    run.screen.lbEDID(5).setCaption(offsetCaption(offset));
+    seekBox(run, run.screen.DetailOffset);
+}
+
+void openSupport(const Procedure& run, int index) {
+    showPanel(run, 14);
+    run.screen.Hints(3).setVisible(false);
+    colourField(run, index);
+    BuildDTVSupport(run.wb);
+}
+
+void openVideoHeader(const Procedure& run, int index) {
+    openHeader(run, index, "ShortVideo");
+    run.screen.FrmAudioFormat.setVisible(false);
+    run.screen.Hints(14).setVisible(false);
+    BuildVideoTag(run.wb);
+}
+
+void openVideoDescriptor(const Procedure& run, int index) {
+    Workbench& wb = run.wb;
+    showPanel(run, 16, index, "CEA Short Video Descriptor (");
+    colourInBlock(run, index, wb.VideoBlockStart, wb.VideoBlockLength);
+    wb.ShortVideoCell = int16From(index);
+    run.screen.FrmAudioFormat.setVisible(false);
+    BuildShortVideo(wb);
+    const int next = location(wb.VideoBlockStart, wb.VideoBlockLength + 1);
+    run.statement([&] {
+        if (offsetNumber(wb) != next && wb.AudioBlockStart == 0 && wb.VideoBlockStart != 0) {
+            wb.AudioBlockStart = int16From(next);
+        }
+    });
+}
+
+void openSpeakerHeader(const Procedure& run, int index) {
+    openHeader(run, index, "ShortSpeaker");
+    run.screen.Hints(6).setVisible(false);
+    run.screen.Frmbitrate.setVisible(false);
+    run.screen.FrmAudioFormat.setVisible(false);
+    BuildSpeakerTag(run.wb);
+}
+
+void openSpeakers(const Procedure& run, int index) {
+    showPanel(run, 4, index, "Speaker (");
+    colourInBlock(run, index, run.wb.SpeakerBlockStart, run.wb.SpeakerBlockLength);
+    BuildSpeaker(run.wb);
+}
+
+void openReservedSpeakers(const Procedure& run, int index) {
+    showPanel(run, 1, index, "Speaker (");
+    colourInBlock(run, index, run.wb.SpeakerBlockStart, run.wb.SpeakerBlockLength);
+    run.screen.Hints(4).setVisible(false);
+}
+
+void openVendorHeader(const Procedure& run, int index) {
+    openHeader(run, index, "ShortVendor");
+    run.screen.Hints(1).setVisible(false);
+    BuildVendorTag(run.wb);
+}
+
+void openVendorPanel(const Procedure& run, int panel, int index, std::string_view words) {
+    showPanel(run, panel, index, words);
+    colourInBlock(run, index, run.wb.VendorBlockStart, run.wb.VendorBlockLength);
+}
+
+void openVendorID(const Procedure& run, int index) {
+    openVendorPanel(run, 13, index, "Vendor Specific Data Block (");
+    run.screen.lbVendorData.setVisible(true);
+    BuildVendorID(run.wb);
+    seekBox(run, run.screen.txtBoxVendorID);
+}
+
+void openVendorData(const Procedure& run, int index) {
+    openVendorPanel(run, 7, index, "Vendor Specific Data Block (");
+    run.screen.lbVendorBlock.setVisible(true);
+    run.screen.lbVendorBlock.setCaption("Enter your vendor specific data. ");
+    run.screen.Hints(13).setVisible(false);
+    BuildVendorData(run.wb);
+    seekBox(run, run.screen.txtBoxVendorData);
+}
+
+void openVendorExtension(const Procedure& run, int index) {
+    openVendorPanel(run, 8, index, "VSDB Extension (");
+    run.screen.Hints(13).setVisible(false);
+    BuildVSDBExt(run.wb);
+}
+
+void openTiming(const Procedure& run, int index) {
+    run.screen.Hints(tagPanel).setVisible(false);
+    openSlot(run.wb, index);
+}
+
+/// The two cells have no panel here. The labels of block 0's panel for them are addressed all the same, and this screen
+/// has none of that number.
+void openEnd(const Procedure& run, int index) {
+    run.screen.Hints(tagPanel).setVisible(false);
+    const int other = index == 126 ? 127 : 126;
+    run.colour(other, other, CellColour::Group);
+    colourField(run, index);
+    run.statement([&] { run.screen.lbEDID(7).setFontBold(index == 127); });
+    run.statement([&] { run.screen.lbEDID(6).setFontBold(index == 126); });
+}
+
+struct Row {
+    bool (*matches)(const Workbench&, int index);
+    void (*open)(const Procedure&, int index);
+};
+
+/// A location of 0, not known, counts like any other.
+constexpr Row rows[] = {
+    {[](const Workbench&, int i) { return i == 0; }, &openPlainCell},
+    {[](const Workbench&, int i) { return i == 1; }, &openVersion},
+    {[](const Workbench&, int i) { return i == 2; }, &openOffset},
+    {[](const Workbench&, int i) { return i == 3; }, &openSupport},
+    {[](const Workbench& wb, int i) { return i == wb.VideoBlockStart; }, &openVideoHeader},
+    {[](const Workbench& wb, int i) { return isIn(i, wb.VideoBlockStart, 1, wb.VideoBlockLength); },
+     &openVideoDescriptor},
+    {[](const Workbench& wb, int i) { return i == wb.AudioBlockStart; }, &openAudioHeader},
+    {[](const Workbench& wb, int i) { return i == firstAudioCell(wb, 1); }, &openAudioChannels},
+    {[](const Workbench& wb, int i) { return i == lastAudioCell(wb, 1); }, &openLastAudioChannels},
+    {[](const Workbench& wb, int i) { return i == firstAudioCell(wb, 2); }, &openFrequencies},
+    {[](const Workbench& wb, int i) { return i == lastAudioCell(wb, 2); }, &openLastFrequencies},
+    {[](const Workbench& wb, int i) { return i == firstAudioCell(wb, 3); }, &openBitRate},
+    {[](const Workbench& wb, int i) { return i == lastAudioCell(wb, 3); }, &openLastBitRate},
+    {[](const Workbench& wb, int i) { return i == wb.SpeakerBlockStart; }, &openSpeakerHeader},
+    {[](const Workbench& wb, int i) { return isIn(i, wb.SpeakerBlockStart, 1, 1); }, &openSpeakers},
+    {[](const Workbench& wb, int i) { return isIn(i, wb.SpeakerBlockStart, 2, 3); }, &openReservedSpeakers},
+    {[](const Workbench& wb, int i) { return i == wb.VendorBlockStart; }, &openVendorHeader},
+    {[](const Workbench& wb, int i) { return isIn(i, wb.VendorBlockStart, 1, 3); }, &openVendorID},
+    {[](const Workbench& wb, int i) { return isIn(i, wb.VendorBlockStart, 4, 5); }, &openVendorData},
+    {[](const Workbench& wb, int i) { return isIn(i, wb.VendorBlockStart, 6, 6); }, &openVendorExtension},
+    {[](const Workbench& wb, int i) { return i >= wb.ExtDtdStart && i <= lastTimingCell; }, &openTiming},
+    {[](const Workbench&, int i) { return i >= 126; }, &openEnd},
+};
+
+} // namespace
+
+void txtEdit_GotFocus(Workbench& workbench, int index) {
+    procedure(workbench, [&](const Procedure& run) {
+        run.wb.LastAudioFocus = flagFalse;
+        block0::beginFocusDispatch(ceaScreenRules, run.wb);
+        run.screen.Hints(tagPanel).setVisible(true);
+        for (const Row& row : rows) {
+            if (row.matches(run.wb, index)) {
+                row.open(run, index);
+                break;
+            }
+        }
+        block0::endFocusDispatch(ceaScreenRules, run.wb, index);
+    });
+}
+
+} // namespace wb::cea

@@ -1,0 +1,99 @@
+#include "cea/dispatch_audio.h"
+
+#include "cea/dispatch_steps.h"
+#include "cea/short_audio.h"
+#include "cea/tag_panel.h"
+
+namespace wb::cea {
+
+namespace {
+
+bool isCompressed(const Procedure& run) {
+    return run.screen.AudioFormat(1).selected();
+}
+
+void colourInAudio(const Procedure& run, int index) {
+    colourInBlock(run, index, run.wb.AudioBlockStart, run.wb.AudioBlockLength);
+}
+
+void openFrequencyPanel(const Procedure& run, int index) {
+    showPanel(run, 5, index, "Audio Sampling Frequency (");
+    colourInAudio(run, index);
+    run.screen.Hints(0).setVisible(false);
+    run.screen.FrmAudioFormat.setVisible(false);
+}
+
+/// Bit rate and sample sizes share a panel.
+void showRateControls(const Procedure& run, bool rate, bool sizes) {
+    run.screen.lbbitrate.setVisible(rate);
+    run.screen.bitrateCBox.setVisible(rate);
+    run.screen.Frmbitrate.setVisible(sizes);
+}
+
+} // namespace
+
+void openAudioHeader(const Procedure& run, int index) {
+    openHeader(run, index, "ShortAudio");
+    run.screen.FrmAudioFormat.setVisible(true);
+    run.screen.Hints(16).setVisible(false);
+    BuildAudioTag(run.wb);
+}
+
+void openAudioChannels(const Procedure& run, int index) {
+    showPanel(run, 0);
+    colourInAudio(run, index);
+    BuildAudioChannels(run.wb);
+    captionPanel(run, 0, index, isCompressed(run) ? "Compressed Audio Codes (" : "Uncompressed Audio (");
+    run.screen.FrmAudFormCode.setVisible(isCompressed(run));
+}
+
+void openLastAudioChannels(const Procedure& run, int index) {
+    showPanel(run, 0, index, "Compressed Audio Codes (");
+    run.screen.FrmAudFormCode.setVisible(true);
+    run.screen.FrmAudioFormat.setVisible(false);
+    colourInAudio(run, index);
+    run.wb.LastAudioFocus = flagTrue;
+    LocateAudioDescriptors(run.wb);
+    BuildLastAudioChannels(run.wb);
+}
+
+void openFrequencies(const Procedure& run, int index) {
+    openFrequencyPanel(run, index);
+    BuildSampFreq(run.wb);
+}
+
+void openLastFrequencies(const Procedure& run, int index) {
+    run.wb.LastAudioFocus = flagTrue;
+    openFrequencyPanel(run, index);
+    BuildLastSampFreq(run.wb);
+}
+
+void openBitRate(const Procedure& run, int index) {
+    Workbench& wb = run.wb;
+    showPanel(run, 6);
+    colourInAudio(run, index);
+    showRateControls(run, false, false);
+    run.screen.Hints(5).setVisible(false);
+    BuildBitRate(wb);
+    const bool compressed = isCompressed(run);
+    captionPanel(run, 6, index, compressed ? "Compressed Sampl bit rate (" : "Uncompressed Sampl bit rate (");
+    showRateControls(run, compressed, !compressed);
+    if (wb.AudioBlockStart != 0 && wb.VideoBlockStart != 0) {
+        wb.SpeakerBlockStart = int16From(location(wb.AudioBlockStart, 4));
+    }
+}
+
+void openLastBitRate(const Procedure& run, int index) {
+    Workbench& wb = run.wb;
+    showPanel(run, 6, index, "Compressed Sampl bit rate (");
+    showRateControls(run, true, false);
+    colourInAudio(run, index);
+    wb.LastAudioFocus = flagTrue;
+    run.screen.Hints(5).setVisible(false);
+    BuildLastBitRate(wb);
+    if (wb.AudioBlockStart != 0 && wb.VideoBlockStart != 0 && wb.LastAudioDescriptor != 0) {
+        wb.SpeakerBlockStart = 0;
+    }
+}
+
+} // namespace wb::cea

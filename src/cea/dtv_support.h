@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/workbench.h"
+
+/// Cell 3 of the extension block: support flags of a digital television and the number of native formats (CEA-861).
+namespace wb::cea {
+
+void BuildDTVSupport(Workbench& workbench);
+
+/// Write the flags, or the number of native formats, into the cell. The report text follows with the next decoding.
+void NativeChk_Click(Workbench& workbench, int index);
+void NativeCBox_Click(Workbench& workbench, int index);
+
+} // namespace wb::cea

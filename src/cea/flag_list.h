@@ -1,0 +1,26 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "cea/procedure.h"
+
+/// A byte of flags that stands on a panel as checks and in the report as a list.
+namespace wb::cea {
+
+/// One flag: its value in the byte, and what it appends to the list, separators included.
+struct ListedFlag {
+    int bit;
+    std::string_view listed;
+};
+
+/// Sets the checks and makes the list. The cell is read afresh for each flag.
+void decodeFlags(const Procedure& run, int cellIndex, std::span<const ListedFlag> flags, ControlArray& checks,
+                 std::string& list);
+
+/// The byte with the flag of a check in it. `kept` is what stays of the old byte; it need not be the complement of the
+/// flag.
+int withFlag(int byte, int kept, int bit, const Control& check);
+
+} // namespace wb::cea

@@ -1,0 +1,72 @@
+#include "cea/header.h"
+
+#include "block0/grid.h"
+#include "cea/data_blocks.h"
+#include "cea/procedure.h"
+
+namespace wb::cea {
+
+namespace {
+
+constexpr int versionCell = 1;
+constexpr int offsetCell = 2;
+
+std::string roundedCellText(double value) {
+    return ByteToHex2(roundToInt16(value));
+}
+
+} // namespace
+
+void BuildVersion(Workbench& workbench) {
+    decoder(workbench, [](const Procedure& run) {
+        const std::string version = std::to_string(run.readByte(versionCell));
+        run.screen.txtVersion.setText(version);
+        run.screen.VerRev.setText(version);
+        run.screen.Hints(2).setCaption("Version Number (1)");
+        run.screen.lbEDID(0).setCaption("Version Number - " + version);
+    });
+}
+
+void VerRev_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
+    procedure(workbench, [&](const Procedure& run) {
+        if (keyCode != block0::enterKey) {
+            return;
+        }
+        const double value = Value(run.wb, run.screen.VerRev.text());
+        if (value >= 1 && value <= 3) {
+            run.write(versionCell, roundedCellText(value));
+            BuildVersion(run.wb);
+        } else {
+            run.wb.showMessage("Valid number are 1 - 3");
+        }
+    });
+}
+
+void DetailOffset_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
+    procedure(workbench, [&](const Procedure& run) {
+        if (keyCode != block0::enterKey) {
+            return;
+        }
+        const double value = Value(run.wb, run.screen.DetailOffset.text());
+        if ((value >= 4 && value <= 109) || value == 0) {
+            run.write(offsetCell, roundedCellText(value));
+            LocateDataBlocks(run.wb);
+        } else {
+            run.wb.showMessage("Valid number are 4 - 109");
+        }
+    });
+}
+
+void VerRev_GotFocus(Workbench& workbench, int /*index*/) {
+    SelectAllInControl(workbench.frmCEA_EXT().VerRev);
+}
+
+void DetailOffset_GotFocus(Workbench& workbench, int /*index*/) {
+    SelectAllInControl(workbench.frmCEA_EXT().DetailOffset);
+}
+
+std::string offsetCaption(const std::string& offset) {
+    return offset == "0" ? "No Detailed Timings provided" : "Detailed Timing Start at - " + offset;
+}
+
+} // namespace wb::cea

@@ -1,0 +1,25 @@
+#include "cea/procedure.h"
+
+#include "core/edid_image.h"
+
+namespace wb::cea {
+
+void CalcCheckSum(Workbench& workbench) {
+    procedure(workbench, [](const Procedure& run) {
+        if (run.wb.ModifyEDIDOn == flagFalse) {
+            return;
+        }
+        constexpr int checksumCell = 127;
+        int sum = 0;
+        for (int i = 0; i < checksumCell; ++i) {
+            sum += run.readByte(i);
+            if (sum > 255) {
+                sum -= 256;
+            }
+        }
+        run.write(checksumCell, checksumTextFor(sum));
+        noteChecksum(run.wb, run.text(checksumCell));
+    });
+}
+
+} // namespace wb::cea

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "block0/grid.h"
+
+/// The life of the extension screen, and what it is to the code that both block screens share.
+namespace wb::cea {
+
+extern const block0::BlockScreenRules ceaScreenRules;
+
+/// The load step: an empty CEA timing extension of version 3.
+void Form_Load(Workbench& workbench);
+
+/// Goes back to the screen of block 0. Cells and locations stay.
+void Cmd_Return_Click(Workbench& workbench, int index);
+
+} // namespace wb::cea

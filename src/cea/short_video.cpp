@@ -1,0 +1,94 @@
+#include "cea/short_video.h"
+
+#include "cea/digits.h"
+#include "cea/procedure.h"
+#include "cea/video_formats.h"
+
+namespace wb::cea {
+
+namespace {
+
+constexpr int formatCount = static_cast<int>(videoFormats.size());
+constexpr int codeDigits = 7;
+
+int codeOf(Workbench& workbench, const std::string& digits) {
+    return binaryNumber(workbench, rightPart(digits, codeDigits));
+}
+
+bool isNative(const std::string& digits) {
+    return leftPart(digits, 1) == "1";
+}
+
+/// The report line; the reserved code 0 goes without the native word.
+std::string lineOf(int code, const std::string& native) {
+    std::string line(videoFormats[static_cast<std::size_t>(code)].report);
+    line += "   ";
+    if (code != 0) {
+        line += native;
+    }
+    line += crLf;
+    return line;
+}
+
+void decodeDescriptor(const Procedure& run, int i) {
+    const std::string digits = HexToBinaryText(run.text(location(run.wb.VideoBlockStart, i)));
+    const std::string shownDigits = HexToBinaryText(run.text(run.wb.ShortVideoCell));
+    const int code = codeOf(run.wb, digits);
+    const int shownCode = codeOf(run.wb, shownDigits);
+    run.screen.NativeChkBox.setValue(isNative(digits) ? 1 : 0);
+    run.wb.ShortVideoNativeText(i) = isNative(digits) ? "Native" : "";
+    run.screen.NativeChkBox.setValue(isNative(shownDigits) ? 1 : 0);
+    if (code < formatCount) {
+        run.screen.VideoBlkCBox.setValue(code);
+        run.wb.ShortVideoText(i) = lineOf(code, run.wb.ShortVideoNativeText(i));
+    }
+    if (shownCode < formatCount) {
+        run.screen.VideoBlkCBox.setValue(shownCode);
+    }
+}
+
+/// Puts one of the two fields of the descriptor in focus in front of or behind the kept other one.
+void writeDescriptor(const Procedure& run, const std::string& digits) {
+    run.write(run.wb.ShortVideoCell, ByteToHex2(binaryNumber(run.wb, digits)));
+}
+
+} // namespace
+
+void fillVideoFormats(FrmCeaExt& screen) {
+    std::vector<std::string> rows;
+    rows.reserve(videoFormats.size());
+    for (const VideoFormat& format : videoFormats) {
+        rows.emplace_back(format.listRow());
+    }
+    screen.VideoBlkCBox.setRows(std::move(rows));
+}
+
+void BuildShortVideo(Workbench& workbench) {
+    decoder(workbench, [](const Procedure& run) {
+        const int count = run.wb.VideoBlockLength;
+        run.wb.ShortVideoText.create(count + 1);
+        run.wb.ShortVideoNativeText.create(count + 1);
+        for (int i = 1; i <= count; ++i) {
+            run.statement([&] { decodeDescriptor(run, i); });
+        }
+    });
+}
+
+void VideoBlkCBox_Click(Workbench& workbench, int /*index*/) {
+    panelHandler(workbench, [](const Procedure& run) {
+        const Control& list = run.screen.VideoBlkCBox;
+        // The list is searched one row past its end, which reads as empty.
+        const int row = list.text().empty() ? formatCount : shownRow(list);
+        const std::string native = leftPart(HexToBinaryText(run.readText(run.wb.ShortVideoCell)), 1);
+        writeDescriptor(run, native + (row < 0 ? "" : binaryDigits(row, codeDigits)));
+    });
+}
+
+void NativeChkBox_Click(Workbench& workbench, int /*index*/) {
+    panelHandler(workbench, [](const Procedure& run) {
+        const std::string code = rightPart(HexToBinaryText(run.readText(run.wb.ShortVideoCell)), codeDigits);
+        writeDescriptor(run, (run.screen.NativeChkBox.selected() ? "1" : "0") + code);
+    });
+}
+
+} // namespace wb::cea

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "core/workbench.h"
+
+/// Speaker allocation block: its first data byte is a mask of speaker positions (CEA-861).
+namespace wb::cea {
+
+void BuildSpeaker(Workbench& workbench);
+
+/// Writes the position of the check into the mask, and clears its reserved bit 7.
+void speaker_Click(Workbench& workbench, int index);
+
+} // namespace wb::cea

@@ -1,0 +1,101 @@
+#include "cea/vendor.h"
+
+#include <array>
+
+#include "block0/grid.h"
+#include "cea/flag_list.h"
+
+namespace wb::cea {
+
+namespace {
+
+/// By the check of the flag.
+constexpr std::array<ListedFlag, 6> extensionFlags = {{{128, "Supports_AI,"},
+                                                       {64, " DC_48bit,"},
+                                                       {32, " DC_36bit,"},
+                                                       {16, " DC_30bit,"},
+                                                       {8, " DC_Y444,"},
+                                                       {1, " DVI_Dual,"}}};
+
+/// Cell of the vendor block, counted from its header.
+int vendorCell(const Workbench& workbench, int offset) {
+    return location(workbench.VendorBlockStart, offset);
+}
+
+/// Turns an entered text to upper case, in its box too.
+std::string takeEntered(Control& box) {
+    box.setText(upperCase(box.text()));
+    return box.text();
+}
+
+} // namespace
+
+void BuildVendorID(Workbench& workbench) {
+    decoder(workbench, [](const Procedure& run) {
+        const int third = vendorCell(run.wb, 3);
+        const std::string identifier =
+            run.statement.read([&] { return run.text(third) + run.text(third - 1) + run.text(third - 2); });
+        run.screen.txtBoxVendorID.setText(identifier);
+        run.wb.VendorIDText = "Vendor IEEE Registration ID: " + identifier + " Hexadecimal";
+    });
+}
+
+void BuildVendorData(Workbench& workbench) {
+    decoder(workbench, [](const Procedure& run) {
+        const int first = vendorCell(run.wb, 4);
+        const std::string data = run.statement.read([&] { return run.text(first) + run.text(first + 1); });
+        run.screen.txtBoxVendorData.setText(data);
+        run.wb.VendorDataText = "Vendor Specific Data: " + PadRight(data, 3) + " Hexadecimal";
+    });
+}
+
+void BuildVSDBExt(Workbench& workbench) {
+    decoder(workbench, [](const Procedure& run) {
+        decodeFlags(run, vendorCell(run.wb, 6), extensionFlags, run.screen.VSDBExt, run.wb.VSDBExtText);
+    });
+}
+
+void txtBoxVendorID_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
+    procedure(workbench, [&](const Procedure& run) {
+        if (keyCode != block0::enterKey) {
+            return;
+        }
+        const std::string entered = takeEntered(run.screen.txtBoxVendorID);
+        run.write(vendorCell(run.wb, 1), rightPart(entered, 2));
+        run.write(vendorCell(run.wb, 2), rightPart(leftPart(entered, 4), 2));
+        run.write(vendorCell(run.wb, 3), leftPart(entered, 2));
+        BuildVendorID(run.wb);
+    });
+}
+
+void txtBoxVendorData_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
+    procedure(workbench, [&](const Procedure& run) {
+        if (keyCode != block0::enterKey) {
+            return;
+        }
+        const std::string entered = takeEntered(run.screen.txtBoxVendorData);
+        run.write(vendorCell(run.wb, 4), leftPart(entered, 2));
+        run.write(vendorCell(run.wb, 5), rightPart(entered, 2));
+        BuildVendorData(run.wb);
+    });
+}
+
+void txtBoxVendorID_GotFocus(Workbench& workbench, int /*index*/) {
+    SelectAllInControl(workbench.frmCEA_EXT().txtBoxVendorID);
+}
+
+void txtBoxVendorData_GotFocus(Workbench& workbench, int /*index*/) {
+    SelectAllInControl(workbench.frmCEA_EXT().txtBoxVendorData);
+}
+
+void VSDBExt_Click(Workbench& workbench, int index) {
+    panelHandler(workbench, [&](const Procedure& run) {
+        const int cell = vendorCell(run.wb, 6);
+        const int bit = extensionFlags[static_cast<std::size_t>(index)].bit;
+        const int byte = withFlag(run.readByte(cell), 255 & ~bit, bit, run.screen.VSDBExt(index));
+        run.write(cell, ByteToHex2(byte));
+        BuildVSDBExt(run.wb);
+    });
+}
+
+} // namespace wb::cea

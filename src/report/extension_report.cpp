@@ -1,0 +1,247 @@
+#include "report/extension_report.h"
+
+#include <array>
+
+#include "core/numbers.h"
+#include "core/text.h"
+#include "report/report_lines.h"
+
+namespace wb::report {
+
+namespace {
+
+constexpr int firstEntry = 30;
+constexpr int titleEntry = 39;
+constexpr int typeEntry = 43;
+constexpr int dumpEntry = 45;
+constexpr int bodyEntry = 63;
+constexpr int slotLength = 18;
+
+constexpr std::string_view ceaTag = "02";
+constexpr std::string_view mapTag = "F0";
+constexpr std::string_view repeatedBlockTag = "00";
+
+/// A kind of extension block, by the text of its first cell.
+struct BlockKind {
+    std::string_view tag;
+    std::string_view title; ///< empty: by the version
+    std::string_view type;
+    std::string_view inMap; ///< what a block map says of a block of this kind; empty: nothing
+};
+
+constexpr std::array<BlockKind, 8> blockKinds = {{
+    {ceaTag, "", "CEA EDID Timing Extension", "a CEA Timing Extension Block"},
+    {mapTag, "EDID Block Map Extension", "EDID Block Map Extension", "a Block Map Extension Block"},
+    {"01", "EDID LCD Timings Extension", "EDID LCD Timings Extension", "a LCD Timings Extension Block"},
+    {"20", "EDID 2.0 Extension", "EDID 2.0 Extension", "an EDID 2.0 Extension Block"},
+    {"30", "EDID Color Information Type 0 Extension", "EDID Color Information Type 0 Extension",
+     "a Color Information Type 0 Extension Block"},
+    {"40", "EDID DI-EXT Extension", "EDID DI-EXT Extension", "a DI-EXT Extension Block"},
+    {"FF", "EDID Extension Defined by Manufacturer", "EDID Extension Defined by Manufacturer",
+     "an Extension Block Defined by Manufacturer"},
+    {repeatedBlockTag, "Repeating Block 0 EDID", "Illegal Block 0 EDID", ""},
+}};
+
+struct VersionTitle {
+    std::string_view version;
+    std::string_view title;
+};
+
+constexpr std::array<VersionTitle, 3> versionTitles = {{
+    {"1", "EDID CEA-861 Timing Extension Version 1"},
+    {"2", "EDID CEA-861A Timing Extension Version 2"},
+    {"3", "EDID CEA-861B Timing Extension Version 3"},
+}};
+
+const BlockKind* kindOf(std::string_view tag) {
+    for (const BlockKind& kind : blockKinds) {
+        if (kind.tag == tag) {
+            return &kind;
+        }
+    }
+    return nullptr;
+}
+
+std::string place(int cell) {
+    return "(" + std::to_string(cell) + ")";
+}
+
+std::string places(int first, int last) {
+    return "(" + placeRange(first, last) + ")";
+}
+
+std::string pad(int blanks) {
+    return IndentText("", blanks);
+}
+
+std::string versionTitle(FrmCeaExt& screen) {
+    for (const VersionTitle& known : versionTitles) {
+        if (known.version == screen.VerRev.text()) {
+            return centredLine(known.title);
+        }
+    }
+    return {};
+}
+
+void putBlockHead(Workbench& workbench, TextArray& lines, const BlockKind* kind) {
+    FrmCeaExt& screen = workbench.frmCEA_EXT();
+    putHead(workbench, lines, firstEntry);
+    lines(40) = ruleLine();
+    lines(41) = ruleLine();
+    lines(42) = line("EDID Block 1, Bytes 128-255");
+    lines(44) = line();
+    if (kind != nullptr) {
+        lines(titleEntry) = kind->title.empty() ? versionTitle(screen) : centredLine(kind->title);
+        lines(typeEntry) = line("Block Type: " + std::string(kind->type));
+    }
+    putDump(screen, lines, dumpEntry);
+    lines(61) = ruleLine();
+    lines(62) = line();
+}
+
+/// What a block map tells of the kind of block `block`.
+std::string mapLine(const BlockKind* kind, int block) {
+    if (kind == nullptr || kind->inMap.empty()) {
+        return {};
+    }
+    return line(place(block) + pad(5) + "Block " + std::to_string(block) + " is " + std::string(kind->inMap));
+}
+
+void putBlockMap(FrmCeaExt& screen, TextArray& lines) {
+    lines(bodyEntry) = mapLine(kindOf(screen.txtEdit(1).text()), 1);
+    lines(bodyEntry + 1) = mapLine(kindOf(screen.txtEdit(2).text()), 2);
+}
+
+void putCeaHead(Workbench& workbench, TextArray& lines) {
+    lines(bodyEntry) = line("(2)" + workbench.frmCEA_EXT().lbEDID(5).caption());
+    lines(bodyEntry + 1) = line("(3)" + workbench.DTVSupportText);
+    if (workbench.VideoBlockStart == 0) {
+        return;
+    }
+    lines(bodyEntry + 2) = "(4)" + workbench.VideoTagText;
+    for (int i = 1; i <= workbench.VideoBlockLength; ++i) {
+        lines(bodyEntry + 3 + i) = line(place(i + 4) + pad(7) + workbench.ShortVideoText(i));
+    }
+}
+
+/// The three lines of an audio descriptor, its first byte at `cell`.
+void putAudioDescriptor(TextArray& lines, int entry, int cell, const std::string& format,
+                        const std::string& frequencies, const std::string& rate) {
+    lines(entry) = line(place(cell) + pad(7) + format);
+    lines(entry + 1) = line(place(cell + 1) + pad(7) + "Sampling Frequency: " + frequencies);
+    lines(entry + 2) = line(place(cell + 2) + pad(7) + rate);
+}
+
+void putAudio(const Workbench& wb, TextArray& lines, int entry) {
+    lines(entry) = place(wb.AudioBlockStart) + wb.AudioTagText;
+    putAudioDescriptor(lines, entry + 1, wb.AudioBlockStart + 1,
+                       wb.AudioKindText + ", " + wb.AudioChannelsText + ", " + wb.AudioFormatText, wb.SampFreqText,
+                       wb.BitRateText);
+    if (wb.AudioBlockLength >= 6 && wb.AudioDescriptorCount >= 2) {
+        putAudioDescriptor(lines, entry + 4, wb.LastAudioDescriptor,
+                           wb.LastAudioKindText + ", " + wb.LastAudioChannelsText + ", " + wb.LastAudioFormatText,
+                           wb.LastSampFreqText, wb.LastBitRateText);
+    }
+}
+
+void putSpeakers(const Workbench& wb, TextArray& lines, int entry) {
+    const int start = wb.SpeakerBlockStart;
+    lines(entry) = place(start) + wb.SpeakerTagText;
+    lines(entry + 1) = line(places(start + 1, start + wb.SpeakerBlockLength) + pad(4) + wb.SpeakerText);
+}
+
+/// `end` is the last cell of the vendor data.
+void putVendorLines(const Workbench& wb, TextArray& lines, int entry, int end) {
+    const int start = wb.VendorBlockStart;
+    lines(entry) = place(start) + wb.VendorTagText;
+    lines(entry + 1) = line(places(start + 1, start + 3) + pad(4) + wb.VendorIDText);
+    lines(entry + 2) = line(places(start + 4, end) + pad(4) + wb.VendorDataText);
+}
+
+/// A short vendor block stands where audio and speaker lines may be, and wins.
+void putVendor(const Workbench& wb, TextArray& lines, int videoLines) {
+    const int start = wb.VendorBlockStart;
+    if (wb.VendorBlockLength >= 6) {
+        putVendorLines(wb, lines, videoLines + 76, start + 5);
+        lines(videoLines + 79) = line(place(start + 6) + pad(7) + "VSDB Extension: " + wb.VSDBExtText);
+    } else {
+        putVendorLines(wb, lines, videoLines + 73, start + wb.VendorBlockLength);
+    }
+}
+
+void putDataBlocks(const Workbench& wb, TextArray& lines) {
+    const int videoLines = wb.VideoBlockLength;
+    if (wb.AudioBlockStart != 0) {
+        putAudio(wb, lines, videoLines + 67);
+    }
+    if (wb.SpeakerBlockStart != 0) {
+        putSpeakers(wb, lines, videoLines + (wb.AudioBlockLength >= 6 ? 74 : 71));
+    }
+    if (wb.VendorBlockStart != 0) {
+        putVendor(wb, lines, videoLines);
+    }
+}
+
+int timingOffset(const Workbench& workbench) {
+    return roundToInt16(strictNumber(workbench.ExtDtdOffsetText));
+}
+
+void moveOn(std::int16_t& entry) {
+    entry = int16From(entry + 1);
+}
+
+/// The running entry is a cell number of the block, and stays moved on.
+void putTimings(Workbench& wb, TextArray& lines) {
+    std::int16_t& entry = wb.ExtDtdStart;
+    moveOn(entry);
+    for (int i = 0; i <= wb.ExtDtdSlotCount; ++i) {
+        const std::string& text = wb.ExtDetailedBlockText(i);
+        if (text.empty()) {
+            continue;
+        }
+        lines(entry) = ruleLine();
+        moveOn(entry);
+        lines(entry) = line();
+        moveOn(entry);
+        const int base = timingOffset(wb) + i * slotLength;
+        lines(entry) = line(places(base, base + slotLength - 1) + " Detailed Timing / Descriptor Block " +
+                            std::to_string(i + 1) + ":") +
+                       line(text);
+        moveOn(entry);
+        lines(entry) = line();
+    }
+}
+
+/// The check sum line is that of block 0.
+void putEnd(const Workbench& wb, TextArray& lines) {
+    const int entry = wb.ExtDtdStart;
+    lines(entry) = line();
+    lines(entry + 1) = line(places(timingOffset(wb) + wb.ExtDtdSlotCount * slotLength, 126) + " No Data:");
+    lines(entry + 2) = placeTag("(127)") + "  " + wb.Block0ChecksumText;
+    lines(entry + 3) = endOfReport;
+}
+
+} // namespace
+
+void BuildExtensionReport(Workbench& workbench) {
+    trapped(workbench, [&] {
+        TextArray& lines = workbench.ReportExtLines;
+        lines.create(reportEntries);
+        FrmCeaExt& screen = workbench.frmCEA_EXT();
+        const std::string tag = screen.txtEdit(0).text();
+        putBlockHead(workbench, lines, kindOf(tag));
+        if (tag == repeatedBlockTag) {
+            return;
+        }
+        if (tag == mapTag) {
+            putBlockMap(screen, lines);
+        } else if (tag == ceaTag) {
+            putCeaHead(workbench, lines);
+        }
+        putDataBlocks(workbench, lines);
+        putTimings(workbench, lines);
+        putEnd(workbench, lines);
+    });
+}
+
+} // namespace wb::report
