@@ -1,5 +1,6 @@
 #include "files/image_loading.h"
 
+#include "cea/definitions.h"
 #include "core/cells.h"
 #include "report/definitions.h"
 
@@ -39,6 +40,7 @@ void LoadExtensionCells(Workbench& workbench) {
             return;
         }
         workbench.CEADtdOffset = static_cast<std::int16_t>(byteOf(workbench, workbench.EDIDCells(dtdOffsetCell)));
+        cea::BuildCEA_EXT_Definations(workbench);
         screen.txtModel.setText(workbench.frmEDID().txtModel.text());
     });
 }

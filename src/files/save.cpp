@@ -6,6 +6,7 @@
 #include "files/data_file.h"
 #include "files/text_file.h"
 #include "report/block0_report.h"
+#include "report/extension_report.h"
 
 namespace wb::files {
 
@@ -39,6 +40,7 @@ void writeImage(Workbench& workbench) {
     report::BuildBlock0Report(workbench);
     file.write(dataFileText(workbench.ReportBlock0Lines));
     if (hasExtensionByDecimalText(workbench)) {
+        report::BuildExtensionReport(workbench);
         file.write(dataFileText(workbench.ReportExtLines));
     }
     file.close();

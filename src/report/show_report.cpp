@@ -2,6 +2,7 @@
 
 #include "core/edid_image.h"
 #include "report/block0_report.h"
+#include "report/extension_report.h"
 #include "report/report_lines.h"
 
 namespace wb::report {
@@ -32,6 +33,7 @@ void showOnce(Workbench& workbench, bool hidden) {
     workbench.frmDocument().rtftext.setLocked(false);
     std::string text = joinedEntries(workbench.ReportBlock0Lines);
     if (hasExtensionByDecimalText(workbench)) {
+        BuildExtensionReport(workbench);
         text += joinedEntries(workbench.ReportExtLines);
     }
     workbench.frmDocument().rtftext.setText(std::move(text));

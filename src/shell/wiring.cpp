@@ -1,6 +1,7 @@
 #include "shell/wiring.h"
 
 #include "acquire/base_location.h"
+#include "cea/screen.h"
 #include "shell/calculator.h"
 #include "shell/information.h"
 #include "shell/lifecycle.h"
@@ -14,7 +15,7 @@ const Wiring& wiring() {
         const auto life = [&](ScreenId id) -> ScreenLife& { return lives[static_cast<std::size_t>(id)]; };
         life(ScreenId::Main) = {&connectMainScreen, &frmMain_Load, &frmMain_Unload};
         life(ScreenId::Edid) = {&connectEdidScreen, &frmEDID_Load, &frmEDID_Unload};
-        life(ScreenId::CeaExt) = {&connectCeaExtScreen, nullptr, &frmCEA_EXT_Unload};
+        life(ScreenId::CeaExt) = {&connectCeaExtScreen, &cea::Form_Load, &frmCEA_EXT_Unload};
         life(ScreenId::Document) = {nullptr, &frmDocument_Load, &frmDocument_Unload};
         life(ScreenId::HexCalculator) = {&connectHexCalculatorScreen, nullptr, &frmHexCalculator_Unload};
         life(ScreenId::Help) = {&connectHelpScreen, &frmHelp_Load, nullptr};
