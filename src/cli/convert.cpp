@@ -1,0 +1,100 @@
+#include <CLI/CLI.hpp>
+#include <array>
+#include <memory>
+
+#include "cli/cli_error.h"
+#include "cli/commands.h"
+#include "cli/output.h"
+#include "cli/program.h"
+
+namespace wb::cli {
+
+namespace {
+
+struct Options {
+    std::string format;
+    std::string in;
+    std::string out;
+    bool force = false;
+};
+
+struct Format {
+    const char* name;
+    std::string (Program::*content)();
+};
+
+constexpr std::array<Format, 4> formats = {{{"dat", &Program::dataFile},
+                                            {"hex", &Program::hexExport},
+                                            {"bin", &Program::binaryImage},
+                                            {"report", &Program::report}}};
+
+std::vector<std::string> formatNames() {
+    std::vector<std::string> names;
+    for (const Format& format : formats) {
+        names.emplace_back(format.name);
+    }
+    return names;
+}
+
+std::string contentAs(const std::string& name, Program& program) {
+    for (const Format& format : formats) {
+        if (format.name == name) {
+            return (program.*format.content)();
+        }
+    }
+    throw UsageError("unknown format '" + name + "'");
+}
+
+/// Gives the content of the new file; tells of the boxes that came up on the way in any case.
+std::string convert(const Options& options) {
+    Program program;
+    const auto tellBoxes = [&] {
+        for (const std::string& box : program.boxes()) {
+            complain(options.in, inOneLine(box));
+        }
+    };
+    try {
+        program.load(readInput(options.in));
+        std::string content = contentAs(options.format, program);
+        tellBoxes();
+        return content;
+    } catch (const CliError&) {
+        tellBoxes();
+        throw;
+    }
+}
+
+int run(const Options& options) {
+    std::string content;
+    try {
+        content = convert(options);
+    } catch (const CliError& error) {
+        complain(options.in, error.what());
+        return somethingFailed;
+    }
+    try {
+        writeFile(options.out, content, options.force ? Existing::Replace : Existing::Refuse);
+    } catch (const CliError& error) {
+        complain(options.out, error.what());
+        return somethingFailed;
+    }
+    return success;
+}
+
+} // namespace
+
+void addConvert(CLI::App& app, Chosen& chosen) {
+    CLI::App* command = app.add_subcommand("convert", "Write an image in another format");
+    const auto options = std::make_shared<Options>();
+    command->add_option("--to", options->format, "dat (data file), hex (hexadecimal export), bin (binary) or report")
+        ->type_name("FORMAT")
+        ->required()
+        ->check(CLI::IsMember(formatNames()))
+        ->take_last();
+    command->add_option("IN", options->in, "File in any format; - is standard input")->required();
+    command->add_option("OUT", options->out, "File to be written; - is standard output")->required();
+    command->add_flag("-f,--force", options->force, "Replace OUT if it exists");
+    command->callback([options, &chosen] { chosen = [options] { return run(*options); }; });
+}
+
+} // namespace wb::cli

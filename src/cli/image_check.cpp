@@ -1,0 +1,54 @@
+#include "cli/image_check.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+
+namespace wb::cli {
+
+namespace {
+
+constexpr std::size_t blockSize = 128;
+constexpr std::size_t extensionCountPlace = 126;
+constexpr std::string_view header("\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8);
+
+Finding checkLength(std::string_view image, std::size_t mostBlocks) {
+    std::string text = "length " + std::to_string(image.size());
+    if (image.size() <= extensionCountPlace) {
+        return {false, text + " is short of one block"};
+    }
+    const std::size_t blocks = 1U + static_cast<unsigned char>(image[extensionCountPlace]);
+    const std::size_t expected = std::min(blocks, mostBlocks) * blockSize;
+    if (image.size() != expected) {
+        return {false, text + " should be " + std::to_string(expected)};
+    }
+    return {true, text + " ok"};
+}
+
+Finding checkSum(std::string_view image, std::size_t block) {
+    const std::string_view bytes = image.substr(block * blockSize, blockSize);
+    unsigned sum = 0;
+    for (const char byte : bytes.substr(0, blockSize - 1)) {
+        sum += static_cast<unsigned char>(byte);
+    }
+    const unsigned expected = (256U - sum % 256U) % 256U;
+    const unsigned found = static_cast<unsigned char>(bytes.back());
+    const std::string text = "check sum of block " + std::to_string(block);
+    if (found != expected) {
+        return {false, text + ' ' + ByteToHex2(found) + " should be " + ByteToHex2(expected)};
+    }
+    return {true, text + " ok"};
+}
+
+} // namespace
+
+std::vector<Finding> checkImage(std::string_view image, std::size_t mostBlocks) {
+    const bool headed = image.starts_with(header);
+    std::vector<Finding> findings = {{headed, headed ? "header ok" : "header wrong"}, checkLength(image, mostBlocks)};
+    for (std::size_t block = 0; block < 2 && (block + 1) * blockSize <= image.size(); ++block) {
+        findings.push_back(checkSum(image, block));
+    }
+    return findings;
+}
+
+} // namespace wb::cli

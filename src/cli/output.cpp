@@ -1,0 +1,117 @@
+#include "cli/output.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+
+#include "cli/cli_error.h"
+#include "cli/input.h"
+#include "cli/temporary.h"
+
+namespace wb::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void failOutput() {
+    throw OutputError(std::string("standard output: ") + std::strerror(errno));
+}
+
+void writeDirectly(const std::string& name, std::string_view content) {
+    std::FILE* const file = std::fopen(name.c_str(), "wb");
+    if (file == nullptr) {
+        throw CliError(std::strerror(errno));
+    }
+    writeAndClose(file, content);
+}
+
+/// The place of an existing file behind its links, so that a link stays one; of a new file the name as it stands.
+fs::path finalPlace(const std::string& name) {
+    std::error_code error;
+    const fs::path place = fs::canonical(name, error);
+    return error ? fs::path(name) : place;
+}
+
+/// The permissions that a new file gets, or those of the file that is replaced.
+void takePermissions(const fs::path& from, const fs::path& to) {
+    std::error_code ignored;
+    const fs::file_status status = fs::status(from, ignored);
+    if (fs::exists(status)) {
+        fs::permissions(to, status.permissions(), ignored);
+    }
+}
+
+} // namespace
+
+void print(std::string_view text) {
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
+        failOutput();
+    }
+}
+
+void flushOutput() {
+    if (std::fflush(stdout) != 0) {
+        failOutput();
+    }
+}
+
+void complain(std::string_view message) {
+    flushOutput();
+    const std::string line = "edidwb: " + std::string(message) + '\n';
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void complain(std::string_view file, std::string_view message) {
+    complain(std::string(file) + ": " + std::string(message));
+}
+
+std::string inOneLine(std::string_view text) {
+    static constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string line;
+    bool atLineEnd = false;
+    for (const char c : text) {
+        if (c == '\r' || c == '\n') {
+            atLineEnd = true;
+            continue;
+        }
+        if (atLineEnd && !line.empty() && line.back() != ' ') {
+            line += ' ';
+        }
+        atLineEnd = false;
+        const auto code = static_cast<unsigned char>(c);
+        if (code < ' ' || code == 127) {
+            line += {'\\', 'x', digits[code / 16U], digits[code % 16U]};
+        } else {
+            line += c;
+        }
+    }
+    return line;
+}
+
+void writeFile(const std::string& name, std::string_view content, Existing existing) {
+    if (name == standardStream) {
+        print(content);
+        return;
+    }
+    std::error_code error;
+    const fs::file_status status = fs::status(name, error);
+    if (fs::is_directory(status)) {
+        throw CliError("is a directory");
+    }
+    if (fs::exists(status) && existing == Existing::Refuse) {
+        throw CliError("exists already (--force replaces it)");
+    }
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        writeDirectly(name, content);
+        return;
+    }
+    const fs::path place = finalPlace(name);
+    TemporaryFile temporary(place.parent_path());
+    temporary.write(content);
+    takePermissions(place, temporary.path());
+    temporary.moveTo(place);
+}
+
+} // namespace wb::cli

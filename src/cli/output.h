@@ -1,0 +1,34 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace wb::cli {
+
+/// Standard output cannot be written; ends the program.
+class OutputError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Writes to standard output; a failure is an OutputError.
+void print(std::string_view text);
+/// Hands everything printed so far to the system; a failure is an OutputError.
+void flushOutput();
+
+/// Tells a message on standard error as "edidwb: MESSAGE", after everything printed so far.
+void complain(std::string_view message);
+/// The same about a file: "edidwb: FILE: MESSAGE".
+void complain(std::string_view file, std::string_view message);
+
+/// A text of the program in one line: line ends become one blank, other control characters are escaped.
+std::string inOneLine(std::string_view text);
+
+enum class Existing { Refuse, Replace };
+
+/// Writes a file through a temporary one beside it, so that it is whole or as it was before. What is no ordinary file
+/// (a device, a pipe) is written directly. "-" is standard output. A failure is a CliError.
+void writeFile(const std::string& name, std::string_view content, Existing existing);
+
+} // namespace wb::cli

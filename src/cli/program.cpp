@@ -1,0 +1,157 @@
+#include "cli/program.h"
+
+#include "acquire/get_edid.h"
+#include "cli/cli_error.h"
+#include "cli/output.h"
+#include "cli/temporary.h"
+#include "core/edid_image.h"
+#include "core/input.h"
+#include "core/text.h"
+#include "files/data_file.h"
+#include "files/save.h"
+#include "report/show_report.h"
+#include "script/digits.h"
+#include "shell/startup.h"
+#include "shell/wiring.h"
+
+namespace wb::cli {
+
+namespace {
+
+/// Each CR LF as the line end of the platform.
+std::string withPlatformLineEnds(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text.substr(i, crLf.size()) != crLf) {
+            result += text[i];
+        }
+    }
+    return result;
+}
+
+void appendByte(const std::string& cell, std::string& bytes) {
+    const auto byte = script::wholeNumber<unsigned char>(cell, 16);
+    if (!byte || cell.size() != 2) {
+        throw CliError("cell " + std::to_string(bytes.size()) + " is no byte: " + wb::quoted(cell));
+    }
+    bytes += static_cast<char>(*byte);
+}
+
+void appendBytes(BlockScreen& screen, std::string& bytes) {
+    for (int i = 0; i < BlockScreen::cellCount; ++i) {
+        appendByte(screen.txtEdit(i).text(), bytes);
+    }
+}
+
+/// A path under which the program can read what was read before; a pipe gives its content only once.
+class DataFilePath {
+public:
+    explicit DataFilePath(const Input& input) : path_(input.name) {
+        if (!input.canBeReadAgain) {
+            folder_.emplace();
+            path_ = folder_->file("image.DAT");
+            writeFile(path_, input.content, Existing::Refuse);
+        }
+    }
+
+    const std::string& path() const { return path_; }
+
+private:
+    std::optional<TemporaryFolder> folder_;
+    std::string path_;
+};
+
+} // namespace
+
+Program::Program(const std::optional<platform::DateTime>& now) : workbench_(platform_.services(), shell::wiring()) {
+    platform_.onBox = [this](const std::string& text) { boxes_.push_back(text); };
+    if (now) {
+        platform_.setClock(*now);
+    }
+    workbench_.runAction([&] { shell::Main(workbench_); });
+}
+
+void Program::load(const Input& input) {
+    const Content content = imageIn(input);
+    if (content.kind == ContentKind::DataFile) {
+        open(DataFilePath(input).path());
+    } else {
+        workbench_.runAction([&] { acquire::LoadStoredEdid(workbench_, content.image); });
+    }
+}
+
+void Program::open(const std::string& path) {
+    platform_.queueFileName(path);
+    input::choose(workbench_.frmMain().mnuFileOpen);
+    for (int i = 0; i < BlockScreen::cellCount; ++i) {
+        if (workbench_.frmEDID().txtEdit(i).text() != workbench_.EDIDCells(i)) {
+            throw CliError("cannot be loaded");
+        }
+    }
+}
+
+std::string Program::dataFileBytes(const Input& input) {
+    const DataFilePath file(input);
+    workbench_.CurrentFileName = file.path();
+    if (!files::ReadEDIDDataFile(workbench_)) {
+        throw CliError("cannot be loaded");
+    }
+    std::string bytes;
+    for (int i = 0; i < workbench_.EDIDCells.size() && !workbench_.EDIDCells(i).empty(); ++i) {
+        appendByte(workbench_.EDIDCells(i), bytes);
+    }
+    return bytes;
+}
+
+std::string Program::report() {
+    workbench_.runAction([&] { report::ShowReport(workbench_, false); });
+    return withPlatformLineEnds(workbench_.frmDocument().rtftext.text());
+}
+
+std::string Program::dataFile() {
+    const TemporaryFolder folder;
+    const std::string path = folder.file("image.DAT");
+    workbench_.CurrentFileName = path;
+    const std::size_t boxesBefore = boxes_.size();
+    workbench_.runAction([&] { files::FileSave(workbench_); });
+    return contentWithoutBox(path, boxesBefore);
+}
+
+std::string Program::hexExport() {
+    const TemporaryFolder folder;
+    const std::string path = folder.file("image.hex");
+    platform_.queueFileName(path);
+    const std::size_t boxesBefore = boxes_.size();
+    input::choose(workbench_.frmMain().ExportHex);
+    return contentWithoutBox(path, boxesBefore);
+}
+
+std::string Program::contentWithoutBox(const std::string& path, std::size_t boxesBefore) const {
+    if (boxes_.size() != boxesBefore) {
+        throw CliError("cannot be written: " + inOneLine(boxes_.back()));
+    }
+    return readInput(path).content;
+}
+
+std::string Program::binaryImage() {
+    std::string bytes;
+    appendBytes(workbench_.frmEDID(), bytes);
+    if (hasExtensionByDecimalText(workbench_)) {
+        appendBytes(workbench_.frmCEA_EXT(), bytes);
+    }
+    return bytes;
+}
+
+Content imageIn(const Input& input) {
+    if (input.content.empty()) {
+        throw CliError("is empty");
+    }
+    Content content = recognise(input.content);
+    if (content.kind == ContentKind::Nothing) {
+        throw CliError("is no EDID image: neither a data file, nor hexadecimal text, nor a binary image");
+    }
+    return content;
+}
+
+} // namespace wb::cli

@@ -1,0 +1,94 @@
+#include "cli/temporary.h"
+
+#include <cerrno>
+#include <cstring>
+#include <random>
+
+#include "cli/cli_error.h"
+
+namespace wb::cli {
+
+namespace {
+
+constexpr int tries = 100;
+
+std::string randomName() {
+    static constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789";
+    constexpr int length = 12;
+    std::random_device random;
+    std::uniform_int_distribution<std::size_t> letter(0, letters.size() - 1);
+    std::string name = ".edidwb-";
+    for (int i = 0; i < length; ++i) {
+        name += letters[letter(random)];
+    }
+    return name;
+}
+
+} // namespace
+
+TemporaryFile::TemporaryFile(const std::filesystem::path& folder) {
+    for (int i = 0; i < tries && file_ == nullptr; ++i) {
+        path_ = folder / randomName();
+        file_ = std::fopen(path_.string().c_str(), "wbx");
+        if (file_ == nullptr && errno != EEXIST) {
+            break;
+        }
+    }
+    if (file_ == nullptr) {
+        throw CliError(std::strerror(errno));
+    }
+}
+
+TemporaryFile::~TemporaryFile() {
+    if (file_ != nullptr) {
+        std::fclose(file_);
+    }
+    std::error_code ignored;
+    std::filesystem::remove(path_, ignored);
+}
+
+void TemporaryFile::write(std::string_view content) {
+    std::FILE* const file = file_;
+    file_ = nullptr;
+    writeAndClose(file, content);
+}
+
+void TemporaryFile::moveTo(const std::filesystem::path& place) {
+    std::error_code error;
+    std::filesystem::rename(path_, place, error);
+    if (error) {
+        throw CliError(error.message());
+    }
+}
+
+TemporaryFolder::TemporaryFolder() {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    const fs::path parent = fs::temp_directory_path(error);
+    bool created = false;
+    for (int i = 0; i < tries && !error && !created; ++i) {
+        path_ = parent / randomName();
+        created = fs::create_directory(path_, error);
+    }
+    if (!error && created) {
+        fs::permissions(path_, fs::perms::owner_all, error);
+    }
+    if (error || !created) {
+        throw CliError("no temporary folder: " + error.message());
+    }
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+void writeAndClose(std::FILE* file, std::string_view content) {
+    const bool written = std::fwrite(content.data(), 1, content.size(), file) == content.size();
+    const int writeError = errno;
+    if (std::fclose(file) != 0 || !written) {
+        throw CliError(std::strerror(written ? errno : writeError));
+    }
+}
+
+} // namespace wb::cli

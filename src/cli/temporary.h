@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace wb::cli {
+
+/// A new file of its own that is deleted when it goes out of scope, unless it was moved to its place before.
+class TemporaryFile {
+public:
+    /// Creates it in that folder; a failure is a CliError.
+    explicit TemporaryFile(const std::filesystem::path& folder);
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile();
+
+    const std::filesystem::path& path() const { return path_; }
+    /// Writes the whole content and closes the file; a failure is a CliError.
+    void write(std::string_view content);
+    /// Renames it, over a file of that name if there is one; a failure is a CliError.
+    void moveTo(const std::filesystem::path& place);
+
+private:
+    std::filesystem::path path_;
+    std::FILE* file_ = nullptr;
+};
+
+/// A new empty folder, for its user alone, that is deleted with all it holds when it goes out of scope.
+class TemporaryFolder {
+public:
+    /// Creates it where the system keeps such folders; a failure is a CliError.
+    TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder();
+
+    /// The path of a file in it.
+    std::string file(const std::string& name) const { return (path_ / name).string(); }
+
+private:
+    std::filesystem::path path_;
+};
+
+/// Writes and closes; a failure (also of what the system kept back until the close) is a CliError.
+void writeAndClose(std::FILE* file, std::string_view content);
+
+} // namespace wb::cli

@@ -1,0 +1,168 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+
+#include "cli/cli_error.h"
+#include "cli/commands.h"
+#include "cli/ordered_jobs.h"
+#include "cli/output.h"
+#include "cli/program.h"
+#include "script/date_time.h"
+
+namespace wb::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Options {
+    std::vector<std::string> files;
+    std::string outputFolder;
+    std::size_t jobs = 1;
+    std::string date;
+    bool strict = false;
+};
+
+/// What became of one file.
+struct Translation {
+    std::string report;
+    std::vector<std::string> boxes;
+    std::optional<std::string> error;
+};
+
+Translation translate(const std::string& name, const std::optional<platform::DateTime>& now) {
+    Translation result;
+    try {
+        Program program(now);
+        const Input input = readInput(name);
+        try {
+            program.load(input);
+            result.report = program.report();
+        } catch (const CliError& error) {
+            result.error = error.what();
+        }
+        result.boxes = program.boxes();
+    } catch (const CliError& error) {
+        result.error = error.what();
+    }
+    return result;
+}
+
+/// Takes the results one after the other, in the order of the input.
+class Collector {
+public:
+    explicit Collector(const Options& options) : options_(options) {}
+
+    void take(const Translation& translation) {
+        const std::string& name = options_.files[next_++];
+        for (const std::string& box : translation.boxes) {
+            complain(name, inOneLine(box));
+            failed_ = failed_ || options_.strict;
+        }
+        if (translation.error) {
+            fail(name, *translation.error);
+        } else if (options_.outputFolder.empty()) {
+            print(translation.report);
+        } else {
+            writeReport(name, translation.report);
+        }
+    }
+
+    bool failed() const { return failed_; }
+
+private:
+    void fail(const std::string& name, const std::string& message) {
+        complain(name, message);
+        failed_ = true;
+    }
+
+    void writeReport(const std::string& name, const std::string& report) {
+        const std::string stem = name == standardStream ? "stdin" : fs::path(name).stem().string();
+        const std::string target = (fs::path(options_.outputFolder) / (stem + ".txt")).string();
+        const auto [other, isNew] = writtenBy_.try_emplace(target, name);
+        if (!isNew) {
+            fail(name, "its report '" + target + "' is already that of '" + other->second + "'");
+            return;
+        }
+        if (isInput(target)) {
+            fail(name, "its report '" + target + "' would replace a file that is to be read");
+            return;
+        }
+        try {
+            writeFile(target, report, Existing::Replace);
+        } catch (const CliError& error) {
+            fail(target, error.what());
+        }
+    }
+
+    bool isInput(const std::string& target) const {
+        std::error_code ignored;
+        return fs::exists(target, ignored) &&
+               std::any_of(options_.files.begin(), options_.files.end(), [&](const std::string& file) {
+                   std::error_code error;
+                   return file != standardStream && fs::equivalent(file, target, error) && !error;
+               });
+    }
+
+    const Options& options_;
+    std::size_t next_ = 0;
+    std::map<std::string, std::string> writtenBy_;
+    bool failed_ = false;
+};
+
+std::optional<platform::DateTime> dateOf(const Options& options) {
+    if (options.date.empty()) {
+        return std::nullopt;
+    }
+    const auto date = script::parseDateTime(options.date);
+    if (!date) {
+        throw UsageError("'" + options.date + "' is no date and time like \"2000-01-31 23:59:59\"");
+    }
+    return date;
+}
+
+int run(const Options& options) {
+    requireOneStandardInput(options.files);
+    const std::optional<platform::DateTime> now = dateOf(options);
+    if (!options.outputFolder.empty()) {
+        std::error_code error;
+        fs::create_directories(options.outputFolder, error);
+        if (error) {
+            complain(options.outputFolder, error.message());
+            return somethingFailed;
+        }
+    }
+    Collector collector(options);
+    OrderedJobs<Translation>::run(
+        options.files.size(), options.jobs, [&](std::size_t i) { return translate(options.files[i], now); },
+        [&](const Translation& translation) { collector.take(translation); });
+    return collector.failed() ? somethingFailed : success;
+}
+
+} // namespace
+
+void addTranslate(CLI::App& app, Chosen& chosen) {
+    CLI::App* command = app.add_subcommand("translate", "Print the report of each file");
+    const auto options = std::make_shared<Options>();
+    command
+        ->add_option("FILE", options->files,
+                     "Data file, binary image or hexadecimal text, recognised by content; - is standard input")
+        ->required();
+    command->add_option("-o,--output-dir", options->outputFolder, "Write each report to DIR/NAME.txt instead")
+        ->type_name("DIR")
+        ->take_last();
+    command->add_option("-j,--jobs", options->jobs, "Work on up to N files at a time")
+        ->type_name("N")
+        ->check(CLI::PositiveNumber)
+        ->take_last();
+    command->add_option("--date", options->date, "Set the clock that the heading shows")
+        ->type_name("\"YYYY-MM-DD HH:MM:SS\"")
+        ->take_last();
+    command->add_flag("--strict", options->strict, "Count the boxes that the program shows as failures");
+    command->callback([options, &chosen] { chosen = [options] { return run(*options); }; });
+}
+
+} // namespace wb::cli

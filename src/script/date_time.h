@@ -1,0 +1,13 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "platform/services.h"
+
+namespace wb::script {
+
+/// The moment of a text "YYYY-MM-DD HH:MM:SS" exactly, or nothing where that is no date and time of the calendar.
+std::optional<platform::DateTime> parseDateTime(std::string_view text);
+
+} // namespace wb::script

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <charconv>
+#include <optional>
+#include <string_view>
+
+namespace wb::script {
+
+/// 0 to 15 for a hexadecimal digit in either case, -1 for any other character.
+constexpr int hexDigit(char c) {
+    if (c >= '0' && c <= '9') {
+        return c - '0';
+    }
+    if (c >= 'A' && c <= 'F') {
+        return c - 'A' + 10;
+    }
+    if (c >= 'a' && c <= 'f') {
+        return c - 'a' + 10;
+    }
+    return -1;
+}
+
+/// The whole decimal number that the whole text spells (a minus may stand in front), or nothing.
+template <class Number>
+std::optional<Number> wholeNumber(std::string_view text, int base = 10) {
+    Number number{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
+    if (error != std::errc() || end != text.data() + text.size()) {
+        return std::nullopt;
+    }
+    return number;
+}
+
+} // namespace wb::script

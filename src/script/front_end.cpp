@@ -1,0 +1,52 @@
+#include "script/front_end.h"
+
+#include "core/input.h"
+#include "shell/startup.h"
+
+namespace wb::script {
+
+void ModelFrontEnd::start() {
+    workbench_->runAction([&] { shell::Main(*workbench_); });
+}
+
+bool ModelFrontEnd::click(Control& control) {
+    return input::click(control);
+}
+
+bool ModelFrontEnd::doubleClick(Control& control) {
+    return input::doubleClick(control);
+}
+
+bool ModelFrontEnd::moveFocus(Control& control) {
+    return input::moveFocus(control);
+}
+
+bool ModelFrontEnd::pick(Control& combo, int row) {
+    return input::pick(combo, row);
+}
+
+bool ModelFrontEnd::typeCharacter(char character) {
+    return input::typeCharacter(*workbench_, character);
+}
+
+bool ModelFrontEnd::enter() {
+    return input::enter(*workbench_);
+}
+
+bool ModelFrontEnd::keyCode(int code) {
+    return input::keyCode(*workbench_, code);
+}
+
+bool ModelFrontEnd::chooseMenu(Control& entry) {
+    return input::choose(entry);
+}
+
+bool ModelFrontEnd::pressToolBar(const std::string& key) {
+    return input::toolBar(*workbench_, key);
+}
+
+bool ModelFrontEnd::close(Screen& screen) {
+    return input::close(screen);
+}
+
+} // namespace wb::script

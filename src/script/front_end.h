@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+
+#include "core/workbench.h"
+
+namespace wb::script {
+
+/// The user of a script: carries out what a user can do, on the model itself or on the widgets of a view. Each action
+/// gives false, and does nothing, where the user cannot reach the control.
+class FrontEnd {
+public:
+    virtual ~FrontEnd() = default;
+
+    /// Starts the program: splash and frame.
+    virtual void start() = 0;
+
+    virtual bool click(Control& control) = 0;
+    virtual bool doubleClick(Control& control) = 0;
+    virtual bool moveFocus(Control& control) = 0;
+    /// Picks a row of a combo box; the row exists.
+    virtual bool pick(Control& combo, int row) = 0;
+    /// Types a character into the control that has the focus.
+    virtual bool typeCharacter(char character) = 0;
+    virtual bool enter() = 0;
+    /// A bare key code, to the active screen.
+    virtual bool keyCode(int code) = 0;
+    virtual bool chooseMenu(Control& entry) = 0;
+    /// Presses the tool bar button of that key, which exists.
+    virtual bool pressToolBar(const std::string& key) = 0;
+    /// The window's own close button.
+    virtual bool close(Screen& screen) = 0;
+};
+
+/// Acts on the model directly, without any view.
+class ModelFrontEnd : public FrontEnd {
+public:
+    explicit ModelFrontEnd(Workbench& workbench) : workbench_(&workbench) {}
+
+    void start() override;
+    bool click(Control& control) override;
+    bool doubleClick(Control& control) override;
+    bool moveFocus(Control& control) override;
+    bool pick(Control& combo, int row) override;
+    bool typeCharacter(char character) override;
+    bool enter() override;
+    bool keyCode(int code) override;
+    bool chooseMenu(Control& entry) override;
+    bool pressToolBar(const std::string& key) override;
+    bool close(Screen& screen) override;
+
+private:
+    Workbench* workbench_;
+};
+
+} // namespace wb::script

@@ -1,0 +1,127 @@
+#include <fstream>
+#include <iterator>
+
+#include "core/text.h"
+#include "script/commands.h"
+#include "script/date_time.h"
+#include "script/digits.h"
+#include "script/reg_file.h"
+#include "script/script_error.h"
+
+namespace wb::script::commands {
+
+namespace {
+
+platform::Answer answerNamed(const std::string& name) {
+    static constexpr std::array<std::pair<std::string_view, platform::Answer>, 4> answers = {
+        {{"OK", platform::Answer::Ok},
+         {"Yes", platform::Answer::Yes},
+         {"No", platform::Answer::No},
+         {"Cancel", platform::Answer::Cancel}}};
+    for (const auto& [known, answer] : answers) {
+        if (known == name) {
+            return answer;
+        }
+    }
+    throw ScriptError("unknown answer '" + name + "'");
+}
+
+std::string contentOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::string content((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    if (!file || file.bad()) {
+        throw ScriptError(path + ": cannot be read");
+    }
+    return content;
+}
+
+} // namespace
+
+void answer(Session& session, const Arguments& arguments) {
+    for (const Argument& argument : arguments) {
+        session.platform.queueAnswer(answerNamed(argument.text));
+    }
+}
+
+void dialog(Session& session, const Arguments& arguments) {
+    const bool cancel = !arguments[0].quoted && arguments[0].text == "cancel";
+    session.platform.queueFileName(cancel ? std::nullopt : std::optional(arguments[0].text));
+}
+
+void printer(Session& session, const Arguments& arguments) {
+    const std::string& outcome = arguments[0].text;
+    if (outcome != "ok" && outcome != "cancel") {
+        throw ScriptError("a printer is 'ok' or 'cancel', not '" + outcome + "'");
+    }
+    session.platform.queuePrinter(outcome == "ok");
+}
+
+void printed(Session& session, const Arguments&) {
+    for (const std::string& text : session.platform.printedTexts()) {
+        printBlock(session, "printed", text);
+    }
+}
+
+void clock(Session& session, const Arguments& arguments) {
+    const auto dateTime = parseDateTime(arguments[0].text);
+    if (!dateTime) {
+        throw ScriptError("'" + arguments[0].text + "' is no date and time like \"2000-01-31 23:59:59\"");
+    }
+    session.platform.setClock(*dateTime);
+}
+
+void osversion(Session& session, const Arguments& arguments) {
+    const auto version = wholeNumber<int>(arguments[0].text);
+    if (!version) {
+        throw ScriptError("'" + arguments[0].text + "' is no version number");
+    }
+    session.platform.setMajorVersion(*version);
+}
+
+void reader(Session& session, const Arguments& arguments) {
+    std::string data;
+    int high = -1;
+    for (const char c : arguments[0].text) {
+        const int digit = hexDigit(c);
+        if (digit < 0 && c != ' ') {
+            throw ScriptError("'" + arguments[0].text + "' is not hexadecimal");
+        }
+        if (digit >= 0 && high < 0) {
+            high = digit;
+        } else if (digit >= 0) {
+            data += static_cast<char>(high * 16 + digit);
+            high = -1;
+        }
+    }
+    if (high >= 0) {
+        throw ScriptError("an odd number of hexadecimal digits");
+    }
+    session.platform.setReaderData(data);
+}
+
+void registry(Session& session, const Arguments& arguments) {
+    const std::string& path = arguments[0].text;
+    try {
+        const std::vector<RegistryKey> keys = parseRegistryExport(contentOf(path));
+        session.platform.registry.clear();
+        for (const RegistryKey& key : keys) {
+            session.platform.registry.addKey(key.path);
+            for (const platform::RegistryValue& value : key.values) {
+                session.platform.registry.setValue(key.path, value);
+            }
+        }
+    } catch (const ScriptError& error) {
+        if (error.line() == 0) {
+            throw;
+        }
+        throw ScriptError(path + ':' + std::to_string(error.line()) + ": " + error.what());
+    }
+}
+
+void settings(Session& session, const Arguments&) {
+    for (const auto& [name, value] : session.platform.settings) {
+        printValue(session, name, quoted(value));
+    }
+}
+
+} // namespace wb::script::commands

@@ -1,0 +1,113 @@
+#include "script/commands.h"
+#include "script/control_names.h"
+#include "script/digits.h"
+#include "script/script_error.h"
+
+namespace wb::script::commands {
+
+namespace {
+
+void refuse(const Session& session, const std::string& name) {
+    session.print("[refused] " + name);
+}
+
+/// Carries out an action on a control, if that exists.
+template <class Action>
+void act(const Session& session, const ControlName& name, Action&& action) {
+    Control* control = name.find(session.workbench);
+    if (control == nullptr || !action(*control)) {
+        refuse(session, name.full());
+    }
+}
+
+int numberIn(const Argument& argument) {
+    const auto number = wholeNumber<int>(argument.text);
+    if (!number) {
+        throw ScriptError("'" + argument.text + "' is no number");
+    }
+    return *number;
+}
+
+/// What a key would have reached.
+std::string keyTarget(const Workbench& workbench) {
+    const Control* control = workbench.focus.current();
+    return control == nullptr ? "none" : control->fullName();
+}
+
+} // namespace
+
+void menu(Session& session, const Arguments& arguments) {
+    act(session, menuEntryNamed(session.workbench, arguments[0].text),
+        [&](Control& entry) { return session.frontEnd.chooseMenu(entry); });
+}
+
+void toolbar(Session& session, const Arguments& arguments) {
+    const std::string& key = arguments[0].text;
+    if (const std::optional<ControlName> button = findToolBarButton(key)) {
+        act(session, *button, [&](const Control&) { return session.frontEnd.pressToolBar(key); });
+    }
+}
+
+void click(Session& session, const Arguments& arguments) {
+    act(session, controlNamed(session.workbench, arguments[0].text),
+        [&](Control& control) { return session.frontEnd.click(control); });
+}
+
+void dblclick(Session& session, const Arguments& arguments) {
+    act(session, controlNamed(session.workbench, arguments[0].text),
+        [&](Control& control) { return session.frontEnd.doubleClick(control); });
+}
+
+void focus(Session& session, const Arguments& arguments) {
+    act(session, controlNamed(session.workbench, arguments[0].text),
+        [&](Control& control) { return session.frontEnd.moveFocus(control); });
+}
+
+void type(Session& session, const Arguments& arguments) {
+    for (const char character : arguments[0].text) {
+        const std::string target = keyTarget(session.workbench);
+        if (!session.frontEnd.typeCharacter(character)) {
+            refuse(session, target);
+            return;
+        }
+    }
+}
+
+void enter(Session& session, const Arguments&) {
+    const std::string target = keyTarget(session.workbench);
+    if (!session.frontEnd.enter()) {
+        refuse(session, target);
+    }
+}
+
+void keyup(Session& session, const Arguments& arguments) {
+    const int code = numberIn(arguments[0]);
+    const Screen* active = session.workbench.windows.active();
+    const std::string target(active == nullptr ? "none" : active->name());
+    if (!session.frontEnd.keyCode(code)) {
+        refuse(session, target);
+    }
+}
+
+void pick(Session& session, const Arguments& arguments) {
+    const ControlName name = controlNamed(session.workbench, arguments[0].text);
+    if (name.kind != ControlKind::Combo) {
+        throw ScriptError("'" + name.full() + "' has no rows");
+    }
+    const int row = numberIn(arguments[1]);
+    act(session, name, [&](Control& combo) {
+        if (row < 0 || row >= static_cast<int>(combo.rows().size())) {
+            throw ScriptError("'" + name.full() + "' has no row " + arguments[1].text);
+        }
+        return session.frontEnd.pick(combo, row);
+    });
+}
+
+void close(Session& session, const Arguments& arguments) {
+    Screen* screen = session.workbench.loaded(screenNamed(arguments[0].text));
+    if (screen == nullptr || !session.frontEnd.close(*screen)) {
+        refuse(session, arguments[0].text);
+    }
+}
+
+} // namespace wb::script::commands
