@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "acquire/registry_search.h"
+#include "cea/definitions.h"
 #include "core/edid_image.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -98,6 +99,7 @@ void LoadStoredEdid(Workbench& workbench, std::string data) {
                 std::string text = cellTextOf(data, BlockScreen::cellCount + j);
                 workbench.frmCEA_EXT().txtEdit(j).setText(std::move(text));
             }
+            cea::BuildCEA_EXT_Definations(workbench);
         }
         workbench.CurrentFileName.clear();
         rememberChecksum(workbench);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "acquire/monitors.h"
 #include "core/text.h"
 #include "support/program.h"
@@ -69,7 +71,6 @@ TEST_F(GetEdid, TakesOneExtensionBlock) {
     std::string extension(128, '\x11');
     extension[0] = '\x40'; // no CEA timing extension: it is taken all the same
     extension[2] = '\x2B';
-    workbench.CEADtdOffset = 7;
     store(test::block0('\x04', '\x01') + extension);
     run();
     EXPECT_EQ(extensionCell(0), "40");
@@ -77,7 +78,29 @@ TEST_F(GetEdid, TakesOneExtensionBlock) {
     EXPECT_FALSE(workbench.frmCEA_EXT().shown());
     EXPECT_TRUE(workbench.frmMain().Command4.enabled());
     EXPECT_EQ(workbench.frmMain().Command4.caption(), "See Ext Block");
-    EXPECT_EQ(workbench.CEADtdOffset, 7) << "only the load from a file sets it";
+    EXPECT_EQ(workbench.CEADtdOffset, 0) << "only the load from a file sets it";
+}
+
+TEST_F(GetEdid, AnOffsetThatAFileLeftMovesTheTimings) {
+    workbench.CEADtdOffset = 7;
+    std::string extension(128, '\x11');
+    extension[0] = '\x02';
+    extension[2] = '\x04';
+    store(test::block0('\x04', '\x01') + extension);
+    run();
+    // The area at 7 of the transfer buffer, which is empty, takes the place of what was read from cell 4 on. 121 texts
+    // bring the move to cell 125, one more is passed over, and the second run from 126 on leaves the grid.
+    EXPECT_EQ(workbench.CEADtdOffset, 7);
+    EXPECT_EQ(extensionCell(3), "11");
+    EXPECT_EQ(extensionCell(4), "");
+    EXPECT_EQ(extensionCell(123), "");
+    EXPECT_EQ(extensionCell(124), "00");
+    EXPECT_EQ(extensionCell(126), "00");
+    EXPECT_EQ(extensionCell(127), "");
+    // The load step of the screen has moved its own block in the same way, from cell 0 on: there the second run starts
+    // at cell 122 and fits six texts, here at cell 126 and fits two.
+    const auto missing = std::count(program.boxes.begin(), program.boxes.end(), "Control array element does not exist");
+    EXPECT_EQ(missing, (121 - 6) + (121 - 2));
 }
 
 TEST_F(GetEdid, CutsWhatIsLongerThanTwoBlocks) {
@@ -192,6 +215,7 @@ TEST_F(GetEdid, AShortExtensionKeepsItsFirstCells) {
     run();
     EXPECT_EQ(program.takeBoxes(), Lines{"Invalid procedure call or argument"});
     EXPECT_EQ(extensionCell(2), "04");
+    EXPECT_EQ(extensionCell(3), "00") << "as the load of the screen left it";
 }
 
 TEST_F(GetEdid, MakesTheImageNamelessAndClearsTheIdentity) {

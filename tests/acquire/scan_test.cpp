@@ -82,6 +82,10 @@ struct Wait {
     std::vector<std::string> waits;
 };
 
+void PrintTo(const Wait& wait, std::ostream* out) {
+    *out << wait.what;
+}
+
 class BoxTime : public testing::TestWithParam<Wait> {};
 
 TEST_P(BoxTime, CountsInTheTenSeconds) {
@@ -102,7 +106,7 @@ TEST_P(BoxTime, CountsInTheTenSeconds) {
             waits.push_back(line);
         }
     }
-    EXPECT_EQ(waits, test.waits) << test.what;
+    EXPECT_EQ(waits, test.waits);
 }
 
 constexpr platform::DateTime noon{.year = 2001, .month = 2, .day = 3, .hour = 12};

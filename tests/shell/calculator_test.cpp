@@ -77,6 +77,13 @@ struct Sum {
     const char* current;
 };
 
+void PrintTo(const Sum& sum, std::ostream* out) {
+    for (const char* key : sum.keys) {
+        *out << key << ' ';
+    }
+    *out << "gives " << sum.current;
+}
+
 class Sums : public Calculator, public testing::WithParamInterface<Sum> {};
 
 TEST_P(Sums, AreThoseOfDoubles) {
