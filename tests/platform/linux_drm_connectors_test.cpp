@@ -1,0 +1,131 @@
+#include "platform/linux/drm_connectors.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/linux/device_tool.h"
+#include "platform/sysfs_folder.h"
+
+namespace wb::platform::linux_system {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class Connectors : public testing::Test {
+protected:
+    test::SysfsFolder sysfs;
+    DrmConnectors connectors{sysfs.root()};
+};
+
+TEST_F(Connectors, AreSortedAndNothingElse) {
+    sysfs.addConnector("card1-DP-2", "connected", "x");
+    sysfs.addConnector("card0-HDMI-A-1", "disconnected", "");
+    sysfs.write("card0-VGA-1", "status", "unknown\n");
+    sysfs.write("card0-eDP-1", "edid", "x");
+    sysfs.write("card0", "uevent", "MAJOR=226\n");
+    std::ofstream(sysfs.drm() / "version") << "drm 1.1.0\n";
+    EXPECT_EQ(connectors.names(), (Names{"card0-HDMI-A-1", "card0-VGA-1", "card0-eDP-1", "card1-DP-2"}));
+}
+
+TEST_F(Connectors, ThereAreNoneWithoutTheirFolder) {
+    EXPECT_TRUE(connectors.names().empty());
+    EXPECT_TRUE(DrmConnectors(sysfs.root() / "missing").names().empty());
+    std::ofstream(sysfs.root() / "file") << "";
+    EXPECT_TRUE(DrmConnectors(sysfs.root() / "file").names().empty());
+}
+
+TEST_F(Connectors, AreFoundInAnyLetterCaseTheExactOneFirst) {
+    sysfs.addConnector("card0-DP-1", "connected", "");
+    sysfs.addConnector("CARD0-dp-1", "connected", "");
+    EXPECT_EQ(connectors.find("card0-DP-1"), "card0-DP-1");
+    EXPECT_EQ(connectors.find("CARD0-dp-1"), "CARD0-dp-1");
+    EXPECT_EQ(connectors.find("Card0-Dp-1"), "CARD0-dp-1") << "the first by name";
+    EXPECT_EQ(connectors.find("card0-DP-2"), std::nullopt);
+    EXPECT_EQ(connectors.find(""), std::nullopt);
+}
+
+TEST_F(Connectors, AreNotFoundOutsideTheirFolder) {
+    sysfs.write("card0-DP-1", "status", "connected\n");
+    std::filesystem::create_directories(sysfs.drm() / "card0-DP-1" / "below");
+    std::ofstream(sysfs.drm() / "card0-DP-1" / "below" / "status") << "connected";
+    std::ofstream(sysfs.root() / "class" / "status") << "connected";
+    for (const char* name : {"..", ".", "card0-DP-1/below", "../drm/card0-DP-1"}) {
+        EXPECT_EQ(connectors.find(name), std::nullopt) << name;
+    }
+}
+
+TEST_F(Connectors, TellTheirStatus) {
+    sysfs.addConnector("a", "connected", "");
+    sysfs.addConnector("b", "disconnected", "");
+    sysfs.write("c", "status", "connected");
+    sysfs.write("d", "edid", "");
+    std::filesystem::create_directories(sysfs.drm() / "e" / "status");
+    EXPECT_TRUE(connectors.connected("a"));
+    EXPECT_EQ(connectors.status("b"), "disconnected");
+    EXPECT_FALSE(connectors.connected("b"));
+    EXPECT_TRUE(connectors.connected("c")) << "without a line end";
+    EXPECT_EQ(connectors.status("d"), "");
+    EXPECT_EQ(connectors.status("e"), "") << "cannot be read";
+    EXPECT_EQ(connectors.status("missing"), "");
+}
+
+TEST_F(Connectors, GiveTheirEdidUpToALimit) {
+    sysfs.addConnector("a", "connected", "12345");
+    sysfs.addConnector("b", "connected", "");
+    sysfs.write("c", "status", "connected\n");
+    std::filesystem::create_directories(sysfs.drm() / "d" / "edid");
+    EXPECT_EQ(connectors.edid("a", 100), "12345");
+    EXPECT_EQ(connectors.edid("a", 3), "123");
+    EXPECT_EQ(connectors.edid("b", 100), "");
+    EXPECT_EQ(connectors.edid("c", 100), std::nullopt);
+    EXPECT_EQ(connectors.edid("d", 100), std::nullopt) << "cannot be read";
+    EXPECT_TRUE(connectors.hasEdid("a") && connectors.hasEdid("b"));
+    EXPECT_FALSE(connectors.hasEdid("c") || connectors.hasEdid("d"));
+}
+
+TEST_F(Connectors, EndlessFilesAreNotRead) {
+    std::filesystem::create_directories(sysfs.drm() / "a");
+    std::filesystem::create_symlink("/dev/zero", sysfs.drm() / "a" / "edid");
+    std::filesystem::create_symlink("/dev/zero", sysfs.drm() / "a" / "status");
+    EXPECT_EQ(connectors.edid("a", 100), std::nullopt);
+    EXPECT_EQ(connectors.status("a"), "");
+}
+
+class Tool : public Connectors {
+protected:
+    void start(const std::string& program, const std::string& arguments) {
+        DeviceTool tool(sysfs.root());
+        static_cast<Shell&>(tool).start(
+            {.verb = "open", .program = program, .arguments = arguments, .folder = "", .hidden = true});
+    }
+};
+
+TEST_F(Tool, HasEachConnectorDetected) {
+    for (const char* arguments : {"remove monitor\\ABC1234", "remove monitor\\", "rescan"}) {
+        sysfs.addConnector("a", "connected", "old");
+        sysfs.addConnector("b", "disconnected", "");
+        start("devcon.exe", arguments);
+        EXPECT_EQ(sysfs.read("a", "status"), "detect") << arguments;
+        EXPECT_EQ(sysfs.read("b", "status"), "detect") << arguments;
+        EXPECT_EQ(sysfs.read("a", "edid"), "old");
+    }
+}
+
+TEST_F(Tool, DoesNothingElse) {
+    sysfs.addConnector("a", "connected", "");
+    start("devcon.exe", "status *");
+    start("devcon.exe", "");
+    start("other.exe", "rescan");
+    EXPECT_EQ(sysfs.read("a", "status"), "connected\n");
+}
+
+TEST_F(Tool, PassesOverWhatCannotBeWritten) {
+    sysfs.write("a", "edid", "");
+    std::filesystem::create_directories(sysfs.drm() / "b" / "status");
+    sysfs.addConnector("c", "connected", "");
+    start("devcon.exe", "rescan");
+    EXPECT_FALSE(std::filesystem::exists(sysfs.drm() / "a" / "status")) << "nothing is created";
+    EXPECT_EQ(sysfs.read("c", "status"), "detect");
+}
+
+} // namespace
+} // namespace wb::platform::linux_system
