@@ -5,6 +5,7 @@
 #include "core/edid_image.h"
 #include "core/numbers.h"
 #include "core/text.h"
+#include "report/detailed_timing_layout.h"
 #include "report/monitor_descriptor.h"
 #include "report/report_lines.h"
 
@@ -19,23 +20,6 @@ struct Field {
     int lowCell, lowMask, lowDivisor;
     std::string_view words;
     std::string_view unit;
-};
-
-enum FieldIndex {
-    PixelClock,
-    HActive,
-    HBlanking,
-    VActive,
-    VBlanking,
-    HSyncOffset,
-    HSyncWidth,
-    VSyncOffset,
-    VSyncWidth,
-    HBorder,
-    VBorder,
-    HImageSize,
-    VImageSize,
-    fieldCount
 };
 
 constexpr std::array<Field, fieldCount> fields = {{
@@ -169,7 +153,7 @@ private:
         const std::string words(field.words);
         const std::string amount = number + std::string(field.unit);
         screen_.DT(i).setCaption(words + " - " + amount);
-        fieldReports_[static_cast<std::size_t>(i)] = words + ": " + amount;
+        texts_.fields[static_cast<std::size_t>(i)] = words + ": " + amount;
         keep(i, value, number);
     }
 
@@ -180,7 +164,7 @@ private:
                 break;
             case HActive:
                 hTotal_ = value;
-                hText_ = number;
+                texts_.width = number;
                 // Seen only if the run fails before the report is complete.
                 reportText() += line("Horizontal:") + line();
                 break;
@@ -189,7 +173,7 @@ private:
                 break;
             case VActive:
                 vTotal_ = value;
-                vText_ = scan_ == "i" ? plainDecimal(2 * value) : number;
+                texts_.height = texts_.scan == "i" ? plainDecimal(2 * value) : number;
                 break;
             case VBlanking:
                 vTotal_ += value;
@@ -203,15 +187,15 @@ private:
         flags_ = cellValue(flagCell);
         const bool interlaced = (flags_ & 128) == 128;
         screen_.DT1.setValue(interlaced ? 1 : 0);
-        refresh_ = interlaced ? "Refreshed Mode: Interlaced" : "Refreshed Mode: Non-Interlaced";
+        texts_.refresh = interlaced ? "Refreshed Mode: Interlaced" : "Refreshed Mode: Non-Interlaced";
         if (rules_.titleTellsScan) {
-            scan_ = interlaced ? "i" : "p";
+            texts_.scan = interlaced ? "i" : "p";
         }
     }
 
     void showNormalDisplay() {
         screen_.frmStereo.setCaption(std::string(normalDisplay));
-        stereo_ = normalDisplay;
+        texts_.stereo = normalDisplay;
     }
 
     void convertStereo() {
@@ -219,7 +203,7 @@ private:
             screen_.DTStereo(i).setValue(0);
         }
         screen_.frmStereo.setCaption(std::string(stereoDisplay));
-        stereo_ = stereoDisplay;
+        texts_.stereo = stereoDisplay;
         if (rules_.testsStereoDigit) {
             const std::string digit = leftPart(screen_.txtEdit(base_ + flagCell).text(), 1);
             if (middlePart(HexToBinaryText(digit), 2, 2) == "00") {
@@ -253,13 +237,13 @@ private:
         // A change of the check decodes the block inside this run, so the words below come from the controls.
         screen_.SyncSerrate.setValue(words.serrate);
         if (kind == separateSync) {
-            syncText_ = "Digital Separate, " + screen_.SyncLine.caption() + " " + screen_.VSyncLine.caption();
+            texts_.sync = "Digital Separate, " + screen_.SyncLine.caption() + " " + screen_.VSyncLine.caption();
             screen_.VSyncLine.setVisible(true);
             screen_.SyncSerrate.setValue(0);
             screen_.SyncSerrate.setVisible(false);
         } else {
             const std::size_t serrated = screen_.SyncSerrate.value() == 1 ? 1 : 0;
-            syncText_ =
+            texts_.sync =
                 std::string(compositeWords[static_cast<std::size_t>(kind)][serrated]) + screen_.SyncLine.caption();
         }
     }
@@ -278,37 +262,11 @@ private:
         const std::string vertical = formatNumber(1 / (vTotal_ * lineTime) * 1000000, "0.00") + " Hz";
         screen_.Freq(0).setCaption("Horizontal - " + horizontal);
         screen_.Freq(1).setCaption("Vertical - " + vertical);
-        hReport_ = "Frequency: " + horizontal;
-        vReport_ = "Frequency: " + vertical;
+        texts_.horizontalRate = "Frequency: " + horizontal;
+        texts_.verticalRate = "Frequency: " + vertical;
     }
 
-    const std::string& fieldReport(FieldIndex i) const { return fieldReports_[i]; }
-
-    static std::string twoColumns(const std::string& left, const std::string& right) {
-        return line(IndentText(PadRight(left, 34) + right, reportIndent));
-    }
-
-    std::string titlePart() const {
-        return centredLine(hText_ + "x" + vText_ + scan_ + "  " + fieldReport(PixelClock)) + ruleLine() +
-               line(IndentText(
-                   "Horizontal " + PadRight(fieldReport(HImageSize), 23) + "Vertical " + fieldReport(VImageSize),
-                   reportIndent)) +
-               twoColumns(refresh_, stereo_) + line();
-    }
-
-    std::string horizontalPart() const {
-        return line("Horizontal:") + twoColumns(fieldReport(HActive), fieldReport(HBlanking)) +
-               twoColumns(fieldReport(HSyncOffset), fieldReport(HSyncWidth)) +
-               twoColumns(fieldReport(HBorder), hReport_) + line();
-    }
-
-    std::string verticalPart() const {
-        return line("Vertical:") + twoColumns(fieldReport(VActive), fieldReport(VBlanking)) +
-               twoColumns(fieldReport(VSyncOffset), fieldReport(VSyncWidth)) +
-               twoColumns(fieldReport(VBorder), vReport_) + line();
-    }
-
-    void writeReport() { reportText() = titlePart() + horizontalPart() + verticalPart() + line(syncText_) + line(); }
+    void writeReport() { reportText() = timingReport(texts_); }
 
     void finish() {
         screen_.InFocusDispatch = flagFalse;
@@ -332,8 +290,7 @@ private:
     double pixelMHz_ = 0;
     double hTotal_ = 0; ///< pixels of a line
     double vTotal_ = 0; ///< lines of a frame
-    std::array<std::string, fieldCount> fieldReports_;
-    std::string hText_, vText_, scan_, refresh_, stereo_, syncText_, hReport_, vReport_;
+    TimingTexts texts_;
 };
 
 constexpr DetailedTimingRules block0Rules = {

@@ -1,0 +1,95 @@
+#include "report/show_report.h"
+
+#include "block0_fixture.h"
+
+namespace wb::report {
+namespace {
+
+class Show : public Block0 {
+protected:
+    Show() { workbench.windows.show(screen); }
+    Control& document() { return workbench.frmDocument().rtftext; }
+    Lines windowNames() {
+        Lines names;
+        for (const Screen* window : workbench.windows.children()) {
+            names.emplace_back(window->name());
+        }
+        return names;
+    }
+};
+
+TEST_F(Show, PutsTheReportIntoTheWindow) {
+    ShowReport(workbench, false);
+    EXPECT_EQ(workbench.DocumentOpen, flagTrue);
+    EXPECT_EQ(windowNames(), (Lines{"frmDocument", "frmEDID"}));
+    EXPECT_EQ(workbench.focus.current(), &document());
+    EXPECT_TRUE(document().locked());
+    EXPECT_EQ(document().text().substr(0, 6), "\r\n\r\n\r\n");
+    EXPECT_NE(document().text().find("(38-53)  Standard Timing Identification:\r\n\r\n  (126)    (127)  "),
+              std::string::npos);
+    EXPECT_EQ(document().text().find("END REPORT"), std::string::npos);
+    EXPECT_EQ(workbench.loaded(ScreenId::CeaExt), nullptr);
+}
+
+TEST_F(Show, ReplacesTheTextOfAnOpenWindow) {
+    ShowReport(workbench, false);
+    const std::string first = document().text();
+    set(0, {"AB"});
+    workbench.focus.moveTo(screen);
+    ShowReport(workbench, false);
+    EXPECT_NE(document().text(), first);
+    EXPECT_EQ(document().text().size(), first.size());
+    EXPECT_EQ(workbench.focus.current(), &document());
+}
+
+TEST_F(Show, DoesNothingWithoutAnImage) {
+    workbench.EDIDLoaded = flagFalse;
+    workbench.StandardTimingText.create(30);
+    ShowReport(workbench, false);
+    EXPECT_EQ(workbench.loaded(ScreenId::Document), nullptr);
+    EXPECT_EQ(workbench.ReportBlock0Lines.size(), 0);
+    EXPECT_TRUE(boxes().empty());
+}
+
+TEST_F(Show, LeavesTheModifiedFlagAlone) {
+    workbench.EDIDModified = flagTrue;
+    ShowReport(workbench, false);
+    EXPECT_EQ(workbench.EDIDModified, flagTrue);
+}
+
+TEST_F(Show, ABuildThatFailsDoesSoInEachOfTheFivePasses) {
+    workbench.StandardTimingText.create(30);
+    ShowReport(workbench, false);
+    EXPECT_EQ(boxes(), Lines(5, "Subscript out of range"));
+    EXPECT_NE(document().text().find("Standard Timing Identification:\r\n         \r\n"), std::string::npos);
+    EXPECT_EQ(document().text().find("(126)"), std::string::npos) << "it runs to the end of the array";
+}
+
+TEST_F(Show, HiddenCreatesTheWindowWithoutShowingIt) {
+    workbench.windows.show(workbench.frmHexCalculator());
+    int fired = 0;
+    std::function<void()> again = [&] {
+        ++fired;
+        program.platform.services().eventLoop.startTimer(0, again);
+    };
+    again();
+    ShowReport(workbench, true);
+    EXPECT_EQ(fired, 3) << "pending events ran twice";
+    EXPECT_EQ(workbench.DocumentOpen, flagTrue);
+    EXPECT_EQ(windowNames(), (Lines{"frmEDID", "frmHexCalculator"}));
+    EXPECT_FALSE(document().locked());
+    EXPECT_NE(document().text().find("EDID Block 0"), std::string::npos);
+    EXPECT_NE(workbench.loaded(ScreenId::CeaExt), nullptr) << "brought to the front, and so touched";
+}
+
+TEST_F(Show, HiddenMakesAnOpenWindowWritable) {
+    ShowReport(workbench, false);
+    workbench.focus.moveTo(screen);
+    ShowReport(workbench, true);
+    EXPECT_FALSE(document().locked());
+    EXPECT_NE(workbench.focus.current(), &document());
+    EXPECT_EQ(workbench.loaded(ScreenId::CeaExt), nullptr);
+}
+
+} // namespace
+} // namespace wb::report
