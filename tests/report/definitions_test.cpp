@@ -88,6 +88,34 @@ TEST_F(Definitions, AFailedDecoderLetsTheNextOneRun) {
     EXPECT_EQ(workbench.ExtensionFlagText, "No Extension EDID Block(s)\r\n");
 }
 
+// All options and checks change, so every one of them raises its click.
+TEST_F(Definitions, SettingTheControlsChangesNoCell) {
+    const std::vector<std::string_view> cells = {"00", "FF", "FF", "FF", "FF", "FF", "FF", "00", "21", "96", "41",
+                                                 "42", "01", "02", "03", "04", "07", "0D", "01", "03", "7F", "34",
+                                                 "20", "78", "FF", "E4", "1B", "08", "10", "18", "20", "28", "30",
+                                                 "38", "40", "FF", "FF", "80", "81", "80", "01", "01", "D1", "C0"};
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        set(static_cast<int>(i), {cells[i]});
+    }
+    set(54,
+        {"02", "3A", "80", "18", "71", "38", "2D", "40", "58", "2C", "45", "00", "09", "25", "21", "00", "00", "FD"});
+    set(72, {"00", "00", "00", "FA", "00", "81", "C0"});
+    set(108, {"01", "00", "00", "00", "00", "C0"});
+    std::string before;
+    for (int i = 0; i < 128; ++i) {
+        before += cell(i);
+    }
+    workbench.windows.show(screen);
+    BuildEDIDDefinations(workbench);
+    std::string after;
+    for (int i = 0; i < 128; ++i) {
+        after += cell(i);
+    }
+    EXPECT_EQ(after, before);
+    EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.txtEdit(0)");
+    EXPECT_TRUE(boxes().empty());
+}
+
 TEST_F(Definitions, TheLastDecodersFailurePassesOn) {
     set(126, {"ZZ"});
     EXPECT_THROW(BuildEDIDDefinations(workbench), Failure);

@@ -30,6 +30,11 @@ protected:
         workbench.ExtDetailedBlockText.create(7);
         workbench.ExtDetailedBlockNote.create(13);
         select(0, 40);
+        // The load step has decoded the empty block.
+        for (int i = 0; i <= 6; ++i) {
+            screen.DTStereo(i).changeValue(0);
+        }
+        boxes();
     }
     void select(int number, int base) {
         screen.CurrentBlockNumber = static_cast<std::int16_t>(number);

@@ -226,6 +226,28 @@ TEST_F(DetailedTiming, TheVerticalCaptionKeepsItsTextWhereTheTableHasNone) {
     EXPECT_EQ(screen.VSyncLine.caption(), "Vertical Polarity (-)");
 }
 
+// The click of the check tests no flag: it writes bit 2 of the flags and decodes the block inside the run.
+TEST_F(DetailedTiming, ASeparateSyncAfterASerratedOneLosesItsVerticalPolarity) {
+    decodeFlags("04");
+    EXPECT_EQ(screen.SyncSerrate.value(), 1);
+    decodeFlags("1E");
+    EXPECT_EQ(cell(71), "1A") << "also while editing is off";
+    EXPECT_EQ(screen.SyncSerrate.value(), 0);
+    EXPECT_EQ(screen.SyncLine.caption(), "Horizontal Polarity (+)");
+    EXPECT_EQ(screen.VSyncLine.caption(), "Vertical Polarity (-)");
+    EXPECT_EQ(reportLine(16), "Digital Separate, Horizontal Polarity (+) Vertical Polarity (-)");
+    EXPECT_TRUE(screen.VSyncLine.ownVisible());
+    EXPECT_FALSE(screen.SyncSerrate.ownVisible());
+    EXPECT_EQ(screen.InFocusDispatch, flagFalse);
+}
+
+TEST_F(DetailedTiming, ASerratedSyncKeepsItsBitWhenItsCheckIsSet) {
+    decodeFlags("18");
+    decodeFlags("16");
+    EXPECT_EQ(cell(71), "16");
+    EXPECT_EQ(reportLine(16), "Digital Composite (Serrate) Composite Polarity (+)");
+}
+
 TEST_F(DetailedTiming, ThreeZeroCellsAreADescriptorByTheirText) {
     set(57, {"FF", "00", "41", "0A"});
     screen.DT(0).setCaption("before");

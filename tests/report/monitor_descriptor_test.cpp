@@ -31,8 +31,9 @@ struct TagCase {
 class DescriptorTag : public Descriptor, public testing::WithParamInterface<TagCase> {};
 
 TEST_P(DescriptorTag, HasItsOptionAndHeading) {
+    // A colour point moves the focus.
+    workbench.windows.show(screen);
     screen.Hints(11).setVisible(true);
-    workbench.windows.show(screen); // a colour point moves the focus
     screen.Hints(11).setEnabled(true);
     decode(GetParam().tag, {"41", "0A"});
     EXPECT_EQ(screen.DTa.firstSelected(), GetParam().option);
@@ -261,6 +262,28 @@ TEST_F(RangeLimits, TheSeekGoesToTheInputBoxOfTheFormula) {
     decode("FD", {"00", "00", "00", "00", "00", "02", "00"});
     EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.DTaInput");
     EXPECT_TRUE(boxes().empty());
+}
+
+// The click of the check tests no flag but that of editing.
+TEST_F(RangeLimits, SettingTheFormulaCheckWritesCellsWhileEditing) {
+    workbench.ModifyEDIDOn = flagTrue;
+    decode("FD", {"38", "4B", "1E", "53", "0F", "03", "11", "22"});
+    EXPECT_EQ(cell(64) + cell(65) + cell(66), "020022");
+    EXPECT_EQ(screen.S_GTF(0).caption(), "Start Hor Freq - 68 KHz");
+    set(64, {"00", "11", "22", "33", "44", "55", "66", "77"});
+    ConvertDetailedTiminga(workbench);
+    EXPECT_EQ(screen.DTAGTF.value(), 0);
+    std::string cells;
+    for (int i = 64; i <= 71; ++i) {
+        cells += cell(i);
+    }
+    EXPECT_EQ(cells, "000A202020202020");
+    EXPECT_EQ(screen.InFocusDispatch, flagFalse);
+}
+
+TEST_F(RangeLimits, SettingTheFormulaCheckWritesNothingOtherwise) {
+    decode("FD", {"38", "4B", "1E", "53", "0F", "03", "11", "22"});
+    EXPECT_EQ(cell(64) + cell(65) + cell(66), "031122");
 }
 
 class ColorPoint : public Descriptor {
