@@ -65,6 +65,60 @@ TEST_F(Show, ABuildThatFailsDoesSoInEachOfTheFivePasses) {
     EXPECT_EQ(document().text().find("(126)"), std::string::npos) << "it runs to the end of the array";
 }
 
+class ShowWithExtension : public Show {
+protected:
+    ShowWithExtension() {
+        workbench.frmCEA_EXT().txtEdit(0).setText("F0");
+        workbench.ExtDetailedBlockText.create(7);
+        workbench.ExtDetailedBlockText(0) = "A";
+        workbench.ExtDtdStart = 100;
+        workbench.ExtDtdSlotCount = 0;
+        workbench.ExtDtdOffsetText = "100";
+        for (std::int16_t* start : {&workbench.VideoBlockStart, &workbench.AudioBlockStart,
+                                    &workbench.SpeakerBlockStart, &workbench.VendorBlockStart}) {
+            *start = 0;
+        }
+    }
+    bool showsExtensionWith(std::string_view count) {
+        set(126, {count});
+        ShowReport(workbench, false);
+        return document().text().find("EDID Block 1, Bytes 128-255\r\n") != std::string::npos;
+    }
+};
+
+TEST_F(ShowWithExtension, TheCountIsReadAsADecimalNumber) {
+    EXPECT_FALSE(showsExtensionWith("00"));
+    EXPECT_TRUE(showsExtensionWith("01"));
+    EXPECT_FALSE(showsExtensionWith("0A"));
+    EXPECT_TRUE(showsExtensionWith("10"));
+    EXPECT_FALSE(showsExtensionWith("FF"));
+}
+
+TEST_F(ShowWithExtension, FiveBuildsMoveThePlaceOfTheTimings) {
+    EXPECT_TRUE(showsExtensionWith("01"));
+    EXPECT_EQ(workbench.ExtDtdStart, 120) << "one and three for the printed block, five times";
+    EXPECT_EQ(workbench.ReportExtLines(116), "");
+    EXPECT_EQ(workbench.ReportExtLines(119).substr(0, 9), "(100-117)");
+    EXPECT_EQ(workbench.ReportExtLines(123), "END REPORT");
+}
+
+TEST_F(ShowWithExtension, BlockZeroComesFirst) {
+    ASSERT_TRUE(showsExtensionWith("01"));
+    const std::string& text = document().text();
+    EXPECT_EQ(text.find("EDID Block 0, Bytes 0-127"), text.rfind("EDID Block 0, Bytes 0-127"));
+    EXPECT_LT(text.find("  (127)  "), text.find("EDID Block 1"));
+    EXPECT_EQ(text.find("END REPORT"), std::string::npos);
+}
+
+TEST_F(Show, ACellThatCallsTheFocusBackDoesSoAtEachAttempt) {
+    set(0, {"ABC"});
+    ShowReport(workbench, false);
+    // Showing the window, then giving it the focus at the end of each pass.
+    EXPECT_EQ(boxes(), Lines(6, "Please Make Your Values In Hex"));
+    EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.txtEdit(0)");
+    EXPECT_NE(document().text().find("0    |ABC 00"), std::string::npos);
+}
+
 TEST_F(Show, HiddenCreatesTheWindowWithoutShowingIt) {
     workbench.windows.show(workbench.frmHexCalculator());
     int fired = 0;
