@@ -7,6 +7,7 @@
 
 #include "platform/headless/headless_platform.h"
 #include "platform/linux/system_clock.h"
+#include "support/german_locale.h"
 
 /// What holds for every clock.
 namespace wb::platform {
@@ -77,6 +78,18 @@ TEST_P(EveryClock, NamesDaysAndMonths) {
     EXPECT_EQ(clock->dayName({.year = 2000, .month = 2, .day = 29}), "Tue");
     EXPECT_EQ(clock->monthName({.year = 2000, .month = 1, .day = 1}), "Jan");
     EXPECT_EQ(clock->monthName({.year = 2000, .month = 12, .day = 1}), "Dec");
+    unsetenv("LC_ALL");
+}
+
+TEST(SystemClock, NamesAreThoseOfTheUsersLocaleInTheCodePage) {
+    const test::GermanLocale german;
+    ASSERT_TRUE(german.available()) << "the package locales is missing";
+    setenv("LC_ALL", test::GermanLocale::name, 1);
+    const linux_system::SystemClock clock;
+    EXPECT_EQ(clock.monthName({.year = 2000, .month = 3, .day = 1}), "M\xE4r");
+    EXPECT_EQ(clock.dayName({.year = 2000, .month = 2, .day = 29}), "Di");
+    setenv("LC_ALL", "no such locale", 1);
+    EXPECT_EQ(clock.monthName({.year = 2000, .month = 3, .day = 1}), "Mar");
     unsetenv("LC_ALL");
 }
 

@@ -2,38 +2,27 @@
 
 #include <clocale>
 #include <cstdio>
-#include <cstdlib>
 
 #include "core/numbers.h"
 #include "report/show_report.h"
+#include "support/german_locale.h"
 #include "support/program.h"
-#include "support/temporary_folder.h"
 
 namespace wb {
 namespace {
 
-/// Makes a locale with a decimal comma the process's own, from the system's source files.
+/// A locale with a decimal comma, the process's own while the object lives.
 class CommaLocale {
 public:
-    CommaLocale() {
-        const std::string path = folder_.file("de_DE.UTF-8");
-        const std::string command = "localedef --no-archive -i de_DE -f UTF-8 '" + path + "' 2>/dev/null";
-        if (std::system(command.c_str()) == 0) {
-            setenv("LOCPATH", folder_.file("").c_str(), 1);
-            active_ = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
-        }
-    }
+    CommaLocale() : active_(german_.available() && std::setlocale(LC_ALL, test::GermanLocale::name) != nullptr) {}
     CommaLocale(const CommaLocale&) = delete;
     CommaLocale& operator=(const CommaLocale&) = delete;
-    ~CommaLocale() {
-        std::setlocale(LC_ALL, "C");
-        unsetenv("LOCPATH");
-    }
+    ~CommaLocale() { std::setlocale(LC_ALL, "C"); }
     bool active() const { return active_; }
 
 private:
-    test::TemporaryFolder folder_;
-    bool active_ = false;
+    test::GermanLocale german_;
+    bool active_;
 };
 
 std::string reportOfANewImage() {
