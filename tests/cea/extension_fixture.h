@@ -1,0 +1,107 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "files/image_loading.h"
+#include "support/program.h"
+
+namespace wb::test {
+
+/// A started program with the extension screen in hand.
+class ExtensionTest : public testing::Test {
+protected:
+    ExtensionTest() { screen(); }
+
+    /// Loads an extension block as opening a file does; the cells behind the given ones are "00".
+    void load(const std::vector<std::string>& bytes) {
+        for (int i = 0; i < BlockScreen::cellCount; ++i) {
+            const auto place = static_cast<std::size_t>(i);
+            wb.EDIDCells(BlockScreen::cellCount + i) = place < bytes.size() ? bytes[place] : "00";
+        }
+        files::LoadExtensionCells(wb);
+    }
+    /// The same with a data block collection between a version 3 header and the timings at `offset`.
+    void loadCollection(const std::vector<std::string>& collection, const std::string& offset = "20") {
+        std::vector<std::string> bytes = {"02", "03", offset, "00"};
+        bytes.insert(bytes.end(), collection.begin(), collection.end());
+        load(bytes);
+    }
+    FrmCeaExt& screen() { return wb.frmCEA_EXT(); }
+    std::string cell(int index) { return screen().txtEdit(index).text(); }
+    void setCell(int index, const std::string& text) { screen().txtEdit(index).setText(text); }
+    void modify(bool seek = false) {
+        wb.ModifyEDIDOn = flagTrue;
+        wb.AutoCellSeekOn = flag(seek);
+    }
+    void focusOn(int index) {
+        wb.runAction([&] { wb.focus.moveTo(screen().txtEdit(index)); });
+    }
+    /// A text entered into a box, confirmed by Enter.
+    void enter(Control& box, const std::string& text) {
+        wb.runAction([&] {
+            box.setText(text);
+            box.handlers().keyUp(wb, box.index(), 13);
+        });
+    }
+    /// The user picks a row of a list, sets an option or changes a check, where the focus stays unseen.
+    static void choose(Control& control, int value) {
+        control.changeValue(value);
+        control.raiseClick();
+    }
+    void clearColours() {
+        for (int i = 0; i < BlockScreen::cellCount; ++i) {
+            screen().txtEdit(i).setBackColor(CellColour::Window);
+        }
+    }
+    std::vector<int> cellsOfColour(CellColour colour) {
+        std::vector<int> cells;
+        for (int i = 0; i < BlockScreen::cellCount; ++i) {
+            if (screen().txtEdit(i).backColor() == colour) {
+                cells.push_back(i);
+            }
+        }
+        return cells;
+    }
+    std::vector<int> panels() {
+        std::vector<int> shown;
+        for (int i = 0; i < screen().panelCount(); ++i) {
+            if (screen().Hints(i).ownVisible()) {
+                shown.push_back(i);
+            }
+        }
+        return shown;
+    }
+    std::vector<std::string> boxes() { return program.takeBoxes(); }
+
+    Program program;
+    Workbench& wb = program.workbench;
+};
+
+inline const std::string invalidCall = "Invalid procedure call or argument";
+inline const std::string noElement = "Control array element does not exist";
+
+/// The selected members of an array of options or checks.
+inline std::vector<int> selectedOf(ControlArray& controls) {
+    std::vector<int> selected;
+    for (int i = controls.first(); i <= controls.last(); ++i) {
+        if (controls(i).selected()) {
+            selected.push_back(i);
+        }
+    }
+    return selected;
+}
+
+/// A test name for a cell's text.
+inline std::string cellName(const std::string& text) {
+    return "Cell" + (text.empty() ? "Empty" : text);
+}
+
+inline std::vector<int> cellRange(int first, int last) {
+    std::vector<int> cells;
+    for (int i = first; i <= last; ++i) {
+        cells.push_back(i);
+    }
+    return cells;
+}
+
+} // namespace wb::test
