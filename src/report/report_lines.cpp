@@ -1,6 +1,7 @@
 #include "report/report_lines.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/numbers.h"
 #include "core/text.h"
@@ -10,6 +11,7 @@ namespace wb::report {
 namespace {
 
 constexpr int columns = 10;
+constexpr int cellWidth = 4;
 
 std::string twoDigits(int number) {
     return formatNumber(number, "00");
@@ -25,37 +27,40 @@ std::string dateText(const platform::Clock& clock, const platform::DateTime& now
 }
 
 std::string columnHead() {
-    std::string head = IndentText("", 6);
+    std::string head(6, ' ');
     for (int column = 0; column < columns; ++column) {
-        head += PadRight(std::to_string(column), 4);
+        head += PadRight(std::to_string(column), cellWidth);
     }
-    return line(head);
+    return line(std::move(head));
 }
 
 std::string dumpRow(BlockScreen& screen, int row) {
     const int first = row * columns;
     const int end = std::min(first + columns, BlockScreen::cellCount);
-    std::string text = PadRight(std::to_string(first), 3) + "  |";
+    std::string text;
+    text.reserve(6 + columns * cellWidth + crLf.size());
+    text += PadRight(std::to_string(first), 3);
+    text += "  |";
     for (int cell = first; cell < end; ++cell) {
-        text += PadRight(screen.txtEdit(cell).text(), 4);
+        text += PadRight(screen.txtEdit(cell).text(), cellWidth);
     }
-    return line(text);
+    return line(std::move(text));
 }
 
 } // namespace
 
-std::string line(std::string_view text) {
-    std::string result(text);
-    result += crLf;
-    return result;
+std::string line(std::string text) {
+    text += crLf;
+    return text;
 }
 
 std::string ruleLine() {
-    return line(RepeatText("_", reportWidth));
+    static const std::string rule = line(std::string(reportWidth, '_'));
+    return rule;
 }
 
 std::string centredLine(std::string_view text) {
-    return CenterText(line(text), reportWidth);
+    return CenterText(line(std::string(text)), reportWidth);
 }
 
 std::string placeTag(std::string_view place) {
@@ -83,15 +88,21 @@ void putHead(Workbench& workbench, TextArray& lines, int first) {
 void putDump(BlockScreen& screen, TextArray& lines, int first) {
     constexpr int rows = (BlockScreen::cellCount + columns - 1) / columns;
     lines(first) = columnHead();
-    lines(first + 1) = line(IndentText(RepeatText("_", 4 * columns), 6));
+    lines(first + 1) = line(IndentText(std::string(cellWidth * columns, '_'), 6));
     for (int row = 0; row < rows; ++row) {
         lines(first + 2 + row) = dumpRow(screen, row);
     }
 }
 
 std::string joinedEntries(const TextArray& lines) {
+    int end = 0;
+    std::size_t size = 0;
+    for (; end < lines.size() && lines(end) != endOfReport; ++end) {
+        size += lines(end).size();
+    }
     std::string text;
-    for (int entry = 0; entry < lines.size() && lines(entry) != endOfReport; ++entry) {
+    text.reserve(size);
+    for (int entry = 0; entry < end; ++entry) {
         text += lines(entry);
     }
     return text;

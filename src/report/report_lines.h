@@ -15,7 +15,7 @@ inline constexpr int reportEntries = 301; ///< of a report buffer, index 0 to 30
 inline constexpr std::string_view endOfReport = "END REPORT";
 
 /// `text` and a line end.
-std::string line(std::string_view text = {});
+std::string line(std::string text = {});
 /// A line of underscores over the whole width.
 std::string ruleLine();
 /// `text` and its line end, centred. A text that fills the width is lost: the result is empty.

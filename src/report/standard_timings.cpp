@@ -40,7 +40,7 @@ std::string standardTimingText(int sizeByte, int rateByte) {
         return "Not Used";
     }
     const Aspect& aspect = aspects[static_cast<std::size_t>(aspectCode(rateByte))];
-    const int height = roundToInt16(int16From(width * aspect.factor) / aspect.divisor);
+    const int height = roundToInt16(int16From(std::int64_t{width} * aspect.factor) / aspect.divisor);
     const int rate = (rateByte & 63) + 60;
     return formatNumber(width, "####") + " X " + formatNumber(height, "####") + " @" + formatNumber(rate, "##") + "Hz";
 }
