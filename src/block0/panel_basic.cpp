@@ -29,11 +29,15 @@ void whenUserActs(Workbench& workbench, Body&& body) {
     });
 }
 
+void decodeBits(Workbench& workbench, int cell) {
+    decodeFieldOf(workbench, cell);
+    RecalcBlock0Checksum(workbench);
+}
+
 /// A bit control: leaves the bits of `keep`, adds `bits`, and decodes the byte.
 void changeBits(Workbench& workbench, int cell, int keep, int bits) {
     replaceBits(workbench.frmEDID(), cell, keep, bits);
-    decodeFieldOf(workbench, cell);
-    RecalcBlock0Checksum(workbench);
+    decodeBits(workbench, cell);
 }
 
 void openValue(Workbench& workbench, int index) {
@@ -135,7 +139,10 @@ void BasicInput_KeyUp(Workbench& workbench, int, int keyCode) {
 }
 
 void VideoMode_Click(Workbench& workbench, int index) {
-    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, videoCell, 0, index == 1 ? 128 : 0); });
+    whenUserActs(workbench, [&](FrmEdid& screen) {
+        screen.txtEdit(videoCell).setText(index == 1 ? "80" : "00"); // whatever the cell held
+        decodeBits(workbench, videoCell);
+    });
 }
 
 void Signal_Click(Workbench& workbench, int index) {

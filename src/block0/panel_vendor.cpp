@@ -49,8 +49,9 @@ void encodeSerialNumber(Workbench& workbench, const std::string& entry) {
     FrmEdid& screen = workbench.frmEDID();
     std::string digits = hexadecimal32(roundToInt32(Value(workbench, entry)));
     digits.insert(0, 8 - digits.size(), '0');
-    for (int i = 0; i < 4; ++i) {
-        screen.txtEdit(15 - i).setText(digits.substr(static_cast<std::size_t>(2 * i), 2));
+    int cell = 15; // the first digits are the highest and stand in the last cell
+    for (std::size_t position = 0; position < digits.size(); position += 2) {
+        screen.txtEdit(cell--).setText(digits.substr(position, 2));
     }
     report::ConvertSerialNumber(workbench);
 }
@@ -108,7 +109,7 @@ int activeField(FrmEdid& screen) {
 
 /// Passes a key from `first` to `last` by its code; tells about any other and drops it.
 void filterKey(Workbench& workbench, int& keyAscii, char first, char last, const char* message) {
-    const char key = upperCase(static_cast<char>(keyAscii));
+    const int key = static_cast<unsigned char>(upperCase(static_cast<char>(keyAscii)));
     if (key >= first && key <= last) {
         keyAscii = key;
     } else {

@@ -146,6 +146,15 @@ TEST_F(Basic, ABitClickDecodesTheField) {
     EXPECT_EQ(workbench.PowerFeatureText, "Suspend");
 }
 
+TEST_F(Basic, TheVideoModeReplacesABadCell) {
+    program.setCells(20, {"ZZ"});
+    visit(20);
+    program.takeBoxes();
+    click(screen().VideoMode(1));
+    EXPECT_EQ(cell(20), "80");
+    EXPECT_TRUE(program.takeBoxes().empty());
+}
+
 TEST_F(Basic, AFlagLeftByAFailureStopsTheHandlers) {
     visit(20);
     program.type("ZZ"); // the decoder fails after it has raised the flag
