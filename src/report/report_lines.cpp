@@ -88,7 +88,7 @@ void putHead(Workbench& workbench, TextArray& lines, int first) {
 void putDump(BlockScreen& screen, TextArray& lines, int first) {
     constexpr int rows = (BlockScreen::cellCount + columns - 1) / columns;
     lines(first) = columnHead();
-    lines(first + 1) = line(IndentText(std::string(cellWidth * columns, '_'), 6));
+    lines(first + 1) = line(IndentText(RepeatText("_", cellWidth * columns), 6));
     for (int row = 0; row < rows; ++row) {
         lines(first + 2 + row) = dumpRow(screen, row);
     }
