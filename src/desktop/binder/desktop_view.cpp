@@ -1,0 +1,156 @@
+#include "desktop/binder/desktop_view.h"
+
+#include <QApplication>
+#include <QMdiArea>
+
+#include "desktop/windows/child_view.h"
+#include "desktop/windows/modal_view.h"
+#include "desktop/windows/splash_view.h"
+
+namespace wb::desktop {
+
+DesktopView::DesktopView(Workbench& workbench, ModelGate& gate)
+    : workbench_(workbench),
+      gate_(gate),
+      focus_(workbench, gate, [this](const Control& control) { return viewOf(control); }) {
+    workbench_.view = this;
+    gate_.setObserver(this);
+    makeMissing();
+}
+
+DesktopView::~DesktopView() {
+    workbench_.view = nullptr;
+    gate_.setObserver(nullptr);
+    dropGone();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // The frame's window holds those of its children.
+    std::unique_ptr<ScreenView> frame;
+    for (auto& [screen, view] : screens_) {
+        if (view.get() == main_) {
+            frame = std::move(view);
+        }
+    }
+    screens_.clear();
+}
+
+ScreenView* DesktopView::viewOf(const Screen& screen) const {
+    const auto found = screens_.find(&screen);
+    return found == screens_.end() ? nullptr : found->second.get();
+}
+
+ControlView* DesktopView::viewOf(const Control& control) const {
+    ScreenView* screen = viewOf(control.screen());
+    return screen != nullptr ? screen->viewOf(control) : nullptr;
+}
+
+void DesktopView::controlChanged(Control& control) {
+    if (ScreenView* view = viewOf(control.screen())) {
+        view->markStale(control);
+    }
+}
+
+void DesktopView::screenChanged(Screen&) {
+    windowsStale_ = true;
+}
+
+void DesktopView::screenLoaded(Screen&) {
+    windowsStale_ = true;
+}
+
+void DesktopView::screenUnloaded(Screen& screen) {
+    const auto found = screens_.find(&screen);
+    if (found != screens_.end()) {
+        found->second->detach();
+        if (found->second.get() == main_) {
+            main_ = nullptr;
+        }
+        gone_.push_back(std::move(found->second));
+        screens_.erase(found);
+    }
+    windowsStale_ = true;
+}
+
+void DesktopView::windowsChanged() {
+    windowsStale_ = true;
+}
+
+void DesktopView::focusChanged() {}
+
+void DesktopView::callReturned() {
+    showChanges();
+    focus_.align();
+    if (workbench_.ended) {
+        QApplication::quit();
+    }
+}
+
+void DesktopView::eventLoopStarts() {
+    showChanges();
+}
+
+void DesktopView::showChanges() {
+    dropGone();
+    makeMissing();
+    for (const auto& [screen, view] : screens_) {
+        view->refreshControls();
+    }
+    if (windowsStale_) {
+        windowsStale_ = false;
+        for (const auto& [screen, view] : screens_) {
+            view->refresh();
+        }
+        arrangeChildren();
+    }
+}
+
+void DesktopView::dropGone() {
+    for (auto& view : gone_) {
+        view->window().hide();
+        view.release()->deleteLater(); // an event of one of its widgets may still be on its way out
+    }
+    gone_.clear();
+}
+
+void DesktopView::makeMissing() {
+    for (Screen* screen : workbench_.loadedInOrder()) {
+        if (viewOf(*screen) == nullptr) {
+            screens_[screen] = makeView(*screen);
+        }
+    }
+}
+
+std::unique_ptr<ScreenView> DesktopView::makeView(Screen& screen) {
+    if (screen.id() == ScreenId::Main) {
+        auto view = std::make_unique<MainView>(screen, *this);
+        main_ = view.get();
+        return view;
+    }
+    if (screen.id() == ScreenId::Splash) {
+        return std::make_unique<SplashView>(screen, *this);
+    }
+    if (screen.isChild() && main_ != nullptr) {
+        return std::make_unique<ChildView>(screen, *this, main_->area());
+    }
+    return std::make_unique<ModalView>(screen, *this, main_ != nullptr ? &main_->window() : nullptr);
+}
+
+/// Puts the child windows in the model's order and activates the first.
+void DesktopView::arrangeChildren() {
+    if (main_ == nullptr) {
+        return;
+    }
+    std::vector<ScreenView*> children;
+    for (const Screen* screen : workbench_.windows.children()) {
+        children.push_back(viewOf(*screen));
+    }
+    for (auto child = children.rbegin(); child != children.rend(); ++child) {
+        (*child)->window().raise();
+    }
+    QMdiSubWindow* active = children.empty() ? nullptr : &static_cast<ChildView*>(children.front())->subWindow();
+    if (main_->area().activeSubWindow() != active) {
+        main_->area().setActiveSubWindow(active);
+    }
+    main_->listChildren(children);
+}
+
+} // namespace wb::desktop

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+
+#include "desktop/views/control_view.h"
+#include "desktop/windows/screen_view.h"
+
+namespace wb::desktop {
+
+/// Keeps Qt's focus where the model has it. The model alone decides: a move that the user makes is reported to it
+/// queued, and every other one that Qt makes is taken back.
+class FocusKeeper : public QObject {
+public:
+    using Find = std::function<ControlView*(const Control&)>;
+
+    FocusKeeper(Workbench& workbench, ModelGate& gate, Find find);
+
+    void focusArrived(ControlView& view, Qt::FocusReason reason);
+    void activationArrived(ScreenView& view);
+    /// Carries out a move that waits.
+    void settle();
+    /// Gives Qt's focus to the widget of the control that has it in the model, or takes it from all.
+    void align();
+
+private:
+    bool moveWaits() const { return !control_.isNull() || !screen_.isNull(); }
+    void queue(void (FocusKeeper::*step)());
+
+    Workbench& workbench_;
+    ModelGate& gate_;
+    Find find_;
+    // The move that waits: the latest one wins.
+    QPointer<ControlView> control_;
+    QPointer<ScreenView> screen_;
+};
+
+} // namespace wb::desktop

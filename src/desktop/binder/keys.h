@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QKeyEvent>
+#include <optional>
+
+/// Keys as the program counts them: characters, and the codes that its KeyUp events carry.
+namespace wb::desktop {
+
+bool isEnter(const QKeyEvent& event);
+/// The character that the key types, or nothing for commands and for characters the program does not have.
+std::optional<char> typedCharacter(const QKeyEvent& event);
+/// The key code of a key that types, which differs from that of its character on a number pad.
+int typedKeyCode(const QKeyEvent& event, char character);
+/// The key code of any other key, such as 8 for Backspace; 0 for keys that the program does not know.
+int commandKeyCode(const QKeyEvent& event);
+
+} // namespace wb::desktop

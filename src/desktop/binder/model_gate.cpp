@@ -1,0 +1,30 @@
+#include "desktop/binder/model_gate.h"
+
+#include <utility>
+
+namespace wb::desktop {
+
+void ModelGate::run(Call call) {
+    waiting_.push_back(std::move(call));
+    if (running_) {
+        return;
+    }
+    running_ = true;
+    while (!waiting_.empty()) {
+        const Call next = std::move(waiting_.front());
+        waiting_.pop_front();
+        next();
+        if (observer_ != nullptr) {
+            observer_->callReturned();
+        }
+    }
+    running_ = false;
+}
+
+void ModelGate::announceEventLoop() {
+    if (running_ && observer_ != nullptr) {
+        observer_->eventLoopStarts();
+    }
+}
+
+} // namespace wb::desktop

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+#include "core/control.h"
+
+namespace wb::desktop {
+
+struct CellColours {
+    QColor background;
+    QColor text;
+};
+
+/// The colours of a cell. The two highlight colours are fixed and carry dark text with any palette.
+CellColours cellColours(CellColour colour, const QPalette& palette);
+
+/// The palette with a stronger colour for the text of what is disabled: while editing is off all panels are disabled,
+/// and they are there to be read.
+QPalette withReadableDisabledText(QPalette palette);
+
+} // namespace wb::desktop

@@ -1,0 +1,108 @@
+#include "desktop/layouts/screens.h"
+
+namespace wb::desktop {
+
+namespace {
+
+constexpr int noIndex = Control::noIndex;
+
+constexpr Place frame[] = {
+    one("Command1").at(0, 0).onKey("Alt+1").called("Shows the report of the open image"),
+    one("Command2").at(0, 1).onKey("Alt+2").called("Switches editing on and off"),
+    one("Command3").at(0, 2).onKey("Alt+3").called("Lets the focus go from a cell to the input box of its field"),
+    one("Command4").at(0, 3).onKey("Alt+4").called("Shows the extension block"),
+    one("Command5").at(0, 4).onKey("Alt+5").called("Detects the monitors again and reads their EDID"),
+    one("sbStatusBar").at(1, 0),
+};
+constexpr Area frameAreas[] = {{"", noIndex, frame}};
+
+constexpr Place document[] = {one("rtftext").called("Report")};
+constexpr Area documentAreas[] = {{"", noIndex, document}};
+
+constexpr Place calculator[] = {
+    one("Display").at(0, 0, 1, 6).as(Look::Value).called("Display"),
+    one("ResultsCell").at(1, 0, 1, 3).as(Look::Value).wide(12).called("Left operand"),
+    one("CurrentCell").at(1, 3, 1, 3).as(Look::Value).wide(12).called("Current number"),
+    one("Mode").at(2, 0, 1, 6),
+    members("Command1", 10, 15).at(3, 0).rowsOf(6),
+    members("Command1", 7, 9).at(4, 0).rowsOf(3),
+    members("Command1", 4, 6).at(5, 0).rowsOf(3),
+    members("Command1", 1, 3).at(6, 0).rowsOf(3),
+    member("Command1", 0).at(7, 0),
+    member("Command1", 24).at(7, 1),
+    member("Command1", 23).at(7, 2),
+    member("Command1", 19).at(4, 3).called("Divide"),
+    member("Command1", 18).at(5, 3).called("Multiply"),
+    member("Command1", 17).at(6, 3).called("Subtract"),
+    member("Command1", 16).at(7, 3).called("Add"),
+    member("Command1", 21).at(4, 4, 1, 2),
+    member("Command1", 22).at(5, 4, 1, 2).called("Clear the current number"),
+    member("Command1", 25).at(6, 4, 1, 2).called("One step back"),
+    member("Command1", 20).at(7, 4, 1, 2),
+};
+constexpr Place mode[] = {members("Option1", 0, 2).rowsOf(3)};
+constexpr Area calculatorAreas[] = {{"", noIndex, calculator}, {"Mode", noIndex, mode}};
+
+constexpr Place help[] = {
+    one("Label1").at(0, 0).as(Look::Prose).wide(60),
+    one("Label2").at(1, 0).as(Look::Prose).wide(60),
+    one("Label3").at(2, 0),
+    one("Label4").at(3, 0),
+    one("Command1").at(4, 0),
+};
+constexpr Area helpAreas[] = {{"", noIndex, help}};
+
+constexpr Place edidReg[] = {
+    one("Label2").at(0, 0, 1, 3).as(Look::Prose).wide(60),
+    one("Text1").at(1, 0, 1, 3).wide(50).called("Base location in the registry"),
+    members("Command1", 0, 2).at(2, 0).rowsOf(3),
+};
+constexpr Area edidRegAreas[] = {{"", noIndex, edidReg}};
+
+constexpr Place about[] = {
+    one("Image1").at(0, 0, 3, 1).as(Look::Picture).called("Picture of a monitor"),
+    one("Label1").at(0, 1, 1, 2),
+    one("lblVersion").at(1, 1, 1, 2),
+    one("lblWrittenby").at(2, 1, 1, 2),
+    one("lblAddress").at(3, 1, 1, 2),
+    one("Help").at(4, 1, 1, 2),
+    one("Exit").at(5, 1, 1, 2),
+    one("cmdOK").at(6, 1),
+    one("cmdSysInfo").at(6, 2),
+};
+constexpr Area aboutAreas[] = {{"", noIndex, about}};
+
+constexpr ScreenLayout frameTable = {frameAreas};
+constexpr ScreenLayout documentTable = {documentAreas};
+constexpr ScreenLayout calculatorTable = {calculatorAreas};
+constexpr ScreenLayout helpTable = {helpAreas};
+constexpr ScreenLayout edidRegTable = {edidRegAreas};
+constexpr ScreenLayout aboutTable = {aboutAreas};
+
+} // namespace
+
+const ScreenLayout& frameLayout() {
+    return frameTable;
+}
+
+const ScreenLayout& documentLayout() {
+    return documentTable;
+}
+
+const ScreenLayout& calculatorLayout() {
+    return calculatorTable;
+}
+
+const ScreenLayout& helpLayout() {
+    return helpTable;
+}
+
+const ScreenLayout& edidRegLayout() {
+    return edidRegTable;
+}
+
+const ScreenLayout& aboutLayout() {
+    return aboutTable;
+}
+
+} // namespace wb::desktop

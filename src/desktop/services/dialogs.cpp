@@ -1,0 +1,68 @@
+#include "desktop/services/dialogs.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+
+#include "desktop/services/owner.h"
+#include "desktop/text_codec.h"
+
+namespace wb::desktop {
+
+namespace {
+
+constexpr int noPageNumbersFlag = 8;
+constexpr int selectionFlag = 1;
+
+QString offeredPath(const platform::FileDialogRequest& request) {
+    const QDir folder(fromFileNameBytes(request.folder));
+    return request.name.empty() ? folder.path() : folder.filePath(fromFileNameBytes(request.name));
+}
+
+} // namespace
+
+QString dialogFilter(const std::string& filter) {
+    const QStringList parts = toUnicode(filter).split('|');
+    if (parts.size() < 2) {
+        return toUnicode(filter);
+    }
+    QString words = parts[0];
+    words.remove('(' + parts[1] + ')');
+    return words.trimmed() + " (" + QString(parts[1]).replace(';', ' ') + ')';
+}
+
+std::string QtDialogs::openFile(const platform::FileDialogRequest& request) {
+    gate_.announceEventLoop();
+    return fileNameBytes(QFileDialog::getOpenFileName(dialogOwner(), toUnicode(request.title), offeredPath(request),
+                                                      dialogFilter(request.filter)));
+}
+
+std::string QtDialogs::saveFile(const platform::FileDialogRequest& request) {
+    gate_.announceEventLoop();
+    // The program itself asks whether to replace a file.
+    return fileNameBytes(QFileDialog::getSaveFileName(dialogOwner(), toUnicode(request.title), offeredPath(request),
+                                                      dialogFilter(request.filter), nullptr,
+                                                      QFileDialog::DontConfirmOverwrite));
+}
+
+bool QtDialogs::print(const std::string& title, int flags) {
+    gate_.announceEventLoop();
+    QPrintDialog dialog(&printer_.device(), dialogOwner());
+    dialog.setWindowTitle(toUnicode(title));
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, (flags & noPageNumbersFlag) == 0);
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, (flags & selectionFlag) != 0);
+    if ((flags & selectionFlag) != 0) {
+        dialog.setPrintRange(QAbstractPrintDialog::Selection);
+    }
+    return dialog.exec() == QDialog::Accepted;
+}
+
+bool QtDialogs::pageSetup(const std::string& title) {
+    gate_.announceEventLoop();
+    QPageSetupDialog dialog(&printer_.device(), dialogOwner());
+    dialog.setWindowTitle(toUnicode(title));
+    return dialog.exec() == QDialog::Accepted;
+}
+
+} // namespace wb::desktop

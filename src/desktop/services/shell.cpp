@@ -1,0 +1,18 @@
+#include "desktop/services/shell.h"
+
+#include <QProcess>
+
+#include "desktop/text_codec.h"
+
+namespace wb::desktop {
+
+void QtShell::start(const platform::ShellCommand& command) {
+    if (command.program == "devcon.exe") {
+        deviceTool_.start(command);
+        return;
+    }
+    QProcess::startDetached(fromFileNameBytes(command.program), QProcess::splitCommand(toUnicode(command.arguments)),
+                            fromFileNameBytes(command.folder));
+}
+
+} // namespace wb::desktop

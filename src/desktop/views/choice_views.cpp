@@ -1,0 +1,152 @@
+#include "desktop/views/choice_views.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+#include "core/input.h"
+#include "core/screen.h"
+#include "desktop/binder/keys.h"
+#include "desktop/text_codec.h"
+#include "desktop/views/sizes.h"
+
+namespace wb::desktop {
+
+template <class Button>
+void PassiveButton<Button>::keyPressEvent(QKeyEvent* event) {
+    const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
+    if (presses || !view_.typeInto(*event)) {
+        Button::keyPressEvent(event);
+    }
+}
+
+void OptionButton::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Left:
+            step(-1);
+            return;
+        case Qt::Key_Down:
+        case Qt::Key_Right:
+            step(1);
+            return;
+        default:
+            PassiveButton::keyPressEvent(event);
+    }
+}
+
+/// Clicks the next option of the array in that direction that is within reach.
+void OptionButton::step(int direction) {
+    Control* from = view().control();
+    if (from == nullptr || from->array() == nullptr) {
+        return;
+    }
+    ControlArray& options = *from->array();
+    for (int i = from->index() + direction; i >= options.first() && i <= options.last(); i += direction) {
+        Control& next = options(i);
+        if (input::reachable(next)) {
+            view().act([&next](Control&) { input::click(next); });
+            return;
+        }
+    }
+}
+
+ButtonView::ButtonView(Control& control, const Place& place, UserActions& actions)
+    : ControlView(control, place, actions), button_(make()) {
+    QObject::connect(button_, &QAbstractButton::clicked, this, [this] {
+        if (this->control() != nullptr) {
+            act([](Control& c) { input::click(c); });
+        }
+    });
+    adopt(*button_);
+}
+
+QAbstractButton* ButtonView::make() {
+    switch (control()->kind()) {
+        case ControlKind::Option:
+            return new OptionButton(*this);
+        case ControlKind::Check:
+            return new PassiveButton<QCheckBox>(*this);
+        default:
+            break;
+    }
+    auto* button = new PassiveButton<QPushButton>(*this);
+    button->setAutoDefault(false);
+    return button;
+}
+
+void ButtonView::refresh() {
+    ControlView::refresh();
+    const Control& model = *control();
+    button_->setText(toUnicode(model.caption()));
+    if (button_->isCheckable()) {
+        button_->setChecked(model.selected());
+    }
+    keepWidth(*button_, place().characters);
+}
+
+void ButtonView::refreshTabStop() {
+    const Control& model = *control();
+    if (model.kind() != ControlKind::Option || model.array() == nullptr) {
+        return;
+    }
+    ControlArray& options = *model.array();
+    const Control* stop = nullptr;
+    for (int i = options.first(); i <= options.last(); ++i) {
+        const Control& option = options(i);
+        if (option.usable() && (stop == nullptr || option.selected())) {
+            stop = &option;
+        }
+    }
+    button_->setFocusPolicy(stop == &model || stop == nullptr ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void RowBox::showPopup() {
+    // The focus moves before the list opens: what it causes may rebuild the list, or show a box.
+    if (view_.control() != nullptr) {
+        view_.act([](Control& c) { input::click(c); });
+    }
+    if (view_.control() != nullptr && isEnabled() && isVisible()) {
+        QComboBox::showPopup();
+    }
+}
+
+void RowBox::keyPressEvent(QKeyEvent* event) {
+    if (isEnter(*event)) {
+        view_.typeInto(*event);
+        return;
+    }
+    QComboBox::keyPressEvent(event);
+}
+
+ComboView::ComboView(Control& control, const Place& place, UserActions& actions)
+    : ControlView(control, place, actions), box_(new RowBox(*this)) {
+    QObject::connect(box_, &QComboBox::activated, this, [this](int row) {
+        if (this->control() != nullptr) {
+            act([row](Control& c) { input::pick(c, row); });
+        }
+    });
+    box_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    adopt(*box_);
+}
+
+void ComboView::refresh() {
+    ControlView::refresh();
+    const Control& model = *control();
+    const QSignalBlocker quiet(box_);
+    const std::vector<std::string>& rows = model.rows();
+    bool same = box_->count() == static_cast<int>(rows.size());
+    for (int i = 0; same && i < box_->count(); ++i) {
+        same = box_->itemText(i) == toUnicode(rows[static_cast<std::size_t>(i)]);
+    }
+    if (!same) {
+        box_->clear();
+        for (const std::string& row : rows) {
+            box_->addItem(toUnicode(row));
+        }
+    }
+    box_->setCurrentIndex(model.value());
+    // A text that is none of the rows.
+    box_->setPlaceholderText(toUnicode(model.text()));
+}
+
+} // namespace wb::desktop

@@ -1,0 +1,105 @@
+#include "desktop/views/control_view.h"
+
+#include <QFocusEvent>
+#include <QShortcut>
+
+#include "core/input.h"
+#include "core/screen.h"
+#include "desktop/binder/keys.h"
+#include "desktop/text_codec.h"
+
+namespace wb::desktop {
+
+namespace {
+
+QString spokenName(const Place& place, int index) {
+    QString name = QString::fromLatin1(place.spoken.data(), static_cast<qsizetype>(place.spoken.size()));
+    return name.contains(QLatin1String("%1")) ? name.arg(index) : name;
+}
+
+bool hasCaption(ControlKind kind) {
+    return kind != ControlKind::Text && kind != ControlKind::Combo && kind != ControlKind::Document;
+}
+
+QString captionAsName(const Control& control) {
+    const QString caption = toUnicode(control.caption()).remove('&').trimmed();
+    return caption.isEmpty() ? toUnicode(control.name()) : caption;
+}
+
+} // namespace
+
+ControlView::ControlView(Control& control, const Place& place, UserActions& actions)
+    : control_(std::make_shared<Control*>(&control)), place_(place), actions_(actions) {}
+
+void ControlView::adopt(QWidget& widget) {
+    const Control& model = *control();
+    widget.setObjectName(toUnicode(model.fullName()));
+    const QString spoken = spokenName(place_, model.index());
+    if (hasCaption(model.kind())) {
+        widget.setAccessibleDescription(spoken);
+    } else {
+        widget.setAccessibleName(spoken);
+    }
+    QString tip = spoken;
+    if (!place_.shortcut.empty()) {
+        const QKeySequence keys(toUnicode(place_.shortcut));
+        auto* shortcut = new QShortcut(keys, &widget);
+        QObject::connect(shortcut, &QShortcut::activated, this, [this] { act([](Control& c) { input::click(c); }); });
+        tip += " (" + keys.toString(QKeySequence::NativeText) + ')';
+    }
+    widget.setToolTip(tip.toHtmlEscaped());
+    widget.installEventFilter(this);
+}
+
+void ControlView::refresh() {
+    const Control& model = *control();
+    QWidget& target = *widget();
+    if (hasCaption(model.kind())) {
+        target.setAccessibleName(captionAsName(model));
+    }
+    target.setEnabled(model.enabled());
+    target.setVisible(model.ownVisible());
+}
+
+void ControlView::act(std::function<void(Control&)> action) {
+    actions_.settleFocus();
+    tell(std::move(action));
+}
+
+void ControlView::tell(std::function<void(Control&)> action) {
+    actions_.gate().run([control = control_, action = std::move(action)] {
+        if (*control != nullptr) {
+            action(**control);
+        }
+    });
+}
+
+bool ControlView::typeInto(const QKeyEvent& event) {
+    if (isEnter(event)) {
+        if (!event.isAutoRepeat()) {
+            act([](Control& c) { input::enter(c.screen().workbench()); });
+        }
+        return true;
+    }
+    if (const auto character = typedCharacter(event)) {
+        act([typed = *character, code = typedKeyCode(event, *character)](Control& c) {
+            input::typeCharacter(c.screen().workbench(), typed, code);
+        });
+        return true;
+    }
+    const int code = commandKeyCode(event);
+    if (code == 0 || event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
+        return false;
+    }
+    act([code](Control& c) { input::keyCode(c.screen().workbench(), code); });
+    return true;
+}
+
+bool ControlView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn && watched == widget() && control() != nullptr) {
+        actions_.focusArrived(*this, static_cast<QFocusEvent*>(event)->reason());
+    }
+    return false;
+}
+
+} // namespace wb::desktop

@@ -1,0 +1,35 @@
+#include "desktop/views/menu_view.h"
+
+#include "core/input.h"
+#include "core/screen.h"
+#include "desktop/text_codec.h"
+
+namespace wb::desktop {
+
+namespace {
+
+constexpr Place nowhere = {};
+
+} // namespace
+
+MenuView::MenuView(Control& control, UserActions& actions)
+    : ControlView(control, nowhere, actions), action_(new QAction(this)) {
+    action_->setObjectName(toUnicode(control.fullName()));
+    action_->setSeparator(control.caption() == "-");
+    // None of the roles that one platform moves to another menu: the entries stay where the program has them.
+    action_->setMenuRole(QAction::NoRole);
+    QObject::connect(action_, &QAction::triggered, this, [this] {
+        if (this->control() != nullptr) {
+            act([](Control& c) { input::choose(c); });
+        }
+    });
+}
+
+void MenuView::refresh() {
+    const Control& model = *control();
+    action_->setText(toUnicode(model.caption()));
+    action_->setEnabled(model.enabled());
+    action_->setVisible(model.ownVisible());
+}
+
+} // namespace wb::desktop

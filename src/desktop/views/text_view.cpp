@@ -1,0 +1,224 @@
+#include "desktop/views/text_view.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <limits>
+
+#include "core/input.h"
+#include "core/screen.h"
+#include "desktop/binder/keys.h"
+#include "desktop/drawing/colours.h"
+#include "desktop/text_codec.h"
+#include "desktop/views/sizes.h"
+
+namespace wb::desktop {
+
+namespace {
+
+constexpr int cellCharacters = 2;
+constexpr int gridColumns = 10;
+
+struct Selection {
+    int start;
+    int length;
+};
+
+Selection selectionOf(const QLineEdit& box) {
+    return box.hasSelectedText() ? Selection{box.selectionStart(), box.selectionLength()}
+                                 : Selection{box.cursorPosition(), 0};
+}
+
+bool isVerticalKey(const QKeyEvent& event) {
+    return (event.key() == Qt::Key_Up || event.key() == Qt::Key_Down) &&
+           (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+} // namespace
+
+TextView::TextView(Control& control, const Place& place, UserActions& actions)
+    : ControlView(control, place, actions), box_(new TextBox(*this)) {
+    // Typing has a limit of its own in the model; one of the widget would cut assigned texts.
+    box_->setMaxLength(std::numeric_limits<int>::max());
+    QObject::connect(box_, &QLineEdit::textEdited, this, [this] {
+        if (!editing_) {
+            editByWidget([] {}, 0, true);
+        }
+    });
+    shape();
+    adopt(*box_);
+}
+
+void TextView::shape() {
+    const Look look = place().look;
+    if (look == Look::Cell || look == Look::Value) {
+        box_->setFont(fixedPitchFont());
+    }
+    if (look == Look::Value) {
+        box_->setAlignment(Qt::AlignRight);
+    }
+    if (look == Look::Cell) {
+        box_->setAlignment(Qt::AlignCenter);
+        box_->setFixedWidth(widthOfText(*box_, cellCharacters + 1));
+    } else if (place().characters > 0) {
+        box_->setMinimumWidth(widthOfText(*box_, place().characters));
+        box_->setMaximumWidth(look == Look::Value ? QWIDGETSIZE_MAX : widthOfText(*box_, place().characters));
+    }
+}
+
+void TextView::refresh() {
+    ControlView::refresh();
+    const Control& model = *control();
+    const QString text = toUnicode(model.text());
+    if (box_->text() != text) {
+        const QSignalBlocker quiet(box_);
+        if (keepHistory_) {
+            box_->selectAll();
+            box_->insert(text);
+        } else {
+            box_->setText(text);
+        }
+    }
+    box_->setReadOnly(model.locked());
+    if (box_->hasFocus()) {
+        refreshSelection(); // elsewhere it is not drawn
+    }
+    refreshColours();
+}
+
+void TextView::refreshSelection() {
+    const Control& model = *control();
+    const Selection now = selectionOf(*box_);
+    if (now.start == model.selStart() && now.length == model.selLength()) {
+        return;
+    }
+    const QSignalBlocker quiet(box_);
+    if (model.selLength() > 0) {
+        box_->setSelection(model.selStart(), model.selLength());
+    } else {
+        box_->setCursorPosition(model.selStart());
+        box_->deselect();
+    }
+}
+
+void TextView::refreshColours() {
+    if (colouring_ || place().look != Look::Cell || control() == nullptr) {
+        return;
+    }
+    colouring_ = true;
+    const CellColours colours = cellColours(control()->backColor(), QApplication::palette());
+    QPalette palette = box_->palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        palette.setColor(group, QPalette::Base, colours.background);
+        palette.setColor(group, QPalette::Text, colours.text);
+    }
+    if (palette != box_->palette()) {
+        box_->setPalette(palette);
+    }
+    colouring_ = false;
+}
+
+bool TextView::sameAsModel() const {
+    const Control& model = *control();
+    const Selection now = selectionOf(*box_);
+    return box_->text() == toUnicode(model.text()) && now.start == model.selStart() && now.length == model.selLength();
+}
+
+void TextView::tellSelection() {
+    if (control() == nullptr || sameAsModel()) {
+        return;
+    }
+    const Selection now = selectionOf(*box_);
+    // Ahead of the focus move that a press of the mouse causes, whose GotFocus may select all.
+    tell([now](Control& c) { input::select(c, now.start, now.length); });
+}
+
+template <class Editing>
+void TextView::editByWidget(Editing&& editing, int code, bool alwaysTell) {
+    editing_ = true;
+    editing();
+    editing_ = false;
+    if (control() == nullptr || (!alwaysTell && sameAsModel())) {
+        return;
+    }
+    const Selection now = selectionOf(*box_);
+    act([text = fromUnicode(box_->text()), now, code](Control& c) {
+        input::edit(c, text, now.start, now.length, code);
+    });
+}
+
+void TextView::type(const QKeyEvent& event, char character) {
+    actions().settleFocus();
+    tellSelection();
+    keepHistory_ = true;
+    act([character, code = typedKeyCode(event, character)](Control& c) {
+        input::typeCharacter(c.screen().workbench(), character, code);
+    });
+    keepHistory_ = false;
+}
+
+bool TextView::moveVertically(int rows) {
+    if (place().look != Look::Cell || control() == nullptr) {
+        return false;
+    }
+    const Control& from = *control();
+    Control* to = from.screen().find(from.name(), from.index() + rows * gridColumns);
+    if (to != nullptr) {
+        act([to](Control&) { input::moveFocus(*to); });
+    }
+    return true;
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+    if (isEnter(*event)) {
+        view_.typeInto(*event);
+        return;
+    }
+    if (const auto character = typedCharacter(*event)) {
+        view_.type(*event, *character);
+        return;
+    }
+    if (isVerticalKey(*event) && view_.moveVertically(event->key() == Qt::Key_Up ? -1 : 1)) {
+        return;
+    }
+    const int code = commandKeyCode(*event);
+    const bool alwaysTell = code != 0 && event->modifiers() == Qt::NoModifier;
+    view_.editByWidget([&] { QLineEdit::keyPressEvent(event); }, code, alwaysTell);
+}
+
+void TextBox::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->position();
+    QLineEdit::mousePressEvent(event);
+    view_.tellSelection();
+}
+
+void TextBox::mouseMoveEvent(QMouseEvent* event) {
+    // A click that trembles must not undo the selection that GotFocus has made meanwhile.
+    const bool drags = (event->position() - pressed_).manhattanLength() >= QApplication::startDragDistance();
+    if (event->buttons() == Qt::NoButton || drags) {
+        QLineEdit::mouseMoveEvent(event);
+    }
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    view_.tellSelection();
+}
+
+void TextBox::inputMethodEvent(QInputMethodEvent* event) {
+    const QString committed = event->commitString();
+    const auto last = committed.isEmpty() ? std::nullopt : toCharacter(committed.back());
+    view_.editByWidget([&] { QLineEdit::inputMethodEvent(event); }, last ? input::keyCodeOf(*last) : 0,
+                       !committed.isEmpty());
+}
+
+void TextBox::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        view_.refreshColours();
+    } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        view_.shape();
+    }
+}
+
+} // namespace wb::desktop

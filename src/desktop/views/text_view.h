@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "desktop/views/control_view.h"
+
+namespace wb::desktop {
+
+class TextView;
+
+/// The line edit of a text control. Characters and Enter go to the model, which edits the text; all other editing is
+/// the widget's own and is told afterwards.
+class TextBox : public QLineEdit {
+public:
+    explicit TextBox(TextView& view) : view_(view) {}
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    TextView& view_;
+    QPointF pressed_;
+};
+
+class TextView : public ControlView {
+public:
+    TextView(Control& control, const Place& place, UserActions& actions);
+
+    QWidget* widget() const override { return box_; }
+    void refresh() override;
+    /// A line edit drops or makes a selection of its own when it loses or gets the focus.
+    void focusShown() override { refreshSelection(); }
+    void refreshColours();
+
+private:
+    friend class TextBox;
+
+    void shape();
+    void refreshSelection();
+    void type(const QKeyEvent& event, char character);
+    /// Runs what the widget does by itself, and tells the outcome with that key code (0: no key).
+    template <class Editing>
+    void editByWidget(Editing&& editing, int code, bool alwaysTell);
+    void tellSelection();
+    bool sameAsModel() const;
+    bool moveVertically(int rows);
+
+    TextBox* box_;
+    bool editing_ = false;     ///< the widget is editing and its signals need not be told
+    bool keepHistory_ = false; ///< the next text comes from typing, which undo takes back
+    bool colouring_ = false;
+};
+
+} // namespace wb::desktop

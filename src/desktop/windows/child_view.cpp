@@ -1,0 +1,94 @@
+#include "desktop/windows/child_view.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMenu>
+#include <QScrollArea>
+#include <QShortcut>
+
+#include "core/input.h"
+#include "core/workbench.h"
+#include "desktop/drawing/pictures.h"
+#include "desktop/windows/document_page.h"
+#include "desktop/windows/screen_page.h"
+#include "desktop/windows/titles.h"
+
+namespace wb::desktop {
+
+namespace {
+
+/// The page of a screen, which scrolls where the window is too small for it.
+class PageScroller : public QScrollArea {
+public:
+    explicit PageScroller(ScreenPage& page) {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        setWidget(&page);
+    }
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
+ScreenPage* makePage(Screen& screen, UserActions& actions) {
+    if (screen.id() == ScreenId::Document) {
+        return new DocumentPage(screen, actions);
+    }
+    return new ScreenPage(screen, actions);
+}
+
+} // namespace
+
+ChildWindow::ChildWindow(ChildView& view) : view_(view) {
+    // A click beside the controls activates the window and leaves the focus where it is.
+    setFocusPolicy(Qt::NoFocus);
+    setWindowIcon(programIcon());
+    for (QAction* action : systemMenu()->actions()) {
+        action->setShortcuts({}); // the menu of the frame has the key of Close
+    }
+}
+
+void ChildWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    view_.askToClose();
+}
+
+ChildView::ChildView(Screen& screen, UserActions& actions, QMdiArea& area)
+    : ScreenView(screen, actions), window_(new ChildWindow(*this)), page_(makePage(screen, actions)) {
+    addPage(*page_);
+    window_->setWidget(new PageScroller(*page_));
+    area.addSubWindow(window_);
+    fitting_ = window_->sizeHint();
+    window_->resize(fitting_); // the area scrolls where that is too large
+    window_->hide();
+    auto* shortcut = new QShortcut(QKeySequence(Qt::Key_F6), window_);
+    QObject::connect(shortcut, &QShortcut::activated, this, [this] { changeSide(); });
+}
+
+ChildView::~ChildView() {
+    delete window_;
+}
+
+void ChildView::refresh() {
+    setTitle(*window_, screen()->caption());
+    if (window_->isHidden() == screen()->shown()) {
+        window_->setVisible(screen()->shown());
+    }
+}
+
+void ChildView::fit() {
+    const QSize before = fitting_;
+    fitting_ = window_->sizeHint();
+    if (window_->size() == before) { // the user has left the size alone
+        window_->resize(fitting_);
+    }
+}
+
+void ChildView::changeSide() {
+    act([this](Screen& target) {
+        if (Control* control = page_->otherSide(target.workbench().focus.current())) {
+            input::moveFocus(*control);
+        }
+    });
+}
+
+} // namespace wb::desktop

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "desktop/windows/screen_page.h"
+
+namespace wb::desktop {
+
+/// The inside of the report window: it tells the model its size, and the model places the report.
+class DocumentPage : public ScreenPage {
+public:
+    using ScreenPage::ScreenPage;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+};
+
+} // namespace wb::desktop

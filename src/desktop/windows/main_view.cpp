@@ -1,0 +1,256 @@
+#include "desktop/windows/main_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTime>
+#include <QTimer>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <map>
+
+#include "core/input.h"
+#include "desktop/drawing/icons.h"
+#include "desktop/drawing/pictures.h"
+#include "desktop/drawing/twips.h"
+#include "desktop/text_codec.h"
+#include "desktop/views/menu_view.h"
+#include "desktop/windows/child_view.h"
+#include "desktop/windows/flow_layout.h"
+#include "desktop/windows/screen_page.h"
+#include "desktop/windows/titles.h"
+
+namespace wb::desktop {
+
+namespace {
+
+struct StandardKey {
+    std::string_view entry;
+    QKeySequence::StandardKey key;
+};
+
+constexpr StandardKey standardKeys[] = {
+    {"mnuFileNew", QKeySequence::New},   {"mnuFileOpen", QKeySequence::Open},     {"mnuFileClose", QKeySequence::Close},
+    {"mnuFileSave", QKeySequence::Save}, {"mnuFileSaveAs", QKeySequence::SaveAs}, {"mnuFilePrint", QKeySequence::Print},
+    {"mnuFileExit", QKeySequence::Quit}, {"Info", QKeySequence::HelpContents},
+};
+
+void giveStandardKey(QAction& action, std::string_view entry) {
+    for (const StandardKey& standard : standardKeys) {
+        if (standard.entry == entry) {
+            action.setShortcuts(standard.key);
+        }
+    }
+}
+
+bool isOnSomeScreen(const QRect& geometry) {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(),
+                       [&](const QScreen* screen) { return screen->availableGeometry().intersects(geometry); });
+}
+
+} // namespace
+
+MainView::MainView(Screen& screen, UserActions& actions) : ScreenView(screen, actions), window_(new MainWindow(*this)) {
+    window_->setObjectName("frmMain");
+    window_->setWindowIcon(programIcon());
+    auto* inside = new QWidget;
+    auto* column = new QVBoxLayout(inside);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    window_->setCentralWidget(inside);
+    makeMenus();
+    makeToolBar();
+    makeButtons(*column);
+    makeArea(*column);
+    makeClock();
+    for (const auto& view : own_) {
+        view->refresh();
+    }
+}
+
+MainView::~MainView() {
+    own_.clear();
+    delete window_;
+}
+
+FrmMain& MainView::frame() const {
+    return static_cast<FrmMain&>(*screen());
+}
+
+MenuView& MainView::makeEntry(Control& control) {
+    own_.push_back(std::make_unique<MenuView>(control, actions()));
+    add(*own_.back());
+    return static_cast<MenuView&>(*own_.back());
+}
+
+void MainView::makeMenus() {
+    std::map<const Control*, QMenu*> menus;
+    for (Control* control : screen()->controls()) {
+        if (control->kind() != ControlKind::Menu || control->array() != nullptr) {
+            continue;
+        }
+        QAction& action = makeEntry(*control).action();
+        if (control->container() == nullptr) {
+            auto* menu = new QMenu(window_);
+            action.setMenu(menu);
+            window_->menuBar()->addAction(&action);
+            menus[control] = menu;
+        } else {
+            giveStandardKey(action, control->name());
+            menus.at(control->container())->addAction(&action);
+        }
+    }
+    windowMenu_ = menus.at(&frame().mnuWindow);
+}
+
+void MainView::makeToolBar() {
+    QToolBar* bar = window_->addToolBar("Tool bar");
+    bar->setObjectName("tbToolBar");
+    bar->setMovable(false);
+    ControlArray& buttons = frame().tbToolBar;
+    int index = buttons.first();
+    for (const FrmMain::ToolBarKey& key : FrmMain::toolBarKeys) {
+        QAction& action = makeEntry(buttons(index++)).action();
+        action.setIcon(toolBarIcon(key.key));
+        action.setToolTip(toUnicode(key.toolTip));
+        bar->addAction(&action);
+    }
+}
+
+void MainView::makeButtons(QVBoxLayout& column) {
+    auto* buttons = new QWidget;
+    auto* flow = new FlowLayout(buttons);
+    for (const Place& place : layoutOf(ScreenId::Main).find("")->places) {
+        own_.push_back(makeView(*screen()->find(place.name), place, actions()));
+        add(*own_.back());
+        QWidget* widget = own_.back()->widget();
+        if (own_.back()->control()->kind() == ControlKind::Button) {
+            flow->addWidget(widget);
+        } else {
+            window_->statusBar()->addWidget(widget, 1);
+        }
+    }
+    column.addWidget(buttons);
+}
+
+void MainView::makeArea(QVBoxLayout& column) {
+    area_ = new QMdiArea;
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setFocusPolicy(Qt::NoFocus);
+    column.addWidget(area_, 1);
+    QObject::connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
+        if (auto* child = dynamic_cast<ChildWindow*>(window)) {
+            actions().activationArrived(child->view());
+        }
+    });
+}
+
+void MainView::makeClock() {
+    auto* clock = new QLabel;
+    clock->setAccessibleName("Clock");
+    window_->statusBar()->addPermanentWidget(clock);
+    const auto show = [clock] {
+        clock->setText(QLocale::system().toString(QTime::currentTime(), QLocale::ShortFormat));
+    };
+    show();
+    auto* timer = new QTimer(clock);
+    QObject::connect(timer, &QTimer::timeout, clock, show);
+    constexpr int second = 1000;
+    timer->start(second);
+}
+
+void MainView::refresh() {
+    setTitle(*window_, screen()->caption());
+    applyPosition();
+    if (window_->isHidden() == screen()->shown()) {
+        window_->setVisible(screen()->shown());
+    }
+}
+
+void MainView::applyPosition() {
+    const FrmMain& model = frame();
+    const Position asked{model.Left, model.Top, model.Width, model.Height};
+    if (asked == shownPosition_) {
+        return;
+    }
+    shownPosition_ = asked;
+    QRect geometry(toPixels(*window_, asked.left), toPixels(*window_, asked.top), toPixels(*window_, asked.width),
+                   toPixels(*window_, asked.height));
+    if (!isOnSomeScreen(geometry)) {
+        geometry.moveTopLeft(window_->screen()->availableGeometry().topLeft());
+    }
+    window_->move(geometry.topLeft());
+    window_->resize(geometry.size());
+    shownGeometry_ = QRect(window_->pos(), window_->size());
+}
+
+void MainView::notePosition() {
+    if (screen() == nullptr) {
+        return;
+    }
+    FrmMain& model = frame();
+    model.minimised = window_->isMinimized();
+    const QRect now(window_->pos(), window_->size());
+    if (model.minimised || !window_->isVisible() || now == shownGeometry_) {
+        return;
+    }
+    shownGeometry_ = now;
+    model.Left = toTwips(*window_, now.left());
+    model.Top = toTwips(*window_, now.top());
+    model.Width = toTwips(*window_, now.width());
+    model.Height = toTwips(*window_, now.height());
+    shownPosition_ = {model.Left, model.Top, model.Width, model.Height};
+}
+
+void MainView::listChildren(const std::vector<ScreenView*>& children) {
+    qDeleteAll(childEntries_);
+    childEntries_.clear();
+    if (!children.empty()) {
+        childEntries_.push_back(windowMenu_->addSeparator());
+    }
+    int number = 1;
+    for (ScreenView* child : children) {
+        const QString title = child->window().windowTitle().replace('&', QLatin1String("&&"));
+        QAction* entry = windowMenu_->addAction(QString("&%1 %2").arg(number++).arg(title));
+        entry->setCheckable(true);
+        entry->setChecked(child == children.front());
+        QObject::connect(entry, &QAction::triggered, child, [child, entry] {
+            entry->setChecked(!entry->isChecked()); // the model decides
+            child->act([](Screen& screen) { input::activate(screen); });
+        });
+        childEntries_.push_back(entry);
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    view_.askToClose();
+}
+
+void MainWindow::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    view_.notePosition();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    view_.notePosition();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        view_.notePosition();
+    }
+}
+
+} // namespace wb::desktop

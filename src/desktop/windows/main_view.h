@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QRect>
+#include <memory>
+#include <vector>
+
+#include "core/screens/frm_main.h"
+#include "desktop/windows/screen_view.h"
+
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+class QVBoxLayout;
+
+namespace wb::desktop {
+
+class MainView;
+class MenuView;
+
+/// The frame's window. It closes when the model says so, and tells the model where it stands.
+class MainWindow : public QMainWindow {
+public:
+    explicit MainWindow(MainView& view) : view_(view) {}
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    MainView& view_;
+};
+
+/// The frame: menu, tool bar, command buttons, child windows and status bar.
+class MainView : public ScreenView {
+public:
+    MainView(Screen& screen, UserActions& actions);
+    ~MainView() override;
+
+    QMainWindow& window() override { return *window_; }
+    QMdiArea& area() const { return *area_; }
+    void refresh() override;
+    /// Lists the shown children, the active one first, in the Window menu.
+    void listChildren(const std::vector<ScreenView*>& children);
+    /// Notes where the window stands; a place that the model asked for is kept as it was asked for.
+    void notePosition();
+
+private:
+    struct Position {
+        float left = 0;
+        float top = 0;
+        float width = 0;
+        float height = 0;
+        bool operator==(const Position&) const = default;
+    };
+
+    FrmMain& frame() const;
+    void makeMenus();
+    void makeToolBar();
+    void makeButtons(QVBoxLayout& column);
+    void makeArea(QVBoxLayout& column);
+    void makeClock();
+    MenuView& makeEntry(Control& control);
+    void applyPosition();
+
+    MainWindow* window_;
+    QMdiArea* area_ = nullptr;
+    QMenu* windowMenu_ = nullptr;
+    std::vector<QAction*> childEntries_;
+    std::vector<std::unique_ptr<ControlView>> own_;
+    Position shownPosition_;
+    QRect shownGeometry_;
+};
+
+} // namespace wb::desktop

@@ -1,0 +1,197 @@
+#include "desktop/windows/screen_page.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+
+#include "core/screen.h"
+#include "desktop/drawing/colours.h"
+#include "desktop/views/choice_views.h"
+#include "desktop/views/document_view.h"
+#include "desktop/views/label_view.h"
+#include "desktop/views/text_view.h"
+
+namespace wb::desktop {
+
+namespace {
+
+bool isInside(const Control* control, const Control& container) {
+    while (control != nullptr && control != &container) {
+        control = control->container();
+    }
+    return control != nullptr;
+}
+
+/// A black field that takes the room of a cell.
+QWidget* makeFiller() {
+    auto* filler = new QWidget;
+    filler->setAutoFillBackground(true);
+    QPalette black;
+    black.setColor(QPalette::Window, Qt::black);
+    filler->setPalette(black);
+    return filler;
+}
+
+} // namespace
+
+std::unique_ptr<ControlView> makeView(Control& control, const Place& place, UserActions& actions) {
+    switch (control.kind()) {
+        case ControlKind::Text:
+            return std::make_unique<TextView>(control, place, actions);
+        case ControlKind::Label:
+            return std::make_unique<LabelView>(control, place, actions);
+        case ControlKind::Combo:
+            return std::make_unique<ComboView>(control, place, actions);
+        case ControlKind::Frame:
+            return std::make_unique<FrameView>(control, place, actions);
+        case ControlKind::Document:
+            return std::make_unique<DocumentView>(control, place, actions);
+        default:
+            return std::make_unique<ButtonView>(control, place, actions);
+    }
+}
+
+ScreenPage::ScreenPage(Screen& screen, UserActions& actions)
+    : screen_(screen), layout_(layoutOf(screen.id())), actions_(actions) {
+    refreshPalette();
+    if (const Area* area = layout_.find("")) {
+        fill(*this, *area);
+    }
+    setTabOrder();
+    for (const auto& view : views_) {
+        view->refresh();
+    }
+    refreshTabStops();
+}
+
+void ScreenPage::refreshTabStops() {
+    for (const auto& view : views_) {
+        if (view->control() != nullptr && view->control()->kind() == ControlKind::Option) {
+            static_cast<ButtonView&>(*view).refreshTabStop();
+        }
+    }
+}
+
+void ScreenPage::fill(QWidget& parent, const Area& area) {
+    auto* grid = new QGridLayout(&parent);
+    const int line = fontMetrics().height();
+    grid->setHorizontalSpacing(area.tight ? 0 : line / 2);
+    grid->setVerticalSpacing(area.tight ? 0 : line / 5);
+    grid->setContentsMargins(line / 2, line / 3, line / 2, line / 3);
+    for (const Place& place : area.places) {
+        placeControls(parent, *grid, place);
+    }
+    // What is left over stays below and to the right of the controls.
+    grid->setRowStretch(grid->rowCount(), 1);
+    grid->setColumnStretch(grid->columnCount(), 1);
+}
+
+void ScreenPage::placeControls(QWidget& parent, QGridLayout& grid, const Place& place) {
+    if (place.look == Look::Group || place.look == Look::Filler) {
+        grid.addWidget(makeGroup(parent, place), place.row, place.column, place.rowSpan, place.columnSpan);
+        return;
+    }
+    for (int index = place.first; index <= place.last; ++index) {
+        Control* control = screen_.find(place.name, index);
+        if (control->kind() == ControlKind::Document) {
+            makeControl(parent, *control, place); // stands where its bounds say
+            continue;
+        }
+        const int step = place.together ? 0 : index - place.first;
+        grid.addWidget(makeControl(parent, *control, place), place.row + step / place.across * place.rowSpan,
+                       place.column + step % place.across * place.columnSpan, place.rowSpan, place.columnSpan);
+    }
+}
+
+QWidget* ScreenPage::makeGroup(QWidget& parent, const Place& place) {
+    if (place.look == Look::Filler) {
+        return makeFiller();
+    }
+    auto* inside = new QWidget(&parent);
+    fill(*inside, *layout_.find(place.name));
+    inside->layout()->setContentsMargins(0, 0, 0, 0);
+    return inside;
+}
+
+QWidget* ScreenPage::makeControl(QWidget& parent, Control& control, const Place& place) {
+    views_.push_back(makeView(control, place, actions_));
+    QWidget* widget = views_.back()->widget();
+    widget->setParent(&parent);
+    if (place.together) {
+        // The panels keep their common room while they are hidden.
+        QSizePolicy policy = widget->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        widget->setSizePolicy(policy);
+    }
+    if (control.kind() == ControlKind::Frame) {
+        if (const Area* area = layout_.find(control.name(), control.index())) {
+            fill(*widget, *area);
+        }
+    }
+    return widget;
+}
+
+void ScreenPage::setTabOrder() {
+    QWidget* before = nullptr;
+    for (const Control* control : screen_.controls()) {
+        for (const auto& view : views_) {
+            if (view->control() == control && control->takesFocus()) {
+                if (before != nullptr) {
+                    QWidget::setTabOrder(before, view->widget());
+                }
+                before = view->widget();
+            }
+        }
+    }
+}
+
+Control* ScreenPage::otherSide(const Control* from) const {
+    const Control* panel = nullptr;
+    Control* field = nullptr;
+    for (Control* control : screen_.controls()) {
+        if (control->name() == "Hints" && control->usable()) {
+            panel = control;
+        } else if (field == nullptr && control->backColor() == CellColour::Field) {
+            field = control;
+        }
+    }
+    if (panel == nullptr || isInside(from, *panel)) {
+        return field;
+    }
+    for (Control* control : screen_.controls()) {
+        if (isInside(control, *panel) && control->canTakeFocus()) {
+            return control;
+        }
+    }
+    return nullptr;
+}
+
+QSize ScreenPage::sizeHint() const {
+    return minimumSizeHint();
+}
+
+QSize ScreenPage::minimumSizeHint() const {
+    largest_ = largest_.expandedTo(QWidget::minimumSizeHint());
+    return largest_;
+}
+
+void ScreenPage::refreshPalette() {
+    const QPalette wanted = withReadableDisabledText(QApplication::palette());
+    if (palette() != wanted) {
+        setPalette(wanted);
+    }
+}
+
+void ScreenPage::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        refreshPalette();
+    }
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        largest_ = {};
+        updateGeometry();
+    }
+}
+
+} // namespace wb::desktop

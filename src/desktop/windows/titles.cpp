@@ -1,0 +1,14 @@
+#include "desktop/windows/titles.h"
+
+#include "desktop/text_codec.h"
+
+namespace wb::desktop {
+
+void setTitle(QWidget& window, std::string_view title) {
+    const QString text = titleText(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    if (window.windowTitle() != text) {
+        window.setWindowTitle(text);
+    }
+}
+
+} // namespace wb::desktop
