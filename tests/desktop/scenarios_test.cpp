@@ -1,0 +1,43 @@
+#include <gtest/gtest.h>
+
+#include "desktop/widget_front_end.h"
+#include "script/driver.h"
+#include "script/script_error.h"
+#include "support/scenarios.h"
+
+namespace wb::test {
+namespace {
+
+std::string traceOf(const Scenario& scenario) {
+    const ScenarioFolder folder;
+    DesktopProgram program(false);
+    WidgetFrontEnd user(program);
+    std::string trace;
+    script::Driver driver(
+        {program.workbench, program.platform, user, [&](const std::string& line) { trace += line + '\n'; }});
+    std::ifstream script(scenario.script, std::ios::binary);
+    try {
+        driver.run(script);
+    } catch (const script::ScriptError& error) {
+        ADD_FAILURE() << scenario.script.string() << ':' << error.line() << ": " << error.what();
+    }
+    return trace;
+}
+
+class ScenariosOnWidgets : public testing::TestWithParam<Scenario> {};
+
+TEST_P(ScenariosOnWidgets, LeaveTheSameTraceAsWithoutAView) {
+    EXPECT_EQ(traceOf(GetParam()), TemporaryFolder::read(GetParam().expected.string()));
+}
+
+std::string testName(const testing::TestParamInfo<Scenario>& info) {
+    std::string name = info.param.name;
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return c == '-' || c == '.'; }, '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ScenariosOnWidgets, testing::ValuesIn(scenarios()), testName);
+
+} // namespace
+} // namespace wb::test

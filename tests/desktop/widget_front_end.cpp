@@ -1,0 +1,222 @@
+#include "desktop/widget_front_end.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QTest>
+#include <QToolBar>
+#include <QWindow>
+#include <algorithm>
+#include <array>
+
+#include "core/input.h"
+#include "desktop/text_codec.h"
+#include "desktop/views/menu_view.h"
+#include "desktop/windows/visibility.h"
+
+namespace wb::test {
+
+namespace {
+
+constexpr int backspace = 8;
+
+struct BareKey {
+    int code;
+    Qt::Key key;
+    const char* text;
+    Qt::KeyboardModifier modifier = Qt::NoModifier;
+};
+
+/// Keys that do not type into a text: those of the number pad's operators, and commands.
+constexpr std::array<BareKey, 8> bareKeys = {{{8, Qt::Key_Backspace, ""},
+                                              {37, Qt::Key_Left, ""},
+                                              {39, Qt::Key_Right, ""},
+                                              {106, Qt::Key_Asterisk, "*", Qt::KeypadModifier},
+                                              {107, Qt::Key_Plus, "+", Qt::KeypadModifier},
+                                              {109, Qt::Key_Minus, "-", Qt::KeypadModifier},
+                                              {110, Qt::Key_Period, ".", Qt::KeypadModifier},
+                                              {111, Qt::Key_Slash, "/", Qt::KeypadModifier}}};
+
+bool isBlocked(const QWidget& window) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr && modal != &window;
+}
+
+bool isReachable(const QWidget& widget) {
+    return widget.isVisible() && widget.isEnabled() && !isBlocked(*widget.window());
+}
+
+/// Where the text of a box and the mark of an option begin.
+QPoint edgeOf(const QWidget& widget) {
+    constexpr int inside = 6;
+    return {inside, widget.height() / 2};
+}
+
+bool typesIntoText() {
+    const auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    return box != nullptr && !box->isReadOnly();
+}
+
+} // namespace
+
+QWidget* WidgetFrontEnd::reach(const Control& control) {
+    program_.sync();
+    QWidget* widget = program_.widget(control);
+    if (widget == nullptr || !isReachable(*widget)) {
+        return nullptr;
+    }
+    desktop::bringIntoSight(*widget);
+    return widget;
+}
+
+bool WidgetFrontEnd::click(Control& control) {
+    if (control.kind() == ControlKind::Menu) {
+        return chooseMenu(control);
+    }
+    QWidget* widget = reach(control);
+    if (widget == nullptr) {
+        return false;
+    }
+    if (control.kind() == ControlKind::Combo) {
+        QTest::keyClick(widget, Qt::Key_Escape); // closes a list that a click opens
+        static_cast<QComboBox*>(widget)->showPopup();
+        static_cast<QComboBox*>(widget)->hidePopup();
+    } else if (!widget->hasFocus() || control.kind() != ControlKind::Text) {
+        QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, edgeOf(*widget));
+    }
+    DesktopProgram::settle();
+    return true;
+}
+
+bool WidgetFrontEnd::doubleClick(Control& control) {
+    QWidget* widget = reach(control);
+    if (widget == nullptr) {
+        return false;
+    }
+    const QPointF place = edgeOf(*widget);
+    QMouseEvent event(QEvent::MouseButtonDblClick, place, widget->mapToGlobal(place), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+    DesktopProgram::settle();
+    return true;
+}
+
+bool WidgetFrontEnd::moveFocus(Control& control) {
+    QWidget* widget = reach(control);
+    if (widget == nullptr || !control.takesFocus()) {
+        return false;
+    }
+    widget->setFocus(Qt::TabFocusReason);
+    DesktopProgram::settle();
+    return true;
+}
+
+bool WidgetFrontEnd::pick(Control& combo, int row) {
+    QWidget* widget = reach(combo);
+    if (widget == nullptr) {
+        return false;
+    }
+    auto& box = dynamic_cast<QComboBox&>(*widget);
+    box.showPopup();
+    DesktopProgram::settle();
+    if (box.view()->isVisible()) {
+        box.view()->setCurrentIndex(box.model()->index(row, 0));
+        QTest::keyClick(box.view(), Qt::Key_Return);
+    }
+    DesktopProgram::settle();
+    return true;
+}
+
+bool WidgetFrontEnd::pressKey(int key, const QString& text, Qt::KeyboardModifiers modifiers) {
+    program_.sync();
+    const QWidget* holder = QApplication::focusWidget();
+    if (holder == nullptr || isBlocked(*holder->window())) {
+        return false;
+    }
+    QTest::sendKeyEvent(QTest::Click, holder->window()->windowHandle(), static_cast<Qt::Key>(key), text, modifiers);
+    DesktopProgram::settle();
+    return true;
+}
+
+bool WidgetFrontEnd::typeCharacter(char character) {
+    if (character == backspace) {
+        return pressKey(Qt::Key_Backspace, "", Qt::NoModifier);
+    }
+    const QString text = desktop::toUnicode(std::string_view(&character, 1));
+    const int key = text.front().toUpper().unicode();
+    return pressKey(key, text, Qt::NoModifier);
+}
+
+bool WidgetFrontEnd::enter() {
+    return pressKey(Qt::Key_Return, "\r", Qt::NoModifier);
+}
+
+bool WidgetFrontEnd::keyCode(int code) {
+    const auto bare = std::find_if(bareKeys.begin(), bareKeys.end(), [&](const BareKey& k) { return k.code == code; });
+    program_.sync();
+    const bool hasFocus = QApplication::focusWidget() != nullptr;
+    if (hasFocus && bare != bareKeys.end()) {
+        return pressKey(bare->key, bare->text, bare->modifier);
+    }
+    constexpr int firstPrinting = 48;
+    constexpr int lastPrinting = 90;
+    if (hasFocus && code >= firstPrinting && code <= lastPrinting && !typesIntoText()) {
+        return typeCharacter(static_cast<char>(code));
+    }
+    // No key of a keyboard does this without typing.
+    bool reached = false;
+    program_.act([&] { reached = input::keyCode(program_.workbench, code); });
+    return reached;
+}
+
+bool WidgetFrontEnd::chooseMenu(Control& entry) {
+    program_.sync();
+    auto* view = dynamic_cast<desktop::MenuView*>(program_.view.viewOf(entry));
+    QWidget& window = program_.frame().window();
+    if (view == nullptr || !window.isVisible() || isBlocked(window) || !view->action().isEnabled() ||
+        !view->action().isVisible()) {
+        return false;
+    }
+    for (QObject* owner : view->action().associatedObjects()) {
+        if (auto* menu = qobject_cast<QMenu*>(owner)) {
+            menu->popup(window.mapToGlobal(QPoint(0, 0)));
+            menu->setActiveAction(&view->action());
+            QTest::keyClick(menu, Qt::Key_Return);
+        }
+    }
+    DesktopProgram::settle();
+    return true;
+}
+
+bool WidgetFrontEnd::pressToolBar(const std::string& key) {
+    program_.sync();
+    auto* bar = program_.frame().window().findChild<QToolBar*>("tbToolBar");
+    for (QAction* action : bar->actions()) {
+        QWidget* button = bar->widgetForAction(action);
+        if (action->text().toStdString() == key) {
+            if (!isReachable(*button)) {
+                return false;
+            }
+            QTest::mouseClick(button, Qt::LeftButton);
+            DesktopProgram::settle();
+        }
+    }
+    return true;
+}
+
+bool WidgetFrontEnd::close(Screen& screen) {
+    program_.sync();
+    desktop::ScreenView* view = program_.view.viewOf(screen);
+    if (view == nullptr || !isReachable(view->window())) {
+        return false;
+    }
+    view->window().close();
+    DesktopProgram::settle();
+    return true;
+}
+
+} // namespace wb::test
