@@ -5,7 +5,7 @@
 #include "acquire/get_edid.h"
 #include "acquire/monitors.h"
 #include "acquire/registry_search.h"
-#include "platform/linux/operating_system.h"
+#include "platform/stored_edid_system.h"
 #include "platform/sysfs_folder.h"
 #include "support/program.h"
 

@@ -2,7 +2,7 @@
 
 #include "platform/services.h"
 
-namespace wb::platform::linux_system {
+namespace wb::platform {
 
 /// The registry tree holds the stored EDIDs, which is what the program takes from the major version 5.
 class StoredEdidSystem : public OperatingSystem {
@@ -16,4 +16,4 @@ public:
     std::string read(const std::string&) override { return {}; }
 };
 
-} // namespace wb::platform::linux_system
+} // namespace wb::platform

@@ -1,0 +1,23 @@
+#include "platform/windows/win32_shell.h"
+
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include <shellapi.h>
+
+namespace wb::platform::windows {
+
+namespace {
+
+const char* orNull(const std::string& text) {
+    return text.empty() ? nullptr : text.c_str();
+}
+
+} // namespace
+
+void Win32Shell::start(const ShellCommand& command) {
+    ShellExecuteA(nullptr, orNull(command.verb), command.program.c_str(), orNull(command.arguments),
+                  orNull(command.folder), command.hidden ? SW_HIDE : SW_SHOWNORMAL);
+}
+
+} // namespace wb::platform::windows
