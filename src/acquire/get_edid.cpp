@@ -1,7 +1,6 @@
 #include "acquire/get_edid.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "acquire/registry_search.h"
@@ -29,20 +28,6 @@ std::string bootTimeNotes() {
            "This program will read the last known EDID Value (Which is collected at boot time.)"
            "\r\n\r\n"
            "To update the system with the most current EDID, you will need to Re-boot the system.";
-}
-
-std::optional<std::string> storedEdid(Workbench& workbench) {
-    // The notes are composed on each read and stay unused: nothing shows them, and that silence is meant.
-    [[maybe_unused]] const std::string notes = bootTimeNotes();
-    const std::string key = SearchRegistryForEDID(workbench, workbench.RegBaseLocation, true);
-    std::string data = SearchRegistryForEDID(workbench, key, false);
-    if (data.empty()) {
-        workbench.showMessage(
-            "Unable to locate EDID Data. \r\n\r\n"
-            "Using the Control Panel, please make sure that a Monitor has been Detected by Windows 2000/XP");
-        return std::nullopt;
-    }
-    return data;
 }
 
 /// What the last try gave, even if its header is none.
@@ -77,10 +62,24 @@ void GetEDIDData(Workbench& workbench) {
         }
         if (workbench.platform.operatingSystem.majorVersion() != registryVersion) {
             LoadStoredEdid(workbench, edidFromReader(workbench));
-        } else if (const auto data = storedEdid(workbench)) {
+        } else if (const auto data = readStoredEdid(workbench)) {
             LoadStoredEdid(workbench, *data);
         }
     });
+}
+
+std::optional<std::string> readStoredEdid(Workbench& workbench) {
+    // The notes are composed on each read and stay unused: nothing shows them, and that silence is meant.
+    [[maybe_unused]] const std::string notes = bootTimeNotes();
+    const std::string key = SearchRegistryForEDID(workbench, workbench.RegBaseLocation, true);
+    std::string data = SearchRegistryForEDID(workbench, key, false);
+    if (data.empty()) {
+        workbench.showMessage(
+            "Unable to locate EDID Data. \r\n\r\n"
+            "Using the Control Panel, please make sure that a Monitor has been Detected by Windows 2000/XP");
+        return std::nullopt;
+    }
+    return data;
 }
 
 void LoadStoredEdid(Workbench& workbench, std::string data) {

@@ -20,6 +20,8 @@ using Chosen = std::function<int()>;
 void addTranslate(CLI::App& app, Chosen& chosen);
 void addConvert(CLI::App& app, Chosen& chosen);
 void addCheck(CLI::App& app, Chosen& chosen);
+void addRead(CLI::App& app, Chosen& chosen);
+void addMonitors(CLI::App& app, Chosen& chosen);
 void addScript(CLI::App& app, Chosen& chosen);
 
 } // namespace wb::cli

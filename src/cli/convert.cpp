@@ -1,9 +1,9 @@
 #include <CLI/CLI.hpp>
-#include <array>
 #include <memory>
 
 #include "cli/cli_error.h"
 #include "cli/commands.h"
+#include "cli/formats.h"
 #include "cli/output.h"
 #include "cli/program.h"
 
@@ -17,33 +17,6 @@ struct Options {
     std::string out;
     bool force = false;
 };
-
-struct Format {
-    const char* name;
-    std::string (Program::*content)();
-};
-
-constexpr std::array<Format, 4> formats = {{{"dat", &Program::dataFile},
-                                            {"hex", &Program::hexExport},
-                                            {"bin", &Program::binaryImage},
-                                            {"report", &Program::report}}};
-
-std::vector<std::string> formatNames() {
-    std::vector<std::string> names;
-    for (const Format& format : formats) {
-        names.emplace_back(format.name);
-    }
-    return names;
-}
-
-std::string contentAs(const std::string& name, Program& program) {
-    for (const Format& format : formats) {
-        if (format.name == name) {
-            return (program.*format.content)();
-        }
-    }
-    throw UsageError("unknown format '" + name + "'");
-}
 
 /// Gives the content of the new file; tells of the boxes that came up on the way in any case.
 std::string convert(const Options& options) {
@@ -86,7 +59,7 @@ int run(const Options& options) {
 void addConvert(CLI::App& app, Chosen& chosen) {
     CLI::App* command = app.add_subcommand("convert", "Write an image in another format");
     const auto options = std::make_shared<Options>();
-    command->add_option("--to", options->format, "dat (data file), hex (hexadecimal export), bin (binary) or report")
+    command->add_option("--to", options->format, formatHelp)
         ->type_name("FORMAT")
         ->required()
         ->check(CLI::IsMember(formatNames()))

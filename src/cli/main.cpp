@@ -30,6 +30,7 @@ int complainOfUsage(const std::string& message) {
 }
 
 int run(int argc, char** argv) {
+    useBinaryStreams();
     CLI::App app("Reads, explains and converts the EDID of monitors.", "edidwb");
     app.set_version_flag("--version", std::string("edidwb ") + wb::programVersion());
     app.require_subcommand(1);
@@ -37,6 +38,8 @@ int run(int argc, char** argv) {
     addTranslate(app, chosen);
     addConvert(app, chosen);
     addCheck(app, chosen);
+    addRead(app, chosen);
+    addMonitors(app, chosen);
     addScript(app, chosen);
     try {
         app.parse(argumentsOf(argc, argv));

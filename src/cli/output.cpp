@@ -5,6 +5,11 @@
 #include <cstring>
 #include <filesystem>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
 #include "cli/cli_error.h"
 #include "cli/input.h"
 #include "cli/temporary.h"
@@ -44,6 +49,13 @@ void takePermissions(const fs::path& from, const fs::path& to) {
 }
 
 } // namespace
+
+void useBinaryStreams() {
+#ifdef _WIN32
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
+}
 
 void print(std::string_view text) {
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {

@@ -12,6 +12,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Lets the standard streams carry any bytes, on systems where they would change line ends.
+void useBinaryStreams();
+
 /// Writes to standard output; a failure is an OutputError.
 void print(std::string_view text);
 /// Hands everything printed so far to the system; a failure is an OutputError.

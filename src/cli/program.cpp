@@ -20,6 +20,9 @@ namespace {
 
 /// Each CR LF as the line end of the platform.
 std::string withPlatformLineEnds(std::string_view text) {
+#ifdef _WIN32
+    return std::string(text);
+#else
     std::string result;
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -28,6 +31,7 @@ std::string withPlatformLineEnds(std::string_view text) {
         }
     }
     return result;
+#endif
 }
 
 void appendByte(const std::string& cell, std::string& bytes) {
@@ -42,6 +46,22 @@ void appendBytes(BlockScreen& screen, std::string& bytes) {
     for (int i = 0; i < BlockScreen::cellCount; ++i) {
         appendByte(screen.txtEdit(i).text(), bytes);
     }
+}
+
+/// The services with another registry, where there is one.
+platform::Services withRegistry(const platform::Services& services, platform::Registry* registry) {
+    return {.messageBoxes = services.messageBoxes,
+            .dialogs = services.dialogs,
+            .printer = services.printer,
+            .settings = services.settings,
+            .registry = registry != nullptr ? *registry : services.registry,
+            .operatingSystem = services.operatingSystem,
+            .edidReader = services.edidReader,
+            .shell = services.shell,
+            .clock = services.clock,
+            .eventLoop = services.eventLoop,
+            .arranger = services.arranger,
+            .programFolder = services.programFolder};
 }
 
 /// A path under which the program can read what was read before; a pipe gives its content only once.
@@ -64,7 +84,12 @@ private:
 
 } // namespace
 
-Program::Program(const std::optional<platform::DateTime>& now) : workbench_(platform_.services(), shell::wiring()) {
+Program::Program(const std::optional<platform::DateTime>& now) : Program(now, nullptr) {}
+
+Program::Program(platform::Registry& registry) : Program(std::nullopt, &registry) {}
+
+Program::Program(const std::optional<platform::DateTime>& now, platform::Registry* registry)
+    : services_(withRegistry(platform_.services(), registry)), workbench_(services_, shell::wiring()) {
     platform_.onBox = [this](const std::string& text) { boxes_.push_back(text); };
     if (now) {
         platform_.setClock(*now);
@@ -79,6 +104,19 @@ void Program::load(const Input& input) {
     } else {
         workbench_.runAction([&] { acquire::LoadStoredEdid(workbench_, content.image); });
     }
+}
+
+bool Program::loadStoredEdid() {
+    std::optional<std::string> data;
+    workbench_.runAction([&] { data = acquire::readStoredEdid(workbench_); });
+    if (!data) {
+        return false;
+    }
+    if (data->size() < BlockScreen::cellCount) {
+        throw CliError("the stored EDID is no image: it has " + std::to_string(data->size()) + " bytes");
+    }
+    workbench_.runAction([&] { acquire::LoadStoredEdid(workbench_, *data); });
+    return true;
 }
 
 void Program::open(const std::string& path) {
