@@ -5,8 +5,8 @@
 #include "desktop/drawing/pictures.h"
 #include "desktop/services/desktop_services.h"
 #include "platform/linux/device_tool.h"
-#include "platform/linux/operating_system.h"
 #include "platform/linux/sysfs_registry.h"
+#include "platform/stored_edid_system.h"
 #include "shell/startup.h"
 #include "shell/wiring.h"
 
@@ -21,8 +21,8 @@ int main(int argc, char** argv) {
 
     const char* const sysfs = "/sys";
     platform::linux_system::SysfsRegistry registry(sysfs);
-    platform::linux_system::StoredEdidSystem system;
-    platform::linux_system::NoDirectReader reader;
+    platform::StoredEdidSystem system;
+    platform::NoDirectReader reader;
     platform::linux_system::DeviceTool deviceTool(sysfs);
 
     desktop::ModelGate gate;
