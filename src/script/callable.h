@@ -109,7 +109,7 @@ constexpr Callable callable(std::string_view name) {
 const Callable& helperNamed(std::string_view name);
 
 /// The procedure of that name: those of the extension screen stand under "frmCEA_EXT.", all others stand alone or under
-/// "frmEDID.". An unknown name is a ScriptError.
+/// "frmEDID.". A click handler also goes by the name of its control. An unknown name is a ScriptError.
 const Callable& procedureNamed(std::string_view name);
 
 } // namespace wb::script

@@ -1,7 +1,15 @@
 #include <array>
 #include <span>
 
+#include "acquire/base_location.h"
 #include "acquire/get_edid.h"
+#include "acquire/scan.h"
+#include "block0/dispatch.h"
+#include "block0/panel_basic.h"
+#include "block0/panel_chromaticity.h"
+#include "block0/panel_descriptor.h"
+#include "block0/panel_standard.h"
+#include "block0/panel_vendor.h"
 #include "cea/audio_panel.h"
 #include "cea/data_blocks.h"
 #include "cea/definitions.h"
@@ -33,8 +41,13 @@
 #include "report/standard_timings.h"
 #include "script/callable.h"
 #include "script/script_error.h"
+#include "shell/calculator.h"
+#include "shell/frame.h"
 #include "shell/information.h"
 #include "shell/lifecycle.h"
+#include "shell/printing.h"
+#include "shell/startup.h"
+#include "shell/wiring_block_screen.h"
 
 namespace wb::script {
 
@@ -49,9 +62,20 @@ void withoutIndex(Workbench& workbench) {
     handler(workbench, Control::noIndex);
 }
 
+/// The entry of a handler that the two block screens share.
+template <const block0::BlockScreenRules& rules, void (*procedure)(const block0::BlockScreenRules&, Workbench&)>
+constexpr Callable shared(std::string_view name) {
+    return callable<&withoutIndex<&shell::screenHandler<rules, procedure>>>(name);
+}
+
+/// A step that sets the button; what it found is for its callers in the program alone.
+void updateExtensionButton(Workbench& workbench) {
+    UpdateExtensionButton(workbench);
+}
+
 constexpr auto procedures = std::to_array<Callable>({
     callable<&RecalcBlock0Checksum>("RecalcBlock0Checksum"),
-    callable<&UpdateExtensionButton>("UpdateExtensionButton"),
+    callable<&updateExtensionButton>("UpdateExtensionButton"),
 
     callable<&report::BuildEDIDDefinations>("BuildEDIDDefinations"),
     callable<&report::GetManufacturer>("GetManufacturer"),
@@ -88,11 +112,50 @@ constexpr auto procedures = std::to_array<Callable>({
     callable<&files::InitNewImage>("InitNewImage"),
     callable<&files::FileSave>("FileSave"),
     callable<&files::FileSaveAs>("FileSaveAs"),
-    callable<&files::ExportHex_Click>("ExportHex"),
 
     callable<&acquire::GetEDIDData>("GetEDIDData"),
     callable<&shell::FillInModelInfo>("FillInModelInfo"),
     callable<&shell::StartSysInfo>("StartSysInfo"),
+
+    callable<&shell::frmEDID_Load>("Form_Load"),
+    callable<&withoutIndex<&block0::VendorInfo_GotFocus>>("VendorInfo_GotFocus"),
+    callable<&withoutIndex<&block0::VerRev_GotFocus>>("VerRev_GotFocus"),
+    callable<&withoutIndex<&block0::BasicInput_GotFocus>>("BasicInput_GotFocus"),
+    callable<&withoutIndex<&block0::ChromaValue_GotFocus>>("ChromaValue_GotFocus"),
+    callable<&withoutIndex<&block0::STAInput_GotFocus>>("STAInput_GotFocus"),
+    callable<&withoutIndex<&block0::ExtStaInput_GotFocus>>("ExtStaInput_GotFocus"),
+    callable<&withoutIndex<&block0::DTaInput_GotFocus>>("DTaInput_GotFocus"),
+    callable<&withoutIndex<&block0::DTAGTF_Click>>("DTAGTF_Click"),
+    shared<block0::edidScreenRules, block0::DTInput_GotFocus>("DTInput_GotFocus"),
+    shared<block0::edidScreenRules, block0::DT1_Click>("DT1_Click"),
+    shared<block0::edidScreenRules, block0::SyncLine_Click>("SyncLine_Click"),
+    shared<block0::edidScreenRules, block0::VSyncLine_Click>("VSyncLine_Click"),
+    shared<block0::edidScreenRules, block0::SyncSerrate_Click>("SyncSerrate_Click"),
+
+    callable<&shell::mnuFileNew>("mnuFileNew_Click"),
+    callable<&shell::mnuFileOpen>("mnuFileOpen_Click"),
+    callable<&shell::mnuFileClose>("mnuFileClose_Click"),
+    callable<&files::FileSave>("mnuFileSave_Click"),
+    callable<&files::FileSaveAs>("mnuFileSaveAs_Click"),
+    callable<&shell::mnuFilePageSetup>("mnuFilePageSetup_Click"),
+    callable<&shell::translateEDID>("mnuFilePrintPreview_Click"),
+    callable<&shell::mnuFilePrint>("mnuFilePrint_Click"),
+    callable<&files::ExportHex_Click>("ExportHex_Click"),
+    callable<&shell::HexCalculator_Click>("HexCalculator_Click"),
+    callable<&acquire::GetEDIDData>("GetEDIDData_Click"),
+    callable<&acquire::Windows2000_Click>("Windows2000_Click"),
+    callable<&shell::mnuFileExit>("mnuFileExit_Click"),
+    callable<&shell::arrange<platform::Arrangement::Cascade>>("mnuWindowCascade_Click"),
+    callable<&shell::arrange<platform::Arrangement::TileHorizontal>>("mnuWindowTileHorizontal_Click"),
+    callable<&shell::arrange<platform::Arrangement::TileVertical>>("mnuWindowTileVertical_Click"),
+    callable<&shell::arrange<platform::Arrangement::ArrangeIcons>>("mnuWindowArrangeIcons_Click"),
+    callable<&shell::Info_Click>("Info_Click"),
+    callable<&shell::mnuHelpAbout_Click>("mnuHelpAbout_Click"),
+    callable<&shell::translateEDID>("Command1_Click"),
+    callable<&shell::Command2_Click>("Command2_Click"),
+    callable<&shell::Command3_Click>("Command3_Click"),
+    callable<&shell::Command4_Click>("Command4_Click"),
+    callable<&acquire::Command5_Click>("Command5_Click"),
 });
 
 constexpr auto extensionProcedures = std::to_array<Callable>({
@@ -134,11 +197,20 @@ constexpr auto extensionProcedures = std::to_array<Callable>({
     callable<&withoutIndex<&cea::VideoBlkCBox_Click>>("VideoBlkCBox_Click"),
     callable<&withoutIndex<&cea::NativeChkBox_Click>>("NativeChkBox_Click"),
     callable<&withoutIndex<&cea::AudChCBox_Click>>("AudChCBox_Click"),
+    callable<&withoutIndex<&cea::bitrateCBox_Click>>("bitrateCBox_Click"),
+    callable<&withoutIndex<&cea::txtBoxVendorID_GotFocus>>("txtBoxVendorID_GotFocus"),
+    callable<&withoutIndex<&cea::txtBoxVendorData_GotFocus>>("txtBoxVendorData_GotFocus"),
+    shared<cea::ceaScreenRules, block0::DTInput_GotFocus>("DTInput_GotFocus"),
+    shared<cea::ceaScreenRules, block0::DT1_Click>("DT1_Click"),
+    shared<cea::ceaScreenRules, block0::SyncLine_Click>("SyncLine_Click"),
+    shared<cea::ceaScreenRules, block0::VSyncLine_Click>("VSyncLine_Click"),
+    shared<cea::ceaScreenRules, block0::SyncSerrate_Click>("SyncSerrate_Click"),
 });
 
 const Callable& find(std::span<const Callable> table, std::string_view bareName, std::string_view fullName) {
+    const std::string clickHandler = std::string(bareName) + "_Click";
     for (const Callable& procedure : table) {
-        if (procedure.name == bareName) {
+        if (procedure.name == bareName || procedure.name == clickHandler) {
             return procedure;
         }
     }
