@@ -15,13 +15,21 @@ namespace {
 /// A data file never holds more than these blocks.
 constexpr std::size_t blocksOfDataFile = 2;
 
+std::vector<Finding> checkDataFile(const Input& input) {
+    Program program;
+    std::vector<Finding> findings = checkImage(program.dataFileBytes(input), blocksOfDataFile);
+    for (const std::string& box : program.boxes()) {
+        findings.push_back({false, inOneLine(box)});
+    }
+    return findings;
+}
+
 /// Prints one line about the file. False when anything about it is wrong.
 bool checkFile(const std::string& name) {
     const Input input = readInput(name);
     const Content content = imageIn(input);
-    const bool isDataFile = content.kind == ContentKind::DataFile;
-    const std::vector<Finding> findings = isDataFile
-                                              ? checkImage(Program().dataFileBytes(input), blocksOfDataFile)
+    const std::vector<Finding> findings = content.kind == ContentKind::DataFile
+                                              ? checkDataFile(input)
                                               : checkImage(content.image, std::numeric_limits<std::size_t>::max());
     bool good = true;
     std::string line = name;
@@ -52,7 +60,7 @@ int run(const std::vector<std::string>& files) {
 void addCheck(CLI::App& app, Chosen& chosen) {
     CLI::App* command = app.add_subcommand("check", "Check header, length and check sums of each file");
     const auto files = std::make_shared<std::vector<std::string>>();
-    command->add_option("FILE", *files, "File in any format; - is standard input")->required();
+    command->add_option("FILE", *files, "File in any format; - is standard input")->type_name("")->required();
     command->callback([files, &chosen] { chosen = [files] { return run(*files); }; });
 }
 

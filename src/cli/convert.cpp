@@ -64,8 +64,8 @@ void addConvert(CLI::App& app, Chosen& chosen) {
         ->required()
         ->check(CLI::IsMember(formatNames()))
         ->take_last();
-    command->add_option("IN", options->in, "File in any format; - is standard input")->required();
-    command->add_option("OUT", options->out, "File to be written; - is standard output")->required();
+    command->add_option("IN", options->in, "File in any format; - is standard input")->type_name("")->required();
+    command->add_option("OUT", options->out, "File to be written; - is standard output")->type_name("")->required();
     command->add_flag("-f,--force", options->force, "Replace OUT if it exists");
     command->callback([options, &chosen] { chosen = [options] { return run(*options); }; });
 }

@@ -2,6 +2,10 @@
 #include <csignal>
 #include <exception>
 
+#ifdef __unix__
+#include <fcntl.h>
+#endif
+
 #include "cli/cli_error.h"
 #include "cli/commands.h"
 #include "cli/output.h"
@@ -23,9 +27,21 @@ std::vector<std::string> argumentsOf(int argc, char** argv) {
     return {arguments.rbegin(), arguments.rend()}; // the order in which the option library takes them
 }
 
+/// A reader that has gone is an error like any other, and a standard stream that is closed stays unusable: no file that
+/// is opened later takes its place.
+void prepareStreams() {
+#ifdef __unix__
+    std::signal(SIGPIPE, SIG_IGN);
+    for (int stream = 0; stream <= 2; ++stream) {
+        if (fcntl(stream, F_GETFD) == -1) {
+            open("/dev/null", stream == 0 ? O_WRONLY : O_RDONLY);
+        }
+    }
+#endif
+}
+
 int complainOfUsage(const std::string& message) {
-    complain(message);
-    complain("try 'edidwb --help' for more information");
+    complain(message + "\nTry 'edidwb --help' for more information.");
     return wrongUse;
 }
 
@@ -59,9 +75,7 @@ int run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-#ifdef SIGPIPE
-    std::signal(SIGPIPE, SIG_IGN); // a reader that has gone is an error like any other
-#endif
+    prepareStreams();
     try {
         const int status = run(argc, argv);
         flushOutput();

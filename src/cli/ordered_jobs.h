@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
@@ -7,6 +8,7 @@
 #include <functional>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -29,7 +31,7 @@ public:
         }
         OrderedJobs batch(count, work);
         std::vector<std::jthread> threads;
-        for (std::size_t i = 0; i < jobs && i < count; ++i) {
+        for (std::size_t i = 0; i < std::min({jobs, count, mostThreads}); ++i) {
             threads.emplace_back([&batch] { batch.workOn(); });
         }
         try {
@@ -43,6 +45,8 @@ public:
     }
 
 private:
+    static constexpr std::size_t mostThreads = 256;
+
     using Outcome = std::variant<std::monostate, Result, std::exception_ptr>;
 
     OrderedJobs(std::size_t count, const Work& work) : work_(work), outcomes_(count) {}

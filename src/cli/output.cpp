@@ -110,7 +110,7 @@ void writeFile(const std::string& name, std::string_view content, Existing exist
     std::error_code error;
     const fs::file_status status = fs::status(name, error);
     if (fs::is_directory(status)) {
-        throw CliError("is a directory");
+        throw CliError(std::strerror(EISDIR));
     }
     if (fs::exists(status) && existing == Existing::Refuse) {
         throw CliError("exists already (--force replaces it)");

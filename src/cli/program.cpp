@@ -124,16 +124,20 @@ void Program::open(const std::string& path) {
     input::choose(workbench_.frmMain().mnuFileOpen);
     for (int i = 0; i < BlockScreen::cellCount; ++i) {
         if (workbench_.frmEDID().txtEdit(i).text() != workbench_.EDIDCells(i)) {
-            throw CliError("cannot be loaded");
+            failToLoad();
         }
     }
+}
+
+void Program::failToLoad() const {
+    throw CliError("cannot be loaded" + (boxes_.empty() ? "" : ": " + inOneLine(boxes_.back())));
 }
 
 std::string Program::dataFileBytes(const Input& input) {
     const DataFilePath file(input);
     workbench_.CurrentFileName = file.path();
     if (!files::ReadEDIDDataFile(workbench_)) {
-        throw CliError("cannot be loaded");
+        failToLoad();
     }
     std::string bytes;
     for (int i = 0; i < workbench_.EDIDCells.size() && !workbench_.EDIDCells(i).empty(); ++i) {

@@ -19,7 +19,10 @@ int runScript(std::istream& script, const std::string& name) {
     platform::headless::HeadlessPlatform platform;
     Workbench workbench(platform.services(), shell::wiring());
     script::ModelFrontEnd user(workbench);
-    script::Driver driver({workbench, platform, user, [](const std::string& line) { print(line + '\n'); }});
+    script::Driver driver({workbench, platform, user, [](const std::string& line) {
+                               print(line + '\n');
+                               flushOutput(); // who writes a script while it runs waits for this
+                           }});
     try {
         driver.run(script);
     } catch (const script::ScriptError& error) {
@@ -47,7 +50,7 @@ int run(const std::string& name) {
 void addScript(CLI::App& app, Chosen& chosen) {
     CLI::App* command = app.add_subcommand("script", "Drive the screens of the program by a script");
     const auto file = std::make_shared<std::string>(standardStream);
-    command->add_option("FILE", *file, "The script; - (the default) is standard input");
+    command->add_option("FILE", *file, "The script; - (the default) is standard input")->type_name("");
     command->callback([file, &chosen] { chosen = [file] { return run(*file); }; });
 }
 

@@ -11,6 +11,7 @@
 #include "cli/output.h"
 #include "cli/program.h"
 #include "script/date_time.h"
+#include "script/digits.h"
 
 namespace wb::cli {
 
@@ -21,7 +22,7 @@ namespace fs = std::filesystem;
 struct Options {
     std::vector<std::string> files;
     std::string outputFolder;
-    std::size_t jobs = 1;
+    std::string jobs = "1";
     std::string date;
     bool strict = false;
 };
@@ -124,7 +125,16 @@ std::optional<platform::DateTime> dateOf(const Options& options) {
     return date;
 }
 
+std::size_t jobsOf(const Options& options) {
+    const auto jobs = script::wholeNumber<std::size_t>(options.jobs);
+    if (!jobs || *jobs == 0) {
+        throw UsageError("the number of jobs is 1 or more, not '" + options.jobs + "'");
+    }
+    return *jobs;
+}
+
 int run(const Options& options) {
+    const std::size_t jobs = jobsOf(options);
     requireOneStandardInput(options.files);
     const std::optional<platform::DateTime> now = dateOf(options);
     if (!options.outputFolder.empty()) {
@@ -137,7 +147,7 @@ int run(const Options& options) {
     }
     Collector collector(options);
     OrderedJobs<Translation>::run(
-        options.files.size(), options.jobs, [&](std::size_t i) { return translate(options.files[i], now); },
+        options.files.size(), jobs, [&](std::size_t i) { return translate(options.files[i], now); },
         [&](const Translation& translation) { collector.take(translation); });
     return collector.failed() ? somethingFailed : success;
 }
@@ -150,14 +160,12 @@ void addTranslate(CLI::App& app, Chosen& chosen) {
     command
         ->add_option("FILE", options->files,
                      "Data file, binary image or hexadecimal text, recognised by content; - is standard input")
+        ->type_name("")
         ->required();
     command->add_option("-o,--output-dir", options->outputFolder, "Write each report to DIR/NAME.txt instead")
         ->type_name("DIR")
         ->take_last();
-    command->add_option("-j,--jobs", options->jobs, "Work on up to N files at a time")
-        ->type_name("N")
-        ->check(CLI::PositiveNumber)
-        ->take_last();
+    command->add_option("-j,--jobs", options->jobs, "Work on up to N files at a time")->type_name("N")->take_last();
     command->add_option("--date", options->date, "Set the clock that the heading shows")
         ->type_name("\"YYYY-MM-DD HH:MM:SS\"")
         ->take_last();

@@ -1,10 +1,12 @@
-#include <fstream>
-#include <iterator>
+#include <array>
+#include <system_error>
+#include <utility>
 
 #include "core/text.h"
 #include "script/commands.h"
 #include "script/date_time.h"
 #include "script/digits.h"
+#include "script/file_content.h"
 #include "script/reg_file.h"
 #include "script/script_error.h"
 
@@ -27,12 +29,11 @@ platform::Answer answerNamed(const std::string& name) {
 }
 
 std::string contentOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::string content((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    if (!file || file.bad()) {
-        throw ScriptError(path + ": cannot be read");
+    try {
+        return readFile(path);
+    } catch (const std::system_error& error) {
+        throw ScriptError(path + ": " + error.code().message());
     }
-    return content;
 }
 
 } // namespace

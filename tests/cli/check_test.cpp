@@ -1,0 +1,54 @@
+#include "cli/edidwb.h"
+
+namespace wb::test {
+namespace {
+
+using CheckTest = Edidwb;
+
+TEST_F(CheckTest, TellsAboutEachFile) {
+    const Outcome good = shell("cd $SAMPLES; edidwb check halvorine-hv19.bin zarqo-z40.bin");
+    EXPECT_EQ(good.status, 0);
+    EXPECT_EQ(good.output,
+              "halvorine-hv19.bin: header ok, length 128 ok, check sum of block 0 ok\n"
+              "zarqo-z40.bin: header ok, length 256 ok, check sum of block 0 ok, check sum of block 1 ok\n");
+}
+
+TEST_F(CheckTest, ReadsEveryForm) {
+    shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; edidwb convert --to hex $SAMPLES/zarqo-z40.bin z.hex");
+    const Outcome outcome = shell("edidwb check z.DAT z.hex - <z.DAT");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(outcome.output,
+              "z.DAT: header ok, length 256 ok, check sum of block 0 ok, check sum of block 1 ok\n"
+              "z.hex: header ok, length 256 ok, check sum of block 0 ok, check sum of block 1 ok\n"
+              "-: header ok, length 256 ok, check sum of block 0 ok, check sum of block 1 ok\n");
+}
+
+TEST_F(CheckTest, Status1WhenAnythingIsWrong) {
+    std::string image = sample("halvorine-hv19.bin"); // its check sum is F4
+    image[127] = '\xF3';
+    write("sum.bin", image);
+    write("notes", "no image");
+    write("odd.DAT", "128 BYTES OF EDID CODE:\n\n\n|00 FF ZZ\n");
+    write("short.DAT", "128 BYTES OF EDID CODE:\n\n\n|00 FF\n");
+    const Outcome outcome = shell("edidwb check sum.bin notes odd.DAT short.DAT missing");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output,
+              "sum.bin: header ok, length 128 ok, check sum of block 0 F3 should be F4\n"
+              "short.DAT: header wrong, length 2 is short of one block\n");
+    EXPECT_EQ(outcome.errors,
+              "edidwb: notes: is no EDID image: neither a data file, nor hexadecimal text, nor a binary image\n"
+              "edidwb: odd.DAT: cell 2 is no byte: \"ZZ\"\n"
+              "edidwb: missing: No such file or directory\n");
+    EXPECT_EQ(shell("edidwb check sum.bin").status, 1);
+    EXPECT_EQ(shell("edidwb check $SAMPLES/zarqo-z40.bin sum.bin $SAMPLES/zarqo-z40.bin").status, 1);
+}
+
+TEST_F(CheckTest, ADataFileWithTooManyPairsIsWrong) {
+    shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; echo '| AA' >>z.DAT");
+    const Outcome outcome = shell("edidwb check z.DAT");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(contains(outcome.output, "check sum of block 1 ok, Subscript out of range\n")) << outcome.output;
+}
+
+} // namespace
+} // namespace wb::test

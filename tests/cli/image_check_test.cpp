@@ -1,0 +1,62 @@
+#include "cli/image_check.h"
+
+#include <gtest/gtest.h>
+
+namespace wb::cli {
+namespace {
+
+constexpr std::size_t anyBlocks = 1000;
+const std::string header("\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8);
+
+/// The findings, the wrong ones in upper case "BAD:".
+std::string textOf(const std::vector<Finding>& findings) {
+    std::string text;
+    for (const Finding& finding : findings) {
+        text += (finding.good ? "" : "BAD: ") + finding.text + '\n';
+    }
+    return text;
+}
+
+/// A block with the header, the extension count and a valid check sum: six times FF is 5FA hexadecimal.
+std::string block0(char extensions) {
+    std::string block = header + std::string(120, '\0');
+    block[126] = extensions;
+    block[127] = static_cast<char>(0x06 - extensions);
+    return block;
+}
+
+TEST(ImageCheck, FindsNothingWrongWithAValidImage) {
+    EXPECT_EQ(textOf(checkImage(block0(0), anyBlocks)), "header ok\nlength 128 ok\ncheck sum of block 0 ok\n");
+    const std::string extension = std::string("\x02\xFE", 2) + std::string(126, '\0');
+    EXPECT_EQ(textOf(checkImage(block0(1) + extension, anyBlocks)),
+              "header ok\nlength 256 ok\ncheck sum of block 0 ok\ncheck sum of block 1 ok\n");
+}
+
+TEST(ImageCheck, TellsWhatIsWrong) {
+    std::string image = block0(0);
+    image[3] = '\xFE';
+    EXPECT_EQ(textOf(checkImage(image, anyBlocks)),
+              "BAD: header wrong\nlength 128 ok\nBAD: check sum of block 0 06 should be 07\n");
+    EXPECT_EQ(textOf(checkImage(block0(1), anyBlocks)),
+              "header ok\nBAD: length 128 should be 256\ncheck sum of block 0 ok\n");
+    EXPECT_EQ(textOf(checkImage(block0(1) + std::string("\x02") + std::string(127, '\0'), anyBlocks)),
+              "header ok\nlength 256 ok\ncheck sum of block 0 ok\nBAD: check sum of block 1 00 should be FE\n");
+}
+
+TEST(ImageCheck, GoesAsFarAsTheImage) {
+    EXPECT_EQ(textOf(checkImage("", anyBlocks)), "BAD: header wrong\nBAD: length 0 is short of one block\n");
+    EXPECT_EQ(textOf(checkImage(block0(0).substr(0, 127), anyBlocks)), "header ok\nBAD: length 127 should be 128\n");
+    EXPECT_EQ(textOf(checkImage(block0(0) + "ab", anyBlocks)),
+              "header ok\nBAD: length 130 should be 128\ncheck sum of block 0 ok\n");
+}
+
+TEST(ImageCheck, ExpectsNoMoreBlocksThanTheFormatHolds) {
+    const std::string image = block0(2) + std::string(128, '\0');
+    EXPECT_EQ(textOf(checkImage(image, 2)),
+              "header ok\nlength 256 ok\ncheck sum of block 0 ok\ncheck sum of block 1 ok\n");
+    EXPECT_EQ(textOf(checkImage(image, anyBlocks)),
+              "header ok\nBAD: length 256 should be 384\ncheck sum of block 0 ok\ncheck sum of block 1 ok\n");
+}
+
+} // namespace
+} // namespace wb::cli

@@ -1,0 +1,177 @@
+#include <algorithm>
+#include <random>
+#include <sstream>
+
+#include "cli/edidwb.h"
+
+namespace wb::test {
+namespace {
+
+using TranslateTest = Edidwb;
+
+std::string asHexText(const std::string& bytes) {
+    std::ostringstream text;
+    for (const char byte : bytes) {
+        text << std::hex << (static_cast<unsigned char>(byte) >> 4U) << (static_cast<unsigned char>(byte) & 15U)
+             << '\n';
+    }
+    return text.str();
+}
+
+TEST_F(TranslateTest, PrintsReportsInTheOrderOfTheInput) {
+    const Outcome both = shell("edidwb translate $SAMPLES/zarqo-z40.bin $SAMPLES/halvorine-hv19.bin");
+    EXPECT_EQ(both.status, 0);
+    EXPECT_EQ(both.errors, "");
+    EXPECT_EQ(both.output, shell("edidwb translate $SAMPLES/zarqo-z40.bin").output +
+                               shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output);
+    EXPECT_TRUE(contains(both.output, "\n(08-09)  ID Manufacturer Name ________________=   HLV\n"));
+    EXPECT_FALSE(contains(both.output, "\r"));
+}
+
+TEST_F(TranslateTest, ReadsEveryFormAndStandardInput) {
+    const Outcome binary = shell("edidwb translate $SAMPLES/zarqo-z40.bin");
+    write("z.txt", asHexText(sample("zarqo-z40.bin")));
+    EXPECT_EQ(shell("edidwb translate z.txt").output, binary.output);
+    EXPECT_EQ(shell("edidwb translate - <z.txt").output, binary.output);
+    EXPECT_EQ(shell("cat $SAMPLES/zarqo-z40.bin | edidwb translate -").output, binary.output);
+    // The report of a data file is that of its image.
+    EXPECT_EQ(shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT").status, 0);
+    EXPECT_EQ(shell("edidwb translate z.DAT").output, binary.output);
+    EXPECT_EQ(shell("edidwb translate - <z.DAT").output, binary.output);
+    EXPECT_EQ(shell("edidwb translate <(cat z.DAT)").output, binary.output);
+}
+
+TEST_F(TranslateTest, TheDateOfTheHeadingCanBeSet) {
+    EXPECT_TRUE(contains(shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output,
+                         "Time:  00:00:00\n                        Date:  Sat Jan 01, 2000\n"));
+    EXPECT_TRUE(contains(shell("edidwb translate --date '2004-02-29 13:14:15' $SAMPLES/halvorine-hv19.bin").output,
+                         "Time:  13:14:15\n                        Date:  Sun Feb 29, 2004\n"));
+}
+
+TEST_F(TranslateTest, AFileThatIsNoImageIsToldAndTheRestGoesOn) {
+    write("notes.txt", "no image");
+    write("empty", "");
+    const Outcome outcome = shell("edidwb translate notes.txt missing empty . /dev/null $SAMPLES/halvorine-hv19.bin");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output);
+    EXPECT_EQ(outcome.errors,
+              "edidwb: notes.txt: is no EDID image: neither a data file, nor hexadecimal text, nor a binary image\n"
+              "edidwb: missing: No such file or directory\n"
+              "edidwb: empty: is empty\n"
+              "edidwb: .: Is a directory\n"
+              "edidwb: /dev/null: is empty\n");
+}
+
+TEST_F(TranslateTest, ADataFileThatBreaksOffIsToldToo) {
+    write("short.DAT", "128 BYTES OF EDID CODE:\r\nheads\r\n");
+    const Outcome outcome = shell("edidwb translate short.DAT");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors,
+              "edidwb: short.DAT: Input past end of file\n"
+              "edidwb: short.DAT: cannot be loaded: Input past end of file\n");
+}
+
+TEST_F(TranslateTest, BoxesCountOnlyWhenStrict) {
+    // The data file has one pair too many: that is told, and the rest is as good as before.
+    shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; echo '| AA' >>z.DAT");
+    const std::string told = "edidwb: z.DAT: Subscript out of range\n";
+    const Outcome lenient = shell("edidwb translate z.DAT");
+    EXPECT_EQ(lenient.status, 0);
+    EXPECT_EQ(lenient.errors, told);
+    EXPECT_EQ(lenient.output, shell("edidwb translate $SAMPLES/zarqo-z40.bin").output);
+    const Outcome strict = shell("edidwb translate --strict z.DAT");
+    EXPECT_EQ(strict.status, 1);
+    EXPECT_EQ(strict.errors, told);
+    EXPECT_EQ(strict.output, lenient.output);
+}
+
+TEST_F(TranslateTest, WritesOneReportAFile) {
+    write("notes.bin", "no image");
+    const Outcome outcome = shell("cp $SAMPLES/*.bin .\nedidwb translate --output-dir new/out --jobs 2 *.bin");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_TRUE(contains(outcome.errors, "edidwb: notes.bin: is no EDID image"));
+    EXPECT_FALSE(exists("new/out/notes.txt"));
+    for (const char* name : {"halvorine-hv19", "zarqo-z40", "norvixan-nx3d"}) {
+        EXPECT_EQ(read("new/out/" + std::string(name) + ".txt"),
+                  shell("edidwb translate " + std::string(name) + ".bin").output);
+    }
+    EXPECT_EQ(shell("ls -A new/out | wc -l").output, "7\n");
+    EXPECT_EQ(shell("edidwb translate -o new/out zarqo-z40.bin").status, 0) << "a report is replaced";
+    EXPECT_EQ(shell("edidwb translate -o new/out - <zarqo-z40.bin").status, 0);
+    EXPECT_EQ(read("new/out/stdin.txt"), read("new/out/zarqo-z40.txt"));
+}
+
+TEST_F(TranslateTest, TwoInputsOfOneNameAreTold) {
+    const Outcome outcome = shell(
+        "mkdir a b\ncp $SAMPLES/zarqo-z40.bin a/x.bin\ncp $SAMPLES/halvorine-hv19.bin b/x.bin\n"
+        "edidwb translate -o out -j 2 a/x.bin b/x.bin");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "edidwb: b/x.bin: its report 'out/x.txt' is already that of 'a/x.bin'\n");
+    EXPECT_EQ(read("out/x.txt"), shell("edidwb translate a/x.bin").output);
+}
+
+TEST_F(TranslateTest, AReportNeverReplacesAnInput) {
+    const std::string text = asHexText(sample("zarqo-z40.bin"));
+    write("z.txt", text);
+    const Outcome outcome = shell("edidwb translate -o . z.txt");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "edidwb: z.txt: its report './z.txt' would replace a file that is to be read\n");
+    EXPECT_EQ(read("z.txt"), text);
+}
+
+TEST_F(TranslateTest, AReportThatCannotBeWrittenIsTold) {
+    write("file", "");
+    EXPECT_EQ(shell("edidwb translate -o file $SAMPLES/zarqo-z40.bin").status, 1);
+    const Outcome outcome = shell("mkdir -p out/zarqo-z40.txt\nedidwb translate -o out $SAMPLES/*.bin");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(contains(outcome.errors, "edidwb: out/zarqo-z40.txt: Is a directory\n")) << outcome.errors;
+    EXPECT_TRUE(exists("out/halvorine-hv19.txt"));
+}
+
+/// Each file is translated as if it were the only one, whatever comes before it and however many jobs there are.
+TEST_F(TranslateTest, OrderAndJobsChangeNothing) {
+    std::vector<std::string> names = {"brindleco-b24w", "halvorine-hv19",  "norvixan-nx3d", "ortheline-studio",
+                                      "quillmere-q15",  "tessaramond-tp8", "zarqo-z40"};
+    std::vector<std::string> alone;
+    for (const std::string& name : names) {
+        alone.push_back(shell("edidwb translate $SAMPLES/" + name + ".bin").output);
+        ASSERT_FALSE(alone.back().empty()) << name;
+    }
+    std::mt19937 random(20040229);
+    for (int round = 0; round < 4; ++round) {
+        std::vector<std::size_t> order;
+        for (std::size_t i = 0; i < 3 * names.size(); ++i) {
+            order.push_back(i % names.size());
+        }
+        std::shuffle(order.begin(), order.end(), random);
+        std::string command = "edidwb translate --jobs " + std::to_string(1 + 2 * round);
+        std::string expected;
+        for (const std::size_t i : order) {
+            command += " $SAMPLES/" + names[i] + ".bin";
+            expected += alone[i];
+        }
+        EXPECT_EQ(shell(command).output, expected) << command;
+    }
+}
+
+TEST_F(TranslateTest, LargeFilesAreReadInOneGo) {
+    constexpr std::size_t megabyte = 1U << 20U;
+    write("bars", std::string(20 * megabyte, '|'));
+    write("hex", std::string(20 * megabyte, 'a'));
+    std::string dump = "128 BYTES OF EDID CODE:\n\n\n|";
+    for (std::size_t i = 0; dump.size() < 20 * megabyte; ++i) {
+        dump += static_cast<char>(i % 256 == '\n' ? 'n' : i % 256);
+    }
+    write("dump", dump);
+    write("marker", "128 BYTES OF EDID CODE:" + std::string(20 * megabyte, ' '));
+    const Outcome outcome = shell("edidwb translate bars hex dump marker");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(contains(outcome.errors, "edidwb: bars: is no EDID image"));
+    EXPECT_TRUE(contains(outcome.errors, "edidwb: dump: Subscript out of range\n"));
+    EXPECT_TRUE(contains(outcome.errors, "edidwb: marker: cannot be loaded: Input past end of file\n"));
+}
+
+} // namespace
+} // namespace wb::test

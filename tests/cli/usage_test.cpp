@@ -1,0 +1,71 @@
+#include "cli/edidwb.h"
+
+namespace wb::test {
+namespace {
+
+using UsageTest = Edidwb;
+
+TEST_F(UsageTest, TellsItsVersionAndHelp) {
+    const Outcome version = shell("edidwb --version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.output.substr(0, 7), "edidwb ");
+    for (const char* command : {"", "translate ", "convert ", "check ", "script "}) {
+        const Outcome help = shell("edidwb " + std::string(command) + "--help");
+        EXPECT_EQ(help.status, 0) << command;
+        EXPECT_TRUE(contains(help.output, "Usage: edidwb " + std::string(command))) << help.output;
+        EXPECT_EQ(help.errors, "") << command;
+    }
+}
+
+TEST_F(UsageTest, WrongUseHasStatus2) {
+    for (const char* arguments :
+         {"", "frob", "--frob", "translate", "translate --frob x", "translate --jobs 0 x", "translate --jobs -1 x",
+          "translate --jobs two x", "translate --jobs", "translate --date 2004-02-30 x", "translate - -",
+          "translate --strict=maybe x", "check", "check - -", "convert a b", "convert --to bin a",
+          "convert --to gif a b", "convert --to bin a b c", "script a b"}) {
+        const Outcome outcome = shell("edidwb " + std::string(arguments));
+        EXPECT_EQ(outcome.status, 2) << arguments;
+        EXPECT_EQ(outcome.output, "") << arguments;
+        EXPECT_EQ(outcome.errors.substr(0, 8), "edidwb: ") << arguments;
+        EXPECT_TRUE(contains(outcome.errors, "\nTry 'edidwb --help' for more information.\n")) << outcome.errors;
+    }
+}
+
+TEST_F(UsageTest, OptionsMayStandAnywhereAndEndAtTwoDashes) {
+    const std::string image = sample("halvorine-hv19.bin");
+    for (const char* name : {"check", "-x", "[a]", "{}", "--help", "a b"}) {
+        write(name, image);
+    }
+    EXPECT_EQ(shell("edidwb check check").status, 0);
+    EXPECT_EQ(shell("edidwb check '[a]' '{}' 'a b'").status, 0);
+    EXPECT_EQ(shell("edidwb translate check --strict --jobs=2 '[a]' -j 1").status, 0);
+    const Outcome dashes = shell("edidwb check -- -x --help");
+    EXPECT_EQ(dashes.status, 0) << dashes.errors;
+    EXPECT_EQ(dashes.output.substr(0, 3), "-x:");
+}
+
+TEST_F(UsageTest, OutputThatCannotBeWrittenIsAnError) {
+    for (const char* command :
+         {"edidwb --help >/dev/full", "edidwb --version >/dev/full",
+          "edidwb translate $SAMPLES/zarqo-z40.bin >/dev/full", "edidwb check $SAMPLES/zarqo-z40.bin >/dev/full",
+          "edidwb convert --to bin $SAMPLES/zarqo-z40.bin - >/dev/full", "echo windows | edidwb script >/dev/full",
+          "edidwb translate $SAMPLES/zarqo-z40.bin >&-"}) {
+        const Outcome outcome = shell(command);
+        EXPECT_EQ(outcome.status, 1) << command;
+        EXPECT_EQ(outcome.errors.substr(0, 25), "edidwb: standard output: ") << command << '\n' << outcome.errors;
+    }
+}
+
+TEST_F(UsageTest, AClosedPipeIsAnError) {
+    for (const char* command :
+         {"for i in {1..200}; do echo $SAMPLES/zarqo-z40.bin; done | (xargs '" EDIDWB
+          "' translate --jobs 3; echo status $? >&2) | head -c 100 >/dev/null",
+          "yes windows | head -n 20000 | (edidwb script; echo status $? >&2) | head -n 1 >/dev/null"}) {
+        const Outcome outcome = shell(command);
+        EXPECT_TRUE(contains(outcome.errors, "edidwb: standard output: Broken pipe\n")) << outcome.errors;
+        EXPECT_TRUE(contains(outcome.errors, "status 1")) << outcome.errors; // xargs makes 123 of it
+    }
+}
+
+} // namespace
+} // namespace wb::test
