@@ -14,9 +14,6 @@ namespace wb::cea {
 /// earlier image.
 void LocateDataBlocks(Workbench& workbench);
 
-/// The number in ExtDtdOffsetText; a text that is no number is a TypeMismatch failure.
-std::int16_t offsetNumber(const Workbench& workbench);
-
 /// Fields of a data block header, from the text of its cell: three binary digits of tag (bits 7 to 5), and the number
 /// of data bytes that follow (bits 4 to 0). A character that is no hexadecimal digit contributes nothing.
 std::string tagDigits(std::string_view cellText);

@@ -11,6 +11,7 @@
 #include "cea/speaker.h"
 #include "cea/tag_panel.h"
 #include "cea/vendor.h"
+#include "report/extension_report.h"
 
 namespace wb::cea {
 
@@ -59,8 +60,8 @@ void BuildDetailedTimings(Workbench& workbench) {
         run.wb.ExtDtdSlotCount = lastSlotOf(run.wb);
         for (int slot = 0; slot <= run.wb.ExtDtdSlotCount; ++slot) {
             run.statement([&] {
-                screen.CurrentBlockBase =
-                    slot == 0 ? offsetNumber(run.wb) : int16From(screen.CurrentBlockBase + block0::detailedTimingSize);
+                screen.CurrentBlockBase = slot == 0 ? report::timingOffset(run.wb)
+                                                    : int16From(screen.CurrentBlockBase + block0::detailedTimingSize);
                 screen.CurrentBlockNumber = int16From(slot);
                 if (isDecodedSlot(slot, screen.CurrentBlockBase)) {
                     ConvertDetailedTiming(run.wb);

@@ -182,10 +182,6 @@ void putDataBlocks(const Workbench& wb, TextArray& lines) {
     }
 }
 
-int timingOffset(const Workbench& workbench) {
-    return roundToInt16(strictNumber(workbench.ExtDtdOffsetText));
-}
-
 void moveOn(std::int16_t& entry) {
     entry = int16From(entry + 1);
 }
@@ -222,6 +218,10 @@ void putEnd(const Workbench& wb, TextArray& lines) {
 }
 
 } // namespace
+
+std::int16_t timingOffset(const Workbench& workbench) {
+    return roundToInt16(strictNumber(workbench.ExtDtdOffsetText));
+}
 
 void BuildExtensionReport(Workbench& workbench) {
     trapped(workbench, [&] {
