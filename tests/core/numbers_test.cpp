@@ -73,23 +73,40 @@ TEST_P(LeadingNumber, StopsAtTheFirstCharacterThatCannotContinue) {
     EXPECT_DOUBLE_EQ(leadingNumber(GetParam().text), GetParam().value);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, LeadingNumber,
-                         testing::Values(ValueCase{"", 0}, ValueCase{"01", 1}, ValueCase{"10", 10}, ValueCase{"0A", 0},
-                                         ValueCase{"FF", 0}, ValueCase{"1E", 1}, ValueCase{"1E2", 100},
-                                         ValueCase{"1e+2", 100}, ValueCase{"1E-2x", 0.01}, ValueCase{" 1 2\t3 ", 123},
-                                         ValueCase{"-5", -5}, ValueCase{"+5", 5}, ValueCase{".5", 0.5},
-                                         ValueCase{"5.", 5}, ValueCase{"1.2.3", 1.2}, ValueCase{"abc", 0},
-                                         ValueCase{"&H1F", 31}, ValueCase{"&hFFFFFFFF", 4294967295.0},
-                                         ValueCase{"&HG", 0}, ValueCase{"- 1 . 5", -1.5}, ValueCase{"1E-999", 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Rows, LeadingNumber,
+    testing::Values(ValueCase{"", 0}, ValueCase{"01", 1}, ValueCase{"10", 10}, ValueCase{"0A", 0}, ValueCase{"FF", 0},
+                    ValueCase{"1E", 1}, ValueCase{"1E2", 100}, ValueCase{"1e+2", 100}, ValueCase{"1E-2x", 0.01},
+                    ValueCase{" 1 2\t3 ", 123}, ValueCase{"-5", -5}, ValueCase{"+5", 5}, ValueCase{".5", 0.5},
+                    ValueCase{"5.", 5}, ValueCase{"1.2.3", 1.2}, ValueCase{"abc", 0}, ValueCase{"&H1F", 31},
+                    ValueCase{"&hFFFFFFFF", 4294967295.0}, ValueCase{"&HG", 0}, ValueCase{"- 1 . 5", -1.5},
+                    ValueCase{"1E-999", 0}, ValueCase{"1 E + 2", 100}, ValueCase{"1E+", 1}, ValueCase{"1E.5", 1},
+                    ValueCase{"--5", 0}, ValueCase{"\r\n7", 7}, ValueCase{"7\xA0", 7}, ValueCase{"& H 1\tF", 31},
+                    ValueCase{"-&H10", 0}, ValueCase{"&H", 0}, ValueCase{"&HFFFF", 65535}, ValueCase{"0E999", 0},
+                    ValueCase{"1E-99999999999999999999", 0}));
 
 TEST(Numbers, LeadingNumberBeyondADoubleIsAnOverflow) {
     EXPECT_EQ(failureOf([] { leadingNumber("1E999"); }), FailureKind::Overflow);
     EXPECT_EQ(failureOf([] { leadingNumber(std::string(400, '9')); }), FailureKind::Overflow);
+    EXPECT_EQ(failureOf([] { leadingNumber("0.1E999"); }), FailureKind::Overflow);
+    EXPECT_EQ(failureOf([] { leadingNumber(".001E+99999999999999999999"); }), FailureKind::Overflow);
+    EXPECT_EQ(failureOf([] { leadingNumber(std::string(400, '9') + "E-5"); }), FailureKind::Overflow);
+    EXPECT_EQ(failureOf([] { leadingNumber("&H" + std::string(300, 'F')); }), FailureKind::Overflow);
+}
+
+TEST(Numbers, WhatIsTooSmallForADoubleIsZero) {
+    EXPECT_EQ(leadingNumber("0." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(leadingNumber("1" + std::string(400, '0') + "E-999"), 0);
+    EXPECT_DOUBLE_EQ(leadingNumber("0." + std::string(400, '0') + "1E401"), 1);
 }
 
 TEST(Numbers, StrictConversionTakesTheWholeText) {
     EXPECT_DOUBLE_EQ(strictNumber("  -1.5E1 "), -15);
-    for (const char* text : {"", " ", "1x", "x", "1 2", "&H10", "."}) {
+    EXPECT_DOUBLE_EQ(strictNumber("+2e+1"), 20);
+    EXPECT_DOUBLE_EQ(strictNumber(".5"), 0.5);
+    EXPECT_DOUBLE_EQ(strictNumber("5."), 5);
+    EXPECT_EQ(failureOf([] { strictNumber("1E999"); }), FailureKind::Overflow);
+    for (const char* text : {"", " ", "1x", "x", "1 2", "&H10", ".", "-", "1E", "1,5", "+-1", "E5", "1.2.3", "1E5.0"}) {
         EXPECT_EQ(failureOf([&] { strictNumber(text); }), FailureKind::TypeMismatch) << text;
     }
 }
@@ -103,6 +120,10 @@ TEST(Numbers, PlainDecimalHasNoExponent) {
     EXPECT_EQ(plainDecimal(1e-7), "0.0000001");
     EXPECT_EQ(plainDecimal(123456.75), "123456.75");
     EXPECT_EQ(plainDecimal(0.1 + 0.2), "0.3");
+    EXPECT_EQ(plainDecimal(-0.0), "0");
+    EXPECT_EQ(plainDecimal(999999999999999.0), "999999999999999");
+    EXPECT_EQ(plainDecimal(9999999999999995.0), "10000000000000000") << "15 digits, and a carry into a new one";
+    EXPECT_EQ(plainDecimal(12345678901234567.0), "12345678901234600");
 }
 
 TEST(Numbers, HexadecimalOfNegativeNumbers) {
