@@ -1,5 +1,7 @@
 #include "core/focus.h"
 
+#include <utility>
+
 #include "core/control.h"
 #include "core/screen.h"
 #include "core/view.h"
@@ -57,6 +59,9 @@ void Focus::forget(Screen& screen) {
     if (waiting_ != nullptr && &waiting_->screen() == &screen) {
         waiting_ = nullptr;
     }
+    if (target_ != nullptr && &target_->screen() == &screen) {
+        target_ = nullptr;
+    }
 }
 
 void Focus::clear() {
@@ -66,29 +71,26 @@ void Focus::clear() {
     run(nullptr);
 }
 
-void Focus::run(Control* next) {
+void Focus::run(Control* target) {
+    target_ = target;
     do {
-        const bool calledBack = runLostFocus(next);
-        if (next == nullptr) {
+        const bool calledBack = runLostFocus();
+        if (target_ == nullptr) {
             current_ = nullptr;
             break;
         }
-        enter(*next);
+        enter(*std::exchange(target_, nullptr));
         runGotFocus(calledBack);
-        next = waiting_;
-        waiting_ = nullptr;
-        if (next == current_ || (next != nullptr && !next->canTakeFocus())) {
-            next = nullptr;
-        }
-    } while (next != nullptr);
+        target_ = std::exchange(waiting_, nullptr);
+    } while (target_ != nullptr && target_ != current_ && target_->canTakeFocus());
     if (workbench_->view != nullptr) {
         workbench_->view->focusChanged();
     }
 }
 
-/// Runs LostFocus of the control that has the focus. What it asks for replaces `next`. Tells whether it called itself
-/// back.
-bool Focus::runLostFocus(Control*& next) {
+/// Runs LostFocus of the control that has the focus. What it asks for replaces the target. Tells whether it called
+/// itself back.
+bool Focus::runLostFocus() {
     waiting_ = nullptr;
     if (current_ == nullptr) {
         return false;
@@ -98,12 +100,11 @@ bool Focus::runLostFocus(Control*& next) {
         const HandlerMark mark(inHandler_);
         old->handlers().lostFocus(*workbench_, old->index());
     }
-    Control* const asked = waiting_;
-    waiting_ = nullptr;
+    Control* const asked = std::exchange(waiting_, nullptr);
     if (asked == nullptr || !asked->canTakeFocus()) {
         return false;
     }
-    next = asked;
+    target_ = asked;
     return asked == old;
 }
 
@@ -121,6 +122,7 @@ void Focus::runGotFocus(bool calledBack) {
 void Focus::enter(Control& control) {
     current_ = &control;
     control.screen().setLastFocus(&control);
+    workbench_->windows.reveal(control.screen()); // a handler may have hidden it since it was asked for
     workbench_->windows.raise(control.screen());
 }
 

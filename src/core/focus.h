@@ -24,13 +24,14 @@ public:
     void clear();
 
 private:
-    void run(Control* next);
-    bool runLostFocus(Control*& next);
+    void run(Control* target);
+    bool runLostFocus();
     void runGotFocus(bool calledBack);
     void enter(Control& control);
 
     Workbench* workbench_;
     Control* current_ = nullptr;
+    Control* target_ = nullptr; ///< where a move under way goes
     Control* waiting_ = nullptr;
     bool inHandler_ = false;
 };

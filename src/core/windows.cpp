@@ -18,14 +18,13 @@ void Windows::showModal(Screen& screen) {
 }
 
 void Windows::hide(Screen& screen) {
-    const bool wasActive = activeChild() == &screen;
+    const bool followed = activeChild() == &screen || hasFocus(screen);
     screen.setShown(false);
     removeFrom(screen);
-    if (wasActive) {
+    if (followed) {
         activateNext();
     }
-    const Control* holder = workbench_->focus.current();
-    if (holder != nullptr && &holder->screen() == &screen && !screen.shown()) {
+    if (hasFocus(screen) && !screen.shown()) {
         workbench_->focus.clear();
     }
     changed();
@@ -39,7 +38,7 @@ bool Windows::unload(ScreenId id) {
     if (!workbench_->runUnload(*screen)) {
         return false;
     }
-    const bool wasActive = activeChild() == screen;
+    const bool followed = activeChild() == screen || (screen->isChild() && hasFocus(*screen));
     const bool wasModal = modal() == screen;
     Control* const focusBefore = wasModal ? modals_.back().focusBefore : nullptr;
     workbench_->focus.forget(*screen);
@@ -54,7 +53,7 @@ bool Windows::unload(ScreenId id) {
     changed();
     if (wasModal && focusBefore != nullptr && focusBefore->canTakeFocus() && focusBefore->screen().shown()) {
         workbench_->focus.moveTo(*focusBefore);
-    } else if (wasActive) {
+    } else if (followed) {
         activateNext();
     }
     return true;
@@ -77,6 +76,11 @@ void Windows::reveal(Screen& screen) {
         children_.push_back(&screen);
     }
     changed();
+}
+
+bool Windows::hasFocus(const Screen& screen) const {
+    const Control* holder = workbench_->focus.current();
+    return holder != nullptr && &holder->screen() == &screen;
 }
 
 void Windows::removeFrom(Screen& screen) {

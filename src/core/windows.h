@@ -38,6 +38,7 @@ private:
         Control* focusBefore;
     };
 
+    bool hasFocus(const Screen& screen) const;
     void removeFrom(Screen& screen);
     void activateNext();
     void changed();
