@@ -132,6 +132,26 @@ TEST_F(Slots, ASlotPastTheGridGoesOnStatementByStatement) {
     EXPECT_EQ(screen().InFocusDispatch, flagFalse);
 }
 
+TEST_F(Slots, ASlotNumberWithoutATextStillRaisesTheFlag) {
+    // The walk over eight audio descriptors leaves the number 7, and there are seven texts.
+    Texts collection(27, "07");
+    collection[0] = "41";
+    collection[2] = "38";
+    loadCollection(collection);
+    focusOn(wb.LastAudioDescriptor);
+    ASSERT_EQ(screen().CurrentBlockNumber, 7);
+    setSlot(40, fullHd);
+    screen().CurrentBlockBase = 40;
+    screen().SyncSerrate.changeValue(0);
+    boxes();
+    ConvertDetailedTiming(wb);
+    // Emptied, begun and written; without the flag the click of a sync option would decode the slot again, and again.
+    EXPECT_EQ(boxes(), Texts(3, "Subscript out of range"));
+    EXPECT_EQ(cell(57), "1E");
+    EXPECT_EQ(selectedOf(screen().DTSync), std::vector<int>{3});
+    EXPECT_EQ(screen().InFocusDispatch, flagFalse);
+}
+
 TEST_F(Slots, TheSlotCountIsWorkedOutTowardsZero) {
     const std::pair<int, int> counts[] = {{4, 6}, {17, 6}, {18, 5}, {107, 1}, {108, 0}, {125, 0}, {142, 0}, {143, -1}};
     for (const auto& [start, count] : counts) {
