@@ -133,7 +133,7 @@ private:
 
     void begin() {
         statement_([&] { reportText().clear(); });
-        // Raised where the slot has no text, too: otherwise the options set below decode the block again without an end.
+        // Raised where the slot has no text, too: the options set below would decode the block again, without an end.
         screen_.InFocusDispatch = flagTrue;
         if (rules_.emptiedTexts != nullptr) {
             statement_([&] { (workbench_.*rules_.emptiedTexts)(number_).clear(); });
