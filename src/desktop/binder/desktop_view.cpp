@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMdiArea>
+#include <utility>
 
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/modal_view.h"
@@ -74,11 +75,17 @@ void DesktopView::windowsChanged() {
     windowsStale_ = true;
 }
 
-void DesktopView::focusChanged() {}
+void DesktopView::focusChanged() {
+    focusMoved_ = true;
+}
 
 void DesktopView::callReturned() {
     showChanges();
-    focus_.align();
+    if (std::exchange(focusMoved_, false)) {
+        focus_.follow();
+    } else {
+        focus_.align();
+    }
     if (workbench_.ended) {
         QApplication::quit();
     }

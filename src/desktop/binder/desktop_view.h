@@ -55,6 +55,7 @@ private:
     std::vector<std::unique_ptr<ScreenView>> gone_;
     MainView* main_ = nullptr;
     bool windowsStale_ = false;
+    bool focusMoved_ = false;
 };
 
 } // namespace wb::desktop

@@ -37,7 +37,7 @@ void FocusKeeper::focusArrived(ControlView& view, Qt::FocusReason reason) {
 }
 
 void FocusKeeper::activationArrived(ScreenView& view) {
-    if (gate_.running() || view.screen() == nullptr || workbench_.windows.activeChild() == view.screen()) {
+    if (gate_.running() || view.screen() == nullptr) {
         return;
     }
     const bool clickedInside =
@@ -61,22 +61,34 @@ void FocusKeeper::settle() {
     }
 }
 
+/// The widget of the control that has the focus in the model, or null.
+QWidget* FocusKeeper::target() const {
+    const Control* current = workbench_.focus.current();
+    const ControlView* view = current != nullptr ? find_(*current) : nullptr;
+    return view != nullptr ? view->widget() : nullptr;
+}
+
 void FocusKeeper::align() {
     if (moveWaits() || workbench_.ended || QApplication::activePopupWidget() != nullptr) {
         return;
     }
-    const Control* current = workbench_.focus.current();
-    ControlView* view = current != nullptr ? find_(*current) : nullptr;
-    QWidget* target = view != nullptr ? view->widget() : nullptr;
-    if (target != nullptr && target->isVisible() && target->isEnabled()) {
-        if (!target->hasFocus()) {
-            target->setFocus(Qt::OtherFocusReason);
-            bringIntoSight(*target);
+    QWidget* widget = target();
+    if (widget != nullptr && widget->isVisible() && widget->isEnabled()) {
+        if (!widget->hasFocus()) {
+            widget->setFocus(Qt::OtherFocusReason);
+            bringIntoSight(*widget);
         }
-        view->focusShown();
+        find_(*workbench_.focus.current())->focusShown();
     } else if (QWidget* holder = QApplication::focusWidget()) {
         holder->clearFocus();
     }
+}
+
+void FocusKeeper::follow() {
+    if (QWidget* widget = target()) {
+        restoreWindowOf(*widget);
+    }
+    align();
 }
 
 } // namespace wb::desktop

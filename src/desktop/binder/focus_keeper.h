@@ -23,9 +23,12 @@ public:
     void settle();
     /// Gives Qt's focus to the widget of the control that has it in the model, or takes it from all.
     void align();
+    /// The same after the model has moved the focus, which restores a minimised window around it.
+    void follow();
 
 private:
     bool moveWaits() const { return !control_.isNull() || !screen_.isNull(); }
+    QWidget* target() const;
     void queue(void (FocusKeeper::*step)());
 
     Workbench& workbench_;

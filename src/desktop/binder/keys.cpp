@@ -52,12 +52,13 @@ bool isEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-std::optional<char> typedCharacter(const QKeyEvent& event) {
+bool types(const QKeyEvent& event) {
     const QString text = event.text();
-    if (isCommand(event) || text.size() != 1 || text.front().category() == QChar::Other_Control) {
-        return std::nullopt;
-    }
-    return toCharacter(text.front());
+    return !isCommand(event) && !text.isEmpty() && text.front().category() != QChar::Other_Control;
+}
+
+std::optional<char> typedCharacter(const QKeyEvent& event) {
+    return types(event) && event.text().size() == 1 ? toCharacter(event.text().front()) : std::nullopt;
 }
 
 int typedKeyCode(const QKeyEvent& event, char character) {

@@ -7,6 +7,8 @@
 namespace wb::desktop {
 
 bool isEnter(const QKeyEvent& event);
+/// Whether the key types a character, be it one that the program has or not.
+bool types(const QKeyEvent& event);
 /// The character that the key types, or nothing for commands and for characters the program does not have.
 std::optional<char> typedCharacter(const QKeyEvent& event);
 /// The key code of a key that types, which differs from that of its character on a number pad.

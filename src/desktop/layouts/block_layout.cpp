@@ -57,7 +57,7 @@ constexpr Place sync[] = {
 
 constexpr Area areas[] = {
     {"#identity", Control::noIndex, identity},
-    {"#grid", Control::noIndex, grid, true},
+    {"#grid", Control::noIndex, grid, Spacing::None},
     {"Hints", 9, timing},
     {"Freq", 0, horizontal},
     {"Freq", 1, vertical},

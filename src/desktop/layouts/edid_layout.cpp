@@ -9,8 +9,8 @@ constexpr int noIndex = Control::noIndex;
 constexpr Place screen[] = {
     group("#identity").at(0, 0, 1, 2),
     group("#grid").at(1, 0),
-    members("Hints", 0, 13).at(1, 1).inOnePlace(),
-    one("DTHelp").at(2, 0, 1, 2),
+    members("Hints", 0, 13).at(1, 1).inOnePlace().onKey("Ctrl+Shift+Del"),
+    one("DTHelp").at(2, 0, 1, 2).called("Ctrl+Shift+Delete does what the double click does"),
 };
 
 constexpr Place header[] = {one("Label3").as(Look::Prose).wide(34)};
@@ -24,7 +24,7 @@ constexpr Place vendor[] = {
 constexpr Place version[] = {
     members("lbEDID", 0, 1).at(0, 0),
     one("VerRev").at(2, 0).wide(6).called("Value of the field in bold"),
-    members("lbEDID", 2, 3).at(3, 0),
+    members("lbEDID", 2, 5).at(3, 0),
 };
 
 constexpr Place basic[] = {

@@ -34,10 +34,11 @@ struct Place {
     int columnSpan = 1;
     int across = 1;
     bool together = false; ///< all members stand in one place, where one of them shows at a time
+    bool atRight = false;  ///< no wider than need be, at the right end of its place
     Look look = Look::Plain;
     int characters = 0;             ///< width in characters; 0: as the content asks
     std::string_view spoken = {};   ///< accessible name; "%1" stands for the index
-    std::string_view shortcut = {}; ///< key that does what a click does
+    std::string_view shortcut = {}; ///< key that does what a click does, on a frame what a double click does
 
     constexpr Place at(int newRow, int newColumn, int rows = 1, int columns = 1) const {
         Place place = *this;
@@ -55,6 +56,11 @@ struct Place {
     constexpr Place inOnePlace() const {
         Place place = *this;
         place.together = true;
+        return place;
+    }
+    constexpr Place toTheRight() const {
+        Place place = *this;
+        place.atRight = true;
         return place;
     }
     constexpr Place as(Look newLook) const {
@@ -95,12 +101,18 @@ constexpr Place group(std::string_view name) {
     return {.name = name, .look = Look::Group};
 }
 
+enum class Spacing : std::uint8_t {
+    Normal,
+    None,       ///< of a grid of cells
+    Paragraphs, ///< of a box that is read like a page
+};
+
 /// The inside of a frame or group, or of the whole screen, whose name is empty.
 struct Area {
     std::string_view name;
     int index;
     std::span<const Place> places;
-    bool tight = false; ///< no space between the places
+    Spacing spacing = Spacing::Normal;
 };
 
 /// The areas of a screen; the screens of the two blocks share some.

@@ -48,29 +48,39 @@ constexpr Place help[] = {
     one("Label2").at(1, 0).as(Look::Prose).wide(60),
     one("Label3").at(2, 0),
     one("Label4").at(3, 0),
-    one("Command1").at(4, 0),
+    one("Command1").at(4, 0).toTheRight(),
 };
-constexpr Area helpAreas[] = {{"", noIndex, help}};
+constexpr Area helpAreas[] = {{"", noIndex, help, Spacing::Paragraphs}};
 
 constexpr Place edidReg[] = {
-    one("Label2").at(0, 0, 1, 3).as(Look::Prose).wide(60),
-    one("Text1").at(1, 0, 1, 3).wide(50).called("Base location in the registry"),
-    members("Command1", 0, 2).at(2, 0).rowsOf(3),
+    one("Label2").at(0, 0).as(Look::Prose).wide(60),
+    one("Text1").at(1, 0).wide(60).called("Base location in the registry"),
+    group("#buttons").at(2, 0).toTheRight(),
 };
-constexpr Area edidRegAreas[] = {{"", noIndex, edidReg}};
+constexpr Place edidRegButtons[] = {members("Command1", 0, 2).rowsOf(3)};
+constexpr Area edidRegAreas[] = {
+    {"", noIndex, edidReg, Spacing::Paragraphs},
+    {"#buttons", noIndex, edidRegButtons},
+};
 
 constexpr Place about[] = {
-    one("Image1").at(0, 0, 3, 1).as(Look::Picture).called("Picture of a monitor"),
-    one("Label1").at(0, 1, 1, 2),
-    one("lblVersion").at(1, 1, 1, 2),
-    one("lblWrittenby").at(2, 1, 1, 2),
-    one("lblAddress").at(3, 1, 1, 2),
-    one("Help").at(4, 1, 1, 2),
-    one("Exit").at(5, 1, 1, 2),
-    one("cmdOK").at(6, 1),
-    one("cmdSysInfo").at(6, 2),
+    one("Image1").at(0, 0).as(Look::Picture).called("Picture of a monitor"),
+    group("#credits").at(0, 1),
+    group("#buttons").at(1, 0, 1, 2).toTheRight(),
 };
-constexpr Area aboutAreas[] = {{"", noIndex, about}};
+constexpr Place credits[] = {
+    one("Label1").at(0, 0),     one("lblVersion").at(1, 0), one("lblWrittenby").at(2, 0),
+    one("lblAddress").at(3, 0), one("Help").at(4, 0),       one("Exit").at(5, 0),
+};
+constexpr Place aboutButtons[] = {
+    one("cmdOK").at(0, 0),
+    one("cmdSysInfo").at(0, 1),
+};
+constexpr Area aboutAreas[] = {
+    {"", noIndex, about, Spacing::Paragraphs},
+    {"#credits", noIndex, credits, Spacing::Paragraphs},
+    {"#buttons", noIndex, aboutButtons},
+};
 
 constexpr ScreenLayout frameTable = {frameAreas};
 constexpr ScreenLayout documentTable = {documentAreas};

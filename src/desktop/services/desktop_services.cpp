@@ -6,15 +6,14 @@
 
 namespace wb::desktop {
 
-DesktopServices::DesktopServices(ModelGate& gate, const SystemServices& system)
+DesktopServices::DesktopServices(ModelGate& gate, System& system)
     : messageBoxes_(gate),
       dialogs_(gate, printer_),
-      shell_(system.deviceTool),
       eventLoop_(gate),
       arranger_(gate),
-      services_{messageBoxes_,     dialogs_,        printer_,
-                settings_,         system.registry, system.operatingSystem,
-                system.edidReader, shell_,          clock_,
-                eventLoop_,        arranger_,       fileNameBytes(QCoreApplication::applicationDirPath())} {}
+      services_{messageBoxes_, dialogs_,          printer_,
+                settings_,     system.registry(), operatingSystem_,
+                edidReader_,   system.shell(),    clock_,
+                eventLoop_,    arranger_,         fileNameBytes(QCoreApplication::applicationDirPath())} {}
 
 } // namespace wb::desktop

@@ -6,23 +6,17 @@
 #include "desktop/services/message_boxes.h"
 #include "desktop/services/printing.h"
 #include "desktop/services/settings.h"
-#include "desktop/services/shell.h"
+#include "desktop/services/system.h"
 #include "desktop/services/window_arranger.h"
+#include "platform/stored_edid_system.h"
 
 namespace wb::desktop {
-
-/// What the desktop asks of the system below it.
-struct SystemServices {
-    platform::Registry& registry;
-    platform::OperatingSystem& operatingSystem;
-    platform::DirectEdidReader& edidReader;
-    platform::Shell& deviceTool;
-};
 
 /// All services of the desktop program.
 class DesktopServices {
 public:
-    DesktopServices(ModelGate& gate, const SystemServices& system);
+    /// Both must outlive the services.
+    DesktopServices(ModelGate& gate, System& system);
     DesktopServices(const DesktopServices&) = delete;
     DesktopServices& operator=(const DesktopServices&) = delete;
 
@@ -34,7 +28,8 @@ private:
     QtPrinter printer_;
     QtDialogs dialogs_;
     QtSettings settings_;
-    QtShell shell_;
+    platform::StoredEdidSystem operatingSystem_;
+    platform::NoDirectReader edidReader_;
     SystemClock clock_;
     QtEventLoop eventLoop_;
     MdiArranger arranger_;

@@ -21,6 +21,15 @@ bool hasCaption(ControlKind kind) {
     return kind != ControlKind::Text && kind != ControlKind::Combo && kind != ControlKind::Document;
 }
 
+/// What the key of a place does: a click, or on a frame, which has none, a double click.
+void pressByKey(Control& control) {
+    if (control.kind() == ControlKind::Frame) {
+        input::doubleClick(control);
+    } else {
+        input::click(control);
+    }
+}
+
 QString captionAsName(const Control& control) {
     const QString caption = toUnicode(control.caption()).remove('&').trimmed();
     return caption.isEmpty() ? toUnicode(control.name()) : caption;
@@ -44,10 +53,12 @@ void ControlView::adopt(QWidget& widget) {
     if (!place_.shortcut.empty()) {
         const QKeySequence keys(toUnicode(place_.shortcut));
         auto* shortcut = new QShortcut(keys, &widget);
-        QObject::connect(shortcut, &QShortcut::activated, this, [this] { act([](Control& c) { input::click(c); }); });
+        QObject::connect(shortcut, &QShortcut::activated, this, [this] { act(&pressByKey); });
         tip += " (" + keys.toString(QKeySequence::NativeText) + ')';
     }
-    widget.setToolTip(tip.toHtmlEscaped());
+    if (model.kind() != ControlKind::Frame) { // one would stand over all that is inside
+        widget.setToolTip(tip.toHtmlEscaped());
+    }
     widget.installEventFilter(this);
 }
 

@@ -174,8 +174,10 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         view_.typeInto(*event);
         return;
     }
-    if (const auto character = typedCharacter(*event)) {
-        view_.type(*event, *character);
+    if (types(*event)) {
+        if (const auto character = typedCharacter(*event)) {
+            view_.type(*event, *character);
+        }
         return;
     }
     if (isVerticalKey(*event) && view_.moveVertically(event->key() == Qt::Key_Up ? -1 : 1)) {

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QScrollArea>
 #include <QShortcut>
 
@@ -52,6 +53,13 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
     view_.askToClose();
 }
 
+void ChildWindow::mousePressEvent(QMouseEvent* event) {
+    QMdiSubWindow::mousePressEvent(event);
+    if (!widget()->geometry().contains(event->pos())) {
+        view_.activate();
+    }
+}
+
 ChildView::ChildView(Screen& screen, UserActions& actions, QMdiArea& area)
     : ScreenView(screen, actions), window_(new ChildWindow(*this)), page_(makePage(screen, actions)) {
     addPage(*page_);
@@ -80,6 +88,14 @@ void ChildView::fit() {
     fitting_ = window_->sizeHint();
     if (window_->size() == before) { // the user has left the size alone
         window_->resize(fitting_);
+    }
+}
+
+void ChildView::activate() {
+    // Qt tells a change of the active child only; the focus may be on a button of the frame.
+    const Control* holder = screen() != nullptr ? screen()->workbench().focus.current() : nullptr;
+    if (screen() != nullptr && (holder == nullptr || &holder->screen() != screen())) {
+        actions().activationArrived(*this);
     }
 }
 

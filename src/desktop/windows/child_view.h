@@ -20,6 +20,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
 private:
     ChildView& view_;
@@ -32,6 +33,8 @@ public:
 
     QWidget& window() override { return *window_; }
     QMdiSubWindow& subWindow() const { return *window_; }
+    /// A press on the title bar.
+    void activate();
     void refresh() override;
     void fit() override;
 

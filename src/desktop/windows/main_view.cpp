@@ -17,6 +17,7 @@
 #include <map>
 
 #include "core/input.h"
+#include "core/workbench.h"
 #include "desktop/drawing/icons.h"
 #include "desktop/drawing/pictures.h"
 #include "desktop/drawing/twips.h"
@@ -85,6 +86,10 @@ FrmMain& MainView::frame() const {
     return static_cast<FrmMain&>(*screen());
 }
 
+const Screen* MainView::activeChild() const {
+    return screen() != nullptr ? screen()->workbench().windows.activeChild() : nullptr;
+}
+
 MenuView& MainView::makeEntry(Control& control) {
     own_.push_back(std::make_unique<MenuView>(control, actions()));
     add(*own_.back());
@@ -148,7 +153,9 @@ void MainView::makeArea(QVBoxLayout& column) {
     area_->setFocusPolicy(Qt::NoFocus);
     column.addWidget(area_, 1);
     QObject::connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
-        if (auto* child = dynamic_cast<ChildWindow*>(window)) {
+        auto* child = dynamic_cast<ChildWindow*>(window);
+        // Qt tells it again when the frame itself becomes active.
+        if (child != nullptr && child->view().screen() != activeChild()) {
             actions().activationArrived(child->view());
         }
     });

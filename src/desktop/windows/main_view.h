@@ -58,6 +58,7 @@ private:
     };
 
     FrmMain& frame() const;
+    const Screen* activeChild() const;
     void makeMenus();
     void makeToolBar();
     void makeButtons(QVBoxLayout& column);

@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <algorithm>
 
 #include "core/screen.h"
 #include "desktop/drawing/colours.h"
@@ -21,6 +22,27 @@ bool isInside(const Control* control, const Control& container) {
         control = control->container();
     }
     return control != nullptr;
+}
+
+void space(QGridLayout& grid, Spacing spacing, int line) {
+    switch (spacing) {
+        case Spacing::Normal:
+            grid.setHorizontalSpacing(line / 2);
+            grid.setVerticalSpacing(line / 5);
+            grid.setContentsMargins(line / 2, line / 3, line / 2, line / 3);
+            break;
+        case Spacing::None:
+            grid.setSpacing(0);
+            break;
+        case Spacing::Paragraphs:
+            grid.setSpacing(line / 2);
+            grid.setContentsMargins(line, line, line, line);
+            break;
+    }
+}
+
+Qt::Alignment alignmentIn(const Place& place) {
+    return place.atRight ? Qt::AlignRight | Qt::AlignVCenter : Qt::Alignment();
 }
 
 /// A black field that takes the room of a cell.
@@ -75,10 +97,7 @@ void ScreenPage::refreshTabStops() {
 
 void ScreenPage::fill(QWidget& parent, const Area& area) {
     auto* grid = new QGridLayout(&parent);
-    const int line = fontMetrics().height();
-    grid->setHorizontalSpacing(area.tight ? 0 : line / 2);
-    grid->setVerticalSpacing(area.tight ? 0 : line / 5);
-    grid->setContentsMargins(line / 2, line / 3, line / 2, line / 3);
+    space(*grid, area.spacing, fontMetrics().height());
     for (const Place& place : area.places) {
         placeControls(parent, *grid, place);
     }
@@ -89,7 +108,8 @@ void ScreenPage::fill(QWidget& parent, const Area& area) {
 
 void ScreenPage::placeControls(QWidget& parent, QGridLayout& grid, const Place& place) {
     if (place.look == Look::Group || place.look == Look::Filler) {
-        grid.addWidget(makeGroup(parent, place), place.row, place.column, place.rowSpan, place.columnSpan);
+        grid.addWidget(makeGroup(parent, place), place.row, place.column, place.rowSpan, place.columnSpan,
+                       alignmentIn(place));
         return;
     }
     for (int index = place.first; index <= place.last; ++index) {
@@ -100,7 +120,8 @@ void ScreenPage::placeControls(QWidget& parent, QGridLayout& grid, const Place& 
         }
         const int step = place.together ? 0 : index - place.first;
         grid.addWidget(makeControl(parent, *control, place), place.row + step / place.across * place.rowSpan,
-                       place.column + step % place.across * place.columnSpan, place.rowSpan, place.columnSpan);
+                       place.column + step % place.across * place.columnSpan, place.rowSpan, place.columnSpan,
+                       alignmentIn(place));
     }
 }
 
@@ -146,6 +167,12 @@ void ScreenPage::setTabOrder() {
     }
 }
 
+bool ScreenPage::isTabStop(const Control& control) const {
+    return std::any_of(views_.begin(), views_.end(), [&](const auto& view) {
+        return view->control() == &control && (view->widget()->focusPolicy() & Qt::TabFocus) != 0;
+    });
+}
+
 Control* ScreenPage::otherSide(const Control* from) const {
     const Control* panel = nullptr;
     Control* field = nullptr;
@@ -160,7 +187,7 @@ Control* ScreenPage::otherSide(const Control* from) const {
         return field;
     }
     for (Control* control : screen_.controls()) {
-        if (isInside(control, *panel) && control->canTakeFocus()) {
+        if (isInside(control, *panel) && control->canTakeFocus() && isTabStop(*control)) {
             return control;
         }
     }

@@ -30,6 +30,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    /// Whether the Tab key stops at the widget of the control.
+    bool isTabStop(const Control& control) const;
     void fill(QWidget& parent, const Area& area);
     void placeControls(QWidget& parent, QGridLayout& grid, const Place& place);
     QWidget* makeGroup(QWidget& parent, const Place& place);

@@ -21,8 +21,8 @@ void scrollTo(QScrollBar& bar, int start, int end, int page) {
 void showInArea(QMdiArea& area, const QWidget& widget) {
     const QWidget* viewport = area.viewport();
     const QRect place(widget.mapTo(viewport, QPoint(0, 0)), widget.size());
-    scrollTo(*area.horizontalScrollBar(), place.left(), place.right(), viewport->width());
-    scrollTo(*area.verticalScrollBar(), place.top(), place.bottom(), viewport->height());
+    scrollTo(*area.horizontalScrollBar(), place.left(), place.left() + place.width(), viewport->width());
+    scrollTo(*area.verticalScrollBar(), place.top(), place.top() + place.height(), viewport->height());
 }
 
 } // namespace
@@ -31,10 +31,17 @@ void bringIntoSight(QWidget& widget) {
     for (QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget()) {
         if (auto* scroller = qobject_cast<QScrollArea*>(outer)) {
             scroller->ensureWidgetVisible(&widget);
-        } else if (auto* window = qobject_cast<QMdiSubWindow*>(outer); window != nullptr && window->isMinimized()) {
-            window->showNormal();
         } else if (auto* area = qobject_cast<QMdiArea*>(outer)) {
             showInArea(*area, widget);
+        }
+    }
+}
+
+void restoreWindowOf(QWidget& widget) {
+    for (QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget()) {
+        auto* window = qobject_cast<QMdiSubWindow*>(outer);
+        if (window != nullptr && window->isMinimized()) {
+            window->showNormal();
         }
     }
 }

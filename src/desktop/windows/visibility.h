@@ -4,8 +4,9 @@
 
 namespace wb::desktop {
 
-/// Scrolls what contains the widget, its page and the frame's area, until it can be seen, and restores a minimised
-/// child window around it.
+/// Scrolls what contains the widget, its page and the frame's area, until it can be seen.
 void bringIntoSight(QWidget& widget);
+/// Restores the child window that the widget stands in, if it is minimised.
+void restoreWindowOf(QWidget& widget);
 
 } // namespace wb::desktop
