@@ -4,6 +4,7 @@
 
 #include "core/input.h"
 #include "core/text.h"
+#include "desktop/services/message_boxes.h"
 #include "files/image_loading.h"
 #include "shell/startup.h"
 #include "shell/wiring.h"
@@ -11,7 +12,31 @@
 
 namespace wb::test {
 
-DesktopProgram::DesktopProgram(bool startNow) : workbench(platform.services(), shell::wiring()), view(workbench, gate) {
+namespace {
+
+/// The services of the headless platform, with other boxes if there are any.
+platform::Services withBoxes(const platform::Services& base, platform::MessageBoxes* boxes) {
+    return {boxes != nullptr ? *boxes : base.messageBoxes,
+            base.dialogs,
+            base.printer,
+            base.settings,
+            base.registry,
+            base.operatingSystem,
+            base.edidReader,
+            base.shell,
+            base.clock,
+            base.eventLoop,
+            base.arranger,
+            base.programFolder};
+}
+
+} // namespace
+
+DesktopProgram::DesktopProgram(bool startNow, Boxes kind)
+    : realBoxes_(kind == Boxes::Real ? std::make_unique<desktop::QtMessageBoxes>(gate) : nullptr),
+      services_(withBoxes(platform.services(), realBoxes_.get())),
+      workbench(services_, shell::wiring()),
+      view(workbench, gate) {
     platform.onBox = [this](const std::string& text) { boxes.push_back(text); };
     if (startNow) {
         start();
@@ -70,6 +95,7 @@ QWidget* DesktopProgram::widget(const Control& control) const {
 void DesktopProgram::newImage(bool extension) {
     platform.queueAnswer(extension ? platform::Answer::Yes : platform::Answer::No);
     act([this] { input::choose(workbench.frmMain().mnuFileNew); });
+    boxes.clear();
 }
 
 void DesktopProgram::openSample(const std::string& name) {

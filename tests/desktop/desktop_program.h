@@ -1,7 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "desktop/binder/desktop_view.h"
@@ -9,11 +10,13 @@
 
 namespace wb::test {
 
-/// A wired program with the desktop view, on the headless platform: real widgets, and boxes and dialogs that are
-/// answered from queues.
+/// A wired program with the desktop view: real widgets, and boxes and dialogs that are answered from the queues of the
+/// headless platform.
 class DesktopProgram {
 public:
-    explicit DesktopProgram(bool start = true);
+    enum class Boxes { FromQueue, Real };
+
+    explicit DesktopProgram(bool start = true, Boxes boxes = Boxes::FromQueue);
 
     /// Start-up, with splash and frame.
     void start();
@@ -32,15 +35,21 @@ public:
     QWidget& window(const Screen& screen) const { return view.viewOf(screen)->window(); }
     desktop::MainView& frame() const { return *view.mainView(); }
 
-    /// A new image, with the extension if wanted.
+    /// A new image, with the extension if wanted. Its question is no box that a test has to expect.
     void newImage(bool extension = false);
     /// Loads a raw image of the repository's samples.
     void openSample(const std::string& name);
 
     platform::headless::HeadlessPlatform platform;
-    std::vector<std::string> boxes; ///< texts of the message boxes
-    Workbench workbench;
+    std::vector<std::string> boxes; ///< texts of the message boxes that were answered from the queue
     desktop::ModelGate gate;
+
+private:
+    std::unique_ptr<platform::MessageBoxes> realBoxes_;
+    platform::Services services_;
+
+public:
+    Workbench workbench;
     desktop::DesktopView view;
 };
 

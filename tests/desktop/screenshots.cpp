@@ -1,11 +1,12 @@
 #include <QApplication>
 #include <QDir>
 #include <cstdio>
+#include <string_view>
 
 #include "core/input.h"
 #include "desktop/desktop_program.h"
 
-/// Makes a picture of each screen and panel in the folder given.
+/// Makes a picture of each screen in a folder, and of each panel if asked for.
 namespace {
 
 using namespace wb;
@@ -23,33 +24,64 @@ private:
     QDir folder_;
 };
 
+QString nameOf(const Screen& screen) {
+    return QString::fromStdString(std::string(screen.name()));
+}
+
 void focusCell(test::DesktopProgram& program, BlockScreen& screen, int cell) {
     program.act([&] { input::moveFocus(screen.txtEdit(cell)); });
 }
 
-void takeBlock0(test::DesktopProgram& program, const Album& album) {
-    FrmEdid& screen = program.workbench.frmEDID();
-    for (const int cell : {0, 8, 18, 20, 21, 24, 25, 27, 35, 36, 37, 38, 54, 71, 72, 90, 108, 126}) {
+void takeScreen(test::DesktopProgram& program, const Album& album, Screen& screen) {
+    album.take(program.window(screen), nameOf(screen));
+}
+
+void takePanels(test::DesktopProgram& program, const Album& album, BlockScreen& screen) {
+    for (int cell = 0; cell < BlockScreen::cellCount; ++cell) {
         focusCell(program, screen, cell);
-        album.take(program.window(screen), QString("frmEDID-%1").arg(cell, 3, 10, QChar('0')));
+        album.take(program.window(screen), nameOf(screen) + QString("-%1").arg(cell, 3, 10, QChar('0')));
     }
 }
 
-void takeExtension(test::DesktopProgram& program, const Album& album) {
-    FrmCeaExt& screen = program.workbench.frmCEA_EXT();
-    for (int cell = 0; cell < BlockScreen::cellCount; ++cell) {
-        focusCell(program, screen, cell);
-        if (cell < 40 || cell > 120) {
-            album.take(program.window(screen), QString("frmCEA_EXT-%1").arg(cell, 3, 10, QChar('0')));
-        }
-    }
+/// Each modal screen is up while its picture is taken.
+void takeModal(test::DesktopProgram& program, const Album& album, Control& entry, ScreenId id) {
+    program.act([&] { input::choose(entry); });
+    Screen& screen = *program.workbench.loaded(id);
+    takeScreen(program, album, screen);
+    program.act([&] { input::close(screen); });
+}
+
+void takeSplash(const Album& album) {
+    test::DesktopProgram program(false);
+    program.act([&] { program.workbench.windows.reveal(program.workbench.frmSplash()); });
+    takeScreen(program, album, program.workbench.frmSplash());
+}
+
+void takeScreens(test::DesktopProgram& program, const Album& album) {
+    Workbench& workbench = program.workbench;
+    FrmMain& frame = workbench.frmMain();
+    focusCell(program, workbench.frmEDID(), 54);
+    takeScreen(program, album, workbench.frmEDID());
+    program.act([&] { input::click(frame.Command4); });
+    focusCell(program, workbench.frmCEA_EXT(), 5);
+    takeScreen(program, album, workbench.frmCEA_EXT());
+    program.act([&] { input::choose(frame.HexCalculator); });
+    takeScreen(program, album, workbench.frmHexCalculator());
+    program.act([&] { input::close(workbench.frmHexCalculator()); });
+    program.act([&] { input::click(frame.Command1); });
+    takeScreen(program, album, workbench.frmDocument());
+    takeScreen(program, album, frame);
+    takeModal(program, album, frame.Info, ScreenId::Help);
+    takeModal(program, album, frame.Windows2000, ScreenId::EdidReg);
+    takeModal(program, album, frame.mnuHelpAbout, ScreenId::About);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: desktop_screenshots FOLDER\n");
+    const bool panels = argc == 3 && std::string_view(argv[2]) == "--panels";
+    if (argc != 2 && !panels) {
+        std::fprintf(stderr, "usage: desktop_screenshots FOLDER [--panels]\n");
         return 2;
     }
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
@@ -57,12 +89,14 @@ int main(int argc, char** argv) {
     }
     QApplication application(argc, argv);
     const Album album(QString::fromLocal8Bit(argv[1]));
+    takeSplash(album);
     test::DesktopProgram program;
-    program.frame().window().resize(1100, 800);
+    program.frame().window().resize(1080, 820);
     program.openSample("zarqo-z40.bin");
-    takeBlock0(program, album);
-    program.act([&] { input::click(program.workbench.frmMain().Command4); });
-    takeExtension(program, album);
-    album.take(program.frame().window(), "frmMain");
+    takeScreens(program, album);
+    if (panels) {
+        takePanels(program, album, program.workbench.frmEDID());
+        takePanels(program, album, program.workbench.frmCEA_EXT());
+    }
     return 0;
 }
