@@ -17,7 +17,7 @@ namespace wb::acquire {
 namespace {
 
 /// Block 0 and one extension block; a longer value loses the rest.
-constexpr std::size_t imageSize = 2 * BlockScreen::cellCount;
+constexpr std::size_t imageSize = std::size_t{2} * BlockScreen::cellCount;
 /// The major version of the systems that keep the EDID in their registry.
 constexpr int registryVersion = 5;
 constexpr int readerTries = 5;

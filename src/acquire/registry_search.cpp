@@ -31,11 +31,11 @@ public:
         : workbench_(workbench), registry_(workbench.platform.registry), path_(std::move(path)), walkKeys_(walkKeys) {}
 
     std::string run() {
-        if (const std::string found = enter(); !found.empty() || !walkKeys_) {
+        if (std::string found = enter(); !found.empty() || !walkKeys_) {
             return found;
         }
         while (!levels_.empty()) {
-            if (const std::string found = visitNext(); !found.empty()) {
+            if (std::string found = visitNext(); !found.empty()) {
                 return found;
             }
         }

@@ -23,6 +23,7 @@ constexpr std::array<Format, 4> formats = {{{"dat", &Program::dataFile},
 
 std::vector<std::string> formatNames() {
     std::vector<std::string> names;
+    names.reserve(formats.size());
     for (const Format& format : formats) {
         names.emplace_back(format.name);
     }

@@ -9,9 +9,6 @@ namespace wb::cli {
 
 namespace {
 
-/// An EDID is never longer: 256 blocks of 128 bytes.
-constexpr std::size_t longestEdid = 32768;
-
 void requireFolder(const std::string& sysfs) {
     std::error_code ignored;
     if (!std::filesystem::is_directory(sysfs, ignored)) {
@@ -38,7 +35,7 @@ std::vector<Monitor> attachedMonitors(const SystemOptions& options) {
     std::vector<Monitor> monitors;
     for (const std::string& name : connectors.names()) {
         if (connectors.connected(name)) {
-            const std::string edid = connectors.edid(name, longestEdid).value_or("");
+            const std::string edid = connectors.edid(name, connectors.longestEdid).value_or("");
             monitors.push_back({name, connectors.edidPath(name).string(), edid.size()});
         }
     }

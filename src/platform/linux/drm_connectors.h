@@ -12,6 +12,9 @@ namespace wb::platform::linux_system {
 /// that have a file `status` or `edid`.
 class DrmConnectors {
 public:
+    /// 256 blocks of 128 bytes: the extension count is one byte.
+    static constexpr std::size_t longestEdid = 32768;
+
     /// `sysfs` is the root, normally "/sys". It need not exist.
     explicit DrmConnectors(const std::filesystem::path& sysfs) : folder_(sysfs / "class" / "drm") {}
 

@@ -17,8 +17,6 @@ constexpr const char* edidValue = "EDID";
 
 /// What an enumeration gives at most.
 constexpr std::size_t bufferSize = 1024;
-/// An extension count of one byte makes 256 blocks of 128 bytes the longest EDID.
-constexpr std::size_t longestEdid = 256 * 128;
 
 bool sameName(std::string_view one, std::string_view other) {
     return upperCase(one) == upperCase(other);
@@ -148,7 +146,7 @@ RegistryCode SysfsRegistry::readValue(Key key, const std::string& name, Registry
     if (found == nullptr) {
         return RegistryCode::Refused;
     }
-    return sameName(name, edidValue) ? edidOf(found->node, longestEdid, value) : RegistryCode::NotFound;
+    return sameName(name, edidValue) ? edidOf(found->node, DrmConnectors::longestEdid, value) : RegistryCode::NotFound;
 }
 
 void SysfsRegistry::close(Key key) {

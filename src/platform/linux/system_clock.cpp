@@ -2,10 +2,12 @@
 
 #include <iconv.h>
 #include <langinfo.h>
-#include <locale.h>
-#include <time.h>
 
+#include <bit>
 #include <chrono>
+#include <clocale>
+#include <cstdint>
+#include <ctime>
 #include <thread>
 
 namespace wb::platform::linux_system {
@@ -32,8 +34,8 @@ private:
 
 /// The name in characters of Windows code page 1252; what that does not have is written in similar ones.
 std::string inCodePage(const DateLocale& locale, std::string name) {
-    const iconv_t conversion = iconv_open("CP1252//TRANSLIT", locale.text(CODESET));
-    if (conversion == reinterpret_cast<iconv_t>(-1)) {
+    iconv_t conversion = iconv_open("CP1252//TRANSLIT", locale.text(CODESET));
+    if (std::bit_cast<std::intptr_t>(conversion) == -1) {
         return name;
     }
     std::string result(4 * name.size(), '\0');
