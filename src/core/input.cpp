@@ -197,6 +197,9 @@ bool choose(Control& entry) {
 }
 
 bool toolBar(Workbench& workbench, const std::string& key) {
+    if (workbench.ended) {
+        return false; // the frame is gone, and a touch would bring it back
+    }
     ControlArray& buttons = workbench.frmMain().tbToolBar;
     for (int i = buttons.first(); i <= buttons.last(); ++i) {
         if (buttons(i).caption() == key) {
