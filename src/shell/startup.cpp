@@ -1,5 +1,10 @@
 #include "shell/startup.h"
 
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
 #include "core/numbers.h"
 
 namespace wb::shell {
@@ -13,7 +18,21 @@ constexpr int registryMajorVersion = 5;
 
 float positionSetting(Workbench& workbench, const char* name, float otherwise) {
     const auto stored = workbench.platform.settings.read(name);
-    return stored ? static_cast<float>(strictNumber(*stored)) : otherwise;
+    if (!stored) {
+        return otherwise;
+    }
+    const double value = strictNumber(*stored);
+    if (std::fabs(value) > static_cast<double>(std::numeric_limits<float>::max())) {
+        throw Failure(FailureKind::Overflow);
+    }
+    return static_cast<float>(value);
+}
+
+/// The digits that a single-precision number has, not those of the double next to it.
+std::string singleText(float value) {
+    std::array<char, 64> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
+    return {buffer.data(), result.ptr};
 }
 
 void endProgram(Workbench& workbench) {
@@ -84,10 +103,10 @@ void frmMain_Unload(Workbench& workbench, bool& cancel) {
     const FrmMain& frame = workbench.frmMain();
     if (!frame.minimised) {
         platform::Settings& settings = workbench.platform.settings;
-        settings.write("MainLeft", plainDecimal(frame.Left));
-        settings.write("MainTop", plainDecimal(frame.Top));
-        settings.write("MainWidth", plainDecimal(frame.Width));
-        settings.write("MainHeight", plainDecimal(frame.Height));
+        settings.write("MainLeft", singleText(frame.Left));
+        settings.write("MainTop", singleText(frame.Top));
+        settings.write("MainWidth", singleText(frame.Width));
+        settings.write("MainHeight", singleText(frame.Height));
     }
     endProgram(workbench);
 }
