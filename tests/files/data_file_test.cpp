@@ -74,6 +74,14 @@ TEST_F(DataFile, ALineEndsAtLineFeedOnly) {
     EXPECT_EQ(entry(1), "02") << "a lone carriage return is a control character inside the line";
 }
 
+TEST_F(DataFile, ARowWithoutItsBlanksReadsTheSame) {
+    EXPECT_TRUE(read("128 BYTES OF EDID CODE:\n\n\n0  |00  FF  A5  \n10|5A0F7E\n"));
+    const Boxes cells{"00", "FF", "A5", "5A", "0F", "7E", ""};
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        EXPECT_EQ(entry(static_cast<int>(i)), cells[i]) << i;
+    }
+}
+
 TEST_F(DataFile, ALeftOverCharacterIsDropped) {
     EXPECT_TRUE(read("128 BYTES OF EDID CODE:\n\n\n|01 2\n|34\n"));
     EXPECT_EQ(entry(0), "01");

@@ -64,11 +64,126 @@ TEST_F(Save, NoAtTheReplaceQuestionInsideSaveReplacesAllTheSame) {
     EXPECT_NE(test::TemporaryFolder::read(name).find("EDID Block 0"), std::string::npos);
 }
 
+/// Counts the passes of a save by the hourglasses it shows.
+class CountingEvents : public platform::EventLoop {
+public:
+    void processPending() override { ++rounds; }
+    void setPointer(platform::Pointer pointer) override {
+        hourglass = pointer == platform::Pointer::Hourglass;
+        hourglasses += hourglass ? 1 : 0;
+    }
+    void startTimer(int, std::function<void()> fire) override { fire(); }
+
+    int rounds = 0;
+    int hourglasses = 0;
+    bool hourglass = false;
+};
+
+class SavePasses : public Save {
+protected:
+    SavePasses() {
+        shell::Main(other);
+        input::choose(other.frmMain().mnuFileNew);
+        events.rounds = 0;
+        events.hourglasses = 0;
+    }
+
+    CountingEvents events;
+    const platform::Services& inner = program.platform.services();
+    platform::Services services{
+        inner.messageBoxes, inner.dialogs, inner.printer, inner.settings, inner.registry, inner.operatingSystem,
+        inner.edidReader,   inner.shell,   inner.clock,   events,         inner.arranger, ""};
+    Workbench other{services, shell::wiring()};
+};
+
+TEST_F(SavePasses, AreFive) {
+    other.CurrentFileName = folder.file("new.DAT");
+    FileSave(other);
+    EXPECT_EQ(events.hourglasses, 5);
+    EXPECT_EQ(events.rounds, 10) << "at both ends of a pass";
+    EXPECT_FALSE(events.hourglass);
+}
+
+TEST_F(SavePasses, AreFiveMoreInsideTheFirstThatAsksForAName) {
+    program.platform.queueFileName(folder.file("new.DAT"));
+    FileSave(other);
+    EXPECT_EQ(events.hourglasses, 10);
+    EXPECT_FALSE(events.hourglass);
+}
+
+TEST_F(SavePasses, EndWithTheFirstThatHasNoNameOrFails) {
+    FileSave(other);
+    EXPECT_EQ(events.hourglasses, 1);
+    EXPECT_FALSE(events.hourglass);
+    other.CurrentFileName = folder.file("no/such/folder.DAT");
+    FileSave(other);
+    EXPECT_EQ(events.hourglasses, 2);
+    other.EDIDLoaded = flagFalse;
+    FileSave(other);
+    EXPECT_EQ(events.hourglasses, 2) << "without an image no pass does anything";
+}
+
+TEST_F(Save, AFailedSaveAsInsideASaveIsTriedOnceMore) {
+    program.platform.queueFileName(folder.file("no/such/folder.DAT"));
+    FileSave(workbench);
+    EXPECT_EQ(program.takeBoxes(), Lines(2, "Path/File access error")) << "the inner save and the outer one";
+}
+
+TEST_F(Save, SaveAsReplacesAFileOnYesAndKeepsTheTitle) {
+    const std::string name = folder.write("old.DAT", std::string(100000, 'x'));
+    const std::string title = workbench.frmEDID().caption();
+    workbench.Block0ChecksumAsLoaded = "77";
+    workbench.EDIDModified = flagTrue;
+    program.platform.queueFileName(name);
+    program.platform.queueAnswer(platform::Answer::Yes);
+    FileSaveAs(workbench);
+    EXPECT_EQ(program.takeBoxes(), Lines{name + "\r\n\r\nExists! Do you want to Replace it?"}) << "asked once";
+    EXPECT_LT(test::TemporaryFolder::read(name).size(), 10000U);
+    EXPECT_EQ(workbench.EDIDModified, flagFalse);
+    EXPECT_EQ(workbench.Block0ChecksumAsLoaded, "77");
+    EXPECT_EQ(workbench.frmEDID().caption(), title);
+}
+
+TEST_F(Save, ANameIsTakenExactlyAsTyped) {
+    program.platform.queueFileName(folder.file("no extension"));
+    FileSaveAs(workbench);
+    EXPECT_TRUE(std::filesystem::exists(folder.file("no extension")));
+    EXPECT_FALSE(std::filesystem::exists(folder.file("no extension.DAT")));
+}
+
+TEST_F(Save, TheExtensionGoesByTheDecimalPrefixOfItsCount) {
+    workbench.frmCEA_EXT();
+    workbench.CurrentFileName = folder.file("image.DAT");
+    const auto blocks = [&](const char* count) {
+        program.setCells(126, {count});
+        FileSave(workbench);
+        const std::string content = test::TemporaryFolder::read(workbench.CurrentFileName);
+        int rows = 0;
+        for (std::size_t at = content.find("  |"); at != std::string::npos; at = content.find("  |", at + 1)) {
+            ++rows;
+        }
+        return rows / 13;
+    };
+    EXPECT_EQ(blocks("00"), 1);
+    EXPECT_EQ(blocks("01"), 2);
+    EXPECT_EQ(blocks("10"), 2);
+    EXPECT_EQ(blocks("0A"), 1);
+    EXPECT_EQ(blocks("FF"), 1);
+}
+
 TEST_F(Save, DoesNothingWithoutAnImage) {
     workbench.EDIDLoaded = flagFalse;
     FileSave(workbench);
     FileSaveAs(workbench);
     EXPECT_TRUE(program.takeLines().empty());
+}
+
+TEST_F(Save, AFolderOfThatNameIsNotDeleted) {
+    workbench.CurrentFileName = folder.file("folder.DAT");
+    std::filesystem::create_directory(workbench.CurrentFileName);
+    FileSave(workbench);
+    EXPECT_EQ(program.takeBoxes(), Lines{"Path/File access error"});
+    EXPECT_TRUE(std::filesystem::is_directory(workbench.CurrentFileName));
 }
 
 TEST_F(Save, AFailedSaveIsToldAndLeavesTheImageModified) {
