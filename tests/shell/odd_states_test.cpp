@@ -87,6 +87,19 @@ TEST_F(OddStates, ANewImageClearsItsIdentity) {
               "");
 }
 
+TEST_F(OddStates, NewAndOpenComeToTheFrontWithTheirFirstCell) {
+    newImage();
+    input::moveFocus(workbench.frmEDID().txtEdit(40));
+    input::choose(frame.HexCalculator);
+    input::choose(frame.mnuFileNew); // and No: the old cells stay, and the focus goes where it was
+    EXPECT_EQ(workbench.windows.activeChild(), &workbench.frmEDID());
+    EXPECT_EQ(workbench.focus.current(), &workbench.frmEDID().txtEdit(40));
+    input::activate(workbench.frmHexCalculator());
+    open(dataFile({}));
+    EXPECT_EQ(workbench.windows.activeChild(), &workbench.frmEDID());
+    EXPECT_EQ(workbench.focus.current(), &workbench.frmEDID().txtEdit(0));
+}
+
 TEST_F(OddStates, NewShowsAFailureAndLeavesTheStateAsItStands) {
     newImage();
     workbench.CurrentFileName = "old.DAT";
