@@ -1,28 +1,20 @@
-#include "support/scenarios.h"
-
 #include <gtest/gtest.h>
 
-#include "script/driver.h"
 #include "script/script_error.h"
-#include "shell/wiring.h"
+#include "support/model_session.h"
 
 namespace wb::test {
 namespace {
 
 std::string traceOf(const Scenario& scenario) {
-    const ScenarioFolder folder;
-    platform::headless::HeadlessPlatform platform;
-    Workbench workbench(platform.services(), shell::wiring());
-    script::ModelFrontEnd user(workbench);
-    std::string trace;
-    script::Driver driver({workbench, platform, user, [&](const std::string& line) { trace += line + '\n'; }});
+    ModelSession session;
     std::ifstream script(scenario.script, std::ios::binary);
     try {
-        driver.run(script);
+        session.driver.run(script);
     } catch (const script::ScriptError& error) {
         ADD_FAILURE() << scenario.script.string() << ':' << error.line() << ": " << error.what();
     }
-    return trace;
+    return session.trace;
 }
 
 class Scenarios : public testing::TestWithParam<Scenario> {};
