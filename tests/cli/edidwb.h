@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "cli/samples.h"
 #include "support/temporary_folder.h"
 
 namespace wb::test {
@@ -41,11 +42,6 @@ protected:
 private:
     TemporaryFolder folder_;
 };
-
-/// The bytes of a sample.
-inline std::string sample(const std::string& name) {
-    return TemporaryFolder::read(WORKBENCH_SOURCE_DIR "/samples/" + name);
-}
 
 inline bool contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
