@@ -121,7 +121,7 @@ ControlName controlNamed(Workbench& workbench, std::string_view name) {
 }
 
 ControlName menuEntryNamed(Workbench& workbench, std::string_view name) {
-    const ControlName entry = controlNamed(workbench, ScreenId::Main, {std::string(name)});
+    ControlName entry = controlNamed(workbench, ScreenId::Main, {std::string(name)});
     if (entry.kind != ControlKind::Menu) {
         throw ScriptError("'" + std::string(name) + "' is no menu entry");
     }
