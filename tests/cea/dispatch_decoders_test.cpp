@@ -73,6 +73,31 @@ TEST_F(DispatchDecoder, AVideoCellDecodesTheWholeBlock) {
     EXPECT_EQ(wb.ShortVideoText(2), "1280x720p 59.94/60Hz 16:9 861   \r\n");
 }
 
+TEST_F(DispatchDecoder, WhereTheAudioDescriptorsOverlapTheOrderOfTheRowsDecides) {
+    struct Case {
+        std::int16_t last; ///< first cell of the last descriptor; the first one stands at 41 to 43
+        int index;
+        int panel;
+        bool inLast;
+    };
+    const Case cases[] = {{38, 40, 15, false}, {39, 41, 0, false}, {40, 41, 0, false}, {40, 42, 5, false},
+                          {41, 41, 0, false},  {41, 42, 5, false}, {41, 43, 6, false}, {42, 42, 0, true},
+                          {42, 43, 5, true},   {42, 44, 6, true},  {43, 43, 0, true},  {43, 44, 5, true}};
+    wb.AudioBlockStart = 40;
+    wb.AudioBlockLength = 3; // so that no dispatch moves the last descriptor
+    wb.SpeakerBlockStart = 60;
+    wb.ExtDtdStart = 100;
+    for (const Case& visit : cases) {
+        wb.LastAudioDescriptor = visit.last;
+        focusOn(visit.index == 40 ? 41 : 40);
+        wb.AudioBlockLength = 3;
+        wb.SpeakerBlockStart = 60;
+        focusOn(visit.index);
+        EXPECT_EQ(panels(), std::vector<int>{visit.panel}) << visit.last << ' ' << visit.index;
+        EXPECT_EQ(wb.LastAudioFocus, flag(visit.inLast)) << visit.last << ' ' << visit.index;
+    }
+}
+
 TEST_F(DispatchDecoder, TheAudioHeaderShowsTheAudioFormat) {
     screen().FrmAudioFormat.setVisible(false);
     focusOn(7);
