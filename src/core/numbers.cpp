@@ -139,7 +139,7 @@ std::string plainDecimal(double value) {
     if (count <= exponent + 1) {
         return result + digits + std::string(static_cast<std::size_t>(exponent + 1 - count), '0');
     }
-    const auto whole = static_cast<std::size_t>(exponent + 1);
+    const std::size_t whole = static_cast<std::size_t>(exponent) + 1;
     return result + digits.substr(0, whole) + "." + digits.substr(whole);
 }
 

@@ -99,10 +99,14 @@ std::string HexToBinaryText(std::string_view text) {
     std::string result;
     result.reserve(text.size() * 4);
     for (const char c : text) {
+        int digit = -1;
         if (c >= '0' && c <= '9') {
-            result += nibbles[static_cast<std::size_t>(c - '0')];
+            digit = c - '0';
         } else if (c >= 'A' && c <= 'F') {
-            result += nibbles[static_cast<std::size_t>(c - 'A' + 10)];
+            digit = c - 'A' + 10;
+        }
+        if (digit >= 0) {
+            result += nibbles[static_cast<std::size_t>(digit)];
         }
     }
     return result;
