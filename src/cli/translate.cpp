@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 
 #include "cli/cli_error.h"
 #include "cli/commands.h"
@@ -55,7 +56,11 @@ Translation translate(const std::string& name, const std::optional<platform::Dat
 /// Takes the results one after the other, in the order of the input.
 class Collector {
 public:
-    explicit Collector(const Options& options) : options_(options) {}
+    explicit Collector(const Options& options) : options_(options) {
+        for (const std::string& name : options.files) {
+            namesOfStem_[stemOf(name)].insert(fs::path(name).filename().string());
+        }
+    }
 
     void take(const Translation& translation) {
         const std::string& name = options_.files[next_++];
@@ -80,9 +85,19 @@ private:
         failed_ = true;
     }
 
+    static std::string stemOf(const std::string& name) {
+        return name == standardStream ? "stdin" : fs::path(name).stem().string();
+    }
+
+    /// The name of the file without its extension, which only stays where it tells several files apart.
+    std::string reportNameOf(const std::string& name) const {
+        const std::string stem = stemOf(name);
+        const bool shared = name != standardStream && namesOfStem_.at(stem).size() > 1;
+        return (shared ? fs::path(name).filename().string() : stem) + ".txt";
+    }
+
     void writeReport(const std::string& name, const std::string& report) {
-        const std::string stem = name == standardStream ? "stdin" : fs::path(name).stem().string();
-        const std::string target = (fs::path(options_.outputFolder) / (stem + ".txt")).string();
+        const std::string target = (fs::path(options_.outputFolder) / reportNameOf(name)).string();
         const auto [other, isNew] = writtenBy_.try_emplace(target, name);
         if (!isNew) {
             fail(name, "its report '" + target + "' is already that of '" + other->second + "'");
@@ -110,6 +125,7 @@ private:
 
     const Options& options_;
     std::size_t next_ = 0;
+    std::map<std::string, std::set<std::string>> namesOfStem_;
     std::map<std::string, std::string> writtenBy_;
     bool failed_ = false;
 };
