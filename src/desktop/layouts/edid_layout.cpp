@@ -10,7 +10,7 @@ constexpr Place screen[] = {
     group("#identity").at(0, 0, 1, 2),
     group("#grid").at(1, 0),
     members("Hints", 0, 13).at(1, 1).inOnePlace().onKey("Ctrl+Shift+Del"),
-    one("DTHelp").at(2, 0, 1, 2).called("Ctrl+Shift+Delete does what the double click does"),
+    one("DTHelp").at(2, 0, 1, 2).keepingRoom().called("Ctrl+Shift+Delete does what the double click does"),
 };
 
 constexpr Place header[] = {one("Label3").as(Look::Prose).wide(34)};

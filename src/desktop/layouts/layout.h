@@ -33,8 +33,9 @@ struct Place {
     int rowSpan = 1;
     int columnSpan = 1;
     int across = 1;
-    bool together = false; ///< all members stand in one place, where one of them shows at a time
-    bool atRight = false;  ///< no wider than need be, at the right end of its place
+    bool together = false;  ///< all members stand in one place, where one of them shows at a time
+    bool keepsRoom = false; ///< nothing moves up while it is hidden
+    bool atRight = false;   ///< no wider than need be, at the right end of its place
     Look look = Look::Plain;
     int characters = 0;             ///< width in characters; 0: as the content asks
     std::string_view spoken = {};   ///< accessible name; "%1" stands for the index
@@ -56,6 +57,12 @@ struct Place {
     constexpr Place inOnePlace() const {
         Place place = *this;
         place.together = true;
+        place.keepsRoom = true;
+        return place;
+    }
+    constexpr Place keepingRoom() const {
+        Place place = *this;
+        place.keepsRoom = true;
         return place;
     }
     constexpr Place toTheRight() const {

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <utility>
 
 #include "core/input.h"
 #include "core/screen.h"
@@ -100,13 +101,25 @@ void ButtonView::refreshTabStop() {
     button_->setFocusPolicy(stop == &model || stop == nullptr ? Qt::TabFocus : Qt::NoFocus);
 }
 
+// The list opens before the focus moves, and the pick moves it: what the move causes must not come between. A list that
+// closes without a pick was a click.
+
 void RowBox::showPopup() {
-    // The focus moves before the list opens: what it causes may rebuild the list, or show a box.
-    if (view_.control() != nullptr) {
-        view_.act([](Control& c) { input::click(c); });
+    listOpen_ = true;
+    QComboBox::showPopup();
+}
+
+void RowBox::hidePopup() {
+    QComboBox::hidePopup();
+    if (listOpen_) { // the pick, if there is one, follows at once
+        QMetaObject::invokeMethod(
+            this, [this] { clickUnlessPicked(); }, Qt::QueuedConnection);
     }
-    if (view_.control() != nullptr && isEnabled() && isVisible()) {
-        QComboBox::showPopup();
+}
+
+void RowBox::clickUnlessPicked() {
+    if (std::exchange(listOpen_, false) && view_.control() != nullptr) {
+        view_.act([](Control& c) { input::click(c); });
     }
 }
 
@@ -121,6 +134,7 @@ void RowBox::keyPressEvent(QKeyEvent* event) {
 ComboView::ComboView(Control& control, const Place& place, UserActions& actions)
     : ControlView(control, place, actions), box_(new RowBox(*this)) {
     QObject::connect(box_, &QComboBox::activated, this, [this](int row) {
+        box_->notePick();
         if (this->control() != nullptr) {
             act([row](Control& c) { input::pick(c, row); });
         }

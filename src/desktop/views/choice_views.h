@@ -62,13 +62,19 @@ class RowBox : public QComboBox {
 public:
     explicit RowBox(ControlView& view) : view_(view) { setFocusPolicy(Qt::TabFocus); }
     void showPopup() override;
+    void hidePopup() override;
+    /// A row has been picked from the list.
+    void notePick() { listOpen_ = false; }
 
 protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void clickUnlessPicked();
+
     ControlView& view_;
+    bool listOpen_ = false;
 };
 
 class ComboView : public ControlView {

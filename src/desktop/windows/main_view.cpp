@@ -195,13 +195,15 @@ void MainView::applyPosition() {
     if (!isOnSomeScreen(geometry)) {
         geometry.moveTopLeft(window_->screen()->availableGeometry().topLeft());
     }
+    placing_ = true;
     window_->move(geometry.topLeft());
     window_->resize(geometry.size());
+    placing_ = false;
     shownGeometry_ = QRect(window_->pos(), window_->size());
 }
 
 void MainView::notePosition() {
-    if (screen() == nullptr) {
+    if (screen() == nullptr || placing_) {
         return;
     }
     FrmMain& model = frame();

@@ -74,6 +74,7 @@ private:
     std::vector<std::unique_ptr<ControlView>> own_;
     Position shownPosition_;
     QRect shownGeometry_;
+    bool placing_ = false; ///< the window moves because the model says so
 };
 
 } // namespace wb::desktop

@@ -101,9 +101,11 @@ void ScreenPage::fill(QWidget& parent, const Area& area) {
     for (const Place& place : area.places) {
         placeControls(parent, *grid, place);
     }
-    // What is left over stays below and to the right of the controls.
-    grid->setRowStretch(grid->rowCount(), 1);
-    grid->setColumnStretch(grid->columnCount(), 1);
+    const auto panels = std::find_if(area.places.begin(), area.places.end(), [](const Place& p) { return p.together; });
+    const bool hasPanels = panels != area.places.end();
+    // What is left over belongs to the panels, or stays below and to the right of the controls.
+    grid->setRowStretch(hasPanels ? panels->row : grid->rowCount(), 1);
+    grid->setColumnStretch(hasPanels ? panels->column : grid->columnCount(), 1);
 }
 
 void ScreenPage::placeControls(QWidget& parent, QGridLayout& grid, const Place& place) {
@@ -139,8 +141,7 @@ QWidget* ScreenPage::makeControl(QWidget& parent, Control& control, const Place&
     views_.push_back(makeView(control, place, actions_));
     QWidget* widget = views_.back()->widget();
     widget->setParent(&parent);
-    if (place.together) {
-        // The panels keep their common room while they are hidden.
+    if (place.keepsRoom) {
         QSizePolicy policy = widget->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
         widget->setSizePolicy(policy);

@@ -1,5 +1,7 @@
 #include "desktop/windows/screen_view.h"
 
+#include <utility>
+
 #include "core/input.h"
 #include "desktop/windows/screen_page.h"
 
@@ -18,15 +20,12 @@ void ScreenView::addPage(ScreenPage& page) {
 }
 
 void ScreenView::refreshControls() {
-    if (!stale_ || screen() == nullptr) {
+    if (staleViews_.empty() || screen() == nullptr) {
         return;
     }
-    stale_ = false;
-    for (ControlView* view : views_) {
-        if (view->stale) {
-            view->stale = false;
-            view->refresh();
-        }
+    for (ControlView* view : std::exchange(staleViews_, {})) {
+        view->stale = false;
+        view->refresh();
     }
     if (page_ != nullptr) {
         page_->refreshTabStops();
@@ -35,25 +34,22 @@ void ScreenView::refreshControls() {
 }
 
 void ScreenView::detach() {
-    for (ControlView* view : views_) {
+    for (const auto& [control, view] : views_) {
         view->detach();
     }
     *screen_ = nullptr;
 }
 
 ControlView* ScreenView::viewOf(const Control& control) const {
-    for (ControlView* view : views_) {
-        if (view->control() == &control) {
-            return view;
-        }
-    }
-    return nullptr;
+    const auto found = views_.find(&control);
+    return found == views_.end() ? nullptr : found->second;
 }
 
 void ScreenView::markStale(const Control& control) {
-    if (ControlView* view = viewOf(control)) {
+    ControlView* view = viewOf(control);
+    if (view != nullptr && !view->stale) {
         view->stale = true;
-        stale_ = true;
+        staleViews_.push_back(view);
     }
 }
 

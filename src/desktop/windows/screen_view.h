@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "core/screen.h"
@@ -31,7 +32,6 @@ public:
 
     ControlView* viewOf(const Control& control) const;
     void markStale(const Control& control);
-    const std::vector<ControlView*>& controlViews() const { return views_; }
 
     /// Runs an action of the user on the screen, unless the screen has gone by then.
     void act(std::function<void(Screen&)> action);
@@ -39,16 +39,16 @@ public:
     void askToClose();
 
 protected:
-    void add(ControlView& view) { views_.push_back(&view); }
+    void add(ControlView& view) { views_[view.control()] = &view; }
     void addPage(ScreenPage& page);
     UserActions& actions() const { return actions_; }
 
 private:
     std::shared_ptr<Screen*> screen_;
     UserActions& actions_;
-    std::vector<ControlView*> views_;
+    std::unordered_map<const Control*, ControlView*> views_;
+    std::vector<ControlView*> staleViews_;
     ScreenPage* page_ = nullptr;
-    bool stale_ = false;
 };
 
 } // namespace wb::desktop
