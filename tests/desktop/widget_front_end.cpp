@@ -82,8 +82,7 @@ bool WidgetFrontEnd::click(Control& control) {
         return false;
     }
     if (control.kind() == ControlKind::Combo) {
-        QTest::keyClick(widget, Qt::Key_Escape); // closes a list that a click opens
-        static_cast<QComboBox*>(widget)->showPopup();
+        static_cast<QComboBox*>(widget)->showPopup(); // what a press does
         static_cast<QComboBox*>(widget)->hidePopup();
     } else if (!widget->hasFocus() || control.kind() != ControlKind::Text) {
         QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, edgeOf(*widget));

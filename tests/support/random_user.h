@@ -34,7 +34,6 @@ private:
     void writeImage(const std::string& name);
     std::string header(int length);
 
-    bool focusIsCalledBack() const;
     Lines onModal(Screen& screen);
     Lines onFrame();
     Lines onChild(Screen& screen);

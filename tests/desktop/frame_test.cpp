@@ -1,0 +1,181 @@
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QToolBar>
+#include <set>
+
+#include "desktop/desktop_test.h"
+#include "desktop/views/menu_view.h"
+
+namespace wb::test {
+namespace {
+
+class Frame : public DesktopTest {
+protected:
+    QMainWindow& window() { return program.frame().window(); }
+    QAction& action(Control& entry) { return dynamic_cast<desktop::MenuView&>(*program.view.viewOf(entry)).action(); }
+    QStringList entriesOf(int menu) {
+        QStringList texts;
+        for (const QAction* entry : window().menuBar()->actions()[menu]->menu()->actions()) {
+            texts += entry->isSeparator() ? "-" : entry->text();
+        }
+        return texts;
+    }
+};
+
+TEST_F(Frame, HasTheMenusWithTheirMnemonics) {
+    QStringList top;
+    for (const QAction* menu : window().menuBar()->actions()) {
+        top += menu->text();
+    }
+    EXPECT_EQ(top, QStringList({"&File", "&Window", "&Help"}));
+    EXPECT_EQ(entriesOf(0),
+              QStringList({"&New", "&Open...", "&Close", "-", "&Save", "Save &As...", "-", "Page Set&up...",
+                           "Print Pre&view", "&Print...", "-", "&Export Hexadecimal EDID File", "&Hex Calculator",
+                           "Retreive EDID Data", "Windows 2000 Base Location", "-", "E&xit"}));
+    EXPECT_EQ(entriesOf(1), QStringList({"&Cascade", "Tile &Horizontal", "Tile &Vertical", "&Arrange Icons"}));
+    EXPECT_EQ(entriesOf(2), QStringList({"&Information", "&About "}));
+}
+
+TEST_F(Frame, HasThePlatformsStandardKeys) {
+    EXPECT_EQ(action(frame().mnuFileNew).shortcut(), QKeySequence("Ctrl+N"));
+    EXPECT_EQ(action(frame().mnuFileOpen).shortcut(), QKeySequence("Ctrl+O"));
+    EXPECT_EQ(action(frame().mnuFileSave).shortcut(), QKeySequence("Ctrl+S"));
+    EXPECT_EQ(action(frame().mnuFilePrint).shortcut(), QKeySequence("Ctrl+P"));
+    EXPECT_EQ(action(frame().mnuFileClose).shortcuts(), QKeySequence::keyBindings(QKeySequence::Close));
+    EXPECT_EQ(action(frame().Info).shortcuts(), QKeySequence::keyBindings(QKeySequence::HelpContents));
+}
+
+TEST_F(Frame, ClosesByTheKeyOfTheMenu) {
+    program.newImage();
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_EQ(program.workbench.loaded(ScreenId::Edid), nullptr) << "no second owner of the key makes it ambiguous";
+}
+
+TEST_F(Frame, FollowsThePropertiesOfAMenuEntry) {
+    program.act([&] {
+        frame().mnuFileSave.setEnabled(false);
+        frame().Windows2000.setVisible(false);
+        frame().mnuFileSave.setCaption("&Store");
+    });
+    EXPECT_FALSE(action(frame().mnuFileSave).isEnabled());
+    EXPECT_FALSE(action(frame().Windows2000).isVisible());
+    EXPECT_EQ(action(frame().mnuFileSave).text(), "&Store");
+}
+
+TEST_F(Frame, HasAToolBarWithIconsAndTips) {
+    const auto* bar = window().findChild<QToolBar*>("tbToolBar");
+    ASSERT_NE(bar, nullptr);
+    QStringList tips;
+    for (const QAction* button : bar->actions()) {
+        EXPECT_FALSE(button->icon().isNull()) << button->text().toStdString();
+        tips += button->toolTip();
+    }
+    EXPECT_EQ(tips, QStringList({"New", "Open", "Save", "Print Preview", "Print", "Displays Calculator",
+                                 "Retrieve EDID Data"}));
+}
+
+TEST_F(Frame, DrawsEachToolBarIconDifferently) {
+    std::set<QByteArray> pictures;
+    for (const FrmMain::ToolBarKey& key : FrmMain::toolBarKeys) {
+        const QImage image =
+            action(frame().tbToolBar(1 + static_cast<int>(pictures.size()))).icon().pixmap(24).toImage();
+        const QByteArray bytes(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
+        EXPECT_TRUE(pictures.insert(bytes).second) << key.key;
+        EXPECT_GT(bytes.count('\0'), 0) << "the ground is clear";
+        EXPECT_LT(bytes.count('\0'), bytes.size()) << "something is drawn";
+    }
+}
+
+TEST_F(Frame, HasAStatusBarWithAClock) {
+    EXPECT_EQ(program.widgetAs<QLabel>(frame().sbStatusBar).text(), "Status");
+    bool hasClock = false;
+    for (const QLabel* label : window().statusBar()->findChildren<QLabel*>()) {
+        hasClock = hasClock || (label->accessibleName() == "Clock" && !label->text().isEmpty());
+    }
+    EXPECT_TRUE(hasClock);
+}
+
+TEST_F(Frame, StandsWhereTheModelSays) {
+    // 1000 and 6500 twips at 96 dots an inch.
+    EXPECT_EQ(window().pos(), QPoint(67, 67));
+    EXPECT_EQ(window().size(), QSize(433, 433));
+    EXPECT_EQ(frame().Left, 1000) << "what the model asked for is not rounded to pixels";
+    EXPECT_EQ(frame().Height, 6500);
+}
+
+TEST_F(Frame, TellsTheModelWhereTheUserPutsIt) {
+    window().move(100, 40);
+    window().resize(800, 600);
+    DesktopProgram::settle();
+    EXPECT_EQ(frame().Left, 1500);
+    EXPECT_EQ(frame().Top, 600);
+    EXPECT_EQ(frame().Width, 12000);
+    EXPECT_EQ(frame().Height, 9000);
+}
+
+TEST_F(Frame, TellsTheModelThatItIsMinimised) {
+    const float width = frame().Width;
+    window().showMinimized();
+    DesktopProgram::settle();
+    EXPECT_TRUE(frame().minimised);
+    EXPECT_EQ(frame().Width, width);
+    window().showNormal();
+    DesktopProgram::settle();
+    EXPECT_FALSE(frame().minimised);
+}
+
+TEST_F(Frame, StaysOnAScreenThatThereIs) {
+    program.act([&] { frame().setPosition(-900000, -900000, 6500, 6500); });
+    EXPECT_TRUE(window().screen()->geometry().intersects(window().frameGeometry()));
+    EXPECT_EQ(frame().Left, -900000) << "the stored place is kept until the user moves the frame";
+}
+
+TEST_F(Frame, ScrollsWhereAChildIsLarger) {
+    program.newImage();
+    const QMdiArea& area = program.frame().area();
+    ASSERT_GT(program.window(edid()).width(), area.viewport()->width());
+    EXPECT_TRUE(area.horizontalScrollBar()->isVisible());
+    EXPECT_TRUE(area.verticalScrollBar()->isVisible());
+}
+
+TEST_F(Frame, WrapsItsButtonsWhereItIsNarrow) {
+    const QWidget& last = *program.widget(frame().Command5);
+    EXPECT_GT(last.y(), program.widget(frame().Command1)->y());
+    EXPECT_LE(last.geometry().right(), last.parentWidget()->width());
+    window().resize(1000, 433);
+    DesktopProgram::settle();
+    EXPECT_EQ(last.y(), program.widget(frame().Command1)->y());
+}
+
+TEST_F(Frame, ClosesWhenTheModelSaysSo) {
+    program.newImage();
+    program.workbench.EDIDModified = flagTrue;
+    program.platform.queueAnswer(platform::Answer::Yes);
+    window().close(); // the save is abandoned
+    DesktopProgram::settle();
+    EXPECT_EQ(takeBoxes(), std::vector<std::string>{"Save Changes?"});
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_FALSE(program.workbench.ended);
+    program.platform.queueAnswer(platform::Answer::No);
+    window().close();
+    DesktopProgram::settle();
+    EXPECT_EQ(takeBoxes(), std::vector<std::string>{"Save Changes?"});
+    EXPECT_TRUE(program.workbench.ended);
+}
+
+TEST(Splash, IsShownWhileTheProgramStarts) {
+    DesktopProgram program(false);
+    program.act([&] { program.workbench.windows.reveal(program.workbench.frmSplash()); });
+    EXPECT_TRUE(program.window(program.workbench.frmSplash()).isVisible());
+    program.start();
+    EXPECT_EQ(program.workbench.loaded(ScreenId::Splash), nullptr);
+    EXPECT_TRUE(program.frame().window().isVisible());
+}
+
+} // namespace
+} // namespace wb::test
