@@ -51,6 +51,13 @@ TEST_F(AudioPanel, TheFormatGoesToTheLastOfTwo) {
     EXPECT_EQ(screen().Hints(0).caption(), "Uncompressed Audio (14)");
 }
 
+TEST_F(AudioPanel, TheFormatIsSelected) {
+    screen().AudFormCode(3).changeValue(-1);
+    AudFormCode_Click(wb, 7);
+    EXPECT_EQ(test::selectedOf(screen().AudFormCode), std::vector<int>{7});
+    EXPECT_EQ(cell(14), "3D"); // 0 0111 101
+}
+
 TEST_F(AudioPanel, TheFormatOfASingleDescriptor) {
     oneDescriptor();
     choose(screen().AudFormCode(14), -1);
@@ -174,6 +181,16 @@ TEST_F(AudioPanel, TheRowIsTheByte) {
     EXPECT_EQ(cell(16), "09");
     EXPECT_EQ(wb.LastBitRateText, "Maximum Sampling bit rate: 640 kbps"); // follows with the next decoding
     EXPECT_EQ(cell(13), "01");
+}
+
+TEST_F(AudioPanel, ARateOfNoRowCountsAsTheFirst) {
+    focusOn(13);
+    choose(screen().bitrateCBox, 0);
+    EXPECT_EQ(cell(13), "00");
+    setCell(13, "07");
+    screen().bitrateCBox.setText("2048");
+    bitrateCBox_Click(wb, 0);
+    EXPECT_EQ(cell(13), "00");
 }
 
 TEST_F(AudioPanel, TheRateOfTheLastNeedsOnlyTheFocus) {

@@ -112,6 +112,31 @@ TEST_F(CellEdit, TheFirstRowThatMatchesDecides) {
     EXPECT_EQ(wb.LastAudioChannelsText, "Audio Channels: 8");
 }
 
+TEST_F(CellEdit, WhereTheAudioDescriptorsOverlapTheOrderOfTheRowsDecides) {
+    struct Case {
+        std::int16_t last; ///< first cell of the last descriptor; the first one stands at 41 to 43
+        int index;
+        std::string SharedVariables::*decoded;
+    };
+    const Case cases[] = {
+        {40, 41, &SharedVariables::AudioChannelsText},     {40, 42, &SharedVariables::SampFreqText},
+        {41, 41, &SharedVariables::AudioChannelsText},     {41, 42, &SharedVariables::LastSampFreqText},
+        {41, 43, &SharedVariables::BitRateText},           {42, 42, &SharedVariables::LastAudioChannelsText},
+        {42, 43, &SharedVariables::LastSampFreqText},      {42, 44, &SharedVariables::LastBitRateText},
+        {43, 43, &SharedVariables::LastAudioChannelsText}, {43, 44, &SharedVariables::LastSampFreqText}};
+    wb.AudioBlockStart = 40;
+    for (const Case& edited : cases) {
+        wb.LastAudioDescriptor = edited.last;
+        for (const auto text : {&SharedVariables::AudioChannelsText, &SharedVariables::SampFreqText,
+                                &SharedVariables::BitRateText, &SharedVariables::LastAudioChannelsText,
+                                &SharedVariables::LastSampFreqText, &SharedVariables::LastBitRateText}) {
+            wb.*text = "old";
+            txtEdit_KeyUp(wb, edited.index, '0');
+            EXPECT_EQ(wb.*text != "old", text == edited.decoded) << edited.last << ' ' << edited.index;
+        }
+    }
+}
+
 TEST_F(CellEdit, VendorDataOfALongBlockNearTheStart) {
     wb.VendorBlockStart = 8;
     wb.VideoBlockStart = wb.VideoBlockLength = wb.AudioBlockStart = wb.LastAudioDescriptor = wb.SpeakerBlockStart = 60;

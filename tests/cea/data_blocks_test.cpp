@@ -219,6 +219,21 @@ TEST_F(ScanState, SpeakersBehindTheVendorBlockStayUnknown) {
     EXPECT_EQ(wb.SpeakerBlockStart, 0);
 }
 
+TEST_F(ScanState, TheFirstVendorAndSpeakerHeadersCount) {
+    loadCollection({"41", "90", "23", "09", "07", "07", "81", "01", "81", "01", "61", "03", "61", "03"}, "12");
+    EXPECT_EQ(wb.VendorBlockStart, 14);
+    LocateDataBlocks(wb);
+    EXPECT_EQ(wb.SpeakerBlockStart, 10);
+    EXPECT_EQ(wb.VendorBlockStart, 14);
+}
+
+TEST_F(ScanState, OnlyTheAudioLengthOfTheSameWalkGuards) {
+    wb.AudioBlockStart = 5; // of an earlier image
+    wb.AudioBlockLength = 9;
+    loadCollection({"41", "90", "61", "03"}, "08");
+    EXPECT_EQ(wb.VendorBlockStart, 6);
+}
+
 TEST_F(ScanState, WithoutAVideoBlockAudioMayStandFirst) {
     loadCollection({}, "04"); // leaves no video block
     loadCollection({"23", "09", "07", "07", "42", "90", "04"}, "0B");
@@ -256,7 +271,8 @@ TEST(HeaderFields, TagAndLength) {
     EXPECT_EQ(tagDigits("5F"), "010");
     EXPECT_EQ(dataLength(program.workbench, "5F"), 31);
     EXPECT_EQ(tagDigits("4"), "010");
-    EXPECT_EQ(dataLength(program.workbench, "5"), 1); // no digits behind the first
+    EXPECT_EQ(dataLength(program.workbench, "5"), 1);   // no digits behind the first
+    EXPECT_EQ(dataLength(program.workbench, "45F"), 5); // a third character is no digit of the byte
     EXPECT_EQ(tagDigits("ZZ"), "");
     EXPECT_EQ(dataLength(program.workbench, "ZZ"), 0);
     EXPECT_EQ(tagDigits("e3"), ""); // lower case has no digits

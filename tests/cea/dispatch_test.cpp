@@ -422,6 +422,19 @@ TEST_F(Return, GoesToTheFirstCellOfBlock0) {
     EXPECT_TRUE(boxes().empty());
 }
 
+TEST_F(Return, ShowsBlock0WhereTheFocusLastWasThere) {
+    wb.windows.show(wb.frmEDID());
+    wb.focus.moveTo(wb.frmEDID().txtEdit(20));
+    wb.windows.show(wb.frmDocument());
+    wb.frmEDID().txtEdit(20).setText("ABC");
+    wb.windows.show(screen());
+    ASSERT_TRUE(input::click(screen().Cmd_Return));
+    // On its way to cell 0 the focus meets a cell that does not let it go.
+    EXPECT_EQ(boxes(), Texts{"Please Make Your Values In Hex"});
+    EXPECT_EQ(wb.focus.current(), &wb.frmEDID().txtEdit(20));
+    EXPECT_FALSE(screen().shown());
+}
+
 TEST_F(Return, OnlyHidesWithoutAnImage) {
     wb.windows.show(screen());
     wb.CEAScreenOpen = flagTrue;

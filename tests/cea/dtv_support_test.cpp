@@ -68,6 +68,13 @@ protected:
     }
 };
 
+TEST_F(DtvPanel, ADigitWithoutBitsClearsTheFlags) {
+    decode("F0");
+    EXPECT_EQ(selectedOf(screen().NativeChk), (std::vector<int>{0, 1, 2, 3}));
+    decode("Z0");
+    EXPECT_TRUE(selectedOf(screen().NativeChk).empty());
+}
+
 TEST_F(DtvPanel, AFlagReplacesTheFirstDigit) {
     decode("81");
     const std::string before = wb.DTVSupportText;

@@ -1,5 +1,7 @@
 #include "cea/header.h"
 
+#include "cea/data_blocks.h"
+#include "cea/definitions.h"
 #include "cea/extension_fixture.h"
 #include "cea/procedure.h"
 
@@ -32,6 +34,28 @@ TEST(HeaderLoad, TakesBrandAndModelOfBlock0) {
     block0.txtModel.setText("HV19");
     EXPECT_EQ(program.workbench.frmCEA_EXT().txtBrand.text(), "Halvorine");
     EXPECT_EQ(program.workbench.frmCEA_EXT().txtModel.text(), "HV19");
+}
+
+TEST(HeaderLoad, MakesTheImageLoadedAndUnchanged) {
+    test::Program program;
+    Workbench& wb = program.workbench;
+    wb.frmEDID(); // which would do the same
+    wb.EDIDLoaded = flagFalse;
+    wb.EDIDModified = wb.EDIDRedecodeNeeded = flagTrue;
+    wb.frmCEA_EXT();
+    EXPECT_EQ(wb.EDIDLoaded, flagTrue);
+    EXPECT_EQ(wb.EDIDModified, flagFalse);
+    EXPECT_EQ(wb.EDIDRedecodeNeeded, flagFalse);
+}
+
+TEST(HeaderLoad, TheCheckSumComesAfterThat) {
+    test::Program program;
+    Workbench& wb = program.workbench;
+    wb.ModifyEDIDOn = flagTrue;
+    EXPECT_EQ(wb.frmCEA_EXT().txtEdit(127).text(), "FB"); // 02 and 03
+    EXPECT_EQ(wb.EDIDModified, flagTrue);
+    EXPECT_EQ(wb.EDIDRedecodeNeeded, flagTrue);
+    EXPECT_EQ(wb.Block0ChecksumLast, "FB");
 }
 
 TEST_F(Header, VersionIsShownInDecimal) {
@@ -139,6 +163,32 @@ TEST_F(Checksum, ASumOf256IsNothing) {
     setCell(127, "11");
     CalcCheckSum(wb);
     EXPECT_EQ(cell(127), "00");
+}
+
+TEST_F(Checksum, ASumAbove255LosesIts256) {
+    modify();
+    setCell(1, "FF");
+    CalcCheckSum(wb);
+    EXPECT_EQ(cell(127), "FF"); // 257 counts as 1
+    setCell(126, "FF");
+    setCell(125, "FF");
+    CalcCheckSum(wb);
+    EXPECT_EQ(cell(127), "01"); // 767 counts as 255
+}
+
+TEST_F(Checksum, TheLocationOfTheBlocksEndsWithIt) {
+    modify();
+    setCell(127, "old");
+    LocateDataBlocks(wb);
+    EXPECT_EQ(cell(127), "FB");
+}
+
+TEST_F(Checksum, TheWalkOverTheSlotsEndsWithIt) {
+    modify();
+    wb.ExtDtdStart = 143; // leaves no slot, whose decoder would run it
+    setCell(127, "old");
+    BuildDetailedTimings(wb);
+    EXPECT_EQ(cell(127), "FB");
 }
 
 TEST_F(Checksum, SharesTheMemoryOfBlock0) {

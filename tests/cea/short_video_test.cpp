@@ -119,7 +119,7 @@ TEST_F(ShortVideo, NativeDescriptorsSaySo) {
 
 TEST_F(ShortVideo, AnUnknownCodeHasNoLine) {
     loadCollection({"42", "90", "3C"}, "10");
-    focusOn(5);
+    screen().VideoBlkCBox.changeValue(3);
     focusOn(6);
     EXPECT_EQ(wb.ShortVideoText(1), "1920x1080p 59.94/60Hz 16:9 861B   Native\r\n");
     EXPECT_EQ(wb.ShortVideoText(2), "");

@@ -103,6 +103,15 @@ TEST_F(TranslateTest, WritesOneReportAFile) {
     EXPECT_EQ(read("new/out/stdin.txt"), read("new/out/zarqo-z40.txt"));
 }
 
+TEST_F(TranslateTest, InputsThatDifferInTheirExtensionKeepItInTheNamesOfTheReports) {
+    const Outcome outcome = shell(
+        "cp $SAMPLES/zarqo-z40.* $SAMPLES/brindleco-b24w.bin .\nedidwb translate -o out zarqo-z40.bin zarqo-z40.DAT "
+        "brindleco-b24w.bin");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(shell("ls out").output, "brindleco-b24w.txt\nzarqo-z40.DAT.txt\nzarqo-z40.bin.txt\n");
+    EXPECT_EQ(read("out/zarqo-z40.bin.txt"), shell("edidwb translate zarqo-z40.bin").output);
+}
+
 TEST_F(TranslateTest, TwoInputsOfOneNameAreTold) {
     const Outcome outcome = shell(
         "mkdir a b\ncp $SAMPLES/zarqo-z40.bin a/x.bin\ncp $SAMPLES/halvorine-hv19.bin b/x.bin\n"

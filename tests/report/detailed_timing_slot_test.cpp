@@ -106,6 +106,44 @@ TEST_F(Slot, AZeroSlotIsHandedOver) {
     EXPECT_NE(screen.txtEdit(127).text(), "CS");
 }
 
+TEST_F(Slot, OneOfThreeCellsMakesATiming) {
+    const std::initializer_list<std::string_view> heads[] = {
+        {"01", "00", "00"}, {"00", "01", "00"}, {"00", "00", "01"}};
+    for (const auto& head : heads) {
+        set(40, head);
+        workbench.ExtDetailedBlockText(0) = "old";
+        decodeDetailedTiming(screen, slotRules);
+        EXPECT_NE(report(), "old");
+        EXPECT_NE(report(), "descriptor");
+    }
+}
+
+TEST_F(Slot, TheInterlaceBitAloneCounts) {
+    decode("81");
+    EXPECT_EQ(screen.DT1.value(), 1);
+    EXPECT_EQ(reportLine(4), "         Refreshed Mode: Interlaced        Normal Display - No Stereo");
+    decode("7F");
+    EXPECT_EQ(screen.DT1.value(), 0);
+    EXPECT_EQ(reportLine(4), "         Refreshed Mode: Non-Interlaced    Stereo");
+}
+
+TEST_F(Slot, SeparateSyncAloneHasTwoLinesAndNoSerration) {
+    for (const auto& [flags, separate] :
+         {std::pair{"18", true}, {"00", false}, {"08", false}, {"18", true}, {"10", false}}) {
+        decode(flags);
+        EXPECT_EQ(screen.VSyncLine.ownVisible(), separate) << flags;
+        EXPECT_EQ(screen.SyncSerrate.ownVisible(), !separate) << flags;
+    }
+}
+
+TEST_F(Slot, AClockBelow1MHzHasItsRates) {
+    decode("1E");
+    set(40, {"32", "00"}); // 0.50 MHz
+    decodeDetailedTiming(screen, slotRules);
+    EXPECT_EQ(screen.Freq(0).caption(), "Horizontal - 0.23 KHz"); // 2200 pixels of 2 microseconds
+    EXPECT_EQ(screen.Freq(1).caption(), "Vertical - 0.40 Hz");
+}
+
 TEST_F(Slot, TheDescriptorFlagPlaysNoPart) {
     screen.CurrentBlockIsDescriptor = flagTrue;
     decode("1E");
@@ -148,6 +186,27 @@ TEST_F(Slot, AFieldThatCannotBeReadIsPassedOver) {
     EXPECT_EQ(screen.Freq(0).caption(), "Horizontal - 38.67 KHz");
     EXPECT_EQ(screen.InFocusDispatch, flagFalse);
     EXPECT_EQ(screen.txtEdit(127).text(), "CS");
+}
+
+TEST_F(Slot, AnAmountThatCannotBeReadCountsAsNothing) {
+    struct Case {
+        int cell;
+        const char* horizontal;
+        const char* vertical;
+    };
+    const Case cases[] = {
+        {40, "Horizontal - 1000.00 KHz", "Vertical - 1779.36 Hz"}, // no clock: 562 lines of a microsecond
+        {42, "Horizontal - 265.18 KHz", "Vertical - 471.85 Hz"},   // 280 pixels
+        {45, "Horizontal - 33.75 KHz", "Vertical - 1534.09 Hz"}};  // 22 lines
+    for (const Case& unreadable : cases) {
+        decode("1E");
+        boxes();
+        set(unreadable.cell, {"ZZ"});
+        decodeDetailedTiming(screen, slotRules);
+        EXPECT_EQ(boxes(), (Lines{invalidCall, invalidCall}));
+        EXPECT_EQ(screen.Freq(0).caption(), unreadable.horizontal);
+        EXPECT_EQ(screen.Freq(1).caption(), unreadable.vertical);
+    }
 }
 
 TEST_F(Slot, AFlagCellThatCannotBeReadCountsAsZero) {

@@ -114,7 +114,8 @@ void RandomUser::writeImage(const std::string& name) {
 }
 
 RandomUser::Lines RandomUser::next() {
-    if (Screen* modal = workbench_.windows.modal(); modal != nullptr && !oneIn(8)) {
+    Screen* modal = workbench_.windows.modal();
+    if (modal != nullptr && (focusIsCalledBack() || !oneIn(8))) {
         return onModal(*modal);
     }
     Screen* active = workbench_.windows.activeChild();
@@ -124,8 +125,15 @@ RandomUser::Lines RandomUser::next() {
     return onChild(*active);
 }
 
+/// A cell that is too long takes the focus back from whatever it goes to. A list is then opened in vain by front ends
+/// that first open it, and a modal screen has the keys where the program has none for it.
+bool RandomUser::focusIsCalledBack() const {
+    const Control* focused = workbench_.focus.current();
+    return focused != nullptr && isCell(*focused) && focused->text().size() > 2;
+}
+
 RandomUser::Lines RandomUser::onModal(Screen& screen) {
-    if (oneIn(4)) {
+    if (focusIsCalledBack() || oneIn(4)) {
         return {"close " + std::string(screen.name())};
     }
     const Control* focused = workbench_.focus.current();
@@ -250,10 +258,7 @@ RandomUser::Lines RandomUser::enterAnywhere(Screen& screen) {
 
 RandomUser::Lines RandomUser::pickAnything(Screen& screen) {
     Control* combo = reachable(screen, &isCombo);
-    const Control* focused = workbench_.focus.current();
-    // A cell that is too long takes the focus back: from some front ends once for the list, once for its row.
-    const bool calledBack = focused != nullptr && isCell(*focused) && focused->text().size() > 2;
-    if (combo == nullptr || calledBack) {
+    if (combo == nullptr || focusIsCalledBack()) {
         return clickAnything(screen);
     }
     const int row = below(static_cast<int>(combo->rows().size()));

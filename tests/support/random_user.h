@@ -34,6 +34,7 @@ private:
     void writeImage(const std::string& name);
     std::string header(int length);
 
+    bool focusIsCalledBack() const;
     Lines onModal(Screen& screen);
     Lines onFrame();
     Lines onChild(Screen& screen);
