@@ -1,4 +1,3 @@
-#include <QAbstractItemView>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
@@ -7,7 +6,6 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <set>
 
@@ -107,13 +105,6 @@ TEST_F(Binder, ShowsLabelsAsPlainText) {
     EXPECT_EQ(label.text(), "4941(&<b>I</b>)");
     EXPECT_EQ(label.textFormat(), Qt::PlainText);
     EXPECT_EQ(label.buddy(), nullptr) << "without a buddy an ampersand is a character like others";
-}
-
-TEST_F(Binder, ShowsATextThatIsNoRowOfItsCombo) {
-    program.newImage(true);
-    program.act([&] { cea().TagCBox.setText("40"); });
-    EXPECT_EQ(program.widgetAs<QComboBox>(cea().TagCBox).currentIndex(), -1);
-    EXPECT_EQ(program.widgetAs<QComboBox>(cea().TagCBox).placeholderText(), "40");
 }
 
 TEST_F(Binder, ShowsChangesOnceWhenTheCallHasReturned) {
@@ -222,115 +213,6 @@ TEST_F(Binder, TellsADoubleClickOnAPanel) {
     DesktopProgram::settle();
     EXPECT_EQ(edid().txtEdit(75).text(), "FF");
     EXPECT_EQ(focused(), "frmEDID.txtEdit(75)");
-}
-
-TEST_F(Binder, IgnoresTheWheelOverAClosedCombo) {
-    program.newImage(true);
-    program.act([&] { input::click(frame().Command4); });
-    focus(cea().txtEdit(3));
-    auto& box = program.widgetAs<QComboBox>(cea().NativeCBox);
-    const int before = box.currentIndex();
-    QWheelEvent wheel(QPointF(3, 3), box.mapToGlobal(QPointF(3, 3)), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&box, &wheel);
-    EXPECT_EQ(box.currentIndex(), before);
-    EXPECT_EQ(cea().NativeCBox.value(), before);
-}
-
-/// A combo of the extension screen within reach.
-class Combo : public DesktopTest {
-protected:
-    Combo() {
-        program.newImage(true);
-        program.act([&] { input::click(frame().Command4); });
-        focus(cea().txtEdit(3));
-        box = &program.widgetAs<QComboBox>(cea().NativeCBox);
-    }
-    void open() {
-        QTest::mousePress(box, Qt::LeftButton);
-        DesktopProgram::settle();
-        ASSERT_TRUE(box->view()->isVisible());
-    }
-
-    QComboBox* box = nullptr;
-};
-
-TEST_F(Combo, MovesTheFocusAndTellsTheRowThatIsPicked) {
-    open();
-    EXPECT_EQ(focused(), "frmCEA_EXT.txtEdit(3)");
-    box->view()->setCurrentIndex(box->model()->index(5, 0));
-    QTest::keyClick(box->view(), Qt::Key_Return);
-    DesktopProgram::settle();
-    EXPECT_EQ(cea().txtEdit(3).text(), "05");
-    EXPECT_EQ(focused(), "frmCEA_EXT.NativeCBox");
-    EXPECT_EQ(qtFocused(), "frmCEA_EXT.NativeCBox");
-}
-
-TEST_F(Combo, TakesADismissedListForAClick) {
-    open();
-    QTest::keyClick(box->view(), Qt::Key_Escape);
-    DesktopProgram::settle();
-    EXPECT_EQ(cea().txtEdit(3).text(), "00");
-    EXPECT_EQ(focused(), "frmCEA_EXT.NativeCBox");
-}
-
-TEST_F(Combo, ShowsOneBoxWhereTheFocusIsCalledBack) {
-    type("123");
-    open();
-    EXPECT_EQ(takeBoxes().size(), 0U) << "nothing comes between the list and the pick";
-    box->view()->setCurrentIndex(box->model()->index(2, 0));
-    QTest::keyClick(box->view(), Qt::Key_Return);
-    DesktopProgram::settle();
-    EXPECT_EQ(takeBoxes(), std::vector<std::string>{"Please Enter Your Values In Hex"});
-    EXPECT_EQ(focused(), "frmCEA_EXT.txtEdit(3)");
-    EXPECT_EQ(cea().txtEdit(3).text(), "12")
-        << "the pick goes on: the first digit stays, the second is that of the row";
-}
-
-TEST_F(Combo, IsServedByTheKeyboard) {
-    focus(cea().NativeCBox);
-    press(Qt::Key_Down);
-    EXPECT_EQ(cea().txtEdit(3).text(), "01");
-    press(Qt::Key_End);
-    EXPECT_EQ(cea().txtEdit(3).text(), "0F");
-}
-
-TEST_F(Binder, SetsTheReportOnce) {
-    program.openSample("brindleco-b24w.bin");
-    click(frame().Command1);
-    auto& report = program.widgetAs<QPlainTextEdit>(program.workbench.frmDocument().rtftext);
-    int changes = 0;
-    QObject::connect(&report, &QPlainTextEdit::textChanged, &report, [&] { ++changes; });
-    program.act([&] { program.workbench.frmDocument().rtftext.setText("a\r\nb"); });
-    program.act([&] { edid().txtBrand.setText("x"); });
-    EXPECT_EQ(changes, 0) << "signals are off while the report is set";
-    EXPECT_EQ(report.toPlainText(), "a\nb");
-    EXPECT_TRUE(report.isReadOnly());
-}
-
-TEST_F(Binder, PlacesTheReportWhereTheModelSays) {
-    program.openSample("brindleco-b24w.bin");
-    click(frame().Command1);
-    const FrmDocument& document = program.workbench.frmDocument();
-    EXPECT_GT(document.innerWidth, 200);
-    EXPECT_EQ(document.rtftext.bounds().left, 100);
-    EXPECT_EQ(document.rtftext.bounds().width, document.innerWidth - 200);
-    const QWidget& report = *program.widget(document.rtftext);
-    EXPECT_EQ(report.x(), 7); // 100 twips at 96 dots an inch are 6.67 pixels
-    EXPECT_NEAR(report.width(), report.parentWidget()->width() - 13, 1);
-}
-
-TEST_F(Binder, TellsTheModelTheSelectionInTheReport) {
-    program.openSample("brindleco-b24w.bin");
-    click(frame().Command1);
-    program.act([&] { program.workbench.frmDocument().rtftext.setText("ab\r\ncd"); });
-    auto& report = program.widgetAs<QPlainTextEdit>(program.workbench.frmDocument().rtftext);
-    QTextCursor cursor = report.textCursor();
-    cursor.setPosition(1);
-    cursor.setPosition(4, QTextCursor::KeepAnchor);
-    report.setTextCursor(cursor);
-    EXPECT_EQ(program.workbench.frmDocument().rtftext.selStart(), 1);
-    EXPECT_EQ(program.workbench.frmDocument().rtftext.selLength(), 4); // b, the line end, c
 }
 
 TEST_F(Binder, ForgetsAScreenThatHasGone) {

@@ -1,5 +1,7 @@
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QRadioButton>
 
 #include "desktop/desktop_test.h"
@@ -100,6 +102,25 @@ TEST_F(Keyboard, PastesAtTheSelection) {
     pressCopyKey(Qt::Key_X);
     EXPECT_EQ(edid().BasicInput.text(), "");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "1.5");
+}
+
+TEST_F(Keyboard, KeepsWhatTheContextMenuSelects) {
+    focus(edid().txtModel);
+    program.act([&] { edid().txtModel.setText("abc"); });
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), box(edid().txtModel).mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&box(edid().txtModel), &event);
+    auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (QAction* action : menu->actions()) {
+        if (action->text().startsWith("Select All")) {
+            menu->setActiveAction(action);
+        }
+    }
+    QTest::keyClick(menu, Qt::Key_Return);
+    DesktopProgram::settle();
+    EXPECT_EQ(edid().txtModel.selLength(), 3);
+    type("x");
+    EXPECT_EQ(edid().txtModel.text(), "x");
 }
 
 TEST_F(Keyboard, UndoesTyping) {

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <clocale>
+
 #include "desktop/widget_front_end.h"
 #include "script/driver.h"
 #include "script/script_error.h"
+#include "support/german_locale.h"
 #include "support/scenarios.h"
 
 namespace wb::test {
@@ -35,6 +38,19 @@ std::string testName(const testing::TestParamInfo<Scenario>& info) {
     std::replace_if(
         name.begin(), name.end(), [](char c) { return c == '-' || c == '.'; }, '_');
     return name;
+}
+
+TEST(ScenariosUnderACommaLocale, LeaveTheSameTrace) {
+    const GermanLocale german;
+    ASSERT_TRUE(german.available()) << "the package locales is missing";
+    // What making the application does on a system with that locale.
+    ASSERT_NE(std::setlocale(LC_ALL, GermanLocale::name), nullptr);
+    for (const Scenario& scenario : scenarios()) {
+        if (scenario.name.starts_with("report-")) {
+            EXPECT_EQ(traceOf(scenario), TemporaryFolder::read(scenario.expected.string())) << scenario.name;
+        }
+    }
+    std::setlocale(LC_ALL, "C");
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ScenariosOnWidgets, testing::ValuesIn(scenarios()), testName);

@@ -1,5 +1,6 @@
 #include "desktop/services/printing.h"
 
+#include <QDir>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinterInfo>
@@ -26,6 +27,11 @@ QFont fittingFont(QPaintDevice& device, qreal width) {
         font.setPointSizeF(largestPointSize * width / line);
     }
     return font;
+}
+
+QDir documentsFolder() {
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    return documents.exists() ? documents : QDir::home();
 }
 
 QStringList brokenLines(const std::string& text, qsizetype columns) {
@@ -70,11 +76,12 @@ void printText(const std::string& text, QPagedPaintDevice& device) {
 
 QPrinter& QtPrinter::device() {
     if (device_ == nullptr) {
+        constexpr int margin = 15; // millimetres
         device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        device_->setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
         if (QPrinterInfo::availablePrinterNames().isEmpty()) {
             device_->setOutputFormat(QPrinter::PdfFormat);
-            device_->setOutputFileName(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) +
-                                       "/report.pdf");
+            device_->setOutputFileName(documentsFolder().filePath("report.pdf"));
         }
     }
     return *device_;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QSignalBlocker>
 #include <limits>
 
@@ -212,6 +213,16 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     const auto last = committed.isEmpty() ? std::nullopt : toCharacter(committed.back());
     view_.editByWidget([&] { QLineEdit::inputMethodEvent(event); }, last ? input::keyCodeOf(*last) : 0,
                        !committed.isEmpty());
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    // Edits are told like any other; "Select All" is none. The menu's own signal comes before the action has run.
+    for (QAction* action : menu->actions()) {
+        QObject::connect(action, &QAction::triggered, &view_, [this] { view_.tellSelection(); });
+    }
+    menu->popup(event->globalPos());
 }
 
 void TextBox::changeEvent(QEvent* event) {
