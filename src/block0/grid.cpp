@@ -21,10 +21,6 @@ void setGate(const BlockScreenRules& rules, BlockScreen& screen, bool open) {
 
 } // namespace
 
-bool seeks(const Workbench& workbench) {
-    return workbench.ModifyEDIDOn != flagFalse && workbench.AutoCellSeekOn != flagFalse;
-}
-
 void colourCells(const Statements& run, BlockScreen& screen, CellRange cells, CellColour colour) {
     for (int i = cells.first; i <= cells.last; ++i) {
         run([&] { screen.txtEdit(i).setBackColor(colour); });

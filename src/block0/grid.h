@@ -38,9 +38,6 @@ inline constexpr CellRange noCells{0, -1};
 
 inline constexpr int enterKey = 13;
 
-/// Whether a visit of a cell goes on to the input box of its panel: editing and seeking are both switched on.
-bool seeks(const Workbench& workbench);
-
 /// Gives cells a background colour, each as a statement of its own.
 void colourCells(const Statements& run, BlockScreen& screen, CellRange cells, CellColour colour);
 

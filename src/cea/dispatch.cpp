@@ -24,7 +24,7 @@ bool isIn(int index, int start, int first, int last) {
 }
 
 void seekBox(const Procedure& run, Control& box) {
-    if (block0::seeks(run.wb)) {
+    if (seeks(run.wb)) {
         box.setEnabled(true);
         run.focusOn(box);
     }

@@ -139,4 +139,9 @@ struct SharedVariables {
     TextArray ReportExtLines;
 };
 
+/// Whether a visit of a cell goes on to the input box of its panel: editing and seeking are both switched on.
+inline bool seeks(const SharedVariables& variables) {
+    return variables.ModifyEDIDOn != flagFalse && variables.AutoCellSeekOn != flagFalse;
+}
+
 } // namespace wb

@@ -28,9 +28,6 @@ struct DescriptorBlock {
         report(words, indent);
     }
 
-    /// Editing and seeking are both switched on.
-    bool seeking() const { return workbench.ModifyEDIDOn != flagFalse && workbench.AutoCellSeekOn != flagFalse; }
-
     Workbench& workbench;
     FrmEdid& screen;
     const int base;

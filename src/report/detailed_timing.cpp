@@ -271,8 +271,7 @@ private:
         screen_.InFocusDispatch = flagFalse;
         statement_([&] { rules_.recalculateChecksum(workbench_); });
         statement_([&] {
-            if (screen_.DTInput.visible() && workbench_.ModifyEDIDOn != flagFalse &&
-                workbench_.AutoCellSeekOn != flagFalse) {
+            if (screen_.DTInput.visible() && seeks(workbench_)) {
                 workbench_.focus.moveTo(screen_.DTInput);
             }
         });

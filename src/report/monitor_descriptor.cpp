@@ -139,7 +139,7 @@ void finish(const DescriptorBlock& block) {
     screen.InFocusDispatch = flagFalse;
     RecalcBlock0Checksum(block.workbench);
     screen.DTaInput.setHeight(screen.DTAFrame(1).enabled() ? inputHeightAtColours : inputHeight);
-    if (screen.ExtStaInput.visible() && block.seeking()) {
+    if (screen.ExtStaInput.visible() && seeks(block.workbench)) {
         block.workbench.focus.moveTo(screen.ExtStaInput);
     }
 }

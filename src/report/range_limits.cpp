@@ -54,7 +54,7 @@ void convertSecondaryGtf(const DescriptorBlock& block) {
     screen.frmS_GTF(0).setEnabled(true);
     showCurve(block);
     screen.DTaInput.setTop(inputTop);
-    if (screen.frmS_GTF(0).enabled() && block.seeking()) {
+    if (screen.frmS_GTF(0).enabled() && seeks(block.workbench)) {
         block.workbench.focus.moveTo(screen.DTaInput);
     }
     if (block.workbench.ModifyEDIDOn == flagFalse) {

@@ -57,7 +57,7 @@ void ConvertStandardTimings(Workbench& workbench) {
         screen.STAOptb(aspectCode(byteAt(screen, screen.CurrentBlockBase))).setValue(1);
         RecalcBlock0Checksum(workbench);
         screen.InFocusDispatch = flagFalse;
-        if (screen.STAInput.visible() && workbench.ModifyEDIDOn != flagFalse && workbench.AutoCellSeekOn != flagFalse) {
+        if (screen.STAInput.visible() && seeks(workbench)) {
             workbench.focus.moveTo(screen.STAInput);
         }
     });
