@@ -22,12 +22,6 @@ void captionPanels(FrmEdid& screen) {
     screen.Hints(standardTimingPanel).setCaption("Ext. Standard Timing" + caption.substr(caption.find(" (")));
 }
 
-void deselect(ControlArray& options, int last) {
-    for (int i = options.first(); i <= last; ++i) {
-        options(i).setValue(0);
-    }
-}
-
 /// The cell at `offset` of the block in the field colour; the first two are one field.
 void colourDescriptorCell(FrmEdid& screen, int offset) {
     const int base = screen.CurrentBlockBase;
@@ -41,7 +35,7 @@ void openRangeLimits(FrmEdid& screen, int offset) {
             screen.txtEdit(i).setLocked(false);
         }
     }
-    deselect(screen.DtaOpt, 4);
+    screen.DtaOpt.deselect();
     if (offset >= 5 && offset <= 9) {
         screen.DtaOpt(offset - 5).setValue(-1);
     }
@@ -50,7 +44,7 @@ void openRangeLimits(FrmEdid& screen, int offset) {
 void openColourPoint(FrmEdid& screen, int offset) {
     screen.Windex(0).setVisible(true);
     screen.Windex(1).setVisible(true);
-    deselect(screen.DtaOptWhite, 5);
+    screen.DtaOptWhite.deselect();
     if (offset >= 7 && offset <= 9) {
         screen.DtaOptWhite(offset - 7).setValue(-1);
     } else if (offset >= 12 && offset <= 14) {
@@ -61,7 +55,7 @@ void openColourPoint(FrmEdid& screen, int offset) {
 void openStandardTimings(FrmEdid& screen, int offset) {
     screen.Hints(descriptorPanel).setVisible(false);
     screen.Hints(standardTimingPanel).setVisible(true);
-    deselect(screen.ExtSTOpt, 5);
+    screen.ExtSTOpt.deselect(5);
     const bool isPair = offset >= 5 && offset <= 16;
     screen.ExtStaFrame.setEnabled(isPair);
     if (isPair) {

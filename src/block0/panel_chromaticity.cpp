@@ -22,9 +22,7 @@ int numberOfBits(Workbench& workbench, const std::string& bits) {
 void openChromaticityPanel(Workbench& workbench, int index) {
     FrmEdid& screen = workbench.frmEDID();
     const bool isValue = index >= firstHighCell; // the two cells before hold low bits only
-    for (int i = screen.chkChroma.first(); i <= screen.chkChroma.last(); ++i) {
-        screen.chkChroma(i).setValue(0);
-    }
+    screen.chkChroma.deselect();
     screen.lbChromaChange(0).setVisible(isValue);
     screen.lbChromaChange(1).setVisible(!isValue);
     screen.ChromaValue.setVisible(isValue);

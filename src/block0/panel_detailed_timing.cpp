@@ -102,15 +102,9 @@ std::string detailedTimingCaption(int base) {
 }
 
 void resetDetailedTiming(BlockScreen& screen, int lastStereo) {
-    for (int i = screen.DT.first(); i <= screen.DT.last(); ++i) {
-        screen.DT(i).setValue(0);
-    }
-    for (int i = 0; i <= lastStereo; ++i) {
-        screen.DTStereo(i).setValue(0);
-    }
-    for (int i = screen.DTSync.first(); i <= screen.DTSync.last(); ++i) {
-        screen.DTSync(i).setValue(0);
-    }
+    screen.DT.deselect();
+    screen.DTStereo.deselect(lastStereo);
+    screen.DTSync.deselect();
     screen.DT1.setValue(0);
     screen.DTInput.setText("");
 }

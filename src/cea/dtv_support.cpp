@@ -52,7 +52,7 @@ std::string decodeNativeFormats(FrmCeaExt& screen, std::string_view digit) {
 void BuildDTVSupport(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
         FrmCeaExt& screen = run.screen;
-        clearAll(screen.NativeChk);
+        screen.NativeChk.deselect();
         const std::string digits = upperDigits(run.text(supportCell));
         for (int i = 0; i < static_cast<int>(digits.size()); ++i) {
             screen.NativeChk(i).setValue(digits[static_cast<std::size_t>(i)] == '1' ? 1 : 0);

@@ -4,7 +4,7 @@ namespace wb::cea {
 
 void decodeFlags(const Procedure& run, int cellIndex, std::span<const ListedFlag> flags, ControlArray& checks,
                  std::string& list) {
-    clearAll(checks);
+    checks.deselect();
     list.clear();
     for (int i = 0; i < static_cast<int>(flags.size()); ++i) {
         run.statement([&] {

@@ -45,13 +45,6 @@ struct Procedure {
     }
 };
 
-/// Deselects all options or checks of an array.
-inline void clearAll(ControlArray& controls) {
-    for (int i = controls.first(); i <= controls.last(); ++i) {
-        controls(i).setValue(0);
-    }
-}
-
 /// A cell number counted from the start of a block: 16-bit arithmetic, so that it can be an Overflow.
 inline int location(int start, int offset) {
     return int16From(std::int64_t{start} + offset);

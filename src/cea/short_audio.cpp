@@ -53,7 +53,7 @@ void decodeChannels(const Procedure& run, int cellIndex, std::string& channels) 
 
 /// The code "1111" has no option and no name.
 void decodeFormatName(const Procedure& run, int cellIndex, std::string& name) {
-    clearAll(run.screen.AudFormCode);
+    run.screen.AudFormCode.deselect();
     const std::string digits = formatDigits(run.readText(cellIndex));
     const int code = binaryNumber(run.wb, digits);
     if (digits.size() == 4 && code < static_cast<int>(formatNames.size())) {
@@ -74,7 +74,7 @@ std::string decodeRate(const Procedure& run, int cellIndex) {
 }
 
 void decodeSampleSizes(const Procedure& run) {
-    clearAll(run.screen.bitrate);
+    run.screen.bitrate.deselect();
     const int value = run.readByte(firstAudioCell(run.wb, 3));
     for (int i = 0; i < static_cast<int>(sampleSizes.size()); ++i) {
         const ListedFlag& size = sampleSizes[static_cast<std::size_t>(i)];

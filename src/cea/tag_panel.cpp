@@ -97,7 +97,7 @@ void decodeHeader(Workbench& workbench, const Block& block, std::string_view end
                   void (*further)(const Procedure&) = nullptr) {
     decoder(workbench, [&](const Procedure& run) {
         const int header = run.wb.*block.start;
-        clearAll(run.screen.optButTag);
+        run.screen.optButTag.deselect();
         const std::string name = decodeTag(run, header);
         const int length = dataLength(run.wb, run.readText(header));
         run.screen.TagCBox.setValue(length);
@@ -112,7 +112,7 @@ void decodeHeader(Workbench& workbench, const Block& block, std::string_view end
 }
 
 void decodeAudioKind(const Procedure& run) {
-    clearAll(run.screen.AudioFormat);
+    run.screen.AudioFormat.deselect();
     const bool linear = formatDigits(run.readText(firstAudioCell(run.wb, 1))) == linearFormat;
     run.screen.AudioFormat(linear ? 0 : 1).setValue(flagTrue);
     run.wb.AudioKindText = linear ? "Uncompressed" : "Compressed";

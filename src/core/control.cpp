@@ -218,6 +218,12 @@ int ControlArray::firstSelected(int from, int to, int none) {
     return none;
 }
 
+void ControlArray::deselect(int to) {
+    for (int i = first_; i <= to; ++i) {
+        (*this)(i).setValue(0);
+    }
+}
+
 void ControlArray::setCaptions(std::initializer_list<std::string_view> captions) {
     int index = first_;
     for (const std::string_view caption : captions) {

@@ -164,6 +164,10 @@ public:
     /// Index of the first selected option, or `none`.
     int firstSelected(int from, int to, int none = -1);
     int firstSelected(int none = -1) { return firstSelected(first(), last(), none); }
+    /// Deselects the options or checks one after the other, from the first one up to `to`, or all of them. Each check
+    /// that was set raises its Click.
+    void deselect(int to);
+    void deselect() { deselect(last()); }
     void setCaptions(std::initializer_list<std::string_view> captions);
 
     Handlers on;

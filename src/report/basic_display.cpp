@@ -58,12 +58,6 @@ constexpr std::array<std::string_view, 4> displayTypes = {
 
 enum class Wraps { Once, WhereLong };
 
-void clearChecks(ControlArray& checks) {
-    for (int i = checks.first(); i <= checks.last(); ++i) {
-        checks(i).setValue(0);
-    }
-}
-
 /// Sets the checks of the bits that are set and appends their items to the text.
 void listItems(int byte, std::span<const BitItem> items, Wraps wraps, ControlArray& checks, std::string& text) {
     bool wrapped = false;
@@ -120,7 +114,7 @@ void ConvertVideoInput(Workbench& workbench) {
     trapped(workbench, [&] {
         FrmEdid& screen = workbench.frmEDID();
         screen.InFocusDispatch = flagTrue;
-        clearChecks(screen.Sync);
+        screen.Sync.deselect();
         const int byte = byteAt(screen, 20);
         std::string level;
         std::string setup;
@@ -166,7 +160,7 @@ void ConvertFeatureSupport(Workbench& workbench) {
         workbench.PowerFeatureText.clear();
         workbench.DisplayTypeText.clear();
         screen.InFocusDispatch = flagTrue;
-        clearChecks(screen.FSupport);
+        screen.FSupport.deselect();
         const int byte = byteAt(screen, 24);
         const int type = (byte & 24) / 8;
         screen.DisplayType(type).setValue(1);

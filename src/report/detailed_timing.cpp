@@ -44,6 +44,7 @@ constexpr std::string_view stereoDisplay = "Stereo";
 
 /// The option of the stereo kind by bits 6, 5 and 0 of the flags; -1 selects none.
 constexpr std::array<int, 8> stereoOptions = {6, -1, 0, 2, 1, 3, 4, 5};
+constexpr int lastStereo = 5; ///< the option behind it means no stereo
 
 struct SyncWords {
     std::string_view line;
@@ -198,9 +199,7 @@ private:
     }
 
     void convertStereo() {
-        for (int i = 0; i <= 5; ++i) {
-            screen_.DTStereo(i).setValue(0);
-        }
+        screen_.DTStereo.deselect(lastStereo);
         screen_.frmStereo.setCaption(std::string(stereoDisplay));
         texts_.stereo = stereoDisplay;
         if (rules_.testsStereoDigit) {
@@ -221,9 +220,7 @@ private:
     }
 
     void convertSync() {
-        for (int i = 0; i <= 3; ++i) {
-            screen_.DTSync(i).setValue(0);
-        }
+        screen_.DTSync.deselect();
         const int kind = (flags_ & 24) / 8;
         screen_.DTSync(kind).setValue(1);
         screen_.VSyncLine.setVisible(false);

@@ -32,9 +32,7 @@ void convertTimings(Workbench& workbench, int cell, const TimingWords& words, Co
     FrmEdid& screen = workbench.frmEDID();
     text.clear();
     screen.InFocusDispatch = flagTrue;
-    for (int i = checks.first(); i <= checks.last(); ++i) {
-        checks(i).setValue(0);
-    }
+    checks.deselect();
     const int byte = byteAt(screen, cell);
     for (int i = 0; i < 8; ++i) {
         if ((byte & (128 >> i)) == 0) {
