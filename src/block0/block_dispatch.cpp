@@ -2,6 +2,7 @@
 
 #include "block0/grid.h"
 #include "block0/panel_detailed_timing.h"
+#include "core/edid_image.h"
 #include "core/text.h"
 #include "report/detailed_timing.h"
 
@@ -9,17 +10,15 @@ namespace wb::block0 {
 
 namespace {
 
-constexpr int firstBlock = 54;
-constexpr int descriptorPanel = 11;
-constexpr int standardTimingPanel = 12;
 constexpr int lastStereo = 5;
 
 void captionPanels(FrmEdid& screen) {
     const std::string caption = detailedTimingCaption(screen.CurrentBlockBase);
-    for (const int panel : {9, 10, descriptorPanel}) {
+    for (const int panel : {FrmEdid::timingValuePanel, FrmEdid::timingFlagPanel, FrmEdid::descriptorPanel}) {
         screen.Hints(panel).setCaption(caption);
     }
-    screen.Hints(standardTimingPanel).setCaption("Ext. Standard Timing" + caption.substr(caption.find(" (")));
+    screen.Hints(FrmEdid::timingDescriptorPanel)
+        .setCaption("Ext. Standard Timing" + caption.substr(caption.find(" (")));
 }
 
 /// The cell at `offset` of the block in the field colour; the first two are one field.
@@ -53,8 +52,8 @@ void openColourPoint(FrmEdid& screen, int offset) {
 }
 
 void openStandardTimings(FrmEdid& screen, int offset) {
-    screen.Hints(descriptorPanel).setVisible(false);
-    screen.Hints(standardTimingPanel).setVisible(true);
+    screen.Hints(FrmEdid::descriptorPanel).setVisible(false);
+    screen.Hints(FrmEdid::timingDescriptorPanel).setVisible(true);
     screen.ExtSTOpt.deselect(5);
     const bool isPair = offset >= 5 && offset <= 16;
     screen.ExtStaFrame.setEnabled(isPair);
@@ -66,7 +65,7 @@ void openStandardTimings(FrmEdid& screen, int offset) {
 }
 
 void openDescriptor(FrmEdid& screen, int offset) {
-    screen.Hints(descriptorPanel).setVisible(true);
+    screen.Hints(FrmEdid::descriptorPanel).setVisible(true);
     screen.CurrentBlockIsDescriptor = flagTrue;
     screen.DTInput.setVisible(true);
     colourDescriptorCell(screen, offset);
@@ -80,11 +79,6 @@ void openDescriptor(FrmEdid& screen, int offset) {
     }
 }
 
-bool isDescriptor(FrmEdid& screen) {
-    const int base = screen.CurrentBlockBase;
-    return screen.txtEdit(base).text() + screen.txtEdit(base + 1).text() + screen.txtEdit(base + 2).text() == "000000";
-}
-
 } // namespace
 
 void openBlock(Workbench& workbench, int index) {
@@ -94,14 +88,14 @@ void openBlock(Workbench& workbench, int index) {
     if (workbench.ModifyEDIDOn != flagFalse) {
         screen.DTHelp.setVisible(true);
     }
-    const int number = (index - firstBlock) / detailedTimingSize;
-    const int base = firstBlock + number * detailedTimingSize;
+    const int number = (index - detailedBlockBase(0)) / detailedBlockSize;
+    const int base = detailedBlockBase(number);
     screen.CurrentBlockBase = static_cast<std::int16_t>(base);
     screen.CurrentBlockNumber = static_cast<std::int16_t>(number);
     resetDetailedTiming(screen, lastStereo);
-    colourField(screen, {base, base + detailedTimingSize - 1}, noCells);
+    colourField(screen, {base, base + detailedBlockSize - 1}, noCells);
     captionPanels(screen);
-    if (isDescriptor(screen)) {
+    if (hasDescriptorMark(screen, base)) {
         openDescriptor(screen, index - base);
     } else {
         screen.CurrentBlockIsDescriptor = flagFalse;

@@ -121,7 +121,7 @@ void Hints_DblClick(Workbench& workbench, int index) {
         }
         FrmEdid& screen = workbench.frmEDID();
         const int base = screen.CurrentBlockBase;
-        for (int i = base; i < base + detailedTimingSize; ++i) {
+        for (int i = base; i < base + detailedBlockSize; ++i) {
             screen.txtEdit(i).setText("00");
         }
         screen.txtEdit(base + 3).setText("FF");

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "block0/cell_writing.h"
-#include "core/cells.h"
+#include "core/edid_image.h"
 #include "core/numbers.h"
 #include "core/text.h"
 
@@ -12,8 +12,6 @@ namespace wb::block0 {
 
 namespace {
 
-constexpr int valuePanel = 9;
-constexpr int flagPanel = 10;
 constexpr int flagOffset = 17;
 constexpr double largestEntry = 65534;
 
@@ -98,7 +96,7 @@ void changeFlags(const BlockScreenRules& rules, Workbench& workbench, Bits&& bit
 } // namespace
 
 std::string detailedTimingCaption(int base) {
-    return "Detailed Timing (" + std::to_string(base) + '-' + std::to_string(base + detailedTimingSize - 1) + ')';
+    return "Detailed Timing (" + std::to_string(base) + '-' + std::to_string(base + detailedBlockSize - 1) + ')';
 }
 
 void resetDetailedTiming(BlockScreen& screen, int lastStereo) {
@@ -111,7 +109,7 @@ void resetDetailedTiming(BlockScreen& screen, int lastStereo) {
 
 void showDetailedTimingField(const Statements& run, BlockScreen& screen, int offset) {
     const int cell = screen.CurrentBlockBase + offset;
-    screen.Hints(offset == flagOffset ? flagPanel : valuePanel).setVisible(true);
+    screen.Hints(offset == flagOffset ? BlockScreen::timingFlagPanel : BlockScreen::timingValuePanel).setVisible(true);
     screen.DTInput.setVisible(true);
     if (offset <= 1) {
         colourCells(run, screen, {screen.CurrentBlockBase, screen.CurrentBlockBase + 1}, CellColour::Field);

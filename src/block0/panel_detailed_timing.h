@@ -8,8 +8,6 @@
 /// the 18 cells from CurrentBlockBase, on either block screen.
 namespace wb::block0 {
 
-inline constexpr int detailedTimingSize = 18;
-
 /// "Detailed Timing (54-71)" for the block that begins at cell 54.
 std::string detailedTimingCaption(int base);
 

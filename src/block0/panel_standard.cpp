@@ -13,8 +13,6 @@ namespace wb::block0 {
 namespace {
 
 constexpr int firstCell = 38;
-constexpr int descriptorPanel = 11;
-constexpr int standardTimingPanel = 12;
 constexpr int disablingOption = 6;
 
 /// First cell of a pair of the descriptor in hand.
@@ -83,8 +81,8 @@ void ExtSTOpt_Click(Workbench& workbench, int index) {
             workbench.focus.moveTo(screen.txtEdit(descriptorPair(screen, index)));
             return;
         }
-        screen.Hints(descriptorPanel).setVisible(true);
-        screen.Hints(standardTimingPanel).setVisible(false);
+        screen.Hints(FrmEdid::descriptorPanel).setVisible(true);
+        screen.Hints(FrmEdid::timingDescriptorPanel).setVisible(false);
         Control& tag = screen.txtEdit(screen.CurrentBlockBase + 3);
         tag.setText("FF");
         workbench.focus.moveTo(tag);

@@ -3,7 +3,7 @@
 #include "cea/digits.h"
 #include "cea/header.h"
 #include "cea/procedure.h"
-#include "report/extension_report.h"
+#include "core/edid_image.h"
 
 namespace wb::cea {
 
@@ -18,7 +18,7 @@ void readOffset(const Procedure& run) {
     if (run.text(0) == "02") {
         wb.ExtDtdOffsetText = std::to_string(byteAt(run.screen, 2));
         run.screen.lbEDID(5).setCaption(offsetCaption(wb.ExtDtdOffsetText));
-        wb.ExtDtdStart = wb.ExtDtdOffsetText == "0" ? int16From(collectionStart) : report::timingOffset(wb);
+        wb.ExtDtdStart = wb.ExtDtdOffsetText == "0" ? int16From(collectionStart) : timingOffset(wb);
     } else {
         wb.ExtDtdStart = int16From(run.text(2) == "00" ? 2 : 3);
         wb.ExtDtdOffsetText = std::to_string(wb.ExtDtdStart);
@@ -45,7 +45,7 @@ void copyLoadedArea(const Procedure& run, int offset, int loadedOffset, int last
 }
 
 void moveTimings(const Procedure& run) {
-    const int offset = run.statement.read([&] { return int{report::timingOffset(run.wb)}; });
+    const int offset = run.statement.read([&] { return int{timingOffset(run.wb)}; });
     const int loadedOffset = run.wb.CEADtdOffset;
     if (offset > loadedOffset && loadedOffset != 0) {
         blank(run, loadedOffset, offset - 1);
@@ -122,7 +122,7 @@ void scanCollection(const Procedure& run) {
 
 void settleVideoStart(const Procedure& run) {
     run.statement([&] {
-        if (report::timingOffset(run.wb) == collectionStart) {
+        if (timingOffset(run.wb) == collectionStart) {
             run.wb.VideoBlockStart = 0;
         } else if (run.wb.AudioBlockStart == 0 && run.wb.VendorBlockStart == 0 && run.wb.SpeakerBlockStart == 0) {
             run.wb.VideoBlockStart = collectionStart;

@@ -1,6 +1,5 @@
 #include "cea/definitions.h"
 
-#include "block0/panel_detailed_timing.h"
 #include "cea/data_blocks.h"
 #include "cea/detailed_slots.h"
 #include "cea/dtv_support.h"
@@ -11,7 +10,7 @@
 #include "cea/speaker.h"
 #include "cea/tag_panel.h"
 #include "cea/vendor.h"
-#include "report/extension_report.h"
+#include "core/edid_image.h"
 
 namespace wb::cea {
 
@@ -27,7 +26,7 @@ bool isDecodedSlot(int slot, int base) {
     if (slot <= 4) {
         return true;
     }
-    return slot <= lastSlot && lastTimingCell - base >= block0::detailedTimingSize && base != 90;
+    return slot <= lastSlot && lastTimingCell - base >= detailedBlockSize && base != 90;
 }
 
 } // namespace
@@ -60,8 +59,8 @@ void BuildDetailedTimings(Workbench& workbench) {
         run.wb.ExtDtdSlotCount = lastSlotOf(run.wb);
         for (int slot = 0; slot <= run.wb.ExtDtdSlotCount; ++slot) {
             run.statement([&] {
-                screen.CurrentBlockBase = slot == 0 ? report::timingOffset(run.wb)
-                                                    : int16From(screen.CurrentBlockBase + block0::detailedTimingSize);
+                screen.CurrentBlockBase =
+                    slot == 0 ? timingOffset(run.wb) : int16From(screen.CurrentBlockBase + detailedBlockSize);
                 screen.CurrentBlockNumber = int16From(slot);
                 if (isDecodedSlot(slot, screen.CurrentBlockBase)) {
                     ConvertDetailedTiming(run.wb);

@@ -1,16 +1,15 @@
 #include "cea/detailed_slots.h"
 
-#include <array>
-
 #include "block0/panel_detailed_timing.h"
 #include "cea/procedure.h"
+#include "core/edid_image.h"
 #include "report/detailed_timing.h"
+#include "report/monitor_descriptor.h"
 
 namespace wb::cea {
 
 namespace {
 
-constexpr int slotLength = block0::detailedTimingSize;
 constexpr int lastFixedSlot = 6;
 
 constexpr report::DetailedTimingRules slotRules = {
@@ -24,33 +23,19 @@ constexpr report::DetailedTimingRules slotRules = {
     .testsStereoDigit = true,
 };
 
-struct Heading {
-    std::string_view tag;
-    std::string_view words;
-};
-
-constexpr std::array<Heading, 7> headings = {{{"FF", "Monitor Serial Number:"},
-                                              {"FE", "ASCII Data:"},
-                                              {"FD", "Monitor Range Limits:"},
-                                              {"FC", "Monitor Name:"},
-                                              {"FB", "Color Point:"},
-                                              {"FA", "Standard Timing Identifiers:"},
-                                              {"00", "Defined by Manufacturer:"}}};
-
 std::string_view headingOf(std::string_view tag) {
-    for (const Heading& heading : headings) {
-        if (heading.tag == tag) {
-            return heading.words;
-        }
+    if (tag == "00") {
+        return "Defined by Manufacturer:";
     }
-    return "No Data:";
+    const std::string_view heading = report::descriptorHeading(tag);
+    return heading.empty() ? "No Data:" : heading;
 }
 
 /// A last slot that is not whole counts too: it runs into the cells behind the timing area.
 void findSlot(const Procedure& run, int index) {
     for (int slot = 0; slot <= lastFixedSlot; ++slot) {
-        const int base = location(run.wb.ExtDtdStart, slotLength * slot);
-        if (index >= base && index < base + slotLength) {
+        const int base = location(run.wb.ExtDtdStart, detailedBlockSize * slot);
+        if (index >= base && index < base + detailedBlockSize) {
             run.screen.CurrentBlockBase = int16From(base);
             run.screen.CurrentBlockNumber = int16From(slot);
         }
@@ -60,7 +45,7 @@ void findSlot(const Procedure& run, int index) {
 } // namespace
 
 std::int16_t lastSlotOf(const Workbench& workbench) {
-    return int16From((lastTimingCell - workbench.ExtDtdStart) / slotLength);
+    return int16From((lastTimingCell - workbench.ExtDtdStart) / detailedBlockSize);
 }
 
 void ConvertDetailedTiming(Workbench& workbench) {
@@ -81,9 +66,9 @@ void openSlot(Workbench& workbench, int index) {
         FrmCeaExt& screen = run.screen;
         const int base = screen.CurrentBlockBase;
         block0::resetDetailedTiming(screen, screen.DTStereo.last());
-        run.colour(base, base + slotLength - 1, CellColour::Group);
-        screen.Hints(9).setCaption(block0::detailedTimingCaption(base));
-        screen.Hints(10).setCaption(block0::detailedTimingCaption(base));
+        run.colour(base, base + detailedBlockSize - 1, CellColour::Group);
+        screen.Hints(FrmCeaExt::timingValuePanel).setCaption(block0::detailedTimingCaption(base));
+        screen.Hints(FrmCeaExt::timingFlagPanel).setCaption(block0::detailedTimingCaption(base));
         screen.CurrentBlockIsDescriptor = flagFalse;
         block0::showDetailedTimingField(run.statement, screen, index - base);
         ConvertDetailedTiming(run.wb);

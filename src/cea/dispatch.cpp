@@ -12,7 +12,7 @@
 #include "cea/speaker.h"
 #include "cea/tag_panel.h"
 #include "cea/vendor.h"
-#include "report/extension_report.h"
+#include "core/edid_image.h"
 
 namespace wb::cea {
 
@@ -88,7 +88,7 @@ void openVideoDescriptor(const Procedure& run, int index) {
     BuildShortVideo(wb);
     const int next = location(wb.VideoBlockStart, wb.VideoBlockLength + 1);
     run.statement([&] {
-        if (report::timingOffset(wb) != next && wb.AudioBlockStart == 0 && wb.VideoBlockStart != 0) {
+        if (timingOffset(wb) != next && wb.AudioBlockStart == 0 && wb.VideoBlockStart != 0) {
             wb.AudioBlockStart = int16From(next);
         }
     });

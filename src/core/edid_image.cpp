@@ -5,6 +5,10 @@
 
 namespace wb {
 
+bool hasDescriptorMark(BlockScreen& screen, int base) {
+    return screen.txtEdit(base).text() + screen.txtEdit(base + 1).text() + screen.txtEdit(base + 2).text() == "000000";
+}
+
 void noteChecksum(Workbench& workbench, const std::string& checksumText) {
     if (checksumText != workbench.Block0ChecksumAsLoaded) {
         workbench.EDIDModified = flagTrue;
@@ -52,6 +56,10 @@ bool UpdateExtensionButton(Workbench& workbench) {
 
 bool hasExtensionByDecimalText(Workbench& workbench) {
     return Value(workbench, workbench.frmEDID().txtEdit(126).text()) != 0;
+}
+
+std::int16_t timingOffset(const SharedVariables& variables) {
+    return roundToInt16(strictNumber(variables.ExtDtdOffsetText));
 }
 
 } // namespace wb

@@ -7,6 +7,19 @@
 /// byte 128 + i. Nothing keeps a parallel numeric image.
 namespace wb {
 
+/// Detailed timings and monitor descriptors are blocks of 18 cells (VESA E-EDID Standard, Release A, sections 3.10.2
+/// and 3.10.3). Block 0 has four of them.
+inline constexpr int detailedBlockSize = 18;
+inline constexpr int detailedBlockCount = 4;
+
+/// The first cell of detailed block `number` of block 0, counted from 0.
+constexpr int detailedBlockBase(int number) {
+    return 54 + detailedBlockSize * number;
+}
+
+/// Whether the block from cell `base` on is marked as no timing: the texts of its first three cells read "000000".
+bool hasDescriptorMark(BlockScreen& screen, int base);
+
 /// Recalculates the check sum cell of block 0 after an edit; does nothing while ModifyEDIDOn is false. A check sum text
 /// other than the loaded one sets EDIDModified, one other than the last EDIDRedecodeNeeded.
 void RecalcBlock0Checksum(Workbench& workbench);
@@ -27,5 +40,9 @@ bool UpdateExtensionButton(Workbench& workbench);
 /// Whether byte 126 counts as an extension in the report and in files: by the decimal number at the start of its text,
 /// so that "0A" and "FF" do not.
 bool hasExtensionByDecimalText(Workbench& workbench);
+
+/// Where the detailed timings of the extension block begin (CEA-861-D, section 7.5): the number in ExtDtdOffsetText. A
+/// text that is no number is a TypeMismatch failure, a number beyond 16 bits an Overflow.
+std::int16_t timingOffset(const SharedVariables& variables);
 
 } // namespace wb

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/edid_image.h"
 #include "core/text.h"
 #include "report/report_lines.h"
 
@@ -52,7 +53,6 @@ constexpr std::array<HeadingLine, 7> headingLines = {{
 constexpr std::array<int, 3> ruleEntries = {11, 12, 32};
 constexpr std::array<int, 11> emptyEntries = {15, 31, 33, 42, 45, 49, 53, 57, 60, 63, 66};
 constexpr int firstTimingEntry = 68;
-constexpr int detailedBlocks = 4;
 
 std::string indented(std::string_view text) {
     return line(IndentText(text, reportIndent));
@@ -115,16 +115,16 @@ int putStandardTimings(Workbench& workbench, TextArray& lines) {
 
 /// Gives the entry after the last block, which holds an empty line that the next part overwrites.
 int putDetailedBlocks(Workbench& workbench, TextArray& lines, int entry) {
-    for (int block = 0; block < detailedBlocks; ++block) {
+    for (int block = 0; block < detailedBlockCount; ++block) {
         const std::string& text = workbench.DetailedBlockText(block);
         if (text.empty()) {
             continue;
         }
-        const int base = block * 18 + 54;
+        const int base = detailedBlockBase(block);
         lines(entry++) = ruleLine();
         lines(entry++) = line();
-        lines(entry++) = line("(" + placeRange(base, base + 17) + ") Detailed Timing / Descriptor Block " +
-                              std::to_string(block + 1) + ":") +
+        lines(entry++) = line("(" + placeRange(base, base + detailedBlockSize - 1) +
+                              ") Detailed Timing / Descriptor Block " + std::to_string(block + 1) + ":") +
                          line(text);
         lines(entry) = line();
     }

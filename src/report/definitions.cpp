@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/edid_image.h"
 #include "report/basic_display.h"
 #include "report/checksum.h"
 #include "report/chromaticity.h"
@@ -16,9 +17,9 @@ namespace {
 
 void convertDetailedTimings(Workbench& workbench) {
     FrmEdid& screen = workbench.frmEDID();
-    for (std::int16_t block = 0; block < 4; ++block) {
-        screen.CurrentBlockBase = static_cast<std::int16_t>(54 + 18 * block);
-        screen.CurrentBlockNumber = block;
+    for (int block = 0; block < detailedBlockCount; ++block) {
+        screen.CurrentBlockBase = static_cast<std::int16_t>(detailedBlockBase(block));
+        screen.CurrentBlockNumber = static_cast<std::int16_t>(block);
         ConvertDetailedTiming(workbench);
     }
 }

@@ -124,12 +124,8 @@ private:
     std::string& reportText() { return (workbench_.*rules_.texts)(number_); }
 
     bool isDescriptor() {
-        const bool zeros = statement_.read([&] {
-            return screen_.txtEdit(base_).text() + screen_.txtEdit(base_ + 1).text() +
-                       screen_.txtEdit(base_ + 2).text() ==
-                   "000000";
-        });
-        return zeros || (rules_.obeysDescriptorFlag && screen_.CurrentBlockIsDescriptor != flagFalse);
+        const bool marked = statement_.read([&] { return hasDescriptorMark(screen_, base_); });
+        return marked || (rules_.obeysDescriptorFlag && screen_.CurrentBlockIsDescriptor != flagFalse);
     }
 
     void begin() {

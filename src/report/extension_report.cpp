@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/edid_image.h"
 #include "core/numbers.h"
 #include "core/text.h"
 #include "report/report_lines.h"
@@ -15,7 +16,6 @@ constexpr int titleEntry = 39;
 constexpr int typeEntry = 43;
 constexpr int dumpEntry = 45;
 constexpr int bodyEntry = 63;
-constexpr int slotLength = 18;
 
 constexpr std::string_view ceaTag = "02";
 constexpr std::string_view mapTag = "F0";
@@ -199,8 +199,8 @@ void putTimings(Workbench& wb, TextArray& lines) {
         moveOn(entry);
         lines(entry) = line();
         moveOn(entry);
-        const int base = timingOffset(wb) + i * slotLength;
-        lines(entry) = line(places(base, base + slotLength - 1) + " Detailed Timing / Descriptor Block " +
+        const int base = timingOffset(wb) + i * detailedBlockSize;
+        lines(entry) = line(places(base, base + detailedBlockSize - 1) + " Detailed Timing / Descriptor Block " +
                             std::to_string(i + 1) + ":") +
                        line(text);
         moveOn(entry);
@@ -212,16 +212,12 @@ void putTimings(Workbench& wb, TextArray& lines) {
 void putEnd(const Workbench& wb, TextArray& lines) {
     const int entry = wb.ExtDtdStart;
     lines(entry) = line();
-    lines(entry + 1) = line(places(timingOffset(wb) + wb.ExtDtdSlotCount * slotLength, 126) + " No Data:");
+    lines(entry + 1) = line(places(timingOffset(wb) + wb.ExtDtdSlotCount * detailedBlockSize, 126) + " No Data:");
     lines(entry + 2) = placeTag("(127)") + "  " + wb.Block0ChecksumText;
     lines(entry + 3) = endOfReport;
 }
 
 } // namespace
-
-std::int16_t timingOffset(const Workbench& workbench) {
-    return roundToInt16(strictNumber(workbench.ExtDtdOffsetText));
-}
 
 void BuildExtensionReport(Workbench& workbench) {
     trapped(workbench, [&] {

@@ -9,8 +9,4 @@ namespace wb::report {
 /// Each build moves ExtDtdStart on, by 1 and 3 for each timing. A failure is shown and leaves the buffer as it stands.
 void BuildExtensionReport(Workbench& workbench);
 
-/// The number in ExtDtdOffsetText, the offset of the first detailed timing in the extension block; a text that is no
-/// number is a TypeMismatch failure.
-std::int16_t timingOffset(const Workbench& workbench);
-
 } // namespace wb::report

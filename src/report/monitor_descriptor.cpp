@@ -1,5 +1,6 @@
 #include "report/monitor_descriptor.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/edid_image.h"
@@ -11,6 +12,7 @@ namespace wb::report {
 namespace {
 
 constexpr int lineFeed = 10;
+constexpr int firstTextCell = 5; ///< of the block
 
 struct Family {
     std::string_view tag;
@@ -29,23 +31,30 @@ constexpr std::array<Family, 6> families = {{
     {"FA", "Standard Timing Identifiers:"},
 }};
 
+constexpr int noFamily = static_cast<int>(families.size());
+
 constexpr int inputHeight = 1200;          ///< twips
 constexpr int inputHeightAtColours = 1095; ///< twips, beside the colour point panel
 constexpr int timingCount = 6;
 
+/// The number of the family of a tag, or that of none.
+int familyOf(std::string_view tag) {
+    const auto family =
+        std::find_if(families.begin(), families.end(), [&](const Family& row) { return row.tag == tag; });
+    return static_cast<int>(family - families.begin());
+}
+
 /// The family of a tag of the table, whose heading it puts into the report, or else the value of the tag.
 int readTag(const DescriptorBlock& block) {
     const int value = block.cellValue(3);
-    const std::string tag = upperCase(block.cell(3).text());
-    for (std::size_t family = 0; family < families.size(); ++family) {
-        if (families[family].tag == tag) {
-            block.text() = line();
-            block.report(families[family].heading);
-            block.screen.DTAGTF.setVisible(family == RangeLimits);
-            return static_cast<int>(family);
-        }
+    const int family = familyOf(upperCase(block.cell(3).text()));
+    if (family == noFamily) {
+        return value;
     }
-    return value;
+    block.text() = line();
+    block.report(families[static_cast<std::size_t>(family)].heading);
+    block.screen.DTAGTF.setVisible(family == RangeLimits);
+    return family;
 }
 
 void clearPanel(FrmEdid& screen) {
@@ -61,7 +70,7 @@ void clearPanel(FrmEdid& screen) {
 /// Only a line feed ends the text; it may fill all 13 cells.
 void convertText(const DescriptorBlock& block) {
     Control& input = block.screen.DTaInput;
-    for (int i = 5; i <= 17; ++i) {
+    for (int i = firstTextCell; i < detailedBlockSize; ++i) {
         const int code = block.cellValue(i);
         if (code == lineFeed) {
             break;
@@ -75,25 +84,16 @@ void convertText(const DescriptorBlock& block) {
 /// Joins the names of all name descriptors of the image, whichever block is being decoded.
 void showModelName(FrmEdid& screen) {
     std::string name;
-    for (int tag = 57; tag <= 111; tag += 18) {
-        if (screen.txtEdit(tag).text() != "FC") {
-            continue;
-        }
-        for (int i = 2; i <= 14; ++i) {
-            const int code = byteAt(screen, tag + i);
-            if (code == lineFeed) {
-                break;
-            }
-            name += static_cast<char>(code);
-        }
+    for (int block = 0; block < detailedBlockCount; ++block) {
+        appendMonitorName(screen, block, name);
     }
     screen.txtModel.setText(name);
 }
 
 void convertStandardTimings(const DescriptorBlock& block) {
     FrmEdid& screen = block.screen;
-    screen.Hints(11).setVisible(false);
-    screen.Hints(12).setVisible(true);
+    screen.Hints(FrmEdid::descriptorPanel).setVisible(false);
+    screen.Hints(FrmEdid::timingDescriptorPanel).setVisible(true);
     for (int i = 0; i < timingCount; ++i) {
         screen.ExtSTOpt(i).setCaption({});
     }
@@ -145,6 +145,26 @@ void finish(const DescriptorBlock& block) {
 }
 
 } // namespace
+
+std::string_view descriptorHeading(std::string_view tag) {
+    const int family = familyOf(tag);
+    return family == noFamily ? std::string_view() : families[static_cast<std::size_t>(family)].heading;
+}
+
+bool appendMonitorName(FrmEdid& screen, int block, std::string& name) {
+    const int base = detailedBlockBase(block);
+    if (screen.txtEdit(base + 3).text() != families[MonitorName].tag) {
+        return false;
+    }
+    for (int i = firstTextCell; i < detailedBlockSize; ++i) {
+        const int code = byteAt(screen, base + i);
+        if (code == lineFeed) {
+            return true;
+        }
+        name += static_cast<char>(code);
+    }
+    return false;
+}
 
 void ConvertDetailedTiminga(Workbench& workbench) {
     trapped(workbench, [&] {

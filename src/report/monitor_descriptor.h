@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "core/workbench.h"
 
 namespace wb::report {
@@ -10,5 +13,12 @@ namespace wb::report {
 /// the decoder with the text as far as it was built and InFocusDispatch still set; among these is a tag that is neither
 /// in the table nor below 8, and a colour point while its panel is hidden.
 void ConvertDetailedTiminga(Workbench& workbench);
+
+/// The heading of the descriptors of a tag, "FA" to "FF" in upper case; empty for any other.
+std::string_view descriptorHeading(std::string_view tag);
+
+/// Appends the text of detailed block `block` (0 to 3) to a name, up to its line feed; a block whose tag is not exactly
+/// "FC" has none. True when there was a line feed. A cell that cannot be read is the caller's failure.
+bool appendMonitorName(FrmEdid& screen, int block, std::string& name);
 
 } // namespace wb::report

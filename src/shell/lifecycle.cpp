@@ -7,6 +7,7 @@
 #include "files/image_loading.h"
 #include "files/save.h"
 #include "report/identity.h"
+#include "report/monitor_descriptor.h"
 #include "shell/frame.h"
 
 namespace wb::shell {
@@ -89,7 +90,7 @@ void frmEDID_Load(Workbench& workbench) {
         workbench.EDIDModified = flagFalse;
         workbench.EDIDRedecodeNeeded = flagFalse;
         workbench.EDIDLoaded = flagTrue;
-        workbench.DetailedBlockText.create(4);
+        workbench.DetailedBlockText.create(detailedBlockCount);
     });
 }
 
@@ -141,22 +142,11 @@ bool FillInModelInfo(Workbench& workbench) {
 
 std::string GetModelName(Workbench& workbench, const std::string& otherwise) {
     return trappedOr(workbench, std::string(), [&] {
-        constexpr int firstTagCell = 57;
-        constexpr int blockSize = 18;
-        constexpr int lineFeed = 10;
         FrmEdid& screen = workbench.frmEDID();
         std::string name;
-        for (int block = 0; block < 4; ++block) {
-            const int tagCell = firstTagCell + blockSize * block;
-            if (screen.txtEdit(tagCell).text() != "FC") {
-                continue;
-            }
-            for (int j = 2; j <= 14; ++j) {
-                const int code = byteAt(screen, tagCell + j);
-                if (code == lineFeed) {
-                    return name;
-                }
-                name += static_cast<char>(code);
+        for (int block = 0; block < detailedBlockCount; ++block) {
+            if (report::appendMonitorName(screen, block, name)) {
+                return name;
             }
         }
         return otherwise;

@@ -12,6 +12,8 @@ namespace wb {
 class BlockScreen : public Screen {
 public:
     static constexpr int cellCount = 128;
+    static constexpr int timingValuePanel = 9; ///< of `Hints`
+    static constexpr int timingFlagPanel = 10;
 
     BlockScreen(Workbench& workbench, ScreenId id, std::string_view caption, int panelCount);
 

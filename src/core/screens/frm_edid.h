@@ -7,6 +7,9 @@ namespace wb {
 /// The working screen of block 0, "Edid Decoding Screen".
 class FrmEdid : public BlockScreen {
 public:
+    static constexpr int descriptorPanel = 11; ///< of `Hints`
+    static constexpr int timingDescriptorPanel = 12;
+
     explicit FrmEdid(Workbench& workbench);
 
     // Hints(0): header.
