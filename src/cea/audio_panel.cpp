@@ -27,14 +27,14 @@ std::string keptChannels(const Procedure& run, int cellIndex) {
 }
 
 void writeDigits(const Procedure& run, int cellIndex, const std::string& digits) {
-    run.write(cellIndex, ByteToHex2(binaryNumber(run.wb, digits)));
+    run.write(cellIndex, ByteToHex2(binaryNumber(run.workbench, digits)));
 }
 
 } // namespace
 
 void AudioFormat_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const int cellIndex = firstAudioCell(run.wb, 1);
+        const int cellIndex = firstAudioCell(run.workbench, 1);
         const std::string channels = keptChannels(run, cellIndex);
         if (run.screen.AudioFormat(index).selected()) {
             writeDigits(run, cellIndex, (index == 0 ? "00001" : "00000") + channels);
@@ -44,7 +44,7 @@ void AudioFormat_Click(Workbench& workbench, int index) {
 
 void AudFormCode_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const int cellIndex = audioCell(run.wb, hasLastDescriptor(run.wb), 1);
+        const int cellIndex = audioCell(run.workbench, hasLastDescriptor(run.workbench), 1);
         const std::string channels = keptChannels(run, cellIndex);
         writeDigits(run, cellIndex, "0" + binaryDigits(index, 4) + channels);
         run.screen.AudFormCode(index).setValue(flagTrue);
@@ -55,48 +55,48 @@ void AudFormCode_Click(Workbench& workbench, int index) {
 
 void AudChCBox_Click(Workbench& workbench, int /*index*/) {
     panelHandler(workbench, [](const Procedure& run) {
-        const bool last = lastInFocus(run.wb);
-        const int cellIndex = audioCell(run.wb, last, 1);
+        const bool last = lastInFocus(run.workbench);
+        const int cellIndex = audioCell(run.workbench, last, 1);
         if (last) {
             run.colour(cellIndex, cellIndex, CellColour::Group);
             run.colour(cellIndex, cellIndex, CellColour::Field);
         }
         const int row = std::max(shownRow(run.screen.AudChCBox), 0);
-        run.wb.AudioChannelDigit = std::to_string(row + 1);
+        run.workbench.AudioChannelDigit = std::to_string(row + 1);
         const std::string old = run.readText(cellIndex);
         const std::string digits = leftPart(lowerDigits(old), 1) + binaryDigits(row, 3);
-        run.write(cellIndex, leftPart(old, 1) + hexadecimal16(int16From(binaryNumber(run.wb, digits))));
+        run.write(cellIndex, leftPart(old, 1) + hexadecimal16(int16From(binaryNumber(run.workbench, digits))));
     });
 }
 
 void SampFreq_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const bool last = lastInFocus(run.wb);
-        const int cellIndex = audioCell(run.wb, last, 2);
+        const bool last = lastInFocus(run.workbench);
+        const int cellIndex = audioCell(run.workbench, last, 2);
         const int bit = 1 << index;
         constexpr int withoutReserved = 127;
         const int byte = withFlag(run.readByte(cellIndex), withoutReserved & ~bit, bit, run.screen.SampFreq(index));
         run.write(cellIndex, ByteToHex2(byte));
         if (last) {
-            BuildLastSampFreq(run.wb);
+            BuildLastSampFreq(run.workbench);
         } else {
-            BuildSampFreq(run.wb);
+            BuildSampFreq(run.workbench);
         }
     });
 }
 
 void bitrate_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const bool last = lastInFocus(run.wb);
-        const int cellIndex = audioCell(run.wb, last, 3);
+        const bool last = lastInFocus(run.workbench);
+        const int cellIndex = audioCell(run.workbench, last, 3);
         const int bit = 1 << index;
         constexpr int sizeBits = 7;
         const int byte = withFlag(run.readByte(cellIndex), sizeBits & ~bit, bit, run.screen.bitrate(index));
         run.write(cellIndex, ByteToHex2(byte));
         if (last) {
-            BuildLastBitRate(run.wb);
+            BuildLastBitRate(run.workbench);
         } else {
-            BuildBitRate(run.wb);
+            BuildBitRate(run.workbench);
         }
     });
 }
@@ -104,7 +104,7 @@ void bitrate_Click(Workbench& workbench, int index) {
 void bitrateCBox_Click(Workbench& workbench, int /*index*/) {
     panelHandler(workbench, [](const Procedure& run) {
         const int row = std::max(shownRow(run.screen.bitrateCBox), 0);
-        run.write(audioCell(run.wb, run.wb.LastAudioFocus != flagFalse, 3), ByteToHex2(row));
+        run.write(audioCell(run.workbench, run.workbench.LastAudioFocus != flagFalse, 3), ByteToHex2(row));
     });
 }
 

@@ -34,27 +34,28 @@ constexpr Row rows[] = {
     {[](const Workbench&) { return at(1); }, &BuildVersion},
     {[](const Workbench&) { return at(2); }, &LocateDataBlocks},
     {[](const Workbench&) { return at(3); }, &BuildDTVSupport},
-    {[](const Workbench& wb) { return at(wb.VideoBlockStart); }, &BuildVideoTag},
-    {[](const Workbench& wb) { return from(wb.VideoBlockStart, 1, wb.VideoBlockLength); }, &BuildShortVideo},
-    {[](const Workbench& wb) { return at(wb.AudioBlockStart); }, &BuildAudioTag},
-    {[](const Workbench& wb) { return at(firstAudioCell(wb, 1)); }, &BuildAudioChannels},
-    {[](const Workbench& wb) { return at(lastAudioCell(wb, 1)); }, &BuildLastAudioChannels},
-    {[](const Workbench& wb) { return at(lastAudioCell(wb, 2)); }, &BuildLastSampFreq},
-    {[](const Workbench& wb) { return at(firstAudioCell(wb, 2)); }, &BuildSampFreq},
-    {[](const Workbench& wb) { return at(firstAudioCell(wb, 3)); }, &BuildBitRate},
-    {[](const Workbench& wb) { return at(lastAudioCell(wb, 3)); }, &BuildLastBitRate},
-    {[](const Workbench& wb) { return at(wb.SpeakerBlockStart); }, &BuildSpeakerTag},
-    {[](const Workbench& wb) { return from(wb.SpeakerBlockStart, 1, 1); }, &BuildSpeaker},
-    {[](const Workbench& wb) { return at(wb.VendorBlockStart); }, &BuildVendorTag},
-    {[](const Workbench& wb) { return from(wb.VendorBlockStart, 1, 3); }, &BuildVendorID},
+    {[](const Workbench& workbench) { return at(workbench.VideoBlockStart); }, &BuildVideoTag},
+    {[](const Workbench& workbench) { return from(workbench.VideoBlockStart, 1, workbench.VideoBlockLength); },
+     &BuildShortVideo},
+    {[](const Workbench& workbench) { return at(workbench.AudioBlockStart); }, &BuildAudioTag},
+    {[](const Workbench& workbench) { return at(firstAudioCell(workbench, 1)); }, &BuildAudioChannels},
+    {[](const Workbench& workbench) { return at(lastAudioCell(workbench, 1)); }, &BuildLastAudioChannels},
+    {[](const Workbench& workbench) { return at(lastAudioCell(workbench, 2)); }, &BuildLastSampFreq},
+    {[](const Workbench& workbench) { return at(firstAudioCell(workbench, 2)); }, &BuildSampFreq},
+    {[](const Workbench& workbench) { return at(firstAudioCell(workbench, 3)); }, &BuildBitRate},
+    {[](const Workbench& workbench) { return at(lastAudioCell(workbench, 3)); }, &BuildLastBitRate},
+    {[](const Workbench& workbench) { return at(workbench.SpeakerBlockStart); }, &BuildSpeakerTag},
+    {[](const Workbench& workbench) { return from(workbench.SpeakerBlockStart, 1, 1); }, &BuildSpeaker},
+    {[](const Workbench& workbench) { return at(workbench.VendorBlockStart); }, &BuildVendorTag},
+    {[](const Workbench& workbench) { return from(workbench.VendorBlockStart, 1, 3); }, &BuildVendorID},
     // The length itself is the end, not the cell that it leads to: the row is empty for most blocks.
-    {[](const Workbench& wb) {
-         return CellRange{location(wb.VendorBlockStart, 4), wb.VendorBlockLength - 1};
+    {[](const Workbench& workbench) {
+         return CellRange{location(workbench.VendorBlockStart, 4), workbench.VendorBlockLength - 1};
      },
      &BuildVendorData},
-    {[](const Workbench& wb) { return from(wb.VendorBlockStart, 6, 6); }, &BuildVSDBExt},
-    {[](const Workbench& wb) {
-         return CellRange{wb.ExtDtdStart, lastTimingCell};
+    {[](const Workbench& workbench) { return from(workbench.VendorBlockStart, 6, 6); }, &BuildVSDBExt},
+    {[](const Workbench& workbench) {
+         return CellRange{workbench.ExtDtdStart, lastTimingCell};
      },
      &ConvertDetailedTiming},
 };
@@ -67,8 +68,8 @@ void txtEdit_KeyUp(Workbench& workbench, int index, int /*keyCode*/) {
             return;
         }
         for (const Row& row : rows) {
-            if (row.cells(run.wb).contains(index)) {
-                row.decode(run.wb);
+            if (row.cells(run.workbench).contains(index)) {
+                row.decode(run.workbench);
                 return;
             }
         }

@@ -14,14 +14,15 @@ constexpr int lastTimingCell = 126;
 constexpr int collectionStart = 4;
 
 void readOffset(const Procedure& run) {
-    Workbench& wb = run.wb;
+    Workbench& workbench = run.workbench;
     if (run.text(0) == "02") {
-        wb.ExtDtdOffsetText = std::to_string(byteAt(run.screen, 2));
-        run.screen.lbEDID(5).setCaption(offsetCaption(wb.ExtDtdOffsetText));
-        wb.ExtDtdStart = wb.ExtDtdOffsetText == "0" ? int16From(collectionStart) : timingOffset(wb);
+        workbench.ExtDtdOffsetText = std::to_string(byteAt(run.screen, 2));
+        run.screen.lbEDID(5).setCaption(offsetCaption(workbench.ExtDtdOffsetText));
+        workbench.ExtDtdStart =
+            workbench.ExtDtdOffsetText == "0" ? int16From(collectionStart) : timingOffset(workbench);
     } else {
-        wb.ExtDtdStart = int16From(run.text(2) == "00" ? 2 : 3);
-        wb.ExtDtdOffsetText = std::to_string(wb.ExtDtdStart);
+        workbench.ExtDtdStart = int16From(run.text(2) == "00" ? 2 : 3);
+        workbench.ExtDtdOffsetText = std::to_string(workbench.ExtDtdStart);
     }
 }
 
@@ -37,7 +38,7 @@ void copyLoadedArea(const Procedure& run, int offset, int loadedOffset, int last
     int i = offset;
     while (i <= lastTimingCell) {
         for (int j = loadedOffset + extensionStart; j <= lastSource; ++j) {
-            run.statement([&] { run.cell(i).setText(run.wb.EDIDCells(j)); });
+            run.statement([&] { run.cell(i).setText(run.workbench.EDIDCells(j)); });
             ++i;
         }
         ++i;
@@ -45,8 +46,8 @@ void copyLoadedArea(const Procedure& run, int offset, int loadedOffset, int last
 }
 
 void moveTimings(const Procedure& run) {
-    const int offset = run.statement.read([&] { return int{timingOffset(run.wb)}; });
-    const int loadedOffset = run.wb.CEADtdOffset;
+    const int offset = run.statement.read([&] { return int{timingOffset(run.workbench)}; });
+    const int loadedOffset = run.workbench.CEADtdOffset;
     if (offset > loadedOffset && loadedOffset != 0) {
         blank(run, loadedOffset, offset - 1);
         copyLoadedArea(run, offset, loadedOffset, 254);
@@ -60,7 +61,7 @@ void moveTimings(const Procedure& run) {
 /// of a block.
 class Scan {
 public:
-    explicit Scan(Workbench& workbench) : wb_(workbench) {}
+    explicit Scan(Workbench& workbench) : workbench_(workbench) {}
 
     void look(int i, const std::string& cellText) {
         const std::string tagFound = tagDigits(cellText);
@@ -78,34 +79,34 @@ public:
 private:
     void lookAtVideo(int i, const std::string& cellText) {
         if (!videoFound_) {
-            wb_.VideoBlockStart = int16From(i);
-            wb_.VideoBlockLength = int16From(dataLength(wb_, cellText));
+            workbench_.VideoBlockStart = int16From(i);
+            workbench_.VideoBlockLength = int16From(dataLength(workbench_, cellText));
             videoFound_ = true;
         }
     }
     void lookAtAudio(int i, const std::string& cellText) {
-        if (i > location(wb_.VideoBlockStart, wb_.VideoBlockLength) && !audioFound_) {
-            wb_.AudioBlockStart = int16From(i);
-            audioLength_ = dataLength(wb_, cellText);
+        if (i > location(workbench_.VideoBlockStart, workbench_.VideoBlockLength) && !audioFound_) {
+            workbench_.AudioBlockStart = int16From(i);
+            audioLength_ = dataLength(workbench_, cellText);
             audioFound_ = true;
         }
     }
     void lookAtVendor(int i) {
-        if (i > location(wb_.AudioBlockStart, audioLength_) && !vendorFound_) {
-            wb_.VendorBlockStart = int16From(i);
+        if (i > location(workbench_.AudioBlockStart, audioLength_) && !vendorFound_) {
+            workbench_.VendorBlockStart = int16From(i);
             vendorFound_ = true;
         }
     }
     /// Below a vendor block of an earlier walk only, since this one meets the vendor header later.
     void lookAtSpeaker(int i) {
-        if (audioFound_ && videoFound_ && i > location(wb_.AudioBlockStart, audioLength_) && !speakerFound_ &&
-            i < wb_.VendorBlockStart) {
-            wb_.SpeakerBlockStart = int16From(i);
+        if (audioFound_ && videoFound_ && i > location(workbench_.AudioBlockStart, audioLength_) && !speakerFound_ &&
+            i < workbench_.VendorBlockStart) {
+            workbench_.SpeakerBlockStart = int16From(i);
             speakerFound_ = true;
         }
     }
 
-    Workbench& wb_;
+    Workbench& workbench_;
     bool videoFound_ = false;
     bool audioFound_ = false;
     bool speakerFound_ = false;
@@ -114,18 +115,19 @@ private:
 };
 
 void scanCollection(const Procedure& run) {
-    Scan scan(run.wb);
-    for (int i = collectionStart; i < run.wb.ExtDtdStart; ++i) {
+    Scan scan(run.workbench);
+    for (int i = collectionStart; i < run.workbench.ExtDtdStart; ++i) {
         run.statement([&] { scan.look(i, run.text(i)); });
     }
 }
 
 void settleVideoStart(const Procedure& run) {
     run.statement([&] {
-        if (timingOffset(run.wb) == collectionStart) {
-            run.wb.VideoBlockStart = 0;
-        } else if (run.wb.AudioBlockStart == 0 && run.wb.VendorBlockStart == 0 && run.wb.SpeakerBlockStart == 0) {
-            run.wb.VideoBlockStart = collectionStart;
+        if (timingOffset(run.workbench) == collectionStart) {
+            run.workbench.VideoBlockStart = 0;
+        } else if (run.workbench.AudioBlockStart == 0 && run.workbench.VendorBlockStart == 0 &&
+                   run.workbench.SpeakerBlockStart == 0) {
+            run.workbench.VideoBlockStart = collectionStart;
         }
     });
 }
@@ -146,7 +148,7 @@ void LocateDataBlocks(Workbench& workbench) {
         moveTimings(run);
         scanCollection(run);
         settleVideoStart(run);
-        CalcCheckSum(run.wb);
+        CalcCheckSum(run.workbench);
     });
 }
 

@@ -35,39 +35,39 @@ void BuildCEA_EXT_Definations(Workbench& workbench) {
     procedure(workbench, [](const Procedure& run) {
         for (const auto decode : {BuildVersion, LocateDataBlocks, BuildDTVSupport, BuildVideoTag, BuildShortVideo,
                                   BuildAudioTag, BuildAudioChannels, BuildSampFreq, BuildBitRate}) {
-            decode(run.wb);
+            decode(run.workbench);
         }
-        if (run.wb.AudioBlockLength >= longBlock) {
-            LocateAudioDescriptors(run.wb);
-            BuildLastAudioChannels(run.wb);
-            BuildLastSampFreq(run.wb);
-            BuildLastBitRate(run.wb);
+        if (run.workbench.AudioBlockLength >= longBlock) {
+            LocateAudioDescriptors(run.workbench);
+            BuildLastAudioChannels(run.workbench);
+            BuildLastSampFreq(run.workbench);
+            BuildLastBitRate(run.workbench);
         }
         for (const auto decode : {BuildSpeakerTag, BuildSpeaker, BuildVendorTag, BuildVendorID, BuildVendorData}) {
-            decode(run.wb);
+            decode(run.workbench);
         }
-        if (run.wb.VendorBlockLength >= longBlock) {
-            BuildVSDBExt(run.wb);
+        if (run.workbench.VendorBlockLength >= longBlock) {
+            BuildVSDBExt(run.workbench);
         }
-        BuildDetailedTimings(run.wb);
+        BuildDetailedTimings(run.workbench);
     });
 }
 
 void BuildDetailedTimings(Workbench& workbench) {
     procedure(workbench, [](const Procedure& run) {
         FrmCeaExt& screen = run.screen;
-        run.wb.ExtDtdSlotCount = lastSlotOf(run.wb);
-        for (int slot = 0; slot <= run.wb.ExtDtdSlotCount; ++slot) {
+        run.workbench.ExtDtdSlotCount = lastSlotOf(run.workbench);
+        for (int slot = 0; slot <= run.workbench.ExtDtdSlotCount; ++slot) {
             run.statement([&] {
                 screen.CurrentBlockBase =
-                    slot == 0 ? timingOffset(run.wb) : int16From(screen.CurrentBlockBase + detailedBlockSize);
+                    slot == 0 ? timingOffset(run.workbench) : int16From(screen.CurrentBlockBase + detailedBlockSize);
                 screen.CurrentBlockNumber = int16From(slot);
                 if (isDecodedSlot(slot, screen.CurrentBlockBase)) {
-                    ConvertDetailedTiming(run.wb);
+                    ConvertDetailedTiming(run.workbench);
                 }
             });
         }
-        CalcCheckSum(run.wb);
+        CalcCheckSum(run.workbench);
     });
 }
 

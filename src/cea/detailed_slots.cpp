@@ -34,7 +34,7 @@ std::string_view headingOf(std::string_view tag) {
 /// A last slot that is not whole counts too: it runs into the cells behind the timing area.
 void findSlot(const Procedure& run, int index) {
     for (int slot = 0; slot <= lastFixedSlot; ++slot) {
-        const int base = location(run.wb.ExtDtdStart, detailedBlockSize * slot);
+        const int base = location(run.workbench.ExtDtdStart, detailedBlockSize * slot);
         if (index >= base && index < base + detailedBlockSize) {
             run.screen.CurrentBlockBase = int16From(base);
             run.screen.CurrentBlockNumber = int16From(slot);
@@ -55,13 +55,13 @@ void ConvertDetailedTiming(Workbench& workbench) {
 void ConvertDetailedTiminga(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
         const std::string tag = upperCase(run.readText(location(run.screen.CurrentBlockBase, 3)));
-        run.statement([&] { run.wb.ExtDetailedBlockText(run.screen.CurrentBlockNumber) = headingOf(tag); });
+        run.statement([&] { run.workbench.ExtDetailedBlockText(run.screen.CurrentBlockNumber) = headingOf(tag); });
     });
 }
 
 void openSlot(Workbench& workbench, int index) {
     procedure(workbench, [&](const Procedure& run) {
-        run.wb.ExtDtdSlotCount = lastSlotOf(run.wb);
+        run.workbench.ExtDtdSlotCount = lastSlotOf(run.workbench);
         findSlot(run, index);
         FrmCeaExt& screen = run.screen;
         const int base = screen.CurrentBlockBase;
@@ -71,7 +71,7 @@ void openSlot(Workbench& workbench, int index) {
         screen.Hints(FrmCeaExt::timingFlagPanel).setCaption(block0::detailedTimingCaption(base));
         screen.CurrentBlockIsDescriptor = flagFalse;
         block0::showDetailedTimingField(run.statement, screen, index - base);
-        ConvertDetailedTiming(run.wb);
+        ConvertDetailedTiming(run.workbench);
     });
 }
 

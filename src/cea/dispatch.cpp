@@ -24,7 +24,7 @@ bool isIn(int index, int start, int first, int last) {
 }
 
 void seekBox(const Procedure& run, Control& box) {
-    if (seeks(run.wb)) {
+    if (seeks(run.workbench)) {
         box.setEnabled(true);
         run.focusOn(box);
     }
@@ -42,7 +42,7 @@ void openVersion(const Procedure& run, int index) {
     }
     run.screen.VerRel.setEnabled(false);
     colourField(run, index);
-    BuildVersion(run.wb);
+    BuildVersion(run.workbench);
     const std::string version = std::to_string(run.readByte(index));
     run.screen.VerRev.setText(version);
     run.screen.lbEDID(0).setCaption("Version Number - " + version);
@@ -58,7 +58,7 @@ void openOffset(const Procedure& run, int index) {
     run.screen.VerRev.setEnabled(false);
     run.screen.VerRel.setEnabled(false);
     colourField(run, index);
-    LocateDataBlocks(run.wb);
+    LocateDataBlocks(run.workbench);
     const std::string offset = std::to_string(run.readByte(index));
     run.screen.DetailOffset.setText(offset);
     run.screen.lbEDID(5).setCaption(offsetCaption(offset));
@@ -69,27 +69,27 @@ void openSupport(const Procedure& run, int index) {
     showPanel(run, 14);
     run.screen.Hints(3).setVisible(false);
     colourField(run, index);
-    BuildDTVSupport(run.wb);
+    BuildDTVSupport(run.workbench);
 }
 
 void openVideoHeader(const Procedure& run, int index) {
     openHeader(run, index, "ShortVideo");
     run.screen.FrmAudioFormat.setVisible(false);
     run.screen.Hints(14).setVisible(false);
-    BuildVideoTag(run.wb);
+    BuildVideoTag(run.workbench);
 }
 
 void openVideoDescriptor(const Procedure& run, int index) {
-    Workbench& wb = run.wb;
+    Workbench& workbench = run.workbench;
     showPanel(run, 16, index, "CEA Short Video Descriptor (");
-    colourInBlock(run, index, wb.VideoBlockStart, wb.VideoBlockLength);
-    wb.ShortVideoCell = int16From(index);
+    colourInBlock(run, index, workbench.VideoBlockStart, workbench.VideoBlockLength);
+    workbench.ShortVideoCell = int16From(index);
     run.screen.FrmAudioFormat.setVisible(false);
-    BuildShortVideo(wb);
-    const int next = location(wb.VideoBlockStart, wb.VideoBlockLength + 1);
+    BuildShortVideo(workbench);
+    const int next = location(workbench.VideoBlockStart, workbench.VideoBlockLength + 1);
     run.statement([&] {
-        if (timingOffset(wb) != next && wb.AudioBlockStart == 0 && wb.VideoBlockStart != 0) {
-            wb.AudioBlockStart = int16From(next);
+        if (timingOffset(workbench) != next && workbench.AudioBlockStart == 0 && workbench.VideoBlockStart != 0) {
+            workbench.AudioBlockStart = int16From(next);
         }
     });
 }
@@ -99,36 +99,36 @@ void openSpeakerHeader(const Procedure& run, int index) {
     run.screen.Hints(6).setVisible(false);
     run.screen.Frmbitrate.setVisible(false);
     run.screen.FrmAudioFormat.setVisible(false);
-    BuildSpeakerTag(run.wb);
+    BuildSpeakerTag(run.workbench);
 }
 
 void openSpeakers(const Procedure& run, int index) {
     showPanel(run, 4, index, "Speaker (");
-    colourInBlock(run, index, run.wb.SpeakerBlockStart, run.wb.SpeakerBlockLength);
-    BuildSpeaker(run.wb);
+    colourInBlock(run, index, run.workbench.SpeakerBlockStart, run.workbench.SpeakerBlockLength);
+    BuildSpeaker(run.workbench);
 }
 
 void openReservedSpeakers(const Procedure& run, int index) {
     showPanel(run, 1, index, "Speaker (");
-    colourInBlock(run, index, run.wb.SpeakerBlockStart, run.wb.SpeakerBlockLength);
+    colourInBlock(run, index, run.workbench.SpeakerBlockStart, run.workbench.SpeakerBlockLength);
     run.screen.Hints(4).setVisible(false);
 }
 
 void openVendorHeader(const Procedure& run, int index) {
     openHeader(run, index, "ShortVendor");
     run.screen.Hints(1).setVisible(false);
-    BuildVendorTag(run.wb);
+    BuildVendorTag(run.workbench);
 }
 
 void openVendorPanel(const Procedure& run, int panel, int index, std::string_view words) {
     showPanel(run, panel, index, words);
-    colourInBlock(run, index, run.wb.VendorBlockStart, run.wb.VendorBlockLength);
+    colourInBlock(run, index, run.workbench.VendorBlockStart, run.workbench.VendorBlockLength);
 }
 
 void openVendorID(const Procedure& run, int index) {
     openVendorPanel(run, 13, index, "Vendor Specific Data Block (");
     run.screen.lbVendorData.setVisible(true);
-    BuildVendorID(run.wb);
+    BuildVendorID(run.workbench);
     seekBox(run, run.screen.txtBoxVendorID);
 }
 
@@ -137,19 +137,19 @@ void openVendorData(const Procedure& run, int index) {
     run.screen.lbVendorBlock.setVisible(true);
     run.screen.lbVendorBlock.setCaption("Enter your vendor specific data. ");
     run.screen.Hints(13).setVisible(false);
-    BuildVendorData(run.wb);
+    BuildVendorData(run.workbench);
     seekBox(run, run.screen.txtBoxVendorData);
 }
 
 void openVendorExtension(const Procedure& run, int index) {
     openVendorPanel(run, 8, index, "VSDB Extension (");
     run.screen.Hints(13).setVisible(false);
-    BuildVSDBExt(run.wb);
+    BuildVSDBExt(run.workbench);
 }
 
 void openTiming(const Procedure& run, int index) {
     run.screen.Hints(tagPanel).setVisible(false);
-    openSlot(run.wb, index);
+    openSlot(run.workbench, index);
 }
 
 /// The two cells have no panel here. The labels of block 0's panel for them are addressed all the same, and this screen
@@ -174,24 +174,27 @@ constexpr Row rows[] = {
     {[](const Workbench&, int i) { return i == 1; }, &openVersion},
     {[](const Workbench&, int i) { return i == 2; }, &openOffset},
     {[](const Workbench&, int i) { return i == 3; }, &openSupport},
-    {[](const Workbench& wb, int i) { return i == wb.VideoBlockStart; }, &openVideoHeader},
-    {[](const Workbench& wb, int i) { return isIn(i, wb.VideoBlockStart, 1, wb.VideoBlockLength); },
+    {[](const Workbench& workbench, int i) { return i == workbench.VideoBlockStart; }, &openVideoHeader},
+    {[](const Workbench& workbench, int i) {
+         return isIn(i, workbench.VideoBlockStart, 1, workbench.VideoBlockLength);
+     },
      &openVideoDescriptor},
-    {[](const Workbench& wb, int i) { return i == wb.AudioBlockStart; }, &openAudioHeader},
-    {[](const Workbench& wb, int i) { return i == firstAudioCell(wb, 1); }, &openAudioChannels},
-    {[](const Workbench& wb, int i) { return i == lastAudioCell(wb, 1); }, &openLastAudioChannels},
-    {[](const Workbench& wb, int i) { return i == firstAudioCell(wb, 2); }, &openFrequencies},
-    {[](const Workbench& wb, int i) { return i == lastAudioCell(wb, 2); }, &openLastFrequencies},
-    {[](const Workbench& wb, int i) { return i == firstAudioCell(wb, 3); }, &openBitRate},
-    {[](const Workbench& wb, int i) { return i == lastAudioCell(wb, 3); }, &openLastBitRate},
-    {[](const Workbench& wb, int i) { return i == wb.SpeakerBlockStart; }, &openSpeakerHeader},
-    {[](const Workbench& wb, int i) { return isIn(i, wb.SpeakerBlockStart, 1, 1); }, &openSpeakers},
-    {[](const Workbench& wb, int i) { return isIn(i, wb.SpeakerBlockStart, 2, 3); }, &openReservedSpeakers},
-    {[](const Workbench& wb, int i) { return i == wb.VendorBlockStart; }, &openVendorHeader},
-    {[](const Workbench& wb, int i) { return isIn(i, wb.VendorBlockStart, 1, 3); }, &openVendorID},
-    {[](const Workbench& wb, int i) { return isIn(i, wb.VendorBlockStart, 4, 5); }, &openVendorData},
-    {[](const Workbench& wb, int i) { return isIn(i, wb.VendorBlockStart, 6, 6); }, &openVendorExtension},
-    {[](const Workbench& wb, int i) { return i >= wb.ExtDtdStart && i <= lastTimingCell; }, &openTiming},
+    {[](const Workbench& workbench, int i) { return i == workbench.AudioBlockStart; }, &openAudioHeader},
+    {[](const Workbench& workbench, int i) { return i == firstAudioCell(workbench, 1); }, &openAudioChannels},
+    {[](const Workbench& workbench, int i) { return i == lastAudioCell(workbench, 1); }, &openLastAudioChannels},
+    {[](const Workbench& workbench, int i) { return i == firstAudioCell(workbench, 2); }, &openFrequencies},
+    {[](const Workbench& workbench, int i) { return i == lastAudioCell(workbench, 2); }, &openLastFrequencies},
+    {[](const Workbench& workbench, int i) { return i == firstAudioCell(workbench, 3); }, &openBitRate},
+    {[](const Workbench& workbench, int i) { return i == lastAudioCell(workbench, 3); }, &openLastBitRate},
+    {[](const Workbench& workbench, int i) { return i == workbench.SpeakerBlockStart; }, &openSpeakerHeader},
+    {[](const Workbench& workbench, int i) { return isIn(i, workbench.SpeakerBlockStart, 1, 1); }, &openSpeakers},
+    {[](const Workbench& workbench, int i) { return isIn(i, workbench.SpeakerBlockStart, 2, 3); },
+     &openReservedSpeakers},
+    {[](const Workbench& workbench, int i) { return i == workbench.VendorBlockStart; }, &openVendorHeader},
+    {[](const Workbench& workbench, int i) { return isIn(i, workbench.VendorBlockStart, 1, 3); }, &openVendorID},
+    {[](const Workbench& workbench, int i) { return isIn(i, workbench.VendorBlockStart, 4, 5); }, &openVendorData},
+    {[](const Workbench& workbench, int i) { return isIn(i, workbench.VendorBlockStart, 6, 6); }, &openVendorExtension},
+    {[](const Workbench& workbench, int i) { return i >= workbench.ExtDtdStart && i <= lastTimingCell; }, &openTiming},
     {[](const Workbench&, int i) { return i >= 126; }, &openEnd},
 };
 
@@ -199,16 +202,16 @@ constexpr Row rows[] = {
 
 void txtEdit_GotFocus(Workbench& workbench, int index) {
     procedure(workbench, [&](const Procedure& run) {
-        run.wb.LastAudioFocus = flagFalse;
-        block0::beginFocusDispatch(ceaScreenRules, run.wb);
+        run.workbench.LastAudioFocus = flagFalse;
+        block0::beginFocusDispatch(ceaScreenRules, run.workbench);
         run.screen.Hints(tagPanel).setVisible(true);
         for (const Row& row : rows) {
-            if (row.matches(run.wb, index)) {
+            if (row.matches(run.workbench, index)) {
                 row.open(run, index);
                 break;
             }
         }
-        block0::endFocusDispatch(ceaScreenRules, run.wb, index);
+        block0::endFocusDispatch(ceaScreenRules, run.workbench, index);
     });
 }
 

@@ -13,7 +13,7 @@ bool isCompressed(const Procedure& run) {
 }
 
 void colourInAudio(const Procedure& run, int index) {
-    colourInBlock(run, index, run.wb.AudioBlockStart, run.wb.AudioBlockLength);
+    colourInBlock(run, index, run.workbench.AudioBlockStart, run.workbench.AudioBlockLength);
 }
 
 void openFrequencyPanel(const Procedure& run, int index) {
@@ -36,13 +36,13 @@ void openAudioHeader(const Procedure& run, int index) {
     openHeader(run, index, "ShortAudio");
     run.screen.FrmAudioFormat.setVisible(true);
     run.screen.Hints(16).setVisible(false);
-    BuildAudioTag(run.wb);
+    BuildAudioTag(run.workbench);
 }
 
 void openAudioChannels(const Procedure& run, int index) {
     showPanel(run, 0);
     colourInAudio(run, index);
-    BuildAudioChannels(run.wb);
+    BuildAudioChannels(run.workbench);
     captionPanel(run, 0, index, isCompressed(run) ? "Compressed Audio Codes (" : "Uncompressed Audio (");
     run.screen.FrmAudFormCode.setVisible(isCompressed(run));
 }
@@ -52,47 +52,47 @@ void openLastAudioChannels(const Procedure& run, int index) {
     run.screen.FrmAudFormCode.setVisible(true);
     run.screen.FrmAudioFormat.setVisible(false);
     colourInAudio(run, index);
-    run.wb.LastAudioFocus = flagTrue;
-    LocateAudioDescriptors(run.wb);
-    BuildLastAudioChannels(run.wb);
+    run.workbench.LastAudioFocus = flagTrue;
+    LocateAudioDescriptors(run.workbench);
+    BuildLastAudioChannels(run.workbench);
 }
 
 void openFrequencies(const Procedure& run, int index) {
     openFrequencyPanel(run, index);
-    BuildSampFreq(run.wb);
+    BuildSampFreq(run.workbench);
 }
 
 void openLastFrequencies(const Procedure& run, int index) {
-    run.wb.LastAudioFocus = flagTrue;
+    run.workbench.LastAudioFocus = flagTrue;
     openFrequencyPanel(run, index);
-    BuildLastSampFreq(run.wb);
+    BuildLastSampFreq(run.workbench);
 }
 
 void openBitRate(const Procedure& run, int index) {
-    Workbench& wb = run.wb;
+    Workbench& workbench = run.workbench;
     showPanel(run, 6);
     colourInAudio(run, index);
     showRateControls(run, false, false);
     run.screen.Hints(5).setVisible(false);
-    BuildBitRate(wb);
+    BuildBitRate(workbench);
     const bool compressed = isCompressed(run);
     captionPanel(run, 6, index, compressed ? "Compressed Sampl bit rate (" : "Uncompressed Sampl bit rate (");
     showRateControls(run, compressed, !compressed);
-    if (wb.AudioBlockStart != 0 && wb.VideoBlockStart != 0) {
-        wb.SpeakerBlockStart = int16From(location(wb.AudioBlockStart, 4));
+    if (workbench.AudioBlockStart != 0 && workbench.VideoBlockStart != 0) {
+        workbench.SpeakerBlockStart = int16From(location(workbench.AudioBlockStart, 4));
     }
 }
 
 void openLastBitRate(const Procedure& run, int index) {
-    Workbench& wb = run.wb;
+    Workbench& workbench = run.workbench;
     showPanel(run, 6, index, "Compressed Sampl bit rate (");
     showRateControls(run, true, false);
     colourInAudio(run, index);
-    wb.LastAudioFocus = flagTrue;
+    workbench.LastAudioFocus = flagTrue;
     run.screen.Hints(5).setVisible(false);
-    BuildLastBitRate(wb);
-    if (wb.AudioBlockStart != 0 && wb.VideoBlockStart != 0 && wb.LastAudioDescriptor != 0) {
-        wb.SpeakerBlockStart = 0;
+    BuildLastBitRate(workbench);
+    if (workbench.AudioBlockStart != 0 && workbench.VideoBlockStart != 0 && workbench.LastAudioDescriptor != 0) {
+        workbench.SpeakerBlockStart = 0;
     }
 }
 

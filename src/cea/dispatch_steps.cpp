@@ -29,7 +29,7 @@ void colourInBlock(const Procedure& run, int index, int start, int length) {
 void openHeader(const Procedure& run, int index, std::string_view kind) {
     captionPanel(run, tagPanel, index, "Data Block Tag Codes (");
     colourField(run, index);
-    run.wb.DataBlockKind = kind;
+    run.workbench.DataBlockKind = kind;
 }
 
 } // namespace wb::cea

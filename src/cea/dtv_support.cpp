@@ -57,7 +57,7 @@ void BuildDTVSupport(Workbench& workbench) {
         for (int i = 0; i < static_cast<int>(digits.size()); ++i) {
             screen.NativeChk(i).setValue(digits[static_cast<std::size_t>(i)] == '1' ? 1 : 0);
         }
-        std::string& text = run.wb.DTVSupportText;
+        std::string& text = run.workbench.DTVSupportText;
         text = flagText(screen, 0);
         text += ", " + flagText(screen, 1);
         breakLongLine(text);
@@ -73,7 +73,7 @@ void NativeChk_Click(Workbench& workbench, int /*index*/) {
         for (int i = 0; i < static_cast<int>(supportFlags.size()); ++i) {
             digits += run.screen.NativeChk(i).selected() ? '1' : '0';
         }
-        const auto number = static_cast<std::size_t>(binaryNumber(run.wb, digits));
+        const auto number = static_cast<std::size_t>(binaryNumber(run.workbench, digits));
         run.write(supportCell, hexDigits[number] + middlePart(run.text(supportCell), 2, 1));
     });
 }

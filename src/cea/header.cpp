@@ -32,12 +32,12 @@ void VerRev_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
         if (keyCode != block0::enterKey) {
             return;
         }
-        const double value = Value(run.wb, run.screen.VerRev.text());
+        const double value = Value(run.workbench, run.screen.VerRev.text());
         if (value >= 1 && value <= 3) {
             run.write(versionCell, roundedCellText(value));
-            BuildVersion(run.wb);
+            BuildVersion(run.workbench);
         } else {
-            run.wb.showMessage("Valid number are 1 - 3");
+            run.workbench.showMessage("Valid number are 1 - 3");
         }
     });
 }
@@ -47,12 +47,12 @@ void DetailOffset_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
         if (keyCode != block0::enterKey) {
             return;
         }
-        const double value = Value(run.wb, run.screen.DetailOffset.text());
+        const double value = Value(run.workbench, run.screen.DetailOffset.text());
         if ((value >= 4 && value <= 109) || value == 0) {
             run.write(offsetCell, roundedCellText(value));
-            LocateDataBlocks(run.wb);
+            LocateDataBlocks(run.workbench);
         } else {
-            run.wb.showMessage("Valid number are 4 - 109");
+            run.workbench.showMessage("Valid number are 4 - 109");
         }
     });
 }

@@ -6,7 +6,7 @@ namespace wb::cea {
 
 void CalcCheckSum(Workbench& workbench) {
     procedure(workbench, [](const Procedure& run) {
-        if (run.wb.ModifyEDIDOn == flagFalse) {
+        if (run.workbench.ModifyEDIDOn == flagFalse) {
             return;
         }
         constexpr int checksumCell = 127;
@@ -18,7 +18,7 @@ void CalcCheckSum(Workbench& workbench) {
             }
         }
         run.write(checksumCell, checksumTextFor(sum));
-        noteChecksum(run.wb, run.text(checksumCell));
+        noteChecksum(run.workbench, run.text(checksumCell));
     });
 }
 

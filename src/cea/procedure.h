@@ -19,7 +19,7 @@ void CalcCheckSum(Workbench& workbench);
 /// A running procedure: a failure of one of its statements is shown, and the procedure goes on with the next one. A
 /// location that leaves the 16-bit range, worked out between statements, stops it.
 struct Procedure {
-    Workbench& wb;
+    Workbench& workbench;
     FrmCeaExt& screen;
     Statements statement;
 
@@ -41,7 +41,7 @@ struct Procedure {
         block0::colourCells(statement, screen, {from, to}, colour);
     }
     void focusOn(Control& control) const {
-        statement([&] { wb.focus.moveTo(control); });
+        statement([&] { workbench.focus.moveTo(control); });
     }
 };
 

@@ -34,25 +34,25 @@ const block0::BlockScreenRules ceaScreenRules = {
 void Form_Load(Workbench& workbench) {
     procedure(workbench, [](const Procedure& run) {
         fillCells(run);
-        run.wb.EDIDModified = flagFalse;
-        run.wb.EDIDRedecodeNeeded = flagFalse;
-        run.wb.EDIDLoaded = flagTrue;
-        run.screen.txtBrand.setText(run.wb.frmEDID().txtBrand.text());
-        run.screen.txtModel.setText(run.wb.frmEDID().txtModel.text());
-        run.wb.ExtDetailedBlockText.create(7);
-        run.wb.ExtDetailedBlockNote.create(13);
-        CalcCheckSum(run.wb);
-        BuildCEA_EXT_Definations(run.wb);
+        run.workbench.EDIDModified = flagFalse;
+        run.workbench.EDIDRedecodeNeeded = flagFalse;
+        run.workbench.EDIDLoaded = flagTrue;
+        run.screen.txtBrand.setText(run.workbench.frmEDID().txtBrand.text());
+        run.screen.txtModel.setText(run.workbench.frmEDID().txtModel.text());
+        run.workbench.ExtDetailedBlockText.create(7);
+        run.workbench.ExtDetailedBlockNote.create(13);
+        CalcCheckSum(run.workbench);
+        BuildCEA_EXT_Definations(run.workbench);
     });
 }
 
 void Cmd_Return_Click(Workbench& workbench, int /*index*/) {
     procedure(workbench, [](const Procedure& run) {
-        run.statement([&] { run.wb.windows.hide(run.screen); });
-        run.wb.CEAScreenOpen = flagFalse;
-        if (run.wb.EDIDLoaded != flagFalse) {
-            run.statement([&] { run.wb.windows.show(run.wb.frmEDID()); });
-            run.statement([&] { run.wb.focus.moveTo(run.wb.frmEDID().txtEdit(0)); });
+        run.statement([&] { run.workbench.windows.hide(run.screen); });
+        run.workbench.CEAScreenOpen = flagFalse;
+        if (run.workbench.EDIDLoaded != flagFalse) {
+            run.statement([&] { run.workbench.windows.show(run.workbench.frmEDID()); });
+            run.statement([&] { run.workbench.focus.moveTo(run.workbench.frmEDID().txtEdit(0)); });
         }
     });
 }

@@ -45,7 +45,7 @@ bool isCompressed(FrmCeaExt& screen) {
 void decodeChannels(const Procedure& run, int cellIndex, std::string& channels) {
     const std::string digits = channelDigits(run.readText(cellIndex));
     if (digits.size() == 3) {
-        const int row = binaryNumber(run.wb, digits);
+        const int row = binaryNumber(run.workbench, digits);
         run.screen.AudChCBox.setValue(row);
         channels = "Audio Channels: " + std::to_string(row + 1);
     }
@@ -55,7 +55,7 @@ void decodeChannels(const Procedure& run, int cellIndex, std::string& channels) 
 void decodeFormatName(const Procedure& run, int cellIndex, std::string& name) {
     run.screen.AudFormCode.deselect();
     const std::string digits = formatDigits(run.readText(cellIndex));
-    const int code = binaryNumber(run.wb, digits);
+    const int code = binaryNumber(run.workbench, digits);
     if (digits.size() == 4 && code < static_cast<int>(formatNames.size())) {
         run.screen.AudFormCode(code).setValue(flagTrue);
         name = formatNames[static_cast<std::size_t>(code)];
@@ -75,12 +75,12 @@ std::string decodeRate(const Procedure& run, int cellIndex) {
 
 void decodeSampleSizes(const Procedure& run) {
     run.screen.bitrate.deselect();
-    const int value = run.readByte(firstAudioCell(run.wb, 3));
+    const int value = run.readByte(firstAudioCell(run.workbench, 3));
     for (int i = 0; i < static_cast<int>(sampleSizes.size()); ++i) {
         const ListedFlag& size = sampleSizes[static_cast<std::size_t>(i)];
         if ((value & size.bit) != 0) {
             run.screen.bitrate(i).setValue(1);
-            run.wb.BitRateText += size.listed;
+            run.workbench.BitRateText += size.listed;
         }
     }
 }
@@ -105,73 +105,77 @@ int lastAudioCell(const Workbench& workbench, int byte) {
 
 void LocateAudioDescriptors(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        run.wb.AudioDescriptorCount = int16From(run.wb.AudioBlockLength / 3);
+        run.workbench.AudioDescriptorCount = int16From(run.workbench.AudioBlockLength / 3);
         constexpr int lastWalked = 12;
-        for (int n = 2; n <= run.wb.AudioDescriptorCount && n <= lastWalked; ++n) {
-            run.wb.LastAudioDescriptor =
-                int16From(n == 2 ? location(run.wb.AudioBlockStart, 4) : location(run.wb.LastAudioDescriptor, 3));
+        for (int n = 2; n <= run.workbench.AudioDescriptorCount && n <= lastWalked; ++n) {
+            run.workbench.LastAudioDescriptor = int16From(n == 2 ? location(run.workbench.AudioBlockStart, 4)
+                                                                 : location(run.workbench.LastAudioDescriptor, 3));
             run.screen.CurrentBlockNumber = int16From(n - 1);
-            ConvertCompressAudio(run.wb);
+            ConvertCompressAudio(run.workbench);
         }
     });
 }
 
 void ConvertCompressAudio(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const bool linear = formatDigits(run.readText(lastAudioCell(run.wb, 1))) == linearFormat;
-        run.wb.LastAudioKindText = linear ? "Uncompressed" : "Compressed";
+        const bool linear = formatDigits(run.readText(lastAudioCell(run.workbench, 1))) == linearFormat;
+        run.workbench.LastAudioKindText = linear ? "Uncompressed" : "Compressed";
     });
 }
 
 void BuildAudioChannels(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const int cellIndex = firstAudioCell(run.wb, 1);
-        decodeChannels(run, cellIndex, run.wb.AudioChannelsText);
+        const int cellIndex = firstAudioCell(run.workbench, 1);
+        decodeChannels(run, cellIndex, run.workbench.AudioChannelsText);
         const bool compressed = isCompressed(run.screen);
         run.screen.FrmAudFormCode.setVisible(compressed);
         captionChannels(run.screen, compressed ? "Compressed Audio Codes(" : "Uncompressed Audio (", cellIndex);
         if (compressed) {
-            BuildAudioFormatName(run.wb);
+            BuildAudioFormatName(run.workbench);
         } else {
-            run.wb.AudioFormatText = "Linear PCM (IEC60958)";
+            run.workbench.AudioFormatText = "Linear PCM (IEC60958)";
         }
     });
 }
 
 void BuildLastAudioChannels(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        decodeChannels(run, lastAudioCell(run.wb, 1), run.wb.LastAudioChannelsText);
-        BuildLastAudioFormatName(run.wb);
+        decodeChannels(run, lastAudioCell(run.workbench, 1), run.workbench.LastAudioChannelsText);
+        BuildLastAudioFormatName(run.workbench);
     });
 }
 
 void BuildAudioFormatName(Workbench& workbench) {
-    decoder(workbench,
-            [](const Procedure& run) { decodeFormatName(run, firstAudioCell(run.wb, 1), run.wb.AudioFormatText); });
+    decoder(workbench, [](const Procedure& run) {
+        decodeFormatName(run, firstAudioCell(run.workbench, 1), run.workbench.AudioFormatText);
+    });
 }
 
 void BuildLastAudioFormatName(Workbench& workbench) {
-    decoder(workbench,
-            [](const Procedure& run) { decodeFormatName(run, lastAudioCell(run.wb, 1), run.wb.LastAudioFormatText); });
+    decoder(workbench, [](const Procedure& run) {
+        decodeFormatName(run, lastAudioCell(run.workbench, 1), run.workbench.LastAudioFormatText);
+    });
 }
 
 void BuildSampFreq(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        decodeFlags(run, firstAudioCell(run.wb, 2), frequencies, run.screen.SampFreq, run.wb.SampFreqText);
+        decodeFlags(run, firstAudioCell(run.workbench, 2), frequencies, run.screen.SampFreq,
+                    run.workbench.SampFreqText);
     });
 }
 
 void BuildLastSampFreq(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        decodeFlags(run, lastAudioCell(run.wb, 2), frequencies, run.screen.SampFreq, run.wb.LastSampFreqText);
+        decodeFlags(run, lastAudioCell(run.workbench, 2), frequencies, run.screen.SampFreq,
+                    run.workbench.LastSampFreqText);
     });
 }
 
 void BuildBitRate(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        run.wb.BitRateText.clear();
+        run.workbench.BitRateText.clear();
         if (isCompressed(run.screen)) {
-            BuildCompressedBitRate(run.wb);
+            BuildCompressedBitRate(run.workbench);
         } else {
             decodeSampleSizes(run);
         }
@@ -180,15 +184,15 @@ void BuildBitRate(Workbench& workbench) {
 
 void BuildCompressedBitRate(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const std::string rate = decodeRate(run, firstAudioCell(run.wb, 3));
-        run.wb.BitRateText += "Sampling bit rate: " + rate + " bit";
+        const std::string rate = decodeRate(run, firstAudioCell(run.workbench, 3));
+        run.workbench.BitRateText += "Sampling bit rate: " + rate + " bit";
     });
 }
 
 void BuildLastBitRate(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const std::string rate = decodeRate(run, lastAudioCell(run.wb, 3));
-        run.wb.LastBitRateText = "Maximum Sampling bit rate: " + rate + " kbps";
+        const std::string rate = decodeRate(run, lastAudioCell(run.workbench, 3));
+        run.workbench.LastBitRateText = "Maximum Sampling bit rate: " + rate + " kbps";
     });
 }
 

@@ -31,16 +31,16 @@ std::string lineOf(int code, const std::string& native) {
 }
 
 void decodeDescriptor(const Procedure& run, int i) {
-    const std::string digits = HexToBinaryText(run.text(location(run.wb.VideoBlockStart, i)));
-    const std::string shownDigits = HexToBinaryText(run.text(run.wb.ShortVideoCell));
-    const int code = codeOf(run.wb, digits);
-    const int shownCode = codeOf(run.wb, shownDigits);
+    const std::string digits = HexToBinaryText(run.text(location(run.workbench.VideoBlockStart, i)));
+    const std::string shownDigits = HexToBinaryText(run.text(run.workbench.ShortVideoCell));
+    const int code = codeOf(run.workbench, digits);
+    const int shownCode = codeOf(run.workbench, shownDigits);
     run.screen.NativeChkBox.setValue(isNative(digits) ? 1 : 0);
-    run.wb.ShortVideoNativeText(i) = isNative(digits) ? "Native" : "";
+    run.workbench.ShortVideoNativeText(i) = isNative(digits) ? "Native" : "";
     run.screen.NativeChkBox.setValue(isNative(shownDigits) ? 1 : 0);
     if (code < formatCount) {
         run.screen.VideoBlkCBox.setValue(code);
-        run.wb.ShortVideoText(i) = lineOf(code, run.wb.ShortVideoNativeText(i));
+        run.workbench.ShortVideoText(i) = lineOf(code, run.workbench.ShortVideoNativeText(i));
     }
     if (shownCode < formatCount) {
         run.screen.VideoBlkCBox.setValue(shownCode);
@@ -49,7 +49,7 @@ void decodeDescriptor(const Procedure& run, int i) {
 
 /// Puts one of the two fields of the descriptor in focus in front of or behind the kept other one.
 void writeDescriptor(const Procedure& run, const std::string& digits) {
-    run.write(run.wb.ShortVideoCell, ByteToHex2(binaryNumber(run.wb, digits)));
+    run.write(run.workbench.ShortVideoCell, ByteToHex2(binaryNumber(run.workbench, digits)));
 }
 
 } // namespace
@@ -65,9 +65,9 @@ void fillVideoFormats(FrmCeaExt& screen) {
 
 void BuildShortVideo(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const int count = run.wb.VideoBlockLength;
-        run.wb.ShortVideoText.create(count + 1);
-        run.wb.ShortVideoNativeText.create(count + 1);
+        const int count = run.workbench.VideoBlockLength;
+        run.workbench.ShortVideoText.create(count + 1);
+        run.workbench.ShortVideoNativeText.create(count + 1);
         for (int i = 1; i <= count; ++i) {
             run.statement([&] { decodeDescriptor(run, i); });
         }
@@ -79,14 +79,14 @@ void VideoBlkCBox_Click(Workbench& workbench, int /*index*/) {
         const Control& list = run.screen.VideoBlkCBox;
         // The list is searched one row past its end, which reads as empty.
         const int row = list.text().empty() ? formatCount : shownRow(list);
-        const std::string native = leftPart(HexToBinaryText(run.readText(run.wb.ShortVideoCell)), 1);
+        const std::string native = leftPart(HexToBinaryText(run.readText(run.workbench.ShortVideoCell)), 1);
         writeDescriptor(run, native + (row < 0 ? "" : binaryDigits(row, codeDigits)));
     });
 }
 
 void NativeChkBox_Click(Workbench& workbench, int /*index*/) {
     panelHandler(workbench, [](const Procedure& run) {
-        const std::string code = rightPart(HexToBinaryText(run.readText(run.wb.ShortVideoCell)), codeDigits);
+        const std::string code = rightPart(HexToBinaryText(run.readText(run.workbench.ShortVideoCell)), codeDigits);
         writeDescriptor(run, (run.screen.NativeChkBox.selected() ? "1" : "0") + code);
     });
 }

@@ -19,18 +19,18 @@ int positionsCell(const Workbench& workbench) {
 
 void BuildSpeaker(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        decodeFlags(run, positionsCell(run.wb), positions, run.screen.speaker, run.wb.SpeakerText);
+        decodeFlags(run, positionsCell(run.workbench), positions, run.screen.speaker, run.workbench.SpeakerText);
     });
 }
 
 void speaker_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const int cell = positionsCell(run.wb);
+        const int cell = positionsCell(run.workbench);
         const int bit = positions[static_cast<std::size_t>(index)].bit;
         constexpr int withoutReserved = 127;
         const int byte = withFlag(run.readByte(cell), withoutReserved & ~bit, bit, run.screen.speaker(index));
         run.write(cell, ByteToHex2(byte));
-        BuildSpeaker(run.wb);
+        BuildSpeaker(run.workbench);
     });
 }
 

@@ -96,39 +96,40 @@ std::string decodeTag(const Procedure& run, int header) {
 void decodeHeader(Workbench& workbench, const Block& block, std::string_view ending,
                   void (*further)(const Procedure&) = nullptr) {
     decoder(workbench, [&](const Procedure& run) {
-        const int header = run.wb.*block.start;
+        const int header = run.workbench.*block.start;
         run.screen.optButTag.deselect();
         const std::string name = decodeTag(run, header);
-        const int length = dataLength(run.wb, run.readText(header));
+        const int length = dataLength(run.workbench, run.readText(header));
         run.screen.TagCBox.setValue(length);
-        run.wb.*block.length = int16From(length);
+        run.workbench.*block.length = int16From(length);
         run.colour(location(header, 1), location(header, length), CellColour::Group);
         if (further != nullptr) {
             further(run);
         }
-        run.wb.*block.text = name + ", " + PadRight("Number of Data Byte to Follow: " + std::to_string(length), 34);
-        run.wb.*block.text += ending;
+        run.workbench.*block.text =
+            name + ", " + PadRight("Number of Data Byte to Follow: " + std::to_string(length), 34);
+        run.workbench.*block.text += ending;
     });
 }
 
 void decodeAudioKind(const Procedure& run) {
     run.screen.AudioFormat.deselect();
-    const bool linear = formatDigits(run.readText(firstAudioCell(run.wb, 1))) == linearFormat;
+    const bool linear = formatDigits(run.readText(firstAudioCell(run.workbench, 1))) == linearFormat;
     run.screen.AudioFormat(linear ? 0 : 1).setValue(flagTrue);
-    run.wb.AudioKindText = linear ? "Uncompressed" : "Compressed";
+    run.workbench.AudioKindText = linear ? "Uncompressed" : "Compressed";
 }
 
 /// The dispatch that this causes decodes the header as it still stands.
 void focusOnHeader(const Procedure& run, const Block& block) {
-    run.statement([&] { run.wb.focus.moveTo(run.cell(run.wb.*block.start)); });
+    run.statement([&] { run.workbench.focus.moveTo(run.cell(run.workbench.*block.start)); });
 }
 
 void followUp(const Procedure& run, const Block& block, int row) {
-    const int start = run.wb.*block.start;
-    const int last = block.colouredByRow ? row : run.wb.*block.length;
+    const int start = run.workbench.*block.start;
+    const int last = block.colouredByRow ? row : run.workbench.*block.length;
     run.colour(location(start, block.colouredFrom), location(start, last), CellColour::Group);
-    if (block.next != nullptr && run.wb.*block.next == 0) {
-        run.wb.*block.next = int16From((block.nextFromStart ? start + 1 : 4) + row);
+    if (block.next != nullptr && run.workbench.*block.next == 0) {
+        run.workbench.*block.next = int16From((block.nextFromStart ? start + 1 : 4) + row);
     }
 }
 
@@ -152,7 +153,7 @@ void BuildVendorTag(Workbench& workbench) {
 
 void optButTag_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const Block* block = shownBlock(run.wb);
+        const Block* block = shownBlock(run.workbench);
         if (block == nullptr) {
             return;
         }
@@ -160,26 +161,27 @@ void optButTag_Click(Workbench& workbench, int index) {
             run.screen.Hints(16).setVisible(false);
         }
         focusOnHeader(run, *block);
-        const int header = run.wb.*block->start;
+        const int header = run.workbench.*block->start;
         const std::string kept = rightPart(HexToBinaryText(run.readText(header)), 5);
         const std::string digits = std::string(tagNames[static_cast<std::size_t>(index)].digits) + kept;
-        run.write(header, ByteToHex2(binaryNumber(run.wb, digits)));
+        run.write(header, ByteToHex2(binaryNumber(run.workbench, digits)));
     });
 }
 
 void TagCBox_Click(Workbench& workbench, int /*index*/) {
     panelHandler(workbench, [](const Procedure& run) {
-        const Block* block = shownBlock(run.wb);
+        const Block* block = shownBlock(run.workbench);
         if (block == nullptr) {
             return;
         }
         // The dispatch of the header puts the old length back into the list.
         const int row = shownRow(run.screen.TagCBox);
         focusOnHeader(run, *block);
-        const int header = run.wb.*block->start;
+        const int header = run.workbench.*block->start;
         const std::string digits = tagDigits(run.readText(header)) + (row < 0 ? "" : binaryDigits(row, 5));
         constexpr int videoHeader = 4; // wherever the video block starts
-        run.write(block == &videoBlock ? videoHeader : header, hexadecimal16(int16From(binaryNumber(run.wb, digits))));
+        run.write(block == &videoBlock ? videoHeader : header,
+                  hexadecimal16(int16From(binaryNumber(run.workbench, digits))));
         followUp(run, *block, row < 0 ? 0 : row);
     });
 }

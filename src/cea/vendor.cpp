@@ -32,26 +32,26 @@ std::string takeEntered(Control& box) {
 
 void BuildVendorID(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const int third = vendorCell(run.wb, 3);
+        const int third = vendorCell(run.workbench, 3);
         const std::string identifier =
             run.statement.read([&] { return run.text(third) + run.text(third - 1) + run.text(third - 2); });
         run.screen.txtBoxVendorID.setText(identifier);
-        run.wb.VendorIDText = "Vendor IEEE Registration ID: " + identifier + " Hexadecimal";
+        run.workbench.VendorIDText = "Vendor IEEE Registration ID: " + identifier + " Hexadecimal";
     });
 }
 
 void BuildVendorData(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const int first = vendorCell(run.wb, 4);
+        const int first = vendorCell(run.workbench, 4);
         const std::string data = run.statement.read([&] { return run.text(first) + run.text(first + 1); });
         run.screen.txtBoxVendorData.setText(data);
-        run.wb.VendorDataText = "Vendor Specific Data: " + PadRight(data, 3) + " Hexadecimal";
+        run.workbench.VendorDataText = "Vendor Specific Data: " + PadRight(data, 3) + " Hexadecimal";
     });
 }
 
 void BuildVSDBExt(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        decodeFlags(run, vendorCell(run.wb, 6), extensionFlags, run.screen.VSDBExt, run.wb.VSDBExtText);
+        decodeFlags(run, vendorCell(run.workbench, 6), extensionFlags, run.screen.VSDBExt, run.workbench.VSDBExtText);
     });
 }
 
@@ -61,10 +61,10 @@ void txtBoxVendorID_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
             return;
         }
         const std::string entered = takeEntered(run.screen.txtBoxVendorID);
-        run.write(vendorCell(run.wb, 1), rightPart(entered, 2));
-        run.write(vendorCell(run.wb, 2), rightPart(leftPart(entered, 4), 2));
-        run.write(vendorCell(run.wb, 3), leftPart(entered, 2));
-        BuildVendorID(run.wb);
+        run.write(vendorCell(run.workbench, 1), rightPart(entered, 2));
+        run.write(vendorCell(run.workbench, 2), rightPart(leftPart(entered, 4), 2));
+        run.write(vendorCell(run.workbench, 3), leftPart(entered, 2));
+        BuildVendorID(run.workbench);
     });
 }
 
@@ -74,9 +74,9 @@ void txtBoxVendorData_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
             return;
         }
         const std::string entered = takeEntered(run.screen.txtBoxVendorData);
-        run.write(vendorCell(run.wb, 4), leftPart(entered, 2));
-        run.write(vendorCell(run.wb, 5), rightPart(entered, 2));
-        BuildVendorData(run.wb);
+        run.write(vendorCell(run.workbench, 4), leftPart(entered, 2));
+        run.write(vendorCell(run.workbench, 5), rightPart(entered, 2));
+        BuildVendorData(run.workbench);
     });
 }
 
@@ -90,11 +90,11 @@ void txtBoxVendorData_GotFocus(Workbench& workbench, int /*index*/) {
 
 void VSDBExt_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const int cell = vendorCell(run.wb, 6);
+        const int cell = vendorCell(run.workbench, 6);
         const int bit = extensionFlags[static_cast<std::size_t>(index)].bit;
         const int byte = withFlag(run.readByte(cell), 255 & ~bit, bit, run.screen.VSDBExt(index));
         run.write(cell, ByteToHex2(byte));
-        BuildVSDBExt(run.wb);
+        BuildVSDBExt(run.workbench);
     });
 }
 

@@ -132,53 +132,54 @@ void putAudioDescriptor(TextArray& lines, int entry, int cell, const std::string
     lines(entry + 2) = line(place(cell + 2) + pad(7) + rate);
 }
 
-void putAudio(const Workbench& wb, TextArray& lines, int entry) {
-    lines(entry) = place(wb.AudioBlockStart) + wb.AudioTagText;
-    putAudioDescriptor(lines, entry + 1, wb.AudioBlockStart + 1,
-                       wb.AudioKindText + ", " + wb.AudioChannelsText + ", " + wb.AudioFormatText, wb.SampFreqText,
-                       wb.BitRateText);
-    if (wb.AudioBlockLength >= 6 && wb.AudioDescriptorCount >= 2) {
-        putAudioDescriptor(lines, entry + 4, wb.LastAudioDescriptor,
-                           wb.LastAudioKindText + ", " + wb.LastAudioChannelsText + ", " + wb.LastAudioFormatText,
-                           wb.LastSampFreqText, wb.LastBitRateText);
+void putAudio(const Workbench& workbench, TextArray& lines, int entry) {
+    lines(entry) = place(workbench.AudioBlockStart) + workbench.AudioTagText;
+    putAudioDescriptor(lines, entry + 1, workbench.AudioBlockStart + 1,
+                       workbench.AudioKindText + ", " + workbench.AudioChannelsText + ", " + workbench.AudioFormatText,
+                       workbench.SampFreqText, workbench.BitRateText);
+    if (workbench.AudioBlockLength >= 6 && workbench.AudioDescriptorCount >= 2) {
+        putAudioDescriptor(
+            lines, entry + 4, workbench.LastAudioDescriptor,
+            workbench.LastAudioKindText + ", " + workbench.LastAudioChannelsText + ", " + workbench.LastAudioFormatText,
+            workbench.LastSampFreqText, workbench.LastBitRateText);
     }
 }
 
-void putSpeakers(const Workbench& wb, TextArray& lines, int entry) {
-    const int start = wb.SpeakerBlockStart;
-    lines(entry) = place(start) + wb.SpeakerTagText;
-    lines(entry + 1) = line(places(start + 1, start + wb.SpeakerBlockLength) + pad(4) + wb.SpeakerText);
+void putSpeakers(const Workbench& workbench, TextArray& lines, int entry) {
+    const int start = workbench.SpeakerBlockStart;
+    lines(entry) = place(start) + workbench.SpeakerTagText;
+    lines(entry + 1) = line(places(start + 1, start + workbench.SpeakerBlockLength) + pad(4) + workbench.SpeakerText);
 }
 
 /// `end` is the last cell of the vendor data.
-void putVendorLines(const Workbench& wb, TextArray& lines, int entry, int end) {
-    const int start = wb.VendorBlockStart;
-    lines(entry) = place(start) + wb.VendorTagText;
-    lines(entry + 1) = line(places(start + 1, start + 3) + pad(4) + wb.VendorIDText);
-    lines(entry + 2) = line(places(start + 4, end) + pad(4) + wb.VendorDataText);
+void putVendorLines(const Workbench& workbench, TextArray& lines, int entry, int end) {
+    const int start = workbench.VendorBlockStart;
+    lines(entry) = place(start) + workbench.VendorTagText;
+    lines(entry + 1) = line(places(start + 1, start + 3) + pad(4) + workbench.VendorIDText);
+    lines(entry + 2) = line(places(start + 4, end) + pad(4) + workbench.VendorDataText);
 }
 
 /// A short vendor block stands where audio and speaker lines may be, and wins.
-void putVendor(const Workbench& wb, TextArray& lines, int videoLines) {
-    const int start = wb.VendorBlockStart;
-    if (wb.VendorBlockLength >= 6) {
-        putVendorLines(wb, lines, videoLines + 76, start + 5);
-        lines(videoLines + 79) = line(place(start + 6) + pad(7) + "VSDB Extension: " + wb.VSDBExtText);
+void putVendor(const Workbench& workbench, TextArray& lines, int videoLines) {
+    const int start = workbench.VendorBlockStart;
+    if (workbench.VendorBlockLength >= 6) {
+        putVendorLines(workbench, lines, videoLines + 76, start + 5);
+        lines(videoLines + 79) = line(place(start + 6) + pad(7) + "VSDB Extension: " + workbench.VSDBExtText);
     } else {
-        putVendorLines(wb, lines, videoLines + 73, start + wb.VendorBlockLength);
+        putVendorLines(workbench, lines, videoLines + 73, start + workbench.VendorBlockLength);
     }
 }
 
-void putDataBlocks(const Workbench& wb, TextArray& lines) {
-    const int videoLines = wb.VideoBlockLength;
-    if (wb.AudioBlockStart != 0) {
-        putAudio(wb, lines, videoLines + 67);
+void putDataBlocks(const Workbench& workbench, TextArray& lines) {
+    const int videoLines = workbench.VideoBlockLength;
+    if (workbench.AudioBlockStart != 0) {
+        putAudio(workbench, lines, videoLines + 67);
     }
-    if (wb.SpeakerBlockStart != 0) {
-        putSpeakers(wb, lines, videoLines + (wb.AudioBlockLength >= 6 ? 74 : 71));
+    if (workbench.SpeakerBlockStart != 0) {
+        putSpeakers(workbench, lines, videoLines + (workbench.AudioBlockLength >= 6 ? 74 : 71));
     }
-    if (wb.VendorBlockStart != 0) {
-        putVendor(wb, lines, videoLines);
+    if (workbench.VendorBlockStart != 0) {
+        putVendor(workbench, lines, videoLines);
     }
 }
 
@@ -187,11 +188,11 @@ void moveOn(std::int16_t& entry) {
 }
 
 /// The running entry is a cell number of the block, and stays moved on.
-void putTimings(Workbench& wb, TextArray& lines) {
-    std::int16_t& entry = wb.ExtDtdStart;
+void putTimings(Workbench& workbench, TextArray& lines) {
+    std::int16_t& entry = workbench.ExtDtdStart;
     moveOn(entry);
-    for (int i = 0; i <= wb.ExtDtdSlotCount; ++i) {
-        const std::string& text = wb.ExtDetailedBlockText(i);
+    for (int i = 0; i <= workbench.ExtDtdSlotCount; ++i) {
+        const std::string& text = workbench.ExtDetailedBlockText(i);
         if (text.empty()) {
             continue;
         }
@@ -199,7 +200,7 @@ void putTimings(Workbench& wb, TextArray& lines) {
         moveOn(entry);
         lines(entry) = line();
         moveOn(entry);
-        const int base = timingOffset(wb) + i * detailedBlockSize;
+        const int base = timingOffset(workbench) + i * detailedBlockSize;
         lines(entry) = line(places(base, base + detailedBlockSize - 1) + " Detailed Timing / Descriptor Block " +
                             std::to_string(i + 1) + ":") +
                        line(text);
@@ -209,11 +210,12 @@ void putTimings(Workbench& wb, TextArray& lines) {
 }
 
 /// The check sum line is that of block 0.
-void putEnd(const Workbench& wb, TextArray& lines) {
-    const int entry = wb.ExtDtdStart;
+void putEnd(const Workbench& workbench, TextArray& lines) {
+    const int entry = workbench.ExtDtdStart;
     lines(entry) = line();
-    lines(entry + 1) = line(places(timingOffset(wb) + wb.ExtDtdSlotCount * detailedBlockSize, 126) + " No Data:");
-    lines(entry + 2) = placeTag("(127)") + "  " + wb.Block0ChecksumText;
+    lines(entry + 1) =
+        line(places(timingOffset(workbench) + workbench.ExtDtdSlotCount * detailedBlockSize, 126) + " No Data:");
+    lines(entry + 2) = placeTag("(127)") + "  " + workbench.Block0ChecksumText;
     lines(entry + 3) = endOfReport;
 }
 
