@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/statements.h"
 #include "core/workbench.h"
 
 /// The grid of cells that both block screens have: the gate, the colours, and the common ends of a focus dispatch.

@@ -6,6 +6,7 @@
 #include "block0/grid.h"
 #include "core/cells.h"
 #include "core/numbers.h"
+#include "core/statements.h"
 #include "core/text.h"
 #include "core/workbench.h"
 

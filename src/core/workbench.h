@@ -47,6 +47,7 @@ struct Workbench : SharedVariables {
     FrmEdidReg& frmEDIDREG() { return touchAs<FrmEdidReg>(ScreenId::EdidReg); }
     FrmAbout& frmAbout() { return touchAs<FrmAbout>(ScreenId::About); }
 
+    /// The same by number.
     Screen& touch(ScreenId id);
     /// A new screen of that kind that is no part of the program: without handlers, and its load step has not run.
     std::unique_ptr<Screen> makeScreen(ScreenId id);
@@ -81,8 +82,8 @@ struct Workbench : SharedVariables {
     const platform::Services& platform;
     Focus focus;
     Windows windows;
-    View* view = nullptr;
-    bool ended = false; ///< the program has ended; nothing is in the user's reach any more
+    View* view = nullptr; ///< who draws the screens; null where nobody does
+    bool ended = false;   ///< the program has ended; nothing is in the user's reach any more
 
 private:
     class ActionDepth {
@@ -142,36 +143,5 @@ void silently(Body&& body) {
         return;
     }
 }
-
-/// How a procedure goes on after one of its statements has failed: the two block screens share code and differ in this.
-class Statements {
-public:
-    enum class OnFailure { LeaveProcedure, NextStatement };
-
-    Statements(Workbench& workbench, OnFailure onFailure) : workbench_(&workbench), onFailure_(onFailure) {}
-
-    /// Runs one statement. With NextStatement a failure is shown and the procedure goes on; otherwise it passes to the
-    /// trap.
-    template <class Statement>
-    void operator()(Statement&& statement) const {
-        if (onFailure_ == OnFailure::LeaveProcedure) {
-            std::forward<Statement>(statement)();
-        } else {
-            trapped(*workbench_, std::forward<Statement>(statement));
-        }
-    }
-    /// A statement that reads a value: a local value that could not be read counts as 0 or empty.
-    template <class Statement>
-    auto read(Statement&& statement) const -> decltype(statement()) {
-        if (onFailure_ == OnFailure::LeaveProcedure) {
-            return std::forward<Statement>(statement)();
-        }
-        return trappedOr<decltype(statement())>(*workbench_, {}, std::forward<Statement>(statement));
-    }
-
-private:
-    Workbench* workbench_;
-    OnFailure onFailure_;
-};
 
 } // namespace wb

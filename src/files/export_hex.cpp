@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "core/edid_image.h"
+#include "core/statements.h"
 #include "files/common_dialog.h"
 #include "files/save.h"
 #include "files/text_file.h"

@@ -1,6 +1,7 @@
+#include "report/color_point.h"
+
 #include "report/basic_display.h"
 #include "report/chromaticity.h"
-#include "report/descriptor_block.h"
 
 namespace wb::report {
 

@@ -18,11 +18,16 @@ struct DescriptorBlock {
           base(screen.CurrentBlockBase),
           number(screen.CurrentBlockNumber) {}
 
+    /// The cell at `offset` from the first of the block, 0 to 17, and its value. A cell outside the grid is a
+    /// ControlElementMissing failure.
     Control& cell(int offset) const { return screen.txtEdit(base + offset); }
     int cellValue(int offset) const { return byteAt(screen, base + offset); }
 
+    /// The report text of the block.
     std::string& text() const { return workbench.DetailedBlockText(number); }
+    /// Adds a line to it, `indent` blanks before the words.
     void report(std::string_view words, int indent = reportIndent) const { text() += line(IndentText(words, indent)); }
+    /// The same words as a caption and as a line.
     void showAndReport(Control& control, const std::string& words, int indent = reportIndent) const {
         control.setCaption(words);
         report(words, indent);
@@ -33,12 +38,5 @@ struct DescriptorBlock {
     const int base;
     const int number;
 };
-
-/// The payload of a range limits descriptor: DTAFrame(0), and of its secondary timing formula frmS_GTF(0).
-void convertRangeLimits(const DescriptorBlock& block);
-
-/// The payload of a colour point descriptor: DTAFrame(1). Gives the focus to DTaInput, which is a failure while its
-/// panel is hidden.
-void convertColorPoint(const DescriptorBlock& block);
 
 } // namespace wb::report

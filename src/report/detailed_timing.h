@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/statements.h"
 #include "core/workbench.h"
 
 /// Detailed timings: 18 bytes of clock, sizes, sync and flags (VESA E-EDID Standard, detailed timing descriptor). One

@@ -4,7 +4,9 @@
 #include <array>
 
 #include "core/edid_image.h"
+#include "report/color_point.h"
 #include "report/descriptor_block.h"
+#include "report/range_limits.h"
 #include "report/standard_timings.h"
 
 namespace wb::report {

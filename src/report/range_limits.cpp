@@ -1,6 +1,6 @@
-#include <array>
+#include "report/range_limits.h"
 
-#include "report/descriptor_block.h"
+#include <array>
 
 namespace wb::report {
 
