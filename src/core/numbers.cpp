@@ -29,14 +29,17 @@ Integer checkedRound(double value) {
     return static_cast<Integer>(whole);
 }
 
-/// Integer part, decimals and sign of a finite double, rounded half away from zero at `decimals` on the double's exact
-/// value.
+/// Integer part and decimals of a number that is not negative, rounded half away from zero at `decimals` on the
+/// double's exact value.
 std::string roundedDecimals(double magnitude, int decimals) {
     // A double of the sizes met here that is no exact half differs from one within this many further digits.
     constexpr int guardDigits = 60;
-    std::array<char, 512> buffer{};
+    std::array<char, 512> buffer{}; // room for 451 digits, the point and the guard
     const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, std::chars_format::fixed,
                                       decimals + guardDigits);
+    if (!std::isfinite(magnitude) || result.ec != std::errc()) {
+        throw Failure(FailureKind::Overflow);
+    }
     std::string digits(buffer.data(), result.ptr);
     const auto point = digits.find('.');
     const bool up = digits[point + 1 + static_cast<std::size_t>(decimals)] >= '5';
@@ -118,6 +121,9 @@ std::string formatNumber(std::string_view text, std::string_view pattern) {
 }
 
 std::string plainDecimal(double value) {
+    if (!std::isfinite(value)) {
+        throw Failure(FailureKind::Overflow);
+    }
     std::array<char, 64> buffer{};
     const auto scientific = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
                                           std::chars_format::scientific, 14);

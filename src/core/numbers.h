@@ -30,12 +30,14 @@ double leadingNumber(std::string_view text);
 
 /// The number in a pattern of '#', '0' and at most one '.': each '0' before the point is a digit that always stands,
 /// the characters behind the point are the decimals. Rounds halves away from zero on the exact value of the double.
-/// What rounds to zero has no sign.
+/// What rounds to zero has no sign. A number that is not finite is an Overflow, and so is a result of more than 451
+/// digits.
 std::string formatNumber(double value, std::string_view pattern);
 /// The pattern applied to a text: the text must be a number (Type mismatch otherwise).
 std::string formatNumber(std::string_view text, std::string_view pattern);
 
-/// A number as plain decimal text: up to 15 significant digits, no exponent, no trailing zeros.
+/// A number as plain decimal text: up to 15 significant digits, no exponent, no trailing zeros. A number that is not
+/// finite is an Overflow.
 std::string plainDecimal(double value);
 
 /// Upper-case hexadecimal without leading zeros; negative numbers in two's complement (four digits for 16, eight for 32

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 
 #include "core/failure.h"
 
@@ -124,6 +125,17 @@ TEST(Numbers, PlainDecimalHasNoExponent) {
     EXPECT_EQ(plainDecimal(999999999999999.0), "999999999999999");
     EXPECT_EQ(plainDecimal(9999999999999995.0), "10000000000000000") << "15 digits, and a carry into a new one";
     EXPECT_EQ(plainDecimal(12345678901234567.0), "12345678901234600");
+}
+
+TEST(Numbers, WhatHasNoDigitsOrTooManyIsAnOverflow) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const double value : {infinity, -infinity, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_EQ(failureOf([&] { formatNumber(value, "0.00"); }), FailureKind::Overflow) << value;
+        EXPECT_EQ(failureOf([&] { plainDecimal(value); }), FailureKind::Overflow) << value;
+    }
+    EXPECT_EQ(formatNumber(1, "0." + std::string(450, '0')), "1." + std::string(450, '0'));
+    EXPECT_EQ(failureOf([] { formatNumber(1, "0." + std::string(451, '0')); }), FailureKind::Overflow);
+    EXPECT_EQ(formatNumber(std::numeric_limits<double>::max(), "0").size(), 309U);
 }
 
 TEST(Numbers, HexadecimalOfNegativeNumbers) {
