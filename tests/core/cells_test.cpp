@@ -114,6 +114,33 @@ TEST_F(Checksum, AnUnreadableCellEndsTheRecalculation) {
     EXPECT_EQ(program.cell(127), "77");
 }
 
+TEST(Image, DetailedBlocksFollowOneAnother) {
+    EXPECT_EQ(detailedBlockBase(0), 54);
+    EXPECT_EQ(detailedBlockBase(3), 108);
+}
+
+TEST(Image, ADescriptorIsMarkedByTheTextsOfThreeCells) {
+    test::Program program;
+    FrmEdid& screen = program.workbench.frmEDID();
+    program.setCells(54, {"00", "00", "00", "FF"});
+    EXPECT_TRUE(hasDescriptorMark(screen, 54));
+    program.setCells(54, {"0", "000", "00"});
+    EXPECT_TRUE(hasDescriptorMark(screen, 54)) << "the texts are joined";
+    program.setCells(54, {"00", "00", "0"});
+    EXPECT_FALSE(hasDescriptorMark(screen, 54));
+    EXPECT_THROW(hasDescriptorMark(screen, 126), Failure) << "past the grid";
+}
+
+TEST(Image, TheTimingOffsetIsANumberOfSixteenBits) {
+    SharedVariables variables;
+    variables.ExtDtdOffsetText = "29";
+    EXPECT_EQ(timingOffset(variables), 29);
+    for (const char* text : {"", "1D", "32768"}) {
+        variables.ExtDtdOffsetText = text;
+        EXPECT_THROW(timingOffset(variables), Failure) << text;
+    }
+}
+
 TEST(Image, ExtensionByDecimalTextReadsHexadecimalAsDecimal) {
     test::Program program;
     for (const auto& [text, extension] :

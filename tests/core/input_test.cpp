@@ -283,6 +283,21 @@ TEST_F(InputTest, ACheckRaisesClickWheneverItsValueChanges) {
     EXPECT_EQ(screen().Sync(0).value(), 1);
 }
 
+TEST_F(InputTest, DeselectingAnArrayRaisesTheClicksOfItsChecksInTheirOrder) {
+    for (const int i : {4, 3, 1}) {
+        screen().Sync(i).changeValue(1);
+    }
+    screen().Sync.deselect(3);
+    EXPECT_EQ(events_, (Events{"sync 1", "sync 3"}));
+    EXPECT_EQ(screen().Sync.firstSelected(), 4);
+    screen().Sync.deselect();
+    EXPECT_EQ(events_, (Events{"sync 1", "sync 3", "sync 4"}));
+    screen().Signal(2).changeValue(-1);
+    screen().Signal.deselect();
+    EXPECT_EQ(screen().Signal.firstSelected(), -1);
+    EXPECT_EQ(events_.size(), 3U) << "options that are deselected raise nothing";
+}
+
 TEST_F(InputTest, WhatIsHiddenOrDisabledIsOutOfReach) {
     screen().Analog.setEnabled(false);
     EXPECT_FALSE(input::click(screen().Sync(0)));

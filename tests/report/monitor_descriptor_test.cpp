@@ -1,26 +1,9 @@
 #include "report/monitor_descriptor.h"
 
-#include "block0_fixture.h"
+#include "descriptor_fixture.h"
 
 namespace wb::report {
 namespace {
-
-class Descriptor : public Block0 {
-protected:
-    Descriptor() { select(0); }
-
-    void select(int number) {
-        screen.CurrentBlockBase = static_cast<std::int16_t>(54 + 18 * number);
-        screen.CurrentBlockNumber = static_cast<std::int16_t>(number);
-    }
-    /// Decodes block 0 with the tag and the payload from its first cell on.
-    void decode(std::string_view tag, std::initializer_list<std::string_view> payload) {
-        set(57, {tag});
-        set(59, payload);
-        ConvertDetailedTiminga(workbench);
-    }
-    std::string report() { return workbench.DetailedBlockText(0); }
-};
 
 struct TagCase {
     std::string_view tag;
@@ -49,6 +32,12 @@ INSTANTIATE_TEST_SUITE_P(Rows, DescriptorTag,
                                          TagCase{"FB", 4, "Color Point:"},
                                          TagCase{"FA", 5, "Standard Timing Identifiers:"},
                                          TagCase{"fd", 2, "Monitor Range Limits:"}));
+
+TEST(DescriptorHeading, IsThatOfATagInUpperCase) {
+    EXPECT_EQ(descriptorHeading("FC"), "Monitor Name:");
+    EXPECT_EQ(descriptorHeading("fc"), "");
+    EXPECT_EQ(descriptorHeading("00"), "");
+}
 
 TEST_F(Descriptor, ATagBelowEightRunsTheFamilyOfItsNumberWithoutHeading) {
     decode("00", {"41", "0A"});
@@ -154,239 +143,6 @@ TEST_F(Descriptor, AModelThatCannotBeReadEndsTheDecoder) {
     decode("FC", {"41", "0A"});
     EXPECT_EQ(boxes(), unreadable());
     EXPECT_EQ(screen.txtModel.text(), "before");
-    EXPECT_EQ(screen.DTaInput.text(), "");
-}
-
-class RangeLimits : public Descriptor {};
-
-TEST_F(RangeLimits, WithoutSecondaryFormula) {
-    decode("FD", {"38", "4B", "1E", "53", "0F", "00", "0A"});
-    EXPECT_EQ(report(), "\r\n" + text({
-                                     "         Monitor Range Limits:",
-                                     "         Min Vertical Freq - 56 Hz",
-                                     "         Max Vertical Freq - 75 Hz",
-                                     "         Min Horiz. Freq - 30 KHz",
-                                     "         Max Horiz. Freq - 83 KHz",
-                                     "         Pixel Clock  - 150 MHz",
-                                     "         Secondary GTF - Not Supported",
-                                 }));
-    EXPECT_EQ(screen.DtaOpt(0).caption(), "Min Vertical Freq - 56 Hz");
-    EXPECT_EQ(screen.DtaOpt(4).caption(), "Pixel Clock  - 150 MHz");
-    EXPECT_TRUE(screen.DTAGTF.ownVisible());
-    EXPECT_TRUE(screen.DTAGTF.enabled());
-    EXPECT_EQ(screen.DTAGTF.value(), 0);
-    EXPECT_TRUE(screen.DTAFrame(0).enabled());
-    EXPECT_FALSE(screen.DTAFrame(1).enabled());
-    EXPECT_FALSE(screen.frmS_GTF(0).enabled());
-    EXPECT_FALSE(screen.Windex(0).enabled());
-    EXPECT_FALSE(screen.Windex(1).enabled());
-    EXPECT_EQ(screen.DTaInput.bounds().top, 120);
-    EXPECT_EQ(screen.DTaInput.bounds().height, 1200);
-    EXPECT_FALSE(screen.txtEdit(64).locked());
-    EXPECT_EQ(screen.InFocusDispatch, flagFalse);
-}
-
-TEST_F(RangeLimits, TheClockMayBeUnspecified) {
-    decode("FD", {"00", "FF", "00", "FF", "FF", "00"});
-    EXPECT_EQ(screen.DtaOpt(4).caption(), "Pixel Clock - Not Specified");
-    EXPECT_EQ(screen.DtaOpt(1).caption(), "Max Vertical Freq - 255 Hz");
-    decode("FD", {"00", "FF", "00", "FF", "FE", "00"});
-    EXPECT_EQ(screen.DtaOpt(4).caption(), "Pixel Clock  - 2540 MHz");
-}
-
-TEST_F(RangeLimits, ReservedForLaterTimings) {
-    screen.frmS_GTF(0).setEnabled(true);
-    decode("FD", {"00", "00", "00", "00", "00", "04"});
-    EXPECT_NE(report().find("         Reserved for EDID 1.4 Timings\r\n"), std::string::npos);
-    EXPECT_FALSE(screen.frmS_GTF(0).enabled());
-    EXPECT_TRUE(screen.DTAFrame(0).enabled());
-    EXPECT_EQ(screen.DTAGTF.value(), 0);
-    EXPECT_FALSE(screen.txtEdit(64).locked());
-}
-
-TEST_F(RangeLimits, WithSecondaryFormula) {
-    decode("FD", {"38", "4B", "1E", "53", "FF", "02", "00", "20", "05", "58", "02", "80", "03"});
-    EXPECT_EQ(report(), "\r\n" + text({
-                                     "         Monitor Range Limits:", "         Min Vertical Freq - 56 Hz",
-                                     "         Max Vertical Freq - 75 Hz", "         Min Horiz. Freq - 30 KHz",
-                                     "         Max Horiz. Freq - 83 KHz", "         Pixel Clock - Not Specified",
-                                     "         Secondary GTF - Supported", "            Start Hor Freq - 64 KHz",
-                                     "            C - 3", // 2.5
-                                     "            M - 600", "            K - 128",
-                                     "            J - 2", // 1.5
-                                 }));
-    EXPECT_EQ(screen.S_GTF(0).caption(), "Start Hor Freq - 64 KHz");
-    EXPECT_EQ(screen.S_GTF(2).caption(), "M - 600");
-    EXPECT_EQ(screen.DTAGTF.value(), 1);
-    EXPECT_TRUE(screen.frmS_GTF(0).enabled());
-    EXPECT_FALSE(screen.DTAFrame(0).enabled());
-    for (int i = 54; i <= 71; ++i) {
-        EXPECT_EQ(screen.txtEdit(i).locked(), i >= 64) << i;
-    }
-}
-
-TEST_F(RangeLimits, AnyOtherSupportTextIsASecondaryFormula) {
-    decode("FD", {"00", "00", "00", "00", "00", "0"});
-    EXPECT_EQ(screen.DTAGTF.value(), 1);
-    EXPECT_EQ(screen.S_GTF(2).caption(), "M - 0");
-}
-
-TEST_F(RangeLimits, EditingKeepsTheCellsOpen) {
-    workbench.ModifyEDIDOn = flagTrue;
-    decode("FD", {"00", "00", "00", "00", "00", "02", "00"});
-    EXPECT_FALSE(screen.txtEdit(64).locked());
-    EXPECT_TRUE(boxes().empty());
-}
-
-TEST_F(RangeLimits, AFactorWithoutDigitsIsZero) {
-    decode("FD", {"00", "00", "00", "00", "00", "02", "00", "00", "00", "ZZ", "zz", "00", "00"});
-    EXPECT_EQ(screen.S_GTF(2).caption(), "M - 0");
-    EXPECT_TRUE(boxes().empty());
-}
-
-TEST_F(RangeLimits, AFailureLeavesTheFieldsBeforeIt) {
-    decode("FD", {"38", "ZZ"});
-    EXPECT_EQ(boxes(), unreadable());
-    EXPECT_EQ(report(), "\r\n" + text({"         Monitor Range Limits:", "         Min Vertical Freq - 56 Hz"}));
-    EXPECT_TRUE(screen.DTAFrame(0).enabled());
-    EXPECT_FALSE(screen.DTAGTF.enabled());
-}
-
-TEST_F(RangeLimits, TheSeekGoesToTheInputBoxOfTheFormula) {
-    workbench.ModifyEDIDOn = flagTrue;
-    workbench.AutoCellSeekOn = flagTrue;
-    workbench.windows.show(screen);
-    screen.Hints(11).setVisible(true);
-    decode("FD", {"00", "00", "00", "00", "00", "00"});
-    EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.txtEdit(0)");
-    decode("FD", {"00", "00", "00", "00", "00", "02", "00"});
-    EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.DTaInput");
-    EXPECT_TRUE(boxes().empty());
-}
-
-// The click of the check tests no flag but that of editing.
-TEST_F(RangeLimits, SettingTheFormulaCheckWritesCellsWhileEditing) {
-    workbench.ModifyEDIDOn = flagTrue;
-    decode("FD", {"38", "4B", "1E", "53", "0F", "03", "11", "22"});
-    EXPECT_EQ(cell(64) + cell(65) + cell(66), "020022");
-    EXPECT_EQ(screen.S_GTF(0).caption(), "Start Hor Freq - 68 KHz");
-    set(64, {"00", "11", "22", "33", "44", "55", "66", "77"});
-    ConvertDetailedTiminga(workbench);
-    EXPECT_EQ(screen.DTAGTF.value(), 0);
-    std::string cells;
-    for (int i = 64; i <= 71; ++i) {
-        cells += cell(i);
-    }
-    EXPECT_EQ(cells, "000A202020202020");
-    EXPECT_EQ(screen.InFocusDispatch, flagFalse);
-}
-
-TEST_F(RangeLimits, SettingTheFormulaCheckWritesNothingOtherwise) {
-    decode("FD", {"38", "4B", "1E", "53", "0F", "03", "11", "22"});
-    EXPECT_EQ(cell(64) + cell(65) + cell(66), "031122");
-}
-
-class ColorPoint : public Descriptor {
-protected:
-    /// The panel as it is shown once its block has been visited.
-    void showPanel() {
-        workbench.windows.show(screen);
-        screen.Hints(11).setVisible(true);
-        screen.Hints(11).setEnabled(true);
-    }
-    std::string enabledOptions() {
-        std::string result;
-        for (int i = 0; i <= 5; ++i) {
-            result += screen.DtaOptWhite(i).enabled() ? '1' : '0';
-        }
-        return result;
-    }
-};
-
-TEST_F(ColorPoint, AHiddenPanelEndsTheDecoder) {
-    for (int i = 0; i <= 5; ++i) {
-        screen.DtaOptWhite(i).setEnabled(false);
-    }
-    decode("FB", {"01", "0B", "80", "40", "78", "00", "11"});
-    EXPECT_EQ(boxes(), Lines{"Invalid procedure call or argument"});
-    EXPECT_EQ(report(), "\r\n         Color Point:\r\n");
-    EXPECT_EQ(enabledOptions(), "100000");
-    EXPECT_TRUE(screen.DTAFrame(1).enabled());
-    EXPECT_TRUE(screen.Windex(1).enabled());
-    EXPECT_TRUE(screen.NotUsed(0).enabled()) << "not reached";
-    EXPECT_EQ(screen.InFocusDispatch, flagTrue);
-    EXPECT_EQ(cell(65), "11") << "no white point was blanked";
-}
-
-TEST_F(ColorPoint, BothPointsUsed) {
-    showPanel();
-    // Low bits 0B: X 2, Y 3; low bits 04: X 1, Y 0.
-    decode("FB", {"01", "0B", "80", "40", "78", "02", "04", "50", "54", "00", "AA", "BB", "CC"});
-    EXPECT_EQ(report(), "\r\n" + text({
-                                     "         Color Point:",
-                                     "               White Point #1",
-                                     "                    White X - 0.502", // 514/1024
-                                     "                    White Y - 0.253", // 259/1024
-                                     "                    Gamma  - 2.20",
-                                     "               White Point #2",
-                                     "                    White X - 0.313", // 321/1024
-                                     "                    White Y - 0.328", // 336/1024
-                                     "                    Gamma  - 1.00",
-                                 }));
-    EXPECT_EQ(screen.DtaOptWhite(0).caption(), "White X - 0.502");
-    EXPECT_EQ(screen.DtaOptWhite(2).caption(), "Gamma  - 2.20");
-    EXPECT_EQ(screen.DtaOptWhite(5).caption(), "Gamma  - 1.00");
-    EXPECT_EQ(enabledOptions(), "111111");
-    EXPECT_FALSE(screen.NotUsed(0).enabled());
-    EXPECT_FALSE(screen.NotUsed(1).enabled());
-    EXPECT_EQ(cell(69) + cell(70) + cell(71), "0A2020") << "also while editing is off";
-    EXPECT_EQ(screen.DTaInput.bounds().height, 1095);
-    EXPECT_EQ(screen.InFocusDispatch, flagFalse);
-    EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.DTaInput") << "whatever the switches";
-    EXPECT_TRUE(boxes().empty());
-}
-
-TEST_F(ColorPoint, UnusedPointsAreBlanked) {
-    showPanel();
-    decode("FB", {"00", "0B", "80", "40", "78", "00", "04", "50", "54", "11", "AA", "BB", "CC"});
-    EXPECT_EQ(report(), "\r\n" + text({
-                                     "         Color Point:",
-                                     "               White Point #1",
-                                     "                    Not Used",
-                                     "               White Point #2",
-                                     "                    Not Used",
-                                 }));
-    std::string cells;
-    for (int i = 59; i <= 71; ++i) {
-        cells += cell(i);
-    }
-    EXPECT_EQ(cells, "00000000000000000000AABBCC");
-    EXPECT_EQ(enabledOptions(), "000000");
-    EXPECT_TRUE(screen.NotUsed(0).enabled());
-    EXPECT_TRUE(screen.NotUsed(1).enabled());
-}
-
-TEST_F(ColorPoint, OneUsedPointGetsNoPadding) {
-    showPanel();
-    decode("FB", {"01", "00", "80", "40", "78", "00", "04", "50", "54", "11", "AA", "BB", "CC"});
-    EXPECT_EQ(enabledOptions(), "111000");
-    EXPECT_FALSE(screen.NotUsed(0).enabled());
-    EXPECT_TRUE(screen.NotUsed(1).enabled());
-    EXPECT_EQ(cell(69) + cell(70) + cell(71), "AABBCC");
-    EXPECT_EQ(cell(60) + cell(61), "0080");
-}
-
-TEST_F(ColorPoint, TheInputBoxTakesTheSelectedValue) {
-    showPanel();
-    screen.DtaOptWhite(2).changeValue(1);
-    decode("FB", {"01", "00", "80", "40", "78", "00"});
-    EXPECT_EQ(screen.DTaInput.text(), "2.20");
-}
-
-TEST_F(ColorPoint, ASelectedCaptionWithoutADashIsPassedOver) {
-    showPanel();
-    screen.DtaOptWhite(4).changeValue(1); // its caption is still "White Y"
-    decode("FB", {"01", "00", "80", "40", "78", "00"});
     EXPECT_EQ(screen.DTaInput.text(), "");
 }
 
