@@ -10,6 +10,25 @@ namespace wb::report {
 
 namespace {
 
+/// Entries of the lines that are in none of the tables below.
+enum Entry {
+    HeadEntry = 0,
+    VersionEntry = 9,
+    ModelEntry = 10,
+    BlockEntry = 13,
+    CodeEntry = 14,
+    DumpEntry = 16,
+    VideoInputEntry = 44,
+    FeaturesEntry = 51,
+    DisplayTypeEntry = 52,
+    ChromaXEntry = 55,
+    ChromaYEntry = 56,
+    Established1Entry = 59,
+    Established2Entry = 62,
+    ReservedEntry = 65,
+    StandardTimingsEntry = 68,
+};
+
 struct FieldLine {
     int entry;
     std::string_view place;
@@ -52,7 +71,6 @@ constexpr std::array<HeadingLine, 7> headingLines = {{
 
 constexpr std::array<int, 3> ruleEntries = {11, 12, 32};
 constexpr std::array<int, 11> emptyEntries = {15, 31, 33, 42, 45, 49, 53, 57, 60, 63, 66};
-constexpr int firstTimingEntry = 68;
 
 std::string indented(std::string_view text) {
     return line(IndentText(text, reportIndent));
@@ -60,11 +78,11 @@ std::string indented(std::string_view text) {
 
 void putTitles(Workbench& workbench, TextArray& lines) {
     FrmEdid& screen = workbench.frmEDID();
-    lines(9) =
+    lines(VersionEntry) =
         centredLine("EDID Version # " + workbench.EDIDVersionText + ",  Revision # " + workbench.EDIDRevisionText);
-    lines(10) = centredLine("Vantrel For: " + screen.txtBrand.text() + " " + screen.txtModel.text());
-    lines(13) = line("EDID Block 0, Bytes 0-127");
-    lines(14) = line("128 BYTES OF EDID CODE:");
+    lines(ModelEntry) = centredLine("Vantrel For: " + screen.txtBrand.text() + " " + screen.txtModel.text());
+    lines(BlockEntry) = line("EDID Block 0, Bytes 0-127");
+    lines(CodeEntry) = line("128 BYTES OF EDID CODE:");
 }
 
 void putLayout(TextArray& lines) {
@@ -91,21 +109,21 @@ void putFieldLines(Workbench& workbench, TextArray& lines) {
 }
 
 void putDecodedTexts(Workbench& workbench, TextArray& lines) {
-    lines(44) = indented(PadRight(workbench.VideoInputText, 10));
-    lines(51) = indented(workbench.PowerFeatureText);
-    lines(52) = indented("Display Type = " + workbench.DisplayTypeText);
-    lines(55) = indented(workbench.ChromaText1);
-    lines(56) = indented(workbench.ChromaText2);
-    lines(59) = line(workbench.EstablishedTiming1Text);
-    lines(62) = line(workbench.EstablishedTiming2Text);
-    lines(65) =
+    lines(VideoInputEntry) = indented(PadRight(workbench.VideoInputText, 10));
+    lines(FeaturesEntry) = indented(workbench.PowerFeatureText);
+    lines(DisplayTypeEntry) = indented("Display Type = " + workbench.DisplayTypeText);
+    lines(ChromaXEntry) = indented(workbench.ChromaText1);
+    lines(ChromaYEntry) = indented(workbench.ChromaText2);
+    lines(Established1Entry) = line(workbench.EstablishedTiming1Text);
+    lines(Established2Entry) = line(workbench.EstablishedTiming2Text);
+    lines(ReservedEntry) =
         workbench.ReservedTimingText.empty() ? indented("  None Specified") : line(workbench.ReservedTimingText);
 }
 
 /// Gives the entry after the last line. Each line lies one entry further from the one before than that from its own
 /// predecessor; the entries between stay unset and do not show.
 int putStandardTimings(Workbench& workbench, TextArray& lines) {
-    int entry = firstTimingEntry;
+    int entry = StandardTimingsEntry;
     for (int i = 0; i < workbench.StandardTimingText.size(); ++i) {
         entry += i;
         lines(entry) = indented(workbench.StandardTimingText(i));
@@ -144,10 +162,10 @@ void BuildBlock0Report(Workbench& workbench) {
     trapped(workbench, [&] {
         TextArray& lines = workbench.ReportBlock0Lines;
         lines.create(reportEntries);
-        putHead(workbench, lines, 0);
+        putHead(workbench, lines, HeadEntry);
         putTitles(workbench, lines);
         putLayout(lines);
-        putDump(workbench.frmEDID(), lines, 16);
+        putDump(workbench.frmEDID(), lines, DumpEntry);
         putFieldLines(workbench, lines);
         putDecodedTexts(workbench, lines);
         const int blocks = putStandardTimings(workbench, lines);

@@ -13,9 +13,22 @@ namespace {
 
 constexpr int firstEntry = 30;
 constexpr int titleEntry = 39;
+constexpr int blockEntry = 42;
 constexpr int typeEntry = 43;
 constexpr int dumpEntry = 45;
 constexpr int bodyEntry = 63;
+constexpr std::array<int, 3> ruleEntries = {40, 41, 61};
+constexpr std::array<int, 2> emptyEntries = {44, 62};
+
+// The data blocks behind the video block; each of these is moved on by the length of that block.
+constexpr int audioEntry = 67;
+constexpr int speakerEntry = 71;
+constexpr int speakerEntryAfterLongAudio = 74;
+constexpr int vendorEntry = 73;
+constexpr int longVendorEntry = 76;
+
+/// From this length on an audio block has a second descriptor, and a vendor block its extension byte.
+constexpr int longBlock = 6;
 
 constexpr std::string_view ceaTag = "02";
 constexpr std::string_view mapTag = "F0";
@@ -42,6 +55,7 @@ constexpr std::array<BlockKind, 8> blockKinds = {{
     {repeatedBlockTag, "Repeating Block 0 EDID", "Illegal Block 0 EDID", ""},
 }};
 
+/// A version of the CEA-861 extension (CEA-861-D, section 7.5), by the text that its screen shows.
 struct VersionTitle {
     std::string_view version;
     std::string_view title;
@@ -86,17 +100,18 @@ std::string versionTitle(FrmCeaExt& screen) {
 void putBlockHead(Workbench& workbench, TextArray& lines, const BlockKind* kind) {
     FrmCeaExt& screen = workbench.frmCEA_EXT();
     putHead(workbench, lines, firstEntry);
-    lines(40) = ruleLine();
-    lines(41) = ruleLine();
-    lines(42) = line("EDID Block 1, Bytes 128-255");
-    lines(44) = line();
+    for (const int entry : ruleEntries) {
+        lines(entry) = ruleLine();
+    }
+    for (const int entry : emptyEntries) {
+        lines(entry) = line();
+    }
+    lines(blockEntry) = line("EDID Block 1, Bytes 128-255");
     if (kind != nullptr) {
         lines(titleEntry) = kind->title.empty() ? versionTitle(screen) : centredLine(kind->title);
         lines(typeEntry) = line("Block Type: " + std::string(kind->type));
     }
     putDump(screen, lines, dumpEntry);
-    lines(61) = ruleLine();
-    lines(62) = line();
 }
 
 /// What a block map tells of the kind of block `block`.
@@ -137,7 +152,7 @@ void putAudio(const Workbench& workbench, TextArray& lines, int entry) {
     putAudioDescriptor(lines, entry + 1, workbench.AudioBlockStart + 1,
                        workbench.AudioKindText + ", " + workbench.AudioChannelsText + ", " + workbench.AudioFormatText,
                        workbench.SampFreqText, workbench.BitRateText);
-    if (workbench.AudioBlockLength >= 6 && workbench.AudioDescriptorCount >= 2) {
+    if (workbench.AudioBlockLength >= longBlock && workbench.AudioDescriptorCount >= 2) {
         putAudioDescriptor(
             lines, entry + 4, workbench.LastAudioDescriptor,
             workbench.LastAudioKindText + ", " + workbench.LastAudioChannelsText + ", " + workbench.LastAudioFormatText,
@@ -162,21 +177,23 @@ void putVendorLines(const Workbench& workbench, TextArray& lines, int entry, int
 /// A short vendor block stands where audio and speaker lines may be, and wins.
 void putVendor(const Workbench& workbench, TextArray& lines, int videoLines) {
     const int start = workbench.VendorBlockStart;
-    if (workbench.VendorBlockLength >= 6) {
-        putVendorLines(workbench, lines, videoLines + 76, start + 5);
-        lines(videoLines + 79) = line(place(start + 6) + pad(7) + "VSDB Extension: " + workbench.VSDBExtText);
+    if (workbench.VendorBlockLength >= longBlock) {
+        const int entry = videoLines + longVendorEntry;
+        putVendorLines(workbench, lines, entry, start + 5);
+        lines(entry + 3) = line(place(start + 6) + pad(7) + "VSDB Extension: " + workbench.VSDBExtText);
     } else {
-        putVendorLines(workbench, lines, videoLines + 73, start + workbench.VendorBlockLength);
+        putVendorLines(workbench, lines, videoLines + vendorEntry, start + workbench.VendorBlockLength);
     }
 }
 
 void putDataBlocks(const Workbench& workbench, TextArray& lines) {
     const int videoLines = workbench.VideoBlockLength;
     if (workbench.AudioBlockStart != 0) {
-        putAudio(workbench, lines, videoLines + 67);
+        putAudio(workbench, lines, videoLines + audioEntry);
     }
     if (workbench.SpeakerBlockStart != 0) {
-        putSpeakers(workbench, lines, videoLines + (workbench.AudioBlockLength >= 6 ? 74 : 71));
+        const int entry = workbench.AudioBlockLength >= longBlock ? speakerEntryAfterLongAudio : speakerEntry;
+        putSpeakers(workbench, lines, videoLines + entry);
     }
     if (workbench.VendorBlockStart != 0) {
         putVendor(workbench, lines, videoLines);
