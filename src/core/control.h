@@ -29,6 +29,7 @@ struct Handlers {
     void (*keyUp)(Workbench&, int index, int keyCode) = nullptr;
 };
 
+/// A place inside the container, in twips.
 struct Bounds {
     int left = 0;
     int top = 0;
@@ -42,6 +43,7 @@ class Control {
 public:
     static constexpr int noIndex = -1;
 
+    /// `array` is null and `index` is `noIndex` for a control that is in no array. The name must outlive the control.
     Control(Screen& screen, std::string_view name, ControlKind kind, Control* container, Handlers& handlers,
             ControlArray* array, int index);
     Control(const Control&) = delete;
@@ -71,6 +73,7 @@ public:
     void setValue(int value);
     /// The same without any event, for a user's action that raises its own.
     void changeValue(int value);
+    /// Runs the Click handler, if there is one.
     void raiseClick();
 
     /// Shown: its own flag, those of all its containers, and its screen's.
@@ -82,8 +85,10 @@ public:
     /// Visible and enabled through all that contains it inside its screen: what a focus move needs.
     bool usable() const;
     bool canTakeFocus() const { return takesFocus() && usable(); }
+    /// Of a kind that takes the focus: all but labels, frames and menus.
     bool takesFocus() const;
 
+    /// A locked text takes the focus and its keys, but typing does not change it.
     bool locked() const { return locked_; }
     void setLocked(bool locked);
     CellColour backColor() const { return backColor_; }
@@ -92,14 +97,17 @@ public:
     void setFontBold(bool bold);
     int maxLength() const { return maxLength_; } ///< 0: no limit; limits typing only
     void setMaxLength(int length);
+    /// A number that the program keeps with the control; it has no effect of its own.
     int tag() const { return tag_; }
     void setTag(int tag) { tag_ = tag; }
+    /// The selection in characters of the text; what lies outside the text is cut off.
     int selStart() const { return selStart_; }
     int selLength() const { return selLength_; }
     void setSelection(int start, int length);
+    /// The rows of a combo; setting them changes neither value nor text.
     const std::vector<std::string>& rows() const { return rows_; }
     void setRows(std::vector<std::string> rows) { rows_ = std::move(rows); }
-    /// Twips inside the container; all 0 where the logic never moves or sizes the control.
+    /// All 0 where the logic never moves or sizes the control.
     const Bounds& bounds() const { return bounds_; }
     void setBounds(const Bounds& bounds);
     void setTop(int top);
@@ -161,13 +169,14 @@ public:
     std::string_view name() const { return name_; }
     int first() const { return first_; }
     int last() const { return first_ + count_ - 1; }
-    /// Index of the first selected option, or `none`.
+    /// Index of the first selected element, or `none`; looked for from `from` up to `to`, or among all.
     int firstSelected(int from, int to, int none = -1);
     int firstSelected(int none = -1) { return firstSelected(first(), last(), none); }
     /// Deselects the options or checks one after the other, from the first one up to `to`, or all of them. Each check
     /// that was set raises its Click.
     void deselect(int to);
     void deselect() { deselect(last()); }
+    /// Captions of the elements from the first one on.
     void setCaptions(std::initializer_list<std::string_view> captions);
 
     Handlers on;

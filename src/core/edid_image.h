@@ -20,17 +20,18 @@ constexpr int detailedBlockBase(int number) {
 /// Whether the block from cell `base` on is marked as no timing: the texts of its first three cells read "000000".
 bool hasDescriptorMark(BlockScreen& screen, int base);
 
-/// Recalculates the check sum cell of block 0 after an edit; does nothing while ModifyEDIDOn is false. A check sum text
-/// other than the loaded one sets EDIDModified, one other than the last EDIDRedecodeNeeded.
+/// Recalculates the check sum cell of block 0 (VESA E-EDID Standard, Release A, section 3.11) after an edit, and notes
+/// the outcome as below; does nothing while ModifyEDIDOn is false. A failure is shown and leaves the cell as it was.
 void RecalcBlock0Checksum(Workbench& workbench);
 
-/// The check sum memory that both blocks share: compares the text of a check sum cell with the loaded and the last one.
+/// The check sum memory that both blocks share. EDIDModified is set where the text of a check sum cell is not the
+/// loaded one. Where it is not the last one that was noted, it becomes that, and EDIDRedecodeNeeded is set.
 void noteChecksum(Workbench& workbench, const std::string& checksumText);
 
 /// Takes the check sum of block 0 as that of the image as it was loaded.
 void rememberChecksum(Workbench& workbench);
 
-/// The text of a check sum cell for that sum of the other cells (0 to 255).
+/// The text of a check sum cell for that sum of the other cells modulo 256 (0 to 255).
 std::string checksumTextFor(int sum);
 
 /// Enables Command4 with "See Ext Block" where the value of byte 126 is not 0; otherwise disables it with "No Ext

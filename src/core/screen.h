@@ -62,6 +62,7 @@ public:
     /// Called after the key-up event of any control of the screen, and for bare key codes.
     void (*keyUp)(Workbench&, int keyCode) = nullptr;
 
+    /// What a control tells its screen: that it exists, and that one of its properties has changed.
     void add(Control& control) { controls_.push_back(&control); }
     void controlChanged(Control& control);
 

@@ -21,7 +21,7 @@ std::string PadRight(std::string_view text, int width);
 std::string PadLeft(std::string_view text, int width);
 /// `text` `count` times; empty for a count below 1.
 std::string RepeatText(std::string_view text, int count);
-/// `count` blanks, then `text`.
+/// `count` blanks, none for a count below 1, then `text`.
 std::string IndentText(std::string_view text, int count);
 /// `text` centred in `width` columns. A CR LF anywhere means that the last two characters do not count for the width. A
 /// text that is empty or not shorter than the width is lost: the result is empty.

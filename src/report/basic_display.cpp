@@ -13,6 +13,8 @@ namespace wb::report {
 
 namespace {
 
+// The tables: VESA E-EDID Standard, Release A, section 3.6.
+
 /// By bits 6 and 5 of the video input byte.
 constexpr std::array<std::string_view, 4> levels = {
     "0.700, 0.300 (1.000 Vp-p)",

@@ -4,7 +4,7 @@
 
 #include "core/workbench.h"
 
-/// Basic display parameters of block 0, cells 20 to 24 (VESA E-EDID Standard, basic display parameters and features). A
+/// Basic display parameters of block 0, cells 20 to 24 (VESA E-EDID Standard, Release A, section 3.6). A
 /// failure is shown and ends the decoder.
 namespace wb::report {
 

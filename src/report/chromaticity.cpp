@@ -10,12 +10,14 @@ namespace wb::report {
 
 namespace {
 
+/// A coordinate of ten bits: its two low ones share a cell with those of three others.
 struct Coordinate {
     std::string_view words;
     int lowCell, lowMask, lowDivisor;
     int highCell;
 };
 
+/// VESA E-EDID Standard, Release A, section 3.7.
 constexpr std::array<Coordinate, 8> coordinates = {{
     {"Red X - ", 25, 192, 64, 27},
     {"Red Y - ", 25, 48, 16, 28},

@@ -6,8 +6,8 @@
 
 namespace wb::report {
 
-/// Decodes the colour characteristics, cells 25 to 34 (VESA E-EDID Standard): eight coordinates of ten bits, their two
-/// low bits gathered in cells 25 and 26. A failure is shown and ends the decoder.
+/// Decodes the colour characteristics, cells 25 to 34 (VESA E-EDID Standard, Release A, section 3.7): eight coordinates
+/// of ten bits, their two low bits gathered in cells 25 and 26. A failure is shown and ends the decoder.
 void ConvertChromaticity(Workbench& workbench);
 
 /// The coordinate of the eight high bits and the two low ones, 0 to 1023 in units of 1/1024. A failure (a number beyond

@@ -17,7 +17,8 @@ void showWhite(const DescriptorBlock& block, int option, const std::string& word
     block.showAndReport(block.screen.DtaOptWhite(option), words, 20);
 }
 
-/// The cells of a point from `first` on: index, low bits, X, Y, gamma.
+/// The cells of a point from `first` on: index, low bits, X, Y, gamma (VESA E-EDID Standard, Release A,
+/// section 3.10.3).
 void showUsedPoint(const DescriptorBlock& block, int first, int option) {
     const int lowX = (block.cellValue(first + 1) & 12) / 4;
     showWhite(block, option, "White X - " + coordinateText(block, first + 2, lowX));

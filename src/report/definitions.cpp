@@ -26,8 +26,8 @@ void convertDetailedTimings(Workbench& workbench) {
 
 using Decoder = void (*)(Workbench&);
 
-// The version needs the manufacturer's name; the complete serial number, which four of them build, what the others
-// left.
+// The order counts. ConvertVersion shows the brand of the name that ConvertManufacturer leaves. The decoders of product
+// code, serial number, week and year each build the complete serial number anew, from what the others have left so far.
 constexpr std::array<Decoder, 19> decoders = {
     ConvertChromaticity,
     convertDetailedTimings,

@@ -22,6 +22,7 @@ struct Field {
     std::string_view unit;
 };
 
+/// VESA E-EDID Standard, Release A, section 3.10.2, as are the tables of the flags below.
 constexpr std::array<Field, fieldCount> fields = {{
     {1, 255, 256, 0, 255, 1, "Pixel Clock", " MHz"},
     {4, 240, 16, 2, 255, 1, "Active Time", " pixels"},

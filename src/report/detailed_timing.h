@@ -3,7 +3,7 @@
 #include "core/statements.h"
 #include "core/workbench.h"
 
-/// Detailed timings: 18 bytes of clock, sizes, sync and flags (VESA E-EDID Standard, detailed timing descriptor). One
+/// Detailed timings: 18 bytes of clock, sizes, sync and flags (VESA E-EDID Standard, Release A, section 3.10.2). One
 /// decoder serves both block screens.
 namespace wb::report {
 

@@ -10,7 +10,7 @@ namespace wb::report {
 
 namespace {
 
-/// From bit 7 down to bit 0.
+/// From bit 7 down to bit 0 (VESA E-EDID Standard, Release A, section 3.8).
 using TimingWords = std::array<std::string_view, 8>;
 
 constexpr TimingWords timings1 = {

@@ -2,7 +2,7 @@
 
 #include "core/workbench.h"
 
-/// Established timings, one bit each (VESA E-EDID Standard, established timings I, II and manufacturer's timings). A
+/// Established timings, one bit each (VESA E-EDID Standard, Release A, section 3.8). A
 /// failure is shown and ends the decoder.
 namespace wb::report {
 

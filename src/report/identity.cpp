@@ -11,7 +11,7 @@ namespace wb::report {
 namespace {
 
 constexpr std::string_view unusedSerial = "Not Used";
-constexpr int firstYear = 1990;
+constexpr int firstYear = 1990; ///< VESA E-EDID Standard, Release A, section 3.4
 
 struct Brand {
     std::string_view manufacturer;

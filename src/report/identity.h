@@ -4,8 +4,8 @@
 
 #include "core/workbench.h"
 
-/// Identity fields of block 0, cells 8 to 19 (VESA E-EDID Standard: vendor and product identification, version and
-/// revision). Each decoder shows its field on frmEDID and leaves the words of the report in the shared variables. A
+/// Identity fields of block 0, cells 8 to 19 (VESA E-EDID Standard, Release A, sections 3.4 and
+/// 3.5). Each decoder shows its field on frmEDID and leaves the words of the report in the shared variables. A
 /// failure is shown and ends the decoder, or gives an empty text.
 namespace wb::report {
 

@@ -23,7 +23,7 @@ struct Family {
 
 enum FamilyNumber { SerialNumber, AsciiData, RangeLimits, MonitorName, ColorPoint, StandardTimings };
 
-/// By number of the family, which is that of its option.
+/// By number of the family, which is that of its option (VESA E-EDID Standard, Release A, section 3.10.3).
 constexpr std::array<Family, 6> families = {{
     {"FF", "Monitor Serial Number:"},
     {"FE", "ASCII Data:"},

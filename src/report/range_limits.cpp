@@ -12,7 +12,7 @@ struct RangeField {
     int factor;
 };
 
-/// Cells 5 to 9 of the block.
+/// Cells 5 to 9 of the block (VESA E-EDID Standard, Release A, section 3.10.3).
 constexpr std::array<RangeField, 5> rangeFields = {{
     {"Min Vertical Freq - ", " Hz", 1},
     {"Max Vertical Freq - ", " Hz", 1},

@@ -12,11 +12,13 @@ namespace {
 constexpr int timingCount = 8;
 constexpr int unusedSize = 256; ///< pixels; what the size byte of an unused pair, 1, stands for
 
+/// The height of a picture: width x factor / divisor.
 struct Aspect {
     int factor;
     double divisor;
 };
 
+/// By aspect ratio code (VESA E-EDID Standard, Release A, section 3.9).
 constexpr std::array<Aspect, 4> aspects = {{{10, 16}, {3, 4}, {4, 5}, {9, 16}}};
 
 void convertPairs(Workbench& workbench, FrmEdid& screen) {

@@ -4,7 +4,7 @@
 
 #include "core/workbench.h"
 
-/// Standard timings, two bytes each (VESA E-EDID Standard, standard timing identification).
+/// Standard timings, two bytes each (VESA E-EDID Standard, Release A, section 3.9).
 namespace wb::report {
 
 /// The words of a pair of bytes (0 to 255), such as "1280 X 800 @60Hz", or "Not Used". Ratio code 0 is 16:10 in every
