@@ -18,7 +18,7 @@ const std::string rule = "______________________________________________________
 class ExtensionReport : public testing::Test {
 protected:
     ExtensionReport() {
-        wb.frmCEA_EXT();
+        workbench.frmCEA_EXT();
         forgetBlocks();
     }
     void forgetBlocks() {
@@ -27,21 +27,21 @@ protected:
               &SharedVariables::AudioBlockLength, &SharedVariables::SpeakerBlockStart,
               &SharedVariables::SpeakerBlockLength, &SharedVariables::VendorBlockStart,
               &SharedVariables::VendorBlockLength}) {
-            wb.*place = 0;
+            workbench.*place = 0;
         }
-        wb.ExtDetailedBlockText.create(7);
-        wb.ExtDtdOffsetText = "200";
-        wb.ExtDtdStart = 200;
-        wb.ExtDtdSlotCount = 0;
-        wb.Block0ChecksumText = "CheckSum OK\r\n";
+        workbench.ExtDetailedBlockText.create(7);
+        workbench.ExtDtdOffsetText = "200";
+        workbench.ExtDtdStart = 200;
+        workbench.ExtDtdSlotCount = 0;
+        workbench.Block0ChecksumText = "CheckSum OK\r\n";
     }
-    FrmCeaExt& screen() { return wb.frmCEA_EXT(); }
+    FrmCeaExt& screen() { return workbench.frmCEA_EXT(); }
     void tag(const std::string& text) { screen().txtEdit(0).setText(text); }
-    std::string entry(int index) { return wb.ReportExtLines(index); }
+    std::string entry(int index) { return workbench.ReportExtLines(index); }
     /// The entries from 63 on that are not empty, up to and with the end mark.
     Entries body() {
         Entries entries;
-        for (int i = 63; i < wb.ReportExtLines.size(); ++i) {
+        for (int i = 63; i < workbench.ReportExtLines.size(); ++i) {
             if (!entry(i).empty()) {
                 entries[i] = entry(i);
             }
@@ -60,7 +60,7 @@ protected:
     }
 
     test::Program program;
-    Workbench& wb = program.workbench;
+    Workbench& workbench = program.workbench;
 };
 
 TEST_F(ExtensionReport, HeadAndDump) {
@@ -70,8 +70,8 @@ TEST_F(ExtensionReport, HeadAndDump) {
     }
     screen().txtEdit(0).setText("02");
     screen().VerRev.setText("3");
-    BuildExtensionReport(wb);
-    EXPECT_EQ(wb.ReportExtLines.size(), 301);
+    BuildExtensionReport(workbench);
+    EXPECT_EQ(workbench.ReportExtLines.size(), 301);
     for (int i = 0; i < 30; ++i) {
         EXPECT_EQ(entry(i), "");
     }
@@ -127,7 +127,7 @@ class KindOfBlock : public ExtensionReport, public testing::WithParamInterface<K
 TEST_P(KindOfBlock, IsToldByItsTag) {
     tag(GetParam().tag);
     screen().VerRev.setText("1");
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(entry(39), GetParam().title);
     EXPECT_EQ(entry(43), GetParam().type);
 }
@@ -159,7 +159,7 @@ TEST_F(ExtensionReport, VersionsHaveTheirTitles) {
         {"", ""}};
     for (const auto& [version, title] : titles) {
         screen().VerRev.setText(version);
-        BuildExtensionReport(wb);
+        BuildExtensionReport(workbench);
         EXPECT_EQ(entry(39), title) << version;
         EXPECT_EQ(entry(43), "Block Type: CEA EDID Timing Extension\r\n");
     }
@@ -167,14 +167,14 @@ TEST_F(ExtensionReport, VersionsHaveTheirTitles) {
 
 TEST_F(ExtensionReport, ARepeatedBlock0EndsUnderTheDump) {
     tag("00");
-    wb.VideoBlockStart = 4;
-    wb.VendorBlockStart = 9;
-    BuildExtensionReport(wb);
+    workbench.VideoBlockStart = 4;
+    workbench.VendorBlockStart = 9;
+    BuildExtensionReport(workbench);
     EXPECT_EQ(entry(61), rule);
     EXPECT_EQ(entry(62), "\r\n");
     EXPECT_TRUE(body().empty());
-    EXPECT_EQ(wb.ExtDtdStart, 200);
-    const std::string text = joinedEntries(wb.ReportExtLines);
+    EXPECT_EQ(workbench.ExtDtdStart, 200);
+    const std::string text = joinedEntries(workbench.ReportExtLines);
     EXPECT_EQ(text.substr(text.size() - rule.size() - 2), rule + "\r\n");
 }
 
@@ -190,12 +190,12 @@ TEST_F(ExtensionReport, ABlockMapTellsOfTwoBlocks) {
     for (const auto& [cell, words] : kinds) {
         screen().txtEdit(1).setText(cell);
         screen().txtEdit(2).setText("00");
-        BuildExtensionReport(wb);
+        BuildExtensionReport(workbench);
         EXPECT_EQ(entry(63), std::string("(1)     Block 1") + words);
         EXPECT_EQ(entry(64), "");
         screen().txtEdit(1).setText("00");
         screen().txtEdit(2).setText(cell);
-        BuildExtensionReport(wb);
+        BuildExtensionReport(workbench);
         EXPECT_EQ(entry(63), "");
         EXPECT_EQ(entry(64), std::string("(2)     Block 2") + words);
     }
@@ -203,20 +203,20 @@ TEST_F(ExtensionReport, ABlockMapTellsOfTwoBlocks) {
 
 TEST_F(ExtensionReport, CeaHead) {
     screen().lbEDID(5).setCaption("Detailed Timing Start at - 26");
-    wb.DTVSupportText = "DTV";
-    BuildExtensionReport(wb);
+    workbench.DTVSupportText = "DTV";
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd({{63, "(2)Detailed Timing Start at - 26\r\n"}, {64, "(3)DTV\r\n"}}, 201));
-    EXPECT_EQ(wb.ExtDtdStart, 201);
+    EXPECT_EQ(workbench.ExtDtdStart, 201);
 }
 
 TEST_F(ExtensionReport, AnotherTagPrintsTheBlocksToo) {
     tag("03");
-    wb.VendorBlockStart = 9;
-    wb.VendorBlockLength = 5;
-    wb.VendorTagText = "V\r\n";
-    wb.VendorIDText = "ID";
-    wb.VendorDataText = "Data";
-    BuildExtensionReport(wb);
+    workbench.VendorBlockStart = 9;
+    workbench.VendorBlockLength = 5;
+    workbench.VendorTagText = "V\r\n";
+    workbench.VendorIDText = "ID";
+    workbench.VendorDataText = "Data";
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd({{73, "(9)V\r\n"}, {74, "(10-12)    ID\r\n"}, {75, "(13-14)    Data\r\n"}}, 201));
 }
 
@@ -224,46 +224,46 @@ class DataBlocks : public ExtensionReport {
 protected:
     DataBlocks() {
         tag("03");
-        wb.AudioTagText = "A, \r\n";
-        wb.AudioKindText = "Compressed";
-        wb.AudioChannelsText = "Audio Channels: 2";
-        wb.AudioFormatText = "DTS";
-        wb.SampFreqText = "32KHz,";
-        wb.BitRateText = "Rate";
-        wb.LastAudioKindText = "Uncompressed";
-        wb.LastAudioChannelsText = "Audio Channels: 8";
-        wb.LastAudioFormatText = "Linear PCM (IEC60958)";
-        wb.LastSampFreqText = " 96KHz,";
-        wb.LastBitRateText = "Last rate";
-        wb.LastAudioDescriptor = 14;
-        wb.SpeakerTagText = "S\r\n";
-        wb.SpeakerText = "FL/FR,";
-        wb.VendorTagText = "V\r\n";
-        wb.VendorIDText = "ID";
-        wb.VendorDataText = "Data";
-        wb.VSDBExtText = "Supports_AI,";
+        workbench.AudioTagText = "A, \r\n";
+        workbench.AudioKindText = "Compressed";
+        workbench.AudioChannelsText = "Audio Channels: 2";
+        workbench.AudioFormatText = "DTS";
+        workbench.SampFreqText = "32KHz,";
+        workbench.BitRateText = "Rate";
+        workbench.LastAudioKindText = "Uncompressed";
+        workbench.LastAudioChannelsText = "Audio Channels: 8";
+        workbench.LastAudioFormatText = "Linear PCM (IEC60958)";
+        workbench.LastSampFreqText = " 96KHz,";
+        workbench.LastBitRateText = "Last rate";
+        workbench.LastAudioDescriptor = 14;
+        workbench.SpeakerTagText = "S\r\n";
+        workbench.SpeakerText = "FL/FR,";
+        workbench.VendorTagText = "V\r\n";
+        workbench.VendorIDText = "ID";
+        workbench.VendorDataText = "Data";
+        workbench.VSDBExtText = "Supports_AI,";
     }
     void audio(std::int16_t start, std::int16_t length, std::int16_t descriptors) {
-        wb.AudioBlockStart = start;
-        wb.AudioBlockLength = length;
-        wb.AudioDescriptorCount = descriptors;
+        workbench.AudioBlockStart = start;
+        workbench.AudioBlockLength = length;
+        workbench.AudioDescriptorCount = descriptors;
     }
     void video(std::int16_t start, std::int16_t length) {
-        wb.VideoBlockStart = start;
-        wb.VideoBlockLength = length;
-        wb.VideoTagText = "Video\r\n";
-        wb.ShortVideoText.create(length + 1);
+        workbench.VideoBlockStart = start;
+        workbench.VideoBlockLength = length;
+        workbench.VideoTagText = "Video\r\n";
+        workbench.ShortVideoText.create(length + 1);
         for (int i = 1; i <= length; ++i) {
-            wb.ShortVideoText(i) = "Format " + std::to_string(i) + "\r\n";
+            workbench.ShortVideoText(i) = "Format " + std::to_string(i) + "\r\n";
         }
     }
     void speakers(std::int16_t start, std::int16_t length) {
-        wb.SpeakerBlockStart = start;
-        wb.SpeakerBlockLength = length;
+        workbench.SpeakerBlockStart = start;
+        workbench.SpeakerBlockLength = length;
     }
     void vendor(std::int16_t start, std::int16_t length) {
-        wb.VendorBlockStart = start;
-        wb.VendorBlockLength = length;
+        workbench.VendorBlockStart = start;
+        workbench.VendorBlockLength = length;
     }
     static Entries firstAudio(int at) {
         return {{at, "(10)A, \r\n"},
@@ -290,8 +290,8 @@ protected:
 TEST_F(DataBlocks, VideoOfACeaBlock) {
     tag("02");
     video(5, 2);
-    wb.ShortVideoText(2) = "";
-    BuildExtensionReport(wb);
+    workbench.ShortVideoText(2) = "";
+    BuildExtensionReport(workbench);
     EXPECT_EQ(entry(65), "(4)Video\r\n");
     EXPECT_EQ(entry(66), "");
     EXPECT_EQ(entry(67), "(5)       Format 1\r\n\r\n");
@@ -302,7 +302,7 @@ TEST_F(DataBlocks, VideoOfACeaBlock) {
 TEST_F(DataBlocks, VideoOfAnotherBlockOnlyMovesTheRest) {
     video(4, 3);
     audio(10, 3, 1);
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd(firstAudio(70), 201));
 }
 
@@ -310,50 +310,50 @@ TEST_F(DataBlocks, WithoutAVideoBlockItsLengthStillMovesTheRest) {
     tag("02");
     video(0, 3);
     audio(10, 3, 1);
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(entry(65), "");
     EXPECT_EQ(entry(70), "(10)A, \r\n");
 }
 
 TEST_F(DataBlocks, AudioWithOneDescriptor) {
     audio(10, 5, 1);
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd(firstAudio(67), 201));
 }
 
 TEST_F(DataBlocks, AudioWithTheLastDescriptor) {
     audio(10, 6, 2);
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd(joined({firstAudio(67), lastAudio(71)}), 201));
     audio(10, 12, 4);
-    wb.ExtDtdStart = 200;
-    BuildExtensionReport(wb);
+    workbench.ExtDtdStart = 200;
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd(joined({firstAudio(67), lastAudio(71)}), 201));
 }
 
 TEST_F(DataBlocks, LastAudioNeedsASecondDescriptorAndABlock) {
     audio(10, 6, 1); // the length was changed since the walk
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd(firstAudio(67), 201));
     audio(0, 6, 2);
-    wb.ExtDtdStart = 200;
-    BuildExtensionReport(wb);
+    workbench.ExtDtdStart = 200;
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd({}, 201));
 }
 
 TEST_F(DataBlocks, Speakers) {
     speakers(20, 3);
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd({{71, "(20)S\r\n"}, {72, "(21-23)    FL/FR,\r\n"}}, 201));
     audio(0, 6, 2);
-    wb.ExtDtdStart = 200;
-    BuildExtensionReport(wb);
+    workbench.ExtDtdStart = 200;
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd({{74, "(20)S\r\n"}, {75, "(21-23)    FL/FR,\r\n"}}, 201));
 }
 
 TEST_F(DataBlocks, LongVendorBlock) {
     vendor(30, 6);
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), withEnd({{76, "(30)V\r\n"},
                                {77, "(31-33)    ID\r\n"},
                                {78, "(34-35)    Data\r\n"},
@@ -365,7 +365,7 @@ TEST_F(DataBlocks, AShortVendorBlockOverwritesTheOthers) {
     audio(10, 6, 2);
     speakers(20, 3);
     vendor(30, 5);
-    BuildExtensionReport(wb);
+    BuildExtensionReport(workbench);
     Entries expected = joined({firstAudio(67), lastAudio(71)});
     expected[73] = "(30)V\r\n";
     expected[74] = "(31-33)    ID\r\n";
@@ -377,8 +377,8 @@ class Timings : public ExtensionReport {
 protected:
     Timings() {
         tag("03");
-        wb.ExtDtdStart = 100;
-        wb.ExtDtdOffsetText = "100";
+        workbench.ExtDtdStart = 100;
+        workbench.ExtDtdOffsetText = "100";
     }
     Entries oneTiming(int at) {
         return {{at, rule},
@@ -392,22 +392,22 @@ protected:
 };
 
 TEST_F(Timings, TheEntryGrowsWithEachBuild) {
-    wb.ExtDetailedBlockText(0) = "T";
-    BuildExtensionReport(wb);
+    workbench.ExtDetailedBlockText(0) = "T";
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), oneTiming(101));
-    EXPECT_EQ(wb.ExtDtdStart, 104);
+    EXPECT_EQ(workbench.ExtDtdStart, 104);
     for (int build = 2; build <= 5; ++build) {
-        BuildExtensionReport(wb);
+        BuildExtensionReport(workbench);
     }
     EXPECT_EQ(body(), oneTiming(117)); // 100 + 4 * 4 + 1
-    EXPECT_EQ(wb.ExtDtdStart, 120);
+    EXPECT_EQ(workbench.ExtDtdStart, 120);
 }
 
 TEST_F(Timings, EmptySlotsAreLeftOut) {
-    wb.ExtDtdSlotCount = 2;
-    wb.ExtDetailedBlockText(0) = "A";
-    wb.ExtDetailedBlockText(2) = "C";
-    BuildExtensionReport(wb);
+    workbench.ExtDtdSlotCount = 2;
+    workbench.ExtDetailedBlockText(0) = "A";
+    workbench.ExtDetailedBlockText(2) = "C";
+    BuildExtensionReport(workbench);
     EXPECT_EQ(body(), (Entries{{101, rule},
                                {102, "\r\n"},
                                {103, "(100-117) Detailed Timing / Descriptor Block 1:\r\nA\r\n"},
@@ -422,10 +422,10 @@ TEST_F(Timings, EmptySlotsAreLeftOut) {
 
 TEST_F(Timings, ALowStartOverwritesTheHeadAndCutsTheReport) {
     tag("02");
-    wb.ExtDtdStart = 40;
-    wb.ExtDtdOffsetText = "40";
-    wb.ExtDetailedBlockText(0) = "T";
-    BuildExtensionReport(wb);
+    workbench.ExtDtdStart = 40;
+    workbench.ExtDtdOffsetText = "40";
+    workbench.ExtDetailedBlockText(0) = "T";
+    BuildExtensionReport(workbench);
     EXPECT_EQ(entry(40), rule);
     EXPECT_EQ(entry(41), rule);
     EXPECT_EQ(entry(42), "\r\n");
@@ -435,52 +435,52 @@ TEST_F(Timings, ALowStartOverwritesTheHeadAndCutsTheReport) {
     EXPECT_EQ(entry(46), "  (127)  CheckSum OK\r\n");
     EXPECT_EQ(entry(47), "END REPORT");
     EXPECT_EQ(entry(48).substr(0, 6), "10   |");
-    const std::string text = joinedEntries(wb.ReportExtLines);
+    const std::string text = joinedEntries(workbench.ReportExtLines);
     EXPECT_EQ(text.substr(text.size() - 22), "  (127)  CheckSum OK\r\n");
 }
 
 TEST_F(Timings, AVeryLowStartPrintsBeforeTheHead) {
-    wb.ExtDtdStart = 4;
-    wb.ExtDtdOffsetText = "0";
-    wb.ExtDtdSlotCount = 6;
-    BuildExtensionReport(wb);
-    EXPECT_EQ(joinedEntries(wb.ReportExtLines), "\r\n(108-126) No Data:\r\n  (127)  CheckSum OK\r\n");
+    workbench.ExtDtdStart = 4;
+    workbench.ExtDtdOffsetText = "0";
+    workbench.ExtDtdSlotCount = 6;
+    BuildExtensionReport(workbench);
+    EXPECT_EQ(joinedEntries(workbench.ReportExtLines), "\r\n(108-126) No Data:\r\n  (127)  CheckSum OK\r\n");
 }
 
 TEST_F(Timings, AnOffsetThatIsNoNumberEndsTheBuild) {
-    wb.ExtDtdOffsetText = "ten";
-    BuildExtensionReport(wb);
+    workbench.ExtDtdOffsetText = "ten";
+    BuildExtensionReport(workbench);
     EXPECT_EQ(program.takeBoxes(), Lines{"Type mismatch"});
     EXPECT_EQ(body(), (Entries{{101, "\r\n"}}));
-    wb.ExtDetailedBlockText(0) = "T";
-    BuildExtensionReport(wb);
+    workbench.ExtDetailedBlockText(0) = "T";
+    BuildExtensionReport(workbench);
     EXPECT_EQ(program.takeBoxes(), Lines{"Type mismatch"});
     EXPECT_EQ(body(), (Entries{{102, rule}, {103, "\r\n"}}));
-    EXPECT_EQ(wb.ExtDtdStart, 104);
+    EXPECT_EQ(workbench.ExtDtdStart, 104);
 }
 
 TEST_F(Timings, AnEntryAbove300EndsTheBuild) {
-    wb.ExtDtdStart = 297;
-    BuildExtensionReport(wb);
+    workbench.ExtDtdStart = 297;
+    BuildExtensionReport(workbench);
     EXPECT_EQ(program.takeBoxes(), Lines{"Subscript out of range"});
     EXPECT_EQ(body(), (Entries{{298, "\r\n"}, {299, "(100-126) No Data:\r\n"}, {300, "  (127)  CheckSum OK\r\n"}}));
 }
 
 TEST_F(Timings, ASlotWithoutATextEndsTheBuild) {
-    wb.ExtDtdSlotCount = 7;
-    BuildExtensionReport(wb);
+    workbench.ExtDtdSlotCount = 7;
+    BuildExtensionReport(workbench);
     EXPECT_EQ(program.takeBoxes(), Lines{"Subscript out of range"});
     EXPECT_TRUE(body().empty());
 }
 
 TEST_F(Timings, AVideoListShorterThanItsLengthEndsTheBuild) {
     tag("02");
-    wb.VideoBlockStart = 4;
-    wb.VideoBlockLength = 2;
-    wb.ShortVideoText.create(2);
-    BuildExtensionReport(wb);
+    workbench.VideoBlockStart = 4;
+    workbench.VideoBlockLength = 2;
+    workbench.ShortVideoText.create(2);
+    BuildExtensionReport(workbench);
     EXPECT_EQ(program.takeBoxes(), Lines{"Subscript out of range"});
-    EXPECT_EQ(wb.ExtDtdStart, 100);
+    EXPECT_EQ(workbench.ExtDtdStart, 100);
 }
 
 } // namespace
