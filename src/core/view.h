@@ -11,11 +11,14 @@ class View {
 public:
     virtual ~View() = default;
     virtual void controlChanged(Control& control) = 0;
-    virtual void screenChanged(Screen& screen) = 0; ///< caption, or shown or hidden
-    virtual void screenLoaded(Screen& screen) = 0;  ///< after its load step
-    virtual void screenUnloaded(
-        Screen& screen) = 0;           ///< its controls go when the outermost call into the model has returned
-    virtual void windowsChanged() = 0; ///< order of the child windows, modal screens, end of the program
+    /// Its caption, or whether it is shown.
+    virtual void screenChanged(Screen& screen) = 0;
+    /// After its load step.
+    virtual void screenLoaded(Screen& screen) = 0;
+    /// Its controls go when the outermost call into the model has returned.
+    virtual void screenUnloaded(Screen& screen) = 0;
+    /// The order of the child windows, the modal screens, the end of the program.
+    virtual void windowsChanged() = 0;
     virtual void focusChanged() = 0;
 };
 
