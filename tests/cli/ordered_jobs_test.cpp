@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <numeric>
 #include <set>
@@ -68,6 +69,22 @@ TEST(OrderedJobs, ThrowsWhatTheWorkThrewWhenItsTurnComes) {
                      std::runtime_error);
         EXPECT_EQ(results, (std::vector<std::size_t>{0, 1, 2, 3})) << jobs;
     }
+}
+
+TEST(OrderedJobs, RunsAheadOfTheTakerByAFewPiecesOnly) {
+    std::atomic<int> begun = 0;
+    int mostAhead = 0;
+    int taken = 0;
+    OrderedJobs<int>::run(
+        500, 2, [&](std::size_t) { return ++begun; },
+        [&](int) {
+            if (taken % 100 == 0) { // time enough for the threads to run away
+                std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            }
+            mostAhead = std::max(mostAhead, begun - ++taken);
+        });
+    EXPECT_EQ(taken, 500);
+    EXPECT_LE(mostAhead, 8) << "four pieces a thread";
 }
 
 TEST(OrderedJobs, BeginsNoFurtherWorkAfterAnExceptionOfTheTaker) {
