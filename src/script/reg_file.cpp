@@ -71,6 +71,12 @@ private:
         if (rest_.empty()) {
             return false;
         }
+        takeLine();
+        ++lineNumber_;
+        return true;
+    }
+
+    void takeLine() {
         const std::size_t end = rest_.find('\n');
         std::string_view line = rest_.substr(0, end);
         rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
@@ -78,8 +84,6 @@ private:
             line.remove_suffix(1);
         }
         line_ = trimmed(line);
-        ++lineNumber_;
-        return true;
     }
 
     void parseHeader() {
@@ -92,14 +96,7 @@ private:
     }
 
     void parseKey() {
-        const std::size_t end = line_.rfind(']');
-        if (end == std::string_view::npos) {
-            fail("a key without its closing bracket");
-        }
-        const std::string_view tail = trimmed(line_.substr(end + 1));
-        if (!tail.empty() && tail.front() != ';') {
-            fail("text after a key");
-        }
+        const std::size_t end = closingBracket();
         std::string_view path = line_.substr(1, end - 1);
         inKey_ = true;
         const std::size_t rootEnd = path.find('\\');
@@ -109,6 +106,21 @@ private:
             path.remove_prefix(rootEnd == std::string_view::npos ? path.size() : rootEnd + 1);
             keys_.push_back({std::string(path), {}});
         }
+    }
+
+    /// The first bracket that nothing but a comment follows: a key may have brackets in its name, a comment too.
+    std::size_t closingBracket() const {
+        std::size_t end = line_.find(']');
+        if (end == std::string_view::npos) {
+            fail("a key without its closing bracket");
+        }
+        for (; end != std::string_view::npos; end = line_.find(']', end + 1)) {
+            const std::size_t tail = line_.find_first_not_of(blanks, end + 1);
+            if (tail == std::string_view::npos || line_[tail] == ';') {
+                return end;
+            }
+        }
+        fail("text after a key");
     }
 
     void parseValue() {
@@ -165,26 +177,29 @@ private:
 
     static std::string_view withoutComment(std::string_view text) { return trimmed(text.substr(0, text.find(';'))); }
 
-    /// Takes the quoted text at the front of the line.
+    /// Takes the quoted text at the front of the line. Line ends inside it belong to it.
     std::string takeText() {
+        const std::string_view all(line_.data(), rest_.size() + static_cast<std::size_t>(rest_.data() - line_.data()));
         std::string text;
         std::size_t place = 1;
         for (;; ++place) {
-            if (place < line_.size() && line_[place] == '"') {
+            if (place < all.size() && all[place] == '"') {
                 break;
             }
-            if (place < line_.size() && line_[place] == '\\') {
+            if (place < all.size() && all[place] == '\\') {
                 ++place;
-                if (place < line_.size() && line_[place] != '"' && line_[place] != '\\') {
+                if (place < all.size() && all[place] != '"' && all[place] != '\\') {
                     fail("unknown escape in a text");
                 }
             }
-            if (place >= line_.size()) {
+            if (place >= all.size()) {
                 fail("a text without its closing quote");
             }
-            text += line_[place];
+            text += all[place];
         }
-        line_.remove_prefix(place + 1);
+        lineNumber_ += static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+        rest_ = all.substr(place + 1);
+        takeLine();
         return text;
     }
 

@@ -67,6 +67,23 @@ TEST(RegFile, ReadsTexts) {
     EXPECT_EQ(value.data, std::string("C:\\x \"y\";z") + '\0');
 }
 
+TEST(RegFile, ATextMayHoldLineEnds) {
+    const auto keys = parseRegistryExport(head + key + "\"A\"=\"one \r\n two\nthree\"\r\n\"B\"=dword:1\r\n");
+    ASSERT_EQ(keys.size(), 1U);
+    ASSERT_EQ(keys[0].values.size(), 2U);
+    EXPECT_EQ(keys[0].values[0].data, std::string("one \r\n two\nthree") + '\0');
+    EXPECT_EQ(keys[0].values[1].name, "B");
+    EXPECT_EQ(errorOf(head + key + "\"A\"=\"one\r\ntwo\"\r\nx"), "6: neither a key nor a value");
+    EXPECT_EQ(errorOf(head + key + "\"A\"=\"one\r\ntwo\r\n"), "4: a text without its closing quote");
+}
+
+TEST(RegFile, ACommentAfterAKeyMayHoldBrackets) {
+    const auto keys = parseRegistryExport(head + "[HKEY_LOCAL_MACHINE\\X] ; a ] b\r\n[HKEY_LOCAL_MACHINE\\Y]];]\r\n");
+    ASSERT_EQ(keys.size(), 2U);
+    EXPECT_EQ(keys[0].path, "X");
+    EXPECT_EQ(keys[1].path, "Y]");
+}
+
 TEST(RegFile, ReadsNumbersLeastSignificantByteFirst) {
     const auto value = onlyValue("\"n\"=dword:0001a2Ff");
     EXPECT_EQ(value.type, RegistryType::Number32);
