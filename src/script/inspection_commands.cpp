@@ -33,14 +33,15 @@ void poke(Session& session, const Arguments& arguments) {
 
 void get(Session& session, const Arguments& arguments) {
     const std::vector<NamePart> parts = splitName(arguments[0].text);
+    if (parts.size() < 2 || parts.size() > 3 || parts[0].index != Control::noIndex) {
+        throw ScriptError("'" + arguments[0].text + "' does not name a property");
+    }
     const ScreenId screen = screenNamed(parts[0].name);
     if (parts.size() == 2) {
         printProperty(session, session.workbench.touch(screen), parts[1]);
-    } else if (parts.size() == 3) {
+    } else {
         const ControlName name = controlNamed(session.workbench, screen, parts[1]);
         printProperty(session, name.touch(session.workbench), parts[2]);
-    } else {
-        throw ScriptError("'" + arguments[0].text + "' does not name a property");
     }
 }
 

@@ -42,6 +42,15 @@ TEST(Inspection, ReadsProperties) {
     }
 }
 
+TEST(Inspection, RefusesNamesThatAreNoProperty) {
+    for (const std::string name :
+         {"frmEDID", "frmEDID(3).txtEdit(0).Text", "frmEDID(0).Caption", "frmEDID.txtEdit(0).Text.Length"}) {
+        EXPECT_EQ(runScript("get " + name), "1: '" + name + "' does not name a property\n");
+    }
+    EXPECT_EQ(runScript("get frmEDID.txtEdit(0).Text(1)"), "1: unknown property 'Text'\n");
+    EXPECT_EQ(runScript("get frmEDID.Caption(1)"), "1: unknown property 'Caption'\n");
+}
+
 TEST(Inspection, ListsTheRowsOfACombo) {
     const std::string rows = runScript("get frmCEA_EXT.NativeCBox.List\n");
     EXPECT_EQ(rows.substr(0, rows.find('\n')), "frmCEA_EXT.NativeCBox.List(0) = \"00\"");
