@@ -72,6 +72,29 @@ TEST_F(TranslateTest, ADataFileThatBreaksOffIsToldToo) {
               "edidwb: short.DAT: cannot be loaded: Input past end of file\n");
 }
 
+/// A data file whose first two detailed timings have those flags; all other bytes are 0, their pixel clocks 1.
+std::string dataFileWithFlags(const std::string& first, const std::string& second) {
+    std::string text = "128 BYTES OF EDID CODE:\r\n\r\n\r\n|";
+    for (int i = 0; i < 128; ++i) {
+        const bool clock = i == 54 || i == 72;
+        text += ' ' + (i == 54 + 17 ? first : i == 72 + 17 ? second : clock ? "01" : "00");
+    }
+    return text + "\r\n";
+}
+
+/// The decoders may write into the cells; the file was read all the same.
+TEST_F(TranslateTest, ADataFileWhoseCellsTheDecodersRewriteIsLoaded) {
+    write("serrated.DAT", dataFileWithFlags("14", "1C"));
+    write("lower.DAT", dataFileWithFlags("1e", "c4"));
+    for (const auto& [name, flags] : {std::pair("serrated.DAT", "18"), std::pair("lower.DAT", "C4")}) {
+        EXPECT_EQ(shell("edidwb convert --to hex " + std::string(name) + " -").output.substr((72 + 17) * 3, 2), flags);
+        const Outcome outcome = shell("edidwb translate " + std::string(name));
+        EXPECT_EQ(outcome.status, 0) << name;
+        EXPECT_EQ(outcome.errors, "") << name;
+        EXPECT_TRUE(contains(outcome.output, "128 BYTES OF EDID CODE:")) << name;
+    }
+}
+
 TEST_F(TranslateTest, BoxesCountOnlyWhenStrict) {
     // The data file has one pair too many: that is told, and the rest is as good as before.
     shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; echo '| AA' >>z.DAT");
