@@ -57,11 +57,10 @@ int run(const std::vector<std::string>& files) {
 
 } // namespace
 
-void addCheck(CLI::App& app, Chosen& chosen) {
-    CLI::App* command = app.add_subcommand("check", "Check header, length and check sums of each file");
+Run addCheck(CLI::App& command) {
     const auto files = std::make_shared<std::vector<std::string>>();
-    command->add_option("FILE", *files, "File in any format; - is standard input")->type_name("")->required();
-    command->callback([files, &chosen] { chosen = [files] { return run(*files); }; });
+    command.add_option("FILE", *files, "File in any format; - is standard input")->type_name("")->required();
+    return [files] { return run(*files); };
 }
 
 } // namespace wb::cli

@@ -6,8 +6,8 @@ namespace CLI {
 class App;
 }
 
-/// The subcommands. Each adds itself with its options and, when the user has chosen it, leaves what it does, which
-/// gives the exit status.
+/// The subcommands. Each adds its options to the command and gives what it does once they are read, which gives the
+/// exit status.
 namespace wb::cli {
 
 /// Exit statuses.
@@ -15,13 +15,13 @@ inline constexpr int success = 0;
 inline constexpr int somethingFailed = 1;
 inline constexpr int wrongUse = 2;
 
-using Chosen = std::function<int()>;
+using Run = std::function<int()>;
 
-void addTranslate(CLI::App& app, Chosen& chosen);
-void addConvert(CLI::App& app, Chosen& chosen);
-void addCheck(CLI::App& app, Chosen& chosen);
-void addRead(CLI::App& app, Chosen& chosen);
-void addMonitors(CLI::App& app, Chosen& chosen);
-void addScript(CLI::App& app, Chosen& chosen);
+Run addTranslate(CLI::App& command);
+Run addConvert(CLI::App& command);
+Run addCheck(CLI::App& command);
+Run addRead(CLI::App& command);
+Run addMonitors(CLI::App& command);
+Run addScript(CLI::App& command);
 
 } // namespace wb::cli

@@ -56,18 +56,20 @@ int run(const Options& options) {
 
 } // namespace
 
-void addConvert(CLI::App& app, Chosen& chosen) {
-    CLI::App* command = app.add_subcommand("convert", "Write an image in another format");
+Run addConvert(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command->add_option("--to", options->format, formatHelp)
+    command.add_option("--to", options->format, formatHelp)
         ->type_name("FORMAT")
         ->required()
         ->check(CLI::IsMember(formatNames()))
         ->take_last();
-    command->add_option("IN", options->in, "File in any format; - is standard input")->type_name("")->required();
-    command->add_option("OUT", options->out, "File to be written; - is standard output")->type_name("")->required();
-    command->add_flag("-f,--force", options->force, "Replace OUT if it exists");
-    command->callback([options, &chosen] { chosen = [options] { return run(*options); }; });
+    command.add_option("IN", options->in, "File in any format; - is standard input")->type_name("")->required();
+    command.add_option("OUT", options->out, "File to be written; - is standard output")->type_name("")->required();
+    command.add_flag("-f,--force", options->force, "Replace OUT if it exists")->disable_flag_override();
+    command.footer(
+        "OUT gets the image as the program holds it after decoding: a flag of a detailed\n"
+        "timing may differ from IN, and the check sum stays as it is.");
+    return [options] { return run(*options); };
 }
 
 } // namespace wb::cli

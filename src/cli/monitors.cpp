@@ -25,11 +25,10 @@ int run(const SystemOptions& options) {
 
 } // namespace
 
-void addMonitors(CLI::App& app, Chosen& chosen) {
-    CLI::App* command = app.add_subcommand("monitors", "List the attached monitors, and where their EDID comes from");
+Run addMonitors(CLI::App& command) {
     const auto options = std::make_shared<SystemOptions>();
-    addSystemOptions(*command, *options);
-    command->callback([options, &chosen] { chosen = [options] { return run(*options); }; });
+    addSystemOptions(command, *options);
+    return [options] { return run(*options); };
 }
 
 } // namespace wb::cli

@@ -36,15 +36,14 @@ int run(const Options& options) {
 
 } // namespace
 
-void addRead(CLI::App& app, Chosen& chosen) {
-    CLI::App* command = app.add_subcommand("read", "Print what the running system stored of its first monitor");
+Run addRead(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command->add_option("--to", options->format, std::string(formatHelp) + ", the default")
+    command.add_option("--to", options->format, std::string(formatHelp) + ", the default")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(formatNames()))
         ->take_last();
-    addSystemOptions(*command, options->system);
-    command->callback([options, &chosen] { chosen = [options] { return run(*options); }; });
+    addSystemOptions(command, options->system);
+    return [options] { return run(*options); };
 }
 
 } // namespace wb::cli

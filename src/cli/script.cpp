@@ -1,7 +1,10 @@
 #include <CLI/CLI.hpp>
-#include <fstream>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <iostream>
 #include <memory>
+#include <sstream>
 
 #include "cli/cli_error.h"
 #include "cli/commands.h"
@@ -33,10 +36,14 @@ int runScript(std::istream& script, const std::string& name) {
 }
 
 int run(const std::string& name) {
-    if (name == standardStream) {
-        return runScript(std::cin, name);
-    }
     try {
+        if (name == standardStream) {
+            const int status = runScript(std::cin, name);
+            if (status == success && std::ferror(stdin) != 0) { // which std::cin reads, but takes for the end
+                throw CliError(std::strerror(errno));
+            }
+            return status;
+        }
         std::istringstream script(readInput(name).content);
         return runScript(script, name);
     } catch (const CliError& error) {
@@ -47,11 +54,10 @@ int run(const std::string& name) {
 
 } // namespace
 
-void addScript(CLI::App& app, Chosen& chosen) {
-    CLI::App* command = app.add_subcommand("script", "Drive the screens of the program by a script");
+Run addScript(CLI::App& command) {
     const auto file = std::make_shared<std::string>(standardStream);
-    command->add_option("FILE", *file, "The script; - (the default) is standard input")->type_name("");
-    command->callback([file, &chosen] { chosen = [file] { return run(*file); }; });
+    command.add_option("FILE", *file, "The script; - (the default) is standard input")->type_name("");
+    return [file] { return run(*file); };
 }
 
 } // namespace wb::cli

@@ -11,6 +11,7 @@
 #include "cli/ordered_jobs.h"
 #include "cli/output.h"
 #include "cli/program.h"
+#include "core/text.h"
 #include "script/date_time.h"
 #include "script/digits.h"
 
@@ -22,9 +23,9 @@ namespace fs = std::filesystem;
 
 struct Options {
     std::vector<std::string> files;
-    std::string outputFolder;
+    std::optional<std::string> outputFolder;
     std::string jobs = "1";
-    std::string date;
+    std::optional<std::string> date;
     bool strict = false;
 };
 
@@ -59,6 +60,9 @@ public:
     explicit Collector(const Options& options) : options_(options) {
         for (const std::string& name : options.files) {
             namesOfStem_[stemOf(name)].insert(fs::path(name).filename().string());
+            if (options.outputFolder && name != standardStream) {
+                inputs_.emplace(placeKey(name), name);
+            }
         }
     }
 
@@ -70,7 +74,7 @@ public:
         }
         if (translation.error) {
             fail(name, *translation.error);
-        } else if (options_.outputFolder.empty()) {
+        } else if (!options_.outputFolder) {
             print(translation.report);
         } else {
             writeReport(name, translation.report);
@@ -97,7 +101,7 @@ private:
     }
 
     void writeReport(const std::string& name, const std::string& report) {
-        const std::string target = (fs::path(options_.outputFolder) / reportNameOf(name)).string();
+        const std::string target = (fs::path(*options_.outputFolder) / reportNameOf(name)).string();
         const auto [other, isNew] = writtenBy_.try_emplace(target, name);
         if (!isNew) {
             fail(name, "its report '" + target + "' is already that of '" + other->second + "'");
@@ -114,31 +118,44 @@ private:
         }
     }
 
-    bool isInput(const std::string& target) const {
+    /// The name of the file behind all links, in one letter case: the same for whatever leads to one file. Empty where
+    /// there is none.
+    static std::string placeKey(const std::string& name) {
         std::error_code ignored;
-        return fs::exists(target, ignored) &&
-               std::any_of(options_.files.begin(), options_.files.end(), [&](const std::string& file) {
-                   std::error_code error;
-                   return file != standardStream && fs::equivalent(file, target, error) && !error;
-               });
+        return upperCase(fs::canonical(name, ignored).filename().string());
+    }
+
+    bool isInput(const std::string& target) const {
+        const std::string key = placeKey(target);
+        const auto [begin, end] = inputs_.equal_range(key);
+        return !key.empty() && std::any_of(begin, end, [&](const auto& input) {
+            std::error_code error;
+            return fs::equivalent(input.second, target, error) && !error;
+        });
     }
 
     const Options& options_;
     std::size_t next_ = 0;
     std::map<std::string, std::set<std::string>> namesOfStem_;
+    std::multimap<std::string, std::string> inputs_; ///< by placeKey, as there may be many
     std::map<std::string, std::string> writtenBy_;
     bool failed_ = false;
 };
 
 std::optional<platform::DateTime> dateOf(const Options& options) {
-    if (options.date.empty()) {
+    if (!options.date) {
         return std::nullopt;
     }
-    const auto date = script::parseDateTime(options.date);
+    const auto date = script::parseDateTime(*options.date);
     if (!date) {
-        throw UsageError("'" + options.date + "' is no date and time like \"2000-01-31 23:59:59\"");
+        throw UsageError("'" + *options.date + "' is no date and time like \"2000-01-31 23:59:59\"");
     }
     return date;
+}
+
+/// The option library would take an empty text for none at all.
+std::string refuseEmpty(const std::string& value) {
+    return value.empty() ? "the value is empty" : "";
 }
 
 std::size_t jobsOf(const Options& options) {
@@ -153,11 +170,11 @@ int run(const Options& options) {
     const std::size_t jobs = jobsOf(options);
     requireOneStandardInput(options.files);
     const std::optional<platform::DateTime> now = dateOf(options);
-    if (!options.outputFolder.empty()) {
+    if (options.outputFolder) {
         std::error_code error;
-        fs::create_directories(options.outputFolder, error);
+        fs::create_directories(*options.outputFolder, error);
         if (error) {
-            complain(options.outputFolder, error.message());
+            complain(*options.outputFolder, error.message());
             return somethingFailed;
         }
     }
@@ -170,23 +187,25 @@ int run(const Options& options) {
 
 } // namespace
 
-void addTranslate(CLI::App& app, Chosen& chosen) {
-    CLI::App* command = app.add_subcommand("translate", "Print the report of each file");
+Run addTranslate(CLI::App& command) {
     const auto options = std::make_shared<Options>();
     command
-        ->add_option("FILE", options->files,
-                     "Data file, binary image or hexadecimal text, recognised by content; - is standard input")
+        .add_option("FILE", options->files,
+                    "Data file, binary image or hexadecimal text, recognised by content; - is standard input")
         ->type_name("")
         ->required();
-    command->add_option("-o,--output-dir", options->outputFolder, "Write each report to DIR/NAME.txt instead")
+    command.add_option("-o,--output-dir", options->outputFolder, "Write each report to DIR/NAME.txt instead")
         ->type_name("DIR")
+        ->check(refuseEmpty)
         ->take_last();
-    command->add_option("-j,--jobs", options->jobs, "Work on up to N files at a time")->type_name("N")->take_last();
-    command->add_option("--date", options->date, "Set the clock that the heading shows")
+    command.add_option("-j,--jobs", options->jobs, "Work on up to N files at a time")->type_name("N")->take_last();
+    command.add_option("--date", options->date, "Set the clock that the heading shows")
         ->type_name("\"YYYY-MM-DD HH:MM:SS\"")
+        ->check(refuseEmpty)
         ->take_last();
-    command->add_flag("--strict", options->strict, "Count the boxes that the program shows as failures");
-    command->callback([options, &chosen] { chosen = [options] { return run(*options); }; });
+    command.add_flag("--strict", options->strict, "Count the boxes that the program shows as failures")
+        ->disable_flag_override();
+    return [options] { return run(*options); };
 }
 
 } // namespace wb::cli

@@ -26,6 +26,12 @@ TEST_F(ScriptTest, AnErrorTellsFileAndLineAndEndsTheScript) {
 TEST_F(ScriptTest, AFileThatCannotBeReadIsTold) {
     EXPECT_EQ(shell("edidwb script missing").status, 1);
     EXPECT_EQ(shell("edidwb script .").errors, "edidwb: .: Is a directory\n");
+    for (const std::string command : {"edidwb script", "edidwb script -"}) {
+        EXPECT_EQ(shell(command + " <.").status, 1) << command;
+        EXPECT_EQ(shell(command + " <.").errors, "edidwb: -: Is a directory\n") << command;
+        EXPECT_EQ(shell(command + " <&-").status, 1) << command;
+        EXPECT_EQ(shell(command + " <&-").errors, "edidwb: -: Bad file descriptor\n") << command;
+    }
 }
 
 TEST_F(ScriptTest, ARegistryExportTellsItsOwnLine) {

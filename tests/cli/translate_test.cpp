@@ -153,6 +153,25 @@ TEST_F(TranslateTest, AReportNeverReplacesAnInput) {
     EXPECT_EQ(read("z.txt"), text);
 }
 
+TEST_F(TranslateTest, AReportNeverReplacesAnInputThatALinkLeadsTo) {
+    write("z.bin", sample("zarqo-z40.bin"));
+    const Outcome outcome = shell(
+        "mkdir out\nln -s ../z.bin out/halvorine-hv19.txt\nln -s z.bin link.bin\n"
+        "edidwb translate -o out $SAMPLES/halvorine-hv19.bin link.bin");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(contains(outcome.errors, "its report 'out/halvorine-hv19.txt' would replace a file")) << outcome.errors;
+    EXPECT_EQ(read("z.bin"), sample("zarqo-z40.bin"));
+    EXPECT_TRUE(exists("out/link.txt"));
+}
+
+TEST_F(TranslateTest, WithoutThreadsTheWorkIsDoneAllTheSame) {
+    // No address space holds a stack of that size, so that no thread can be made.
+    const Outcome outcome = shell(
+        "ulimit -Ss $((1 << 44)) && edidwb translate --jobs 4 $SAMPLES/zarqo-z40.bin $SAMPLES/halvorine-hv19.bin");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(outcome.output, shell("edidwb translate $SAMPLES/zarqo-z40.bin $SAMPLES/halvorine-hv19.bin").output);
+}
+
 TEST_F(TranslateTest, AReportThatCannotBeWrittenIsTold) {
     write("file", "");
     EXPECT_EQ(shell("edidwb translate -o file $SAMPLES/zarqo-z40.bin").status, 1);

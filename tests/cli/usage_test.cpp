@@ -9,7 +9,7 @@ TEST_F(UsageTest, TellsItsVersionAndHelp) {
     const Outcome version = shell("edidwb --version");
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output.substr(0, 7), "edidwb ");
-    for (const char* command : {"", "translate ", "convert ", "check ", "script "}) {
+    for (const char* command : {"", "translate ", "convert ", "check ", "read ", "monitors ", "script "}) {
         const Outcome help = shell("edidwb " + std::string(command) + "--help");
         EXPECT_EQ(help.status, 0) << command;
         EXPECT_TRUE(contains(help.output, "Usage: edidwb " + std::string(command))) << help.output;
@@ -18,11 +18,39 @@ TEST_F(UsageTest, TellsItsVersionAndHelp) {
 }
 
 TEST_F(UsageTest, WrongUseHasStatus2) {
-    for (const char* arguments :
-         {"", "frob", "--frob", "translate", "translate --frob x", "translate --jobs 0 x", "translate --jobs -1 x",
-          "translate --jobs two x", "translate --jobs", "translate --date 2004-02-30 x", "translate - -",
-          "translate --strict=maybe x", "check", "check - -", "convert a b", "convert --to bin a",
-          "convert --to gif a b", "convert --to bin a b c", "script a b"}) {
+    for (const char* arguments : {"",
+                                  "frob",
+                                  "--frob",
+                                  "translate",
+                                  "translate --frob x",
+                                  "translate --jobs 0 x",
+                                  "translate --jobs -1 x",
+                                  "translate --jobs two x",
+                                  "translate --jobs",
+                                  "translate --date 2004-02-30 x",
+                                  "translate - -",
+                                  "translate --strict=maybe x",
+                                  "translate --strict=false x",
+                                  "translate --strict= x",
+                                  "translate --date '' x",
+                                  "translate --date= x",
+                                  "translate --output-dir '' x",
+                                  "translate -o '' x",
+                                  "translate --output-dir= nd x",
+                                  "translate --jobs= 2 x",
+                                  "convert --force=0 --to bin a b",
+                                  "--version=",
+                                  "read x",
+                                  "read --to",
+                                  "monitors x",
+                                  "monitors --frob",
+                                  "check",
+                                  "check - -",
+                                  "convert a b",
+                                  "convert --to bin a",
+                                  "convert --to gif a b",
+                                  "convert --to bin a b c",
+                                  "script a b"}) {
         const Outcome outcome = shell("edidwb " + std::string(arguments));
         EXPECT_EQ(outcome.status, 2) << arguments;
         EXPECT_EQ(outcome.output, "") << arguments;
@@ -42,6 +70,35 @@ TEST_F(UsageTest, OptionsMayStandAnywhereAndEndAtTwoDashes) {
     const Outcome dashes = shell("edidwb check -- -x --help");
     EXPECT_EQ(dashes.status, 0) << dashes.errors;
     EXPECT_EQ(dashes.output.substr(0, 3), "-x:");
+    for (const char* arguments : {"check check -- -x --help", "check -- check -x", "translate check -- '{}' -x",
+                                  "translate -j 2 check '[a]' -- --help", "convert --to bin check -- --",
+                                  "convert --to bin --force -- -x -x", "check -- -- '[a]'", "check ++ -- ++"}) {
+        write("++", image);
+        const Outcome outcome = shell("edidwb " + std::string(arguments));
+        EXPECT_EQ(outcome.status, 0) << arguments << '\n' << outcome.errors;
+    }
+    EXPECT_EQ(read("--"), image);
+    EXPECT_EQ(shell("edidwb translate check -- --jobs -x").errors, "edidwb: --jobs: No such file or directory\n");
+}
+
+TEST_F(UsageTest, NamesWhatIsWrong) {
+    struct Case {
+        const char* arguments;
+        const char* message;
+    };
+    for (const Case& c : {Case{"nosuch", "not expected: nosuch"}, Case{"--no", "not expected: --no"},
+                          Case{"--no check", "not expected: --no"}, Case{"", "A subcommand is required"},
+                          Case{"script a b c", "not expected: b c"}, Case{"read a b", "not expected: a b"},
+                          Case{"check --frob", "not expected: --frob"}, Case{"check", "FILE is required"},
+                          Case{"translate --output-dir= nd a", "no value in '--output-dir='"},
+                          Case{"translate --date '' a", "--date: the value is empty"}}) {
+        EXPECT_EQ(shell("edidwb " + std::string(c.arguments)).errors,
+                  "edidwb: " + std::string(c.message) + "\nTry 'edidwb --help' for more information.\n");
+    }
+}
+
+TEST_F(UsageTest, TheHelpOfConvertTellsThatDecodingMayChangeTheImage) {
+    EXPECT_TRUE(contains(shell("edidwb convert --help").output, "OUT gets the image as the program holds it"));
 }
 
 TEST_F(UsageTest, OutputThatCannotBeWrittenIsAnError) {
