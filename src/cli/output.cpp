@@ -112,7 +112,7 @@ void writeFile(const std::string& name, std::string_view content, Existing exist
     if (fs::is_directory(status)) {
         throw CliError(std::strerror(EISDIR));
     }
-    if (fs::exists(status) && existing == Existing::Refuse) {
+    if (existing == Existing::Refuse && fs::exists(fs::symlink_status(name, error))) { // a link that leads nowhere too
         throw CliError("exists already (--force replaces it)");
     }
     if (fs::exists(status) && !fs::is_regular_file(status)) {
@@ -122,6 +122,10 @@ void writeFile(const std::string& name, std::string_view content, Existing exist
     const fs::path place = finalPlace(name);
     TemporaryFile temporary(place.parent_path());
     temporary.write(content);
+    if (existing == Existing::Refuse) {
+        temporary.moveToNew(place);
+        return;
+    }
     takePermissions(place, temporary.path());
     temporary.moveTo(place);
 }

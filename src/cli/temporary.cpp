@@ -61,6 +61,17 @@ void TemporaryFile::moveTo(const std::filesystem::path& place) {
     }
 }
 
+void TemporaryFile::moveToNew(const std::filesystem::path& place) {
+    std::error_code error;
+    std::filesystem::create_hard_link(path_, place, error);
+    if (error == std::errc::file_exists) {
+        throw CliError(error.message());
+    }
+    if (error) {
+        moveTo(place);
+    }
+}
+
 TemporaryFolder::TemporaryFolder() {
     namespace fs = std::filesystem;
     std::error_code error;

@@ -21,6 +21,9 @@ public:
     void write(std::string_view content);
     /// Renames it, over a file of that name if there is one; a failure is a CliError.
     void moveTo(const std::filesystem::path& place);
+    /// The same, but a file of that name, which another program may just have made, is a CliError too. Where the file
+    /// system has no hard links it is replaced.
+    void moveToNew(const std::filesystem::path& place);
 
 private:
     std::filesystem::path path_;

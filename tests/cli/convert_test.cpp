@@ -43,6 +43,24 @@ TEST_F(ConvertTest, RefusesAnExistingFile) {
     EXPECT_EQ(read("out"), sample("zarqo-z40.bin"));
 }
 
+TEST_F(ConvertTest, RefusesALinkThatLeadsNowhere) {
+    const Outcome outcome = shell(
+        "ln -s missing dangling; ln -s loop loop\nedidwb convert --to bin $SAMPLES/zarqo-z40.bin dangling\n"
+        "edidwb convert --to bin $SAMPLES/zarqo-z40.bin loop");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors,
+              "edidwb: dangling: exists already (--force replaces it)\n"
+              "edidwb: loop: exists already (--force replaces it)\n");
+    EXPECT_EQ(shell("readlink dangling loop; ls -A").output, "missing\nloop\ndangling\nloop\n");
+}
+
+TEST_F(ConvertTest, AFileSizeLimitIsAFailureLikeAnyOther) {
+    const Outcome outcome = shell("ulimit -f 1; edidwb convert --to report $SAMPLES/zarqo-z40.bin out");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "edidwb: out: File too large\n");
+    EXPECT_EQ(shell("ls -A").output, "");
+}
+
 TEST_F(ConvertTest, AFailureLeavesNoFile) {
     write("notes", "no image");
     EXPECT_EQ(shell("edidwb convert --to bin notes out").status, 1);
@@ -53,6 +71,27 @@ TEST_F(ConvertTest, AFailureLeavesNoFile) {
     EXPECT_EQ(shell("edidwb convert --force --to bin $SAMPLES/zarqo-z40.bin /dev/full").errors,
               "edidwb: /dev/full: No space left on device\n");
     EXPECT_EQ(shell("test -c /dev/full").status, 0);
+}
+
+/// What Save would hold: the second timing takes the serration of the first one away, and no check sum is brought in
+/// line.
+TEST_F(ConvertTest, WritesTheImageAsItStandsAfterDecoding) {
+    std::string image = sample("halvorine-hv19.bin");
+    image[54] = image[72] = 1; // pixel clocks, so that both are timings
+    image[54 + 17] = 0x14;     // digital composite sync, serrated
+    image[72 + 17] = 0x1C;     // digital separate sync, vertical positive
+    write("in", image);
+    EXPECT_EQ(shell("edidwb convert --to bin in out").status, 0);
+    image[72 + 17] = 0x18;
+    EXPECT_EQ(read("out"), image);
+}
+
+TEST_F(ConvertTest, WhatCannotBeWrittenOnTheWayIsTold) {
+    const Outcome outcome = shell(
+        "(ulimit -f 0; edidwb convert --to dat $SAMPLES/zarqo-z40.bin - 2>&1; echo status $?) | sed 's|.*/samples/||'");
+    EXPECT_EQ(outcome.output,
+              "zarqo-z40.bin: Path/File access error\nzarqo-z40.bin: cannot be written: Path/File access error\n"
+              "status 1\n");
 }
 
 TEST_F(ConvertTest, ACellThatIsNoByteHasNoBinaryForm) {
