@@ -4,13 +4,13 @@
 #include "cli/cli_error.h"
 #include "cli/output.h"
 #include "cli/temporary.h"
+#include "core/digits.h"
 #include "core/edid_image.h"
 #include "core/input.h"
 #include "core/text.h"
 #include "files/data_file.h"
 #include "files/save.h"
 #include "report/show_report.h"
-#include "script/digits.h"
 #include "shell/startup.h"
 #include "shell/wiring.h"
 
@@ -35,7 +35,7 @@ std::string withPlatformLineEnds(std::string_view text) {
 }
 
 void appendByte(const std::string& cell, std::string& bytes) {
-    const auto byte = script::wholeNumber<unsigned char>(cell, 16);
+    const auto byte = wholeNumber<unsigned char>(cell, 16);
     if (!byte || cell.size() != 2) {
         throw CliError("cell " + std::to_string(bytes.size()) + " is no byte: " + wb::quoted(cell));
     }

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/digits.h"
 #include "core/text.h"
 #include "files/data_file.h"
-#include "script/digits.h"
 
 namespace wb::cli {
 
@@ -37,7 +37,7 @@ bool takeDigits(std::string_view word, std::string& digits) {
         }
     }
     digits += word;
-    return std::all_of(word.begin(), word.end(), [](char c) { return script::hexDigit(c) >= 0; });
+    return std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; });
 }
 
 std::optional<std::string> hexDigits(std::string_view bytes) {
@@ -62,7 +62,7 @@ std::string bytesOf(std::string_view digits) {
     std::string bytes;
     bytes.reserve(digits.size() / 2);
     for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {
-        bytes += static_cast<char>(script::hexDigit(digits[i]) * 16 + script::hexDigit(digits[i + 1]));
+        bytes += static_cast<char>(hexDigit(digits[i]) * 16 + hexDigit(digits[i + 1]));
     }
     return bytes;
 }

@@ -11,9 +11,9 @@
 #include "cli/ordered_jobs.h"
 #include "cli/output.h"
 #include "cli/program.h"
+#include "core/digits.h"
 #include "core/text.h"
 #include "script/date_time.h"
-#include "script/digits.h"
 
 namespace wb::cli {
 
@@ -159,7 +159,7 @@ std::string refuseEmpty(const std::string& value) {
 }
 
 std::size_t jobsOf(const Options& options) {
-    const auto jobs = script::wholeNumber<std::size_t>(options.jobs);
+    const auto jobs = wholeNumber<std::size_t>(options.jobs);
     if (!jobs || *jobs == 0) {
         throw UsageError("the number of jobs is 1 or more, not '" + options.jobs + "'");
     }

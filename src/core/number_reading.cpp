@@ -2,6 +2,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "core/digits.h"
 #include "core/failure.h"
 #include "core/numbers.h"
 
@@ -15,16 +16,6 @@ bool isDigit(char c) {
 
 bool isSkipped(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-int hexDigit(char c) {
-    if (isDigit(c)) {
-        return c - '0';
-    }
-    if (c >= 'A' && c <= 'F') {
-        return c - 'A' + 10;
-    }
-    return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
 }
 
 /// Whether a decimal text that no double holds spells a number too close to zero, rather than one too large.

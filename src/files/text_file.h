@@ -11,6 +11,12 @@
 /// out of scope is closed.
 namespace wb::files {
 
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+/// An open file, which is closed when it goes out of scope.
+using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
+
 /// Whether an ordinary file of that name exists.
 bool fileExists(const std::string& name);
 /// Deletes the file.
@@ -28,10 +34,7 @@ public:
 private:
     bool fill();
 
-    struct Closer {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-    std::unique_ptr<std::FILE, Closer> file_;
+    FileHandle file_;
     std::vector<char> buffer_;
     std::size_t at_ = 0;
     std::size_t end_ = 0;
@@ -48,10 +51,7 @@ public:
     void close();
 
 private:
-    struct Closer {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-    std::unique_ptr<std::FILE, Closer> file_;
+    FileHandle file_;
 };
 
 } // namespace wb::files

@@ -3,7 +3,7 @@
 #include <memory>
 #include <utility>
 
-#include "script/digits.h"
+#include "core/digits.h"
 #include "script/script_error.h"
 
 namespace wb::script {

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-#include "script/digits.h"
+#include "core/digits.h"
 
 namespace wb::script {
 

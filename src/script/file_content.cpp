@@ -2,19 +2,16 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <memory>
 #include <system_error>
 #include <vector>
+
+#include "files/text_file.h"
 
 namespace wb::script {
 
 namespace {
 
 constexpr std::size_t largestFile = std::size_t{1} << 30U;
-
-struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 [[noreturn]] void fail(int error) {
     throw std::system_error(error, std::generic_category());
@@ -27,7 +24,7 @@ std::string readFile(const std::string& path) {
     if (std::filesystem::is_directory(path, ignored)) {
         fail(EISDIR);
     }
-    const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
+    const files::FileHandle file(std::fopen(path.c_str(), "rb"));
     if (file == nullptr) {
         fail(errno);
     }

@@ -1,6 +1,6 @@
 #include "script/parser.h"
 
-#include "script/digits.h"
+#include "core/digits.h"
 #include "script/script_error.h"
 
 namespace wb::script {

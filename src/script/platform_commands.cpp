@@ -2,10 +2,10 @@
 #include <system_error>
 #include <utility>
 
+#include "core/digits.h"
 #include "core/text.h"
 #include "script/commands.h"
 #include "script/date_time.h"
-#include "script/digits.h"
 #include "script/file_content.h"
 #include "script/reg_file.h"
 #include "script/script_error.h"

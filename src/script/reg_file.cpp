@@ -6,9 +6,9 @@
 #include <optional>
 #include <utility>
 
+#include "core/digits.h"
 #include "core/text.h"
 #include "script/code_page.h"
-#include "script/digits.h"
 #include "script/script_error.h"
 
 namespace wb::script {

@@ -1,6 +1,6 @@
+#include "core/digits.h"
 #include "script/commands.h"
 #include "script/control_names.h"
-#include "script/digits.h"
 #include "script/script_error.h"
 
 namespace wb::script::commands {

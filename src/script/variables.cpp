@@ -2,9 +2,9 @@
 
 #include <type_traits>
 
+#include "core/digits.h"
 #include "core/numbers.h"
 #include "core/text.h"
-#include "script/digits.h"
 #include "script/script_error.h"
 
 namespace wb::script {

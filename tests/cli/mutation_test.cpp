@@ -5,10 +5,10 @@
 #include "cli/cli_error.h"
 #include "cli/program.h"
 #include "cli/samples.h"
+#include "core/digits.h"
 #include "core/text.h"
 #include "files/data_file.h"
 #include "script/code_page.h"
-#include "script/digits.h"
 #include "script/parser.h"
 #include "script/reg_file.h"
 #include "script/script_error.h"
@@ -84,7 +84,7 @@ std::string digitsOf(const std::string& text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (i + 1 < text.size() && text[i] == '0' && upperCase(text[i + 1]) == 'X') {
             ++i;
-        } else if (script::hexDigit(text[i]) >= 0) {
+        } else if (hexDigit(text[i]) >= 0) {
             digits += upperCase(text[i]);
         }
     }

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-namespace wb::script {
+namespace wb {
 
 /// 0 to 15 for a hexadecimal digit in either case, -1 for any other character.
 constexpr int hexDigit(char c) {
@@ -31,4 +31,4 @@ std::optional<Number> wholeNumber(std::string_view text, int base = 10) {
     return number;
 }
 
-} // namespace wb::script
+} // namespace wb
