@@ -56,6 +56,15 @@ std::string hexDigits(double entry) {
     return std::string(digits.size() < 4 ? 4 - digits.size() : 0, '0') + digits;
 }
 
+/// Whether an entry fits; otherwise tells the user.
+bool isEntry(Workbench& workbench, double entry) {
+    if (entry > largestEntry) {
+        workbench.showMessage("Invalid Value");
+        return false;
+    }
+    return true;
+}
+
 /// The vertical sync fields have four low bits in one cell and two upper ones in the next.
 void writeVerticalSync(BlockScreen& screen, bool isOffset, const std::string& low) {
     const int base = screen.CurrentBlockBase;
@@ -144,15 +153,17 @@ void DTInput_KeyUp(const BlockScreenRules& rules, Workbench& workbench, int keyC
     }
     procedure(rules, workbench, [&](BlockScreen& screen, const Statements& run) {
         const double entry = Value(workbench, screen.DTInput.text());
-        const int field = screen.DT.firstSelected();
-        const double clock = entry * 100;
-        if (entry > largestEntry || (field == pixelClock && clock > largestEntry)) {
-            workbench.showMessage("Invalid Value");
+        if (!isEntry(workbench, entry)) {
             return;
         }
+        const int field = screen.DT.firstSelected();
         if (field >= 0) {
             std::string digits = run.read([&] { return hexDigits(entry); });
-            if (field == pixelClock) {
+            if (field == pixelClock) { // reads the box again, so that what cannot be read is told twice
+                const double clock = Value(workbench, screen.DTInput.text()) * 100;
+                if (!isEntry(workbench, clock)) {
+                    return;
+                }
                 digits = run.read([&] { return hexDigits(clock); });
             }
             run([&] { writeField(screen, fields[static_cast<std::size_t>(field)], digits); });

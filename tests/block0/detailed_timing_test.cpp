@@ -133,6 +133,18 @@ TEST_F(DetailedTiming, Refusals) {
     }
 }
 
+TEST_F(DetailedTiming, AnEntryThatCannotBeReadCountsAsNothingAndAClockIsReadTwice) {
+    fill("FF");
+    visitField(1);
+    enter(screen().DTInput, "1E400");
+    EXPECT_EQ(program.takeBoxes(), Texts{"Overflow"});
+    EXPECT_EQ(cells(base + 2, base + 4), "00 FF 0F");
+    visitField(0);
+    enter(screen().DTInput, "1E400");
+    EXPECT_EQ(program.takeBoxes(), Texts(2, "Overflow"));
+    EXPECT_EQ(cells(base, base + 1), "00 00");
+}
+
 TEST_F(DetailedTiming, WithoutAFieldOnlyTheDecoderRuns) {
     fill("FF");
     visitField(9);

@@ -318,6 +318,20 @@ TEST_F(SlotDispatch, AnEntryIsWrittenAndDecoded) {
     EXPECT_EQ(cell(58), "64");
 }
 
+TEST_F(SlotDispatch, AnEntryThatCannotBeReadCountsAsNothingAndAClockIsReadTwice) {
+    modify();
+    focusOn(60);
+    enter(screen().DTInput, "1E400");
+    EXPECT_EQ(boxes(), Texts{"Overflow"});
+    EXPECT_EQ(cell(60), "00");
+    EXPECT_EQ(cell(62), "01"); // the blanking part of "71" stays
+    focusOn(58);
+    enter(screen().DTInput, "1E400");
+    EXPECT_EQ(boxes(), Texts(2, "Overflow"));
+    EXPECT_EQ(cell(58), "00");
+    EXPECT_EQ(cell(59), "00");
+}
+
 TEST_F(SlotDispatch, AnOptionLeadsToItsCell) {
     focusOn(58);
     wb.runAction([&] { choose(screen().DT(11), -1); });
