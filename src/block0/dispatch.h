@@ -1,6 +1,6 @@
 #pragma once
 
-#include "block0/grid.h"
+#include "block0/screen_rules.h"
 
 /// The focus dispatch of frmEDID: which panel, colours, decoders and input box each cell has.
 namespace wb::block0 {

@@ -5,6 +5,7 @@
 #include "block0/cell_writing.h"
 #include "block0/field_decoders.h"
 #include "block0/grid.h"
+#include "block0/panel.h"
 #include "core/cells.h"
 #include "core/edid_image.h"
 #include "report/basic_display.h"
@@ -17,28 +18,6 @@ constexpr int videoCell = 20;
 constexpr int firstValueCell = 21;
 constexpr int gammaCell = 23;
 constexpr int featureCell = 24;
-
-/// Runs a handler of this panel unless the dispatch or a decoder is setting its controls.
-template <class Body>
-void whenUserActs(Workbench& workbench, Body&& body) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        if (screen.InFocusDispatch == flagFalse) {
-            body(screen);
-        }
-    });
-}
-
-void decodeBits(Workbench& workbench, int cell) {
-    decodeFieldOf(workbench, cell);
-    RecalcBlock0Checksum(workbench);
-}
-
-/// A bit control: leaves the bits of `keep`, adds `bits`, and decodes the byte.
-void changeBits(Workbench& workbench, int cell, int keep, int bits) {
-    replaceBits(workbench.frmEDID(), cell, keep, bits);
-    decodeBits(workbench, cell);
-}
 
 void openValue(Workbench& workbench, int index) {
     FrmEdid& screen = workbench.frmEDID();
@@ -120,12 +99,9 @@ void BasicInput_GotFocus(Workbench& workbench, int) {
 }
 
 void BasicInput_KeyUp(Workbench& workbench, int, int keyCode) {
-    if (keyCode != enterKey) {
-        return;
-    }
-    whenUserActs(workbench, [&](FrmEdid& screen) {
+    onEnter(workbench, keyCode, [&](FrmEdid& screen) {
         const int field = screen.Basic.firstSelected();
-        if (field < 0) {
+        if (screen.InFocusDispatch != flagFalse || field < 0) {
             return;
         }
         const double entry = Value(workbench, screen.BasicInput.text());
@@ -141,7 +117,8 @@ void BasicInput_KeyUp(Workbench& workbench, int, int keyCode) {
 void VideoMode_Click(Workbench& workbench, int index) {
     whenUserActs(workbench, [&](FrmEdid& screen) {
         screen.txtEdit(videoCell).setText(index == 1 ? "80" : "00"); // whatever the cell held
-        decodeBits(workbench, videoCell);
+        decodeFieldOf(workbench, videoCell);
+        RecalcBlock0Checksum(workbench);
     });
 }
 
@@ -150,10 +127,7 @@ void Signal_Click(Workbench& workbench, int index) {
 }
 
 void Sync_Click(Workbench& workbench, int index) {
-    whenUserActs(workbench, [&](FrmEdid& screen) {
-        const int bit = 1 << index;
-        changeBits(workbench, videoCell, 255 - bit, screen.Sync(index).value() == 1 ? bit : 0);
-    });
+    changeBit(workbench, videoCell, 1 << index, workbench.frmEDID().Sync(index));
 }
 
 void DFP_1_Click(Workbench& workbench, int index) {
@@ -172,10 +146,7 @@ void DisplayType_Click(Workbench& workbench, int index) {
 
 void FSupport_Click(Workbench& workbench, int index) {
     constexpr std::array<int, 6> bits = {128, 64, 32, 4, 2, 1};
-    whenUserActs(workbench, [&](FrmEdid& screen) {
-        const int bit = bits[static_cast<std::size_t>(index)];
-        changeBits(workbench, featureCell, 255 - bit, screen.FSupport(index).value() == 1 ? bit : 0);
-    });
+    changeBit(workbench, featureCell, bits[static_cast<std::size_t>(index)], workbench.frmEDID().FSupport(index));
 }
 
 bool isGammaEntry(Workbench& workbench, double entry) {

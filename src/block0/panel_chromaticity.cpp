@@ -2,6 +2,7 @@
 
 #include "block0/cell_writing.h"
 #include "block0/grid.h"
+#include "block0/panel.h"
 #include "core/cells.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -41,15 +42,11 @@ void chkChroma_Click(Workbench& workbench, int index) {
 }
 
 void ChromaValue_GotFocus(Workbench& workbench, int) {
-    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().ChromaValue); });
+    SelectAllInControl(workbench.frmEDID().ChromaValue);
 }
 
 void ChromaValue_KeyUp(Workbench& workbench, int, int keyCode) {
-    if (keyCode != enterKey) {
-        return;
-    }
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    onEnter(workbench, keyCode, [&](FrmEdid& screen) {
         const double entry = strictNumber(screen.ChromaValue.text());
         if (!isCoordinate(workbench, entry)) {
             return;

@@ -2,7 +2,7 @@
 
 #include "block0/cell_writing.h"
 #include "block0/descriptor_entry.h"
-#include "block0/grid.h"
+#include "block0/panel.h"
 #include "core/edid_image.h"
 #include "report/detailed_timing.h"
 
@@ -16,18 +16,12 @@ constexpr int firstIndexByte = 5;   ///< of a colour point block
 constexpr int whitePointLength = 5; ///< index, low bits, two high bytes, gamma
 
 void focusOn(Workbench& workbench, int offset) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        if (screen.InFocusDispatch == flagFalse) {
-            workbench.focus.moveTo(screen.txtEdit(screen.CurrentBlockBase + offset));
-        }
-    });
+    whenUserActs(workbench,
+                 [&](FrmEdid& screen) { workbench.focus.moveTo(screen.txtEdit(screen.CurrentBlockBase + offset)); });
 }
 
-void setCells(FrmEdid& screen, int first, int last, const char* text) {
-    for (int i = first; i <= last; ++i) {
-        screen.txtEdit(screen.CurrentBlockBase + i).setText(text);
-    }
+void setCell(FrmEdid& screen, int offset, const char* text) {
+    screen.txtEdit(screen.CurrentBlockBase + offset).setText(text);
 }
 
 void showCurve(FrmEdid& screen, bool curve) {
@@ -40,19 +34,15 @@ void showCurve(FrmEdid& screen, bool curve) {
 void DTa_Click(Workbench& workbench, int index) {
     constexpr int standardTimings = 5;
     constexpr int definedByManufacturer = 7;
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        if (screen.InFocusDispatch != flagFalse) {
-            return;
-        }
+    whenUserActs(workbench, [&](FrmEdid& screen) {
         if (index == definedByManufacturer) {
-            setCells(screen, 3, 3, "00");
+            setCell(screen, 3, "00");
         } else {
             writeByte(screen, screen.CurrentBlockBase + 3, 255 - index);
             if (index == standardTimings) {
-                setCells(screen, 17, 17, "0A");
+                setCell(screen, 17, "0A");
             }
-            setCells(screen, 4, 4, "00");
+            setCell(screen, 4, "00");
         }
         report::ConvertDetailedTiming(workbench);
     });
@@ -65,12 +55,14 @@ void DTAGTF_Click(Workbench& workbench, int) {
             const bool curve = screen.DTAGTF.value() != 0;
             showCurve(screen, curve);
             if (curve) {
-                setCells(screen, curveSupport, curveSupport, "02");
-                setCells(screen, curveSupport + 1, curveSupport + 1, "00");
+                setCell(screen, curveSupport, "02");
+                setCell(screen, curveSupport + 1, "00");
             } else {
-                setCells(screen, curveSupport, curveSupport, "00");
-                setCells(screen, curveSupport + 1, curveSupport + 1, "0A");
-                setCells(screen, curveSupport + 2, curveSupport + 7, "20");
+                setCell(screen, curveSupport, "00");
+                setCell(screen, curveSupport + 1, "0A");
+                for (int i = curveSupport + 2; i <= curveSupport + 7; ++i) {
+                    setCell(screen, i, "20");
+                }
             }
         }
         RecalcBlock0Checksum(workbench);
@@ -94,9 +86,9 @@ void Windex_Click(Workbench& workbench, int index) {
         FrmEdid& screen = workbench.frmEDID();
         const int indexByte = firstIndexByte + whitePointLength * index;
         if (screen.Windex(index).value() == 0) {
-            setCells(screen, indexByte, indexByte, "00");
+            setCell(screen, indexByte, "00");
         } else {
-            setCells(screen, indexByte, indexByte, index == 0 ? "01" : "02");
+            setCell(screen, indexByte, index == 0 ? "01" : "02");
             screen.DtaOptWhite(3 * index).setValue(-1);
         }
         report::ConvertDetailedTiming(workbench);
@@ -104,15 +96,12 @@ void Windex_Click(Workbench& workbench, int index) {
 }
 
 void DTaInput_GotFocus(Workbench& workbench, int) {
-    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().DTaInput); });
+    SelectAllInControl(workbench.frmEDID().DTaInput);
 }
 
 void DTaInput_KeyUp(Workbench& workbench, int, int keyCode) {
-    if (keyCode != enterKey) {
-        return;
-    }
-    trapped(workbench, [&] {
-        if (workbench.frmEDID().DTa.firstSelected() >= 0 && writeDescriptorEntry(workbench.frmEDID())) {
+    onEnter(workbench, keyCode, [&](FrmEdid& screen) {
+        if (screen.DTa.firstSelected() >= 0 && writeDescriptorEntry(screen)) {
             report::ConvertDetailedTiming(workbench);
         }
     });

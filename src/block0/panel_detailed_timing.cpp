@@ -4,7 +4,9 @@
 #include <array>
 
 #include "block0/cell_writing.h"
+#include "block0/grid.h"
 #include "core/edid_image.h"
+#include "core/keys.h"
 #include "core/numbers.h"
 #include "core/text.h"
 
@@ -144,7 +146,7 @@ void DT_Click(const BlockScreenRules& rules, Workbench& workbench, int index) {
 }
 
 void DTInput_GotFocus(const BlockScreenRules& rules, Workbench& workbench) {
-    procedure(rules, workbench, [](BlockScreen& screen, const Statements&) { SelectAllInControl(screen.DTInput); });
+    SelectAllInControl(rules.screen(workbench).DTInput);
 }
 
 void DTInput_KeyUp(const BlockScreenRules& rules, Workbench& workbench, int keyCode) {

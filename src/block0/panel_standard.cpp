@@ -1,7 +1,7 @@
 #include "block0/panel_standard.h"
 
 #include "block0/cell_writing.h"
-#include "block0/grid.h"
+#include "block0/panel.h"
 #include "core/cells.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -49,14 +49,6 @@ bool writeEntry(FrmEdid& screen, int first, const Control& adjustHorizontal, con
     return true;
 }
 
-void focusUnlessDispatching(Workbench& workbench, Control& control) {
-    trapped(workbench, [&] {
-        if (workbench.frmEDID().InFocusDispatch == flagFalse) {
-            workbench.focus.moveTo(control);
-        }
-    });
-}
-
 } // namespace
 
 void openStandardTimingPanel(Workbench& workbench, int index) {
@@ -68,15 +60,11 @@ void openStandardTimingPanel(Workbench& workbench, int index) {
 }
 
 void STOpt_Click(Workbench& workbench, int index) {
-    focusUnlessDispatching(workbench, workbench.frmEDID().txtEdit(firstCell + 2 * index));
+    whenUserActs(workbench, [&](FrmEdid& screen) { workbench.focus.moveTo(screen.txtEdit(firstCell + 2 * index)); });
 }
 
 void ExtSTOpt_Click(Workbench& workbench, int index) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        if (screen.InFocusDispatch != flagFalse) {
-            return;
-        }
+    whenUserActs(workbench, [&](FrmEdid& screen) {
         if (index != disablingOption) {
             workbench.focus.moveTo(screen.txtEdit(descriptorPair(screen, index)));
             return;
@@ -90,10 +78,9 @@ void ExtSTOpt_Click(Workbench& workbench, int index) {
 }
 
 void STAOptb_Click(Workbench& workbench, int index) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    whenUserActs(workbench, [&](FrmEdid& screen) {
         const int pair = screen.STOpt.firstSelected();
-        if (screen.InFocusDispatch == flagFalse && pair >= 0) {
+        if (pair >= 0) {
             writeAspect(screen, firstCell + 2 * pair + 1, index);
             report::ConvertStandardTimings(workbench);
         }
@@ -101,10 +88,9 @@ void STAOptb_Click(Workbench& workbench, int index) {
 }
 
 void ExtSTAOptb_Click(Workbench& workbench, int index) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    whenUserActs(workbench, [&](FrmEdid& screen) {
         const int pair = screen.ExtSTOpt.firstSelected(0, disablingOption - 1);
-        if (screen.InFocusDispatch == flagFalse && pair >= 0) {
+        if (pair >= 0) {
             writeAspect(screen, descriptorPair(screen, pair) + 1, index);
             report::ConvertDetailedTiming(workbench);
         }
@@ -112,27 +98,23 @@ void ExtSTAOptb_Click(Workbench& workbench, int index) {
 }
 
 void STAOpta_Click(Workbench& workbench, int) {
-    focusUnlessDispatching(workbench, workbench.frmEDID().STAInput);
+    whenUserActs(workbench, [&](FrmEdid& screen) { workbench.focus.moveTo(screen.STAInput); });
 }
 
 void ExtSTAOpta_Click(Workbench& workbench, int) {
-    focusUnlessDispatching(workbench, workbench.frmEDID().ExtStaInput);
+    whenUserActs(workbench, [&](FrmEdid& screen) { workbench.focus.moveTo(screen.ExtStaInput); });
 }
 
 void STAInput_GotFocus(Workbench& workbench, int) {
-    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().STAInput); });
+    SelectAllInControl(workbench.frmEDID().STAInput);
 }
 
 void ExtStaInput_GotFocus(Workbench& workbench, int) {
-    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().ExtStaInput); });
+    SelectAllInControl(workbench.frmEDID().ExtStaInput);
 }
 
 void STAInput_KeyUp(Workbench& workbench, int, int keyCode) {
-    if (keyCode != enterKey) {
-        return;
-    }
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    onEnter(workbench, keyCode, [&](FrmEdid& screen) {
         if (writeEntry(screen, screen.CurrentBlockBase - 1, screen.STAOpta(0), screen.STAInput.text())) {
             report::ConvertStandardTimings(workbench);
             screen.STAInput.setText("");
@@ -141,11 +123,7 @@ void STAInput_KeyUp(Workbench& workbench, int, int keyCode) {
 }
 
 void ExtStaInput_KeyUp(Workbench& workbench, int, int keyCode) {
-    if (keyCode != enterKey) {
-        return;
-    }
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    onEnter(workbench, keyCode, [&](FrmEdid& screen) {
         // With no pair selected the entry goes behind the last one.
         const int pair = screen.ExtSTOpt.firstSelected(0, disablingOption - 1, disablingOption);
         if (writeEntry(screen, descriptorPair(screen, pair), screen.ExtSTAOpta(0), screen.ExtStaInput.text())) {

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "block0/cell_writing.h"
-#include "block0/field_decoders.h"
+#include "block0/panel.h"
 #include "core/cells.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -160,14 +160,13 @@ void openVersionPanel(Workbench& workbench, int index) {
 }
 
 void VendorInfo_GotFocus(Workbench& workbench, int) {
-    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().VendorInfo); });
+    SelectAllInControl(workbench.frmEDID().VendorInfo);
 }
 
 void VendorInfo_KeyPress(Workbench& workbench, int, int& keyAscii) {
     constexpr int tabulator = 9;
-    constexpr int backspace = 8;
     constexpr int deleteKey = 46; // the full stop has the same code and passes in every field
-    if (keyAscii == tabulator || keyAscii == enterKey || keyAscii == backspace || keyAscii == deleteKey) {
+    if (keyAscii == tabulator || keyAscii == enterKey || keyAscii == backspaceKey || keyAscii == deleteKey) {
         return;
     }
     switch (activeField(workbench.frmEDID())) {
@@ -186,11 +185,7 @@ void VendorInfo_KeyPress(Workbench& workbench, int, int& keyAscii) {
 }
 
 void VendorInfo_KeyUp(Workbench& workbench, int, int keyCode) {
-    if (keyCode != enterKey) {
-        return;
-    }
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    onEnter(workbench, keyCode, [&](FrmEdid& screen) {
         const int field = activeField(screen);
         if (field != noField) {
             fieldOf(field).encode(workbench, screen.VendorInfo.text());
@@ -199,15 +194,11 @@ void VendorInfo_KeyUp(Workbench& workbench, int, int keyCode) {
 }
 
 void VerRev_GotFocus(Workbench& workbench, int) {
-    trapped(workbench, [&] { SelectAllInControl(workbench.frmEDID().VerRev); });
+    SelectAllInControl(workbench.frmEDID().VerRev);
 }
 
 void VerRev_KeyUp(Workbench& workbench, int, int keyCode) {
-    if (keyCode != enterKey) {
-        return;
-    }
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    onEnter(workbench, keyCode, [&](FrmEdid& screen) {
         const double entry = Value(workbench, screen.VerRev.text());
         if (entry > 255) {
             workbench.showMessage("This value must value between 0 and 255");

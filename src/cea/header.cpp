@@ -1,6 +1,5 @@
 #include "cea/header.h"
 
-#include "block0/grid.h"
 #include "cea/data_blocks.h"
 #include "cea/procedure.h"
 
@@ -28,10 +27,7 @@ void BuildVersion(Workbench& workbench) {
 }
 
 void VerRev_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
-    procedure(workbench, [&](const Procedure& run) {
-        if (keyCode != block0::enterKey) {
-            return;
-        }
+    onEnter(workbench, keyCode, [](const Procedure& run) {
         const double value = Value(run.workbench, run.screen.VerRev.text());
         if (value >= 1 && value <= 3) {
             run.write(versionCell, roundedCellText(value));
@@ -43,10 +39,7 @@ void VerRev_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
 }
 
 void DetailOffset_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
-    procedure(workbench, [&](const Procedure& run) {
-        if (keyCode != block0::enterKey) {
-            return;
-        }
+    onEnter(workbench, keyCode, [](const Procedure& run) {
         const double value = Value(run.workbench, run.screen.DetailOffset.text());
         if ((value >= 4 && value <= 109) || value == 0) {
             run.write(offsetCell, roundedCellText(value));

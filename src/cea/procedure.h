@@ -1,10 +1,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "block0/grid.h"
 #include "core/cells.h"
+#include "core/keys.h"
 #include "core/numbers.h"
 #include "core/statements.h"
 #include "core/text.h"
@@ -41,6 +43,10 @@ struct Procedure {
     void colour(int from, int to, CellColour colour) const {
         block0::colourCells(statement, screen, {from, to}, colour);
     }
+    /// The words, the cell's number and a bracket.
+    void captionPanel(int panel, int index, std::string_view words) const {
+        screen.Hints(panel).setCaption(std::string(words) + std::to_string(index) + ")");
+    }
     void focusOn(Control& control) const {
         statement([&] { workbench.focus.moveTo(control); });
     }
@@ -57,6 +63,14 @@ void procedure(Workbench& workbench, Body&& body) {
         std::forward<Body>(body)(
             Procedure{workbench, workbench.frmCEA_EXT(), Statements(workbench, Statements::OnFailure::NextStatement)});
     });
+}
+
+/// A key in an input box: a procedure on Enter; any other key does nothing.
+template <class Body>
+void onEnter(Workbench& workbench, int keyCode, Body&& body) {
+    if (keyCode == enterKey) {
+        procedure(workbench, std::forward<Body>(body));
+    }
 }
 
 /// A decoder: what it sets on the panels changes no cell, and the check sum follows.

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "block0/grid.h"
 #include "cea/flag_list.h"
 
 namespace wb::cea {
@@ -56,10 +55,7 @@ void BuildVSDBExt(Workbench& workbench) {
 }
 
 void txtBoxVendorID_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
-    procedure(workbench, [&](const Procedure& run) {
-        if (keyCode != block0::enterKey) {
-            return;
-        }
+    onEnter(workbench, keyCode, [](const Procedure& run) {
         const std::string entered = takeEntered(run.screen.txtBoxVendorID);
         run.write(vendorCell(run.workbench, 1), rightPart(entered, 2));
         run.write(vendorCell(run.workbench, 2), rightPart(leftPart(entered, 4), 2));
@@ -69,10 +65,7 @@ void txtBoxVendorID_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
 }
 
 void txtBoxVendorData_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
-    procedure(workbench, [&](const Procedure& run) {
-        if (keyCode != block0::enterKey) {
-            return;
-        }
+    onEnter(workbench, keyCode, [](const Procedure& run) {
         const std::string entered = takeEntered(run.screen.txtBoxVendorData);
         run.write(vendorCell(run.workbench, 4), leftPart(entered, 2));
         run.write(vendorCell(run.workbench, 5), rightPart(entered, 2));

@@ -1,13 +1,11 @@
 #include "core/input.h"
 
+#include "core/keys.h"
 #include "core/text.h"
 
 namespace wb::input {
 
 namespace {
-
-constexpr int enterKey = 13;
-constexpr int backspaceKey = 8;
 
 bool holdsText(const Control& control) {
     return control.kind() == ControlKind::Text;

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <utility>
+
+#include "core/keys.h"
+#include "core/workbench.h"
+
+/// How the handlers of the panels of frmEDID run, each with the usual trap.
+namespace wb::block0 {
+
+/// A key in an input box: runs `body(screen)` on Enter; any other key does nothing.
+template <class Body>
+void onEnter(Workbench& workbench, int keyCode, Body&& body) {
+    if (keyCode == enterKey) {
+        trapped(workbench, [&] { std::forward<Body>(body)(workbench.frmEDID()); });
+    }
+}
+
+/// Runs `body(screen)` unless the dispatch or a decoder is setting the controls.
+template <class Body>
+void whenUserActs(Workbench& workbench, Body&& body) {
+    trapped(workbench, [&] {
+        FrmEdid& screen = workbench.frmEDID();
+        if (screen.InFocusDispatch == flagFalse) {
+            std::forward<Body>(body)(screen);
+        }
+    });
+}
+
+/// In a cell of block 0, leaves the bits of `keep` and adds `bits`, then decodes the field of the cell.
+void changeBits(Workbench& workbench, int cell, int keep, int bits);
+
+/// A click on a check by the user: puts its bit into the cell and decodes the field.
+void changeBit(Workbench& workbench, int cell, int bit, const Control& check);
+
+} // namespace wb::block0
