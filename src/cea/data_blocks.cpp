@@ -10,7 +10,7 @@ namespace wb::cea {
 namespace {
 
 constexpr int extensionStart = 128; ///< place of the extension block in the transfer buffer
-constexpr int lastTimingCell = 126;
+constexpr int lastDataCell = 126;   ///< the check sum follows
 constexpr int collectionStart = 4;
 
 void readOffset(const Procedure& run) {
@@ -36,7 +36,7 @@ void blank(const Procedure& run, int from, int to) {
 /// there is room behind it.
 void copyLoadedArea(const Procedure& run, int offset, int loadedOffset, int lastSource) {
     int i = offset;
-    while (i <= lastTimingCell) {
+    while (i <= lastDataCell) {
         for (int j = loadedOffset + extensionStart; j <= lastSource; ++j) {
             run.statement([&] { run.cell(i).setText(run.workbench.EDIDCells(j)); });
             ++i;
@@ -53,7 +53,7 @@ void moveTimings(const Procedure& run) {
         copyLoadedArea(run, offset, loadedOffset, 254);
     } else if (offset < loadedOffset) {
         copyLoadedArea(run, offset, loadedOffset, 255);
-        blank(run, 127 - (loadedOffset - offset), lastTimingCell);
+        blank(run, 127 - (loadedOffset - offset), lastDataCell);
     }
 }
 
