@@ -1,5 +1,7 @@
 #include "block0/cell_writing.h"
 
+#include <algorithm>
+
 #include "core/cells.h"
 #include "core/numbers.h"
 #include "core/text.h"
@@ -12,6 +14,10 @@ void writeByte(BlockScreen& screen, int cell, int value) {
 
 void replaceBits(BlockScreen& screen, int cell, int keep, int bits) {
     writeByte(screen, cell, (byteAt(screen, cell) & keep) | bits);
+}
+
+std::string zeroFilled(std::string_view digits, std::size_t count) {
+    return std::string(count - std::min(count, digits.size()), '0').append(digits);
 }
 
 std::int16_t patternInt16(double entry) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "core/workbench.h"
 
@@ -13,6 +15,9 @@ void writeByte(BlockScreen& screen, int cell, int value);
 
 /// Reads a cell as a byte, leaves the bits of `keep` and adds `bits`.
 void replaceBits(BlockScreen& screen, int cell, int keep, int bits);
+
+/// Hexadecimal digits with as many zeros in front as they need to be `count`; more digits stay whole.
+std::string zeroFilled(std::string_view digits, std::size_t count);
 
 /// An entry as it is written: rounded by the pattern "0" (halves away from zero) and read back as a 16-bit number.
 std::int16_t patternInt16(double entry);

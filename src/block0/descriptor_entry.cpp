@@ -54,7 +54,7 @@ bool writeRangeLimit(FrmEdid& screen) {
     return true;
 }
 
-/// A field of the secondary GTF curve: VESA E-EDID Standard, monitor range limits descriptor.
+/// A field of the secondary GTF curve of a range limits descriptor (VESA E-EDID Standard, Release A, section 3.10.3).
 struct CurveField {
     int cell;       ///< of the block
     double factor;  ///< of the entry
@@ -74,11 +74,8 @@ constexpr std::array<CurveField, 5> curveFields = {{
 /// The cell of the lower index gets the higher digits, though the decoder reads them the other way round.
 void writeCurveM(FrmEdid& screen, int cell, double entry) {
     const std::string digits = hexadecimal32(roundToInt32(entry));
-    const std::string high = digits.size() <= 2   ? "00"
-                             : digits.size() == 3 ? '0' + leftPart(digits, 1)
-                                                  : leftPart(digits, 2);
     screen.txtEdit(cell + 1).setText(rightPart(digits, 2));
-    screen.txtEdit(cell).setText(high);
+    screen.txtEdit(cell).setText(leftPart(zeroFilled(digits, 4), 2));
 }
 
 bool writeCurveField(FrmEdid& screen) {

@@ -21,8 +21,8 @@ constexpr double largestEntry = 65534;
 /// stand: "0A" gives 0 and "10" gives 10, so that entries of 2560 and more lose or spill their high digits.
 enum class Upper { None, WholeCell, LastDigit, DecimalReading, VerticalOffset, VerticalWidth };
 
-/// One field of a detailed timing, in the order of the options DT. Offsets are from the first cell of the block, as in
-/// VESA E-EDID Standard, detailed timing definition.
+/// One field of a detailed timing, in the order of the options DT. Offsets are from the first cell of the block (VESA
+/// E-EDID Standard, Release A, section 3.10.2).
 struct TimingField {
     int cell;
     Upper upper;
@@ -54,8 +54,7 @@ constexpr int noStereo = 6;
 
 /// The entry in hexadecimal, at least four digits; eight for a negative one.
 std::string hexDigits(double entry) {
-    const std::string digits = hexadecimal32(roundToInt32(entry));
-    return std::string(digits.size() < 4 ? 4 - digits.size() : 0, '0') + digits;
+    return zeroFilled(hexadecimal32(roundToInt32(entry)), 4);
 }
 
 /// Whether an entry fits; otherwise tells the user.

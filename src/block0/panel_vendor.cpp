@@ -36,10 +36,8 @@ void encodeManufacturer(Workbench& workbench, const std::string& entry) {
 /// Writes the entry in reading order, whereas the decoder reads the second cell first: "1234" comes back as "3412".
 void encodeProductCode(Workbench& workbench, const std::string& entry) {
     FrmEdid& screen = workbench.frmEDID();
-    const std::size_t length = entry.size();
-    if (length >= 1 && length <= 4) {
-        const std::string first = length <= 2 ? "00" : length == 3 ? '0' + leftPart(entry, 1) : leftPart(entry, 2);
-        screen.txtEdit(10).setText(first);
+    if (!entry.empty() && entry.size() <= 4) {
+        screen.txtEdit(10).setText(leftPart(zeroFilled(entry, 4), 2));
         screen.txtEdit(11).setText(rightPart(entry, 2));
     }
     report::ConvertProductCode(workbench);
@@ -47,8 +45,7 @@ void encodeProductCode(Workbench& workbench, const std::string& entry) {
 
 void encodeSerialNumber(Workbench& workbench, const std::string& entry) {
     FrmEdid& screen = workbench.frmEDID();
-    std::string digits = hexadecimal32(roundToInt32(Value(workbench, entry)));
-    digits.insert(0, 8 - digits.size(), '0');
+    const std::string digits = zeroFilled(hexadecimal32(roundToInt32(Value(workbench, entry))), 8);
     int cell = 15; // the first digits are the highest and stand in the last cell
     for (std::size_t position = 0; position < digits.size(); position += 2) {
         screen.txtEdit(cell--).setText(digits.substr(position, 2));

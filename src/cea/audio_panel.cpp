@@ -48,8 +48,7 @@ void AudFormCode_Click(Workbench& workbench, int index) {
         const std::string channels = keptChannels(run, cellIndex);
         writeDigits(run, cellIndex, "0" + binaryDigits(index, 4) + channels);
         run.screen.AudFormCode(index).setValue(flagTrue);
-        run.screen.Hints(0).setCaption((index == 1 ? "Uncompressed Audio (" : "Compressed Audio Codes(") +
-                                       std::to_string(cellIndex) + ")");
+        run.captionPanel(0, cellIndex, index == 1 ? "Uncompressed Audio (" : "Compressed Audio Codes(");
     });
 }
 
@@ -73,10 +72,8 @@ void SampFreq_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
         const bool last = lastInFocus(run.workbench);
         const int cellIndex = audioCell(run.workbench, last, 2);
-        const int bit = 1 << index;
         constexpr int withoutReserved = 127;
-        const int byte = withFlag(run.readByte(cellIndex), withoutReserved & ~bit, bit, run.screen.SampFreq(index));
-        run.write(cellIndex, ByteToHex2(byte));
+        writeFlag(run, cellIndex, withoutReserved, 1 << index, run.screen.SampFreq(index));
         if (last) {
             BuildLastSampFreq(run.workbench);
         } else {
@@ -89,10 +86,8 @@ void bitrate_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
         const bool last = lastInFocus(run.workbench);
         const int cellIndex = audioCell(run.workbench, last, 3);
-        const int bit = 1 << index;
         constexpr int sizeBits = 7;
-        const int byte = withFlag(run.readByte(cellIndex), sizeBits & ~bit, bit, run.screen.bitrate(index));
-        run.write(cellIndex, ByteToHex2(byte));
+        writeFlag(run, cellIndex, sizeBits, 1 << index, run.screen.bitrate(index));
         if (last) {
             BuildLastBitRate(run.workbench);
         } else {

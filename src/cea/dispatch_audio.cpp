@@ -8,10 +8,6 @@ namespace wb::cea {
 
 namespace {
 
-bool isCompressed(const Procedure& run) {
-    return run.screen.AudioFormat(1).selected();
-}
-
 void colourInAudio(const Procedure& run, int index) {
     colourInBlock(run, index, run.workbench.AudioBlockStart, run.workbench.AudioBlockLength);
 }
@@ -43,8 +39,8 @@ void openAudioChannels(const Procedure& run, int index) {
     showPanel(run, 0);
     colourInAudio(run, index);
     BuildAudioChannels(run.workbench);
-    captionPanel(run, 0, index, isCompressed(run) ? "Compressed Audio Codes (" : "Uncompressed Audio (");
-    run.screen.FrmAudFormCode.setVisible(isCompressed(run));
+    run.captionPanel(0, index, isCompressed(run.screen) ? "Compressed Audio Codes (" : "Uncompressed Audio (");
+    run.screen.FrmAudFormCode.setVisible(isCompressed(run.screen));
 }
 
 void openLastAudioChannels(const Procedure& run, int index) {
@@ -75,8 +71,8 @@ void openBitRate(const Procedure& run, int index) {
     showRateControls(run, false, false);
     run.screen.Hints(5).setVisible(false);
     BuildBitRate(workbench);
-    const bool compressed = isCompressed(run);
-    captionPanel(run, 6, index, compressed ? "Compressed Sampl bit rate (" : "Uncompressed Sampl bit rate (");
+    const bool compressed = isCompressed(run.screen);
+    run.captionPanel(6, index, compressed ? "Compressed Sampl bit rate (" : "Uncompressed Sampl bit rate (");
     showRateControls(run, compressed, !compressed);
     if (workbench.AudioBlockStart != 0 && workbench.VideoBlockStart != 0) {
         workbench.SpeakerBlockStart = int16From(location(workbench.AudioBlockStart, 4));

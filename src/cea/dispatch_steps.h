@@ -10,10 +10,9 @@ namespace wb::cea {
 /// The panel of a block's header; the dispatch shows it before it looks for a row.
 inline constexpr int tagPanel = 15;
 
-/// Shows a panel in place of the tag panel; with a caption of the words, the cell's number and a bracket.
+/// Shows a panel in place of the tag panel; with `words`, captions it for the cell.
 void showPanel(const Procedure& run, int panel);
 void showPanel(const Procedure& run, int panel, int index, std::string_view words);
-void captionPanel(const Procedure& run, int panel, int index, std::string_view words);
 
 void colourField(const Procedure& run, int index);
 /// The data bytes of a block in the group colour, then the cell.

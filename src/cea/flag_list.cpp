@@ -17,8 +17,9 @@ void decodeFlags(const Procedure& run, int cellIndex, std::span<const ListedFlag
     }
 }
 
-int withFlag(int byte, int kept, int bit, const Control& check) {
-    return (byte & kept) | (check.selected() ? bit : 0);
+void writeFlag(const Procedure& run, int cellIndex, int kept, int bit, const Control& check) {
+    const int others = run.readByte(cellIndex) & kept & ~bit;
+    run.write(cellIndex, ByteToHex2(others | (check.selected() ? bit : 0)));
 }
 
 } // namespace wb::cea

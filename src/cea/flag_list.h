@@ -19,8 +19,7 @@ struct ListedFlag {
 void decodeFlags(const Procedure& run, int cellIndex, std::span<const ListedFlag> flags, ControlArray& checks,
                  std::string& list);
 
-/// The byte with the flag of a check in it. `kept` is what stays of the old byte; it need not be the complement of the
-/// flag.
-int withFlag(int byte, int kept, int bit, const Control& check);
+/// Writes the flag of a check into its cell. Of the old byte's other bits only those of `kept` stay.
+void writeFlag(const Procedure& run, int cellIndex, int kept, int bit, const Control& check);
 
 } // namespace wb::cea

@@ -38,8 +38,9 @@ constexpr std::array<ListedFlag, 7> frequencies = {{{1, "32KHz,"},
 constexpr std::array<ListedFlag, 3> sampleSizes = {
     {{1, "Sampling bit rate: 16 bit,"}, {2, " 20 bit,"}, {4, " 24 bit,"}}};
 
-bool isCompressed(FrmCeaExt& screen) {
-    return screen.AudioFormat(1).selected();
+/// Bits 6 to 3 of a descriptor's first byte as binary digits.
+std::string formatDigits(std::string_view cellText) {
+    return rightPart(upperDigits(cellText), 3) + leftPart(lowerDigits(cellText), 1);
 }
 
 void decodeChannels(const Procedure& run, int cellIndex, std::string& channels) {
@@ -60,10 +61,6 @@ void decodeFormatName(const Procedure& run, int cellIndex, std::string& name) {
         run.screen.AudFormCode(code).setValue(flagTrue);
         name = formatNames[static_cast<std::size_t>(code)];
     }
-}
-
-void captionChannels(FrmCeaExt& screen, std::string_view words, int cellIndex) {
-    screen.Hints(0).setCaption(std::string(words) + std::to_string(cellIndex) + ")");
 }
 
 /// Shows a maximum bit rate; gives it in kilobits per second.
@@ -87,8 +84,12 @@ void decodeSampleSizes(const Procedure& run) {
 
 } // namespace
 
-std::string formatDigits(std::string_view cellText) {
-    return rightPart(upperDigits(cellText), 3) + leftPart(lowerDigits(cellText), 1);
+bool isCompressed(FrmCeaExt& screen) {
+    return screen.AudioFormat(1).selected();
+}
+
+bool isLinear(std::string_view cellText) {
+    return formatDigits(cellText) == "0001";
 }
 
 std::string channelDigits(std::string_view cellText) {
@@ -118,7 +119,7 @@ void LocateAudioDescriptors(Workbench& workbench) {
 
 void ConvertCompressAudio(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const bool linear = formatDigits(run.readText(lastAudioCell(run.workbench, 1))) == linearFormat;
+        const bool linear = isLinear(run.readText(lastAudioCell(run.workbench, 1)));
         run.workbench.LastAudioKindText = linear ? "Uncompressed" : "Compressed";
     });
 }
@@ -129,7 +130,7 @@ void BuildAudioChannels(Workbench& workbench) {
         decodeChannels(run, cellIndex, run.workbench.AudioChannelsText);
         const bool compressed = isCompressed(run.screen);
         run.screen.FrmAudFormCode.setVisible(compressed);
-        captionChannels(run.screen, compressed ? "Compressed Audio Codes(" : "Uncompressed Audio (", cellIndex);
+        run.captionPanel(0, cellIndex, compressed ? "Compressed Audio Codes(" : "Uncompressed Audio (");
         if (compressed) {
             BuildAudioFormatName(run.workbench);
         } else {

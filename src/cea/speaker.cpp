@@ -25,11 +25,9 @@ void BuildSpeaker(Workbench& workbench) {
 
 void speaker_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const int cell = positionsCell(run.workbench);
         const int bit = positions[static_cast<std::size_t>(index)].bit;
         constexpr int withoutReserved = 127;
-        const int byte = withFlag(run.readByte(cell), withoutReserved & ~bit, bit, run.screen.speaker(index));
-        run.write(cell, ByteToHex2(byte));
+        writeFlag(run, positionsCell(run.workbench), withoutReserved, bit, run.screen.speaker(index));
         BuildSpeaker(run.workbench);
     });
 }

@@ -114,7 +114,7 @@ void decodeHeader(Workbench& workbench, const Block& block, std::string_view end
 
 void decodeAudioKind(const Procedure& run) {
     run.screen.AudioFormat.deselect();
-    const bool linear = formatDigits(run.readText(firstAudioCell(run.workbench, 1))) == linearFormat;
+    const bool linear = isLinear(run.readText(firstAudioCell(run.workbench, 1)));
     run.screen.AudioFormat(linear ? 0 : 1).setValue(flagTrue);
     run.workbench.AudioKindText = linear ? "Uncompressed" : "Compressed";
 }

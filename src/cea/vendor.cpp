@@ -83,10 +83,8 @@ void txtBoxVendorData_GotFocus(Workbench& workbench, int /*index*/) {
 
 void VSDBExt_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const int cell = vendorCell(run.workbench, 6);
         const int bit = extensionFlags[static_cast<std::size_t>(index)].bit;
-        const int byte = withFlag(run.readByte(cell), 255 & ~bit, bit, run.screen.VSDBExt(index));
-        run.write(cell, ByteToHex2(byte));
+        writeFlag(run, vendorCell(run.workbench, 6), 255, bit, run.screen.VSDBExt(index));
         BuildVSDBExt(run.workbench);
     });
 }
