@@ -2,8 +2,8 @@
 
 #include "core/workbench.h"
 
-/// The panel Hints(3) of the basic display parameters, cells 20 to 24. All its handlers do nothing while
-/// InFocusDispatch is set, since the decoders set its controls.
+/// The panel Hints(3) of the basic display parameters, cells 20 to 24 (VESA E-EDID Standard, Release A, section 3.6).
+/// All its handlers do nothing while InFocusDispatch is set, since the decoders set its controls.
 namespace wb::block0 {
 
 /// Further steps of the focus dispatch.

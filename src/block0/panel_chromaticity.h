@@ -4,7 +4,7 @@
 
 #include "core/workbench.h"
 
-/// The panel Hints(4) of the chromaticity coordinates, cells 25 to 34.
+/// The panel Hints(4) of the chromaticity coordinates, cells 25 to 34 (VESA E-EDID Standard, Release A, section 3.7).
 namespace wb::block0 {
 
 /// Further steps of the focus dispatch.

@@ -2,7 +2,8 @@
 
 #include "core/workbench.h"
 
-/// The panel Hints(11) of a monitor descriptor. It works on the 18 cells from CurrentBlockBase.
+/// The panel Hints(11) of a monitor descriptor (VESA E-EDID Standard, Release A, section 3.10.3). It works on the 18
+/// cells from CurrentBlockBase.
 namespace wb::block0 {
 
 /// Writes the tag of the block.

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "block0/grid.h"
+#include "block0/screen_rules.h"
 
-/// The panels of an 18-byte detailed timing, Hints(9) with its values and Hints(10) with its flag byte. They work on
-/// the 18 cells from CurrentBlockBase, on either block screen.
+/// The panels of an 18-byte detailed timing (VESA E-EDID Standard, Release A, section 3.10.2), Hints(9) with its values
+/// and Hints(10) with its flag byte. They work on the 18 cells from CurrentBlockBase, on either block screen.
 namespace wb::block0 {
 
 /// "Detailed Timing (54-71)" for the block that begins at cell 54.

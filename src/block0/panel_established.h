@@ -2,7 +2,8 @@
 
 #include "core/workbench.h"
 
-/// The panels Hints(5) to Hints(7) of the established timings, cells 35 to 37. A click writes its bit at once.
+/// The panels Hints(5) to Hints(7) of the established timings, cells 35 to 37 (VESA E-EDID Standard, Release A,
+/// section 3.8). A click writes its bit at once.
 namespace wb::block0 {
 
 void ET1_Click(Workbench& workbench, int index);

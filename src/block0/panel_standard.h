@@ -2,8 +2,8 @@
 
 #include "core/workbench.h"
 
-/// The two panels of standard timings: Hints(8) for the eight pairs of cells 38 to 53, Hints(12) for the six pairs of a
-/// standard timing descriptor.
+/// The two panels of standard timings (VESA E-EDID Standard, Release A, section 3.9): Hints(8) for the eight pairs of
+/// cells 38 to 53, Hints(12) for the six pairs of a standard timing descriptor.
 namespace wb::block0 {
 
 /// Further steps of the focus dispatch for cells 38 to 53.

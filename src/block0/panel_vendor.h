@@ -2,7 +2,8 @@
 
 #include "block0/grid.h"
 
-/// The panels of the identity fields: Hints(1) for cells 8 to 17, Hints(2) for version and revision.
+/// The panels of the identity fields: Hints(1) for vendor and product, cells 8 to 17 (VESA E-EDID Standard, Release A,
+/// section 3.4), Hints(2) for version and revision, cells 18 and 19 (section 3.5).
 namespace wb::block0 {
 
 /// The cells of the identity field that a cell of 8 to 17 belongs to.

@@ -5,8 +5,8 @@
 
 #include "core/workbench.h"
 
-/// The data block collection: where each kind of block starts. There is no list; the program knows one block of each
-/// kind.
+/// The data block collection (CEA-861-D, section 7.5): where each kind of block starts. There is no list; the program
+/// knows one block of each kind.
 namespace wb::cea {
 
 /// Reads the offset of the detailed timings, moves their area from where the loaded image had it, and looks for the
@@ -19,6 +19,7 @@ void LocateDataBlocks(Workbench& workbench);
 std::string tagDigits(std::string_view cellText);
 int dataLength(Workbench& workbench, std::string_view cellText);
 
+/// The tags of the known kinds (CEA-861-D, section 7.5).
 namespace tag {
 inline constexpr std::string_view reserved = "000";
 inline constexpr std::string_view audio = "001";

@@ -2,7 +2,7 @@
 
 #include "core/workbench.h"
 
-/// Decoding of the whole extension block.
+/// Decoding of the whole extension block, a CEA timing extension (CEA-861-D, section 7.5).
 namespace wb::cea {
 
 /// Runs every decoder over the cells, in a fixed order.

@@ -2,10 +2,11 @@
 
 #include "core/workbench.h"
 
-/// Detailed timings of the extension block: slots of 18 cells from ExtDtdStart on. Decoder and panels are those of
-/// block 0 under the rules of this screen.
+/// Detailed timings of the extension block (CEA-861-D, section 7.5): slots of 18 cells from ExtDtdStart on. Decoder and
+/// panels are those of block 0 under the rules of this screen.
 namespace wb::cea {
 
+/// The last cell that counts to the timings.
 inline constexpr int lastTimingCell = 125;
 
 /// The number of the last slot before the end of the timing area, counted from 0.

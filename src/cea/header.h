@@ -2,7 +2,8 @@
 
 #include "core/workbench.h"
 
-/// The header of the extension block: cell 1 is its version, cell 2 the offset of the first detailed timing (CEA-861).
+/// The header of the extension block: cell 1 is its version, cell 2 the offset of the first detailed timing (CEA-861-D,
+/// section 7.5).
 namespace wb::cea {
 
 /// Shows the version, in decimal.

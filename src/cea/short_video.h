@@ -2,7 +2,8 @@
 
 #include "core/workbench.h"
 
-/// Short video descriptors: bit 7 is the native flag, bits 6 to 0 the video identification code (CEA-861).
+/// Short video descriptors: bit 7 is the native flag, bits 6 to 0 the video identification code (CEA-861-D, section
+/// 7.5.1).
 namespace wb::cea {
 
 /// The rows of VideoBlkCBox, one for each known code.

@@ -2,12 +2,14 @@
 
 #include "core/workbench.h"
 
-/// Vendor specific data block: three bytes of IEEE registration identifier, least significant first, two bytes of data
-/// and one of extension flags.
+/// Vendor specific data block (CEA-861-D, section 7.5.4): three bytes of IEEE registration identifier, least
+/// significant first, two bytes of data and one of extension flags (HDMI 1.3, section 8.3.2).
 namespace wb::cea {
 
+// Decode the texts of the cells, whatever they hold, for panel and report.
 void BuildVendorID(Workbench& workbench);
 void BuildVendorData(Workbench& workbench);
+/// The flags, from the value of the cell.
 void BuildVSDBExt(Workbench& workbench);
 
 /// Enter takes the identifier, six digits, most significant first. Neither length nor digits are checked: a short text

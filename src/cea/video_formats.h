@@ -5,8 +5,8 @@
 
 namespace wb::cea {
 
-/// A video identification code of CEA-861: what the report says of it, and what the list of the panel says. The two
-/// lists are independent; an empty row reads as the report does.
+/// A video identification code (CEA-861-D, section 4): what the report says of it, and what the list of the panel says.
+/// The two lists are independent; an empty row reads as the report does.
 struct VideoFormat {
     std::string_view report;
     std::string_view row;
