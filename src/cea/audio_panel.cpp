@@ -4,6 +4,7 @@
 
 #include "cea/digits.h"
 #include "cea/flag_list.h"
+#include "cea/panels.h"
 #include "cea/short_audio.h"
 
 namespace wb::cea {
@@ -48,7 +49,8 @@ void AudFormCode_Click(Workbench& workbench, int index) {
         const std::string channels = keptChannels(run, cellIndex);
         writeDigits(run, cellIndex, "0" + binaryDigits(index, 4) + channels);
         run.screen.AudFormCode(index).setValue(flagTrue);
-        run.captionPanel(0, cellIndex, index == 1 ? "Uncompressed Audio (" : "Compressed Audio Codes(");
+        run.captionPanel(panels::audioChannels, cellIndex,
+                         index == 1 ? "Uncompressed Audio (" : "Compressed Audio Codes(");
     });
 }
 

@@ -6,6 +6,7 @@
 #include "cea/dispatch_steps.h"
 #include "cea/dtv_support.h"
 #include "cea/header.h"
+#include "cea/panels.h"
 #include "cea/screen.h"
 #include "cea/short_audio.h"
 #include "cea/short_video.h"
@@ -31,12 +32,12 @@ void seekBox(const Procedure& run, Control& box) {
 }
 
 void openPlainCell(const Procedure& run, int index) {
-    run.screen.Hints(tagPanel).setVisible(false);
+    run.screen.Hints(panels::tag).setVisible(false);
     colourField(run, index);
 }
 
 void openVersion(const Procedure& run, int index) {
-    showPanel(run, 2);
+    showPanel(run, panels::version);
     for (int i = 1; i <= 3; ++i) {
         run.screen.lbEDID(i).setVisible(false);
     }
@@ -50,8 +51,8 @@ void openVersion(const Procedure& run, int index) {
 }
 
 void openOffset(const Procedure& run, int index) {
-    showPanel(run, 3);
-    run.screen.Hints(2).setVisible(false);
+    showPanel(run, panels::offset);
+    run.screen.Hints(panels::version).setVisible(false);
     run.screen.lbEDID(1).setVisible(false);
     run.screen.lbEDID(2).setVisible(false);
     run.screen.lbEDID(5).setVisible(true);
@@ -66,8 +67,8 @@ void openOffset(const Procedure& run, int index) {
 }
 
 void openSupport(const Procedure& run, int index) {
-    showPanel(run, 14);
-    run.screen.Hints(3).setVisible(false);
+    showPanel(run, panels::support);
+    run.screen.Hints(panels::offset).setVisible(false);
     colourField(run, index);
     BuildDTVSupport(run.workbench);
 }
@@ -75,13 +76,13 @@ void openSupport(const Procedure& run, int index) {
 void openVideoHeader(const Procedure& run, int index) {
     openHeader(run, index, "ShortVideo");
     run.screen.FrmAudioFormat.setVisible(false);
-    run.screen.Hints(14).setVisible(false);
+    run.screen.Hints(panels::support).setVisible(false);
     BuildVideoTag(run.workbench);
 }
 
 void openVideoDescriptor(const Procedure& run, int index) {
     Workbench& workbench = run.workbench;
-    showPanel(run, 16, index, "CEA Short Video Descriptor (");
+    showPanel(run, panels::videoDescriptor, index, "CEA Short Video Descriptor (");
     colourInBlock(run, index, workbench.VideoBlockStart, workbench.VideoBlockLength);
     workbench.ShortVideoCell = int16From(index);
     run.screen.FrmAudioFormat.setVisible(false);
@@ -96,27 +97,27 @@ void openVideoDescriptor(const Procedure& run, int index) {
 
 void openSpeakerHeader(const Procedure& run, int index) {
     openHeader(run, index, "ShortSpeaker");
-    run.screen.Hints(6).setVisible(false);
+    run.screen.Hints(panels::bitRate).setVisible(false);
     run.screen.Frmbitrate.setVisible(false);
     run.screen.FrmAudioFormat.setVisible(false);
     BuildSpeakerTag(run.workbench);
 }
 
 void openSpeakers(const Procedure& run, int index) {
-    showPanel(run, 4, index, "Speaker (");
+    showPanel(run, panels::speakers, index, "Speaker (");
     colourInBlock(run, index, run.workbench.SpeakerBlockStart, run.workbench.SpeakerBlockLength);
     BuildSpeaker(run.workbench);
 }
 
 void openReservedSpeakers(const Procedure& run, int index) {
-    showPanel(run, 1, index, "Speaker (");
+    showPanel(run, panels::reservedSpeakers, index, "Speaker (");
     colourInBlock(run, index, run.workbench.SpeakerBlockStart, run.workbench.SpeakerBlockLength);
-    run.screen.Hints(4).setVisible(false);
+    run.screen.Hints(panels::speakers).setVisible(false);
 }
 
 void openVendorHeader(const Procedure& run, int index) {
     openHeader(run, index, "ShortVendor");
-    run.screen.Hints(1).setVisible(false);
+    run.screen.Hints(panels::reservedSpeakers).setVisible(false);
     BuildVendorTag(run.workbench);
 }
 
@@ -126,36 +127,36 @@ void openVendorPanel(const Procedure& run, int panel, int index, std::string_vie
 }
 
 void openVendorID(const Procedure& run, int index) {
-    openVendorPanel(run, 13, index, "Vendor Specific Data Block (");
+    openVendorPanel(run, panels::vendorID, index, "Vendor Specific Data Block (");
     run.screen.lbVendorData.setVisible(true);
     BuildVendorID(run.workbench);
     seekBox(run, run.screen.txtBoxVendorID);
 }
 
 void openVendorData(const Procedure& run, int index) {
-    openVendorPanel(run, 7, index, "Vendor Specific Data Block (");
+    openVendorPanel(run, panels::vendorData, index, "Vendor Specific Data Block (");
     run.screen.lbVendorBlock.setVisible(true);
     run.screen.lbVendorBlock.setCaption("Enter your vendor specific data. ");
-    run.screen.Hints(13).setVisible(false);
+    run.screen.Hints(panels::vendorID).setVisible(false);
     BuildVendorData(run.workbench);
     seekBox(run, run.screen.txtBoxVendorData);
 }
 
 void openVendorExtension(const Procedure& run, int index) {
-    openVendorPanel(run, 8, index, "VSDB Extension (");
-    run.screen.Hints(13).setVisible(false);
+    openVendorPanel(run, panels::vendorExtension, index, "VSDB Extension (");
+    run.screen.Hints(panels::vendorID).setVisible(false);
     BuildVSDBExt(run.workbench);
 }
 
 void openTiming(const Procedure& run, int index) {
-    run.screen.Hints(tagPanel).setVisible(false);
+    run.screen.Hints(panels::tag).setVisible(false);
     openSlot(run.workbench, index);
 }
 
 /// The two cells have no panel here. The labels of block 0's panel for them are addressed all the same, and this screen
 /// has none of that number.
 void openEnd(const Procedure& run, int index) {
-    run.screen.Hints(tagPanel).setVisible(false);
+    run.screen.Hints(panels::tag).setVisible(false);
     const int other = index == 126 ? 127 : 126;
     run.colour(other, other, CellColour::Group);
     colourField(run, index);
@@ -204,7 +205,7 @@ void txtEdit_GotFocus(Workbench& workbench, int index) {
     procedure(workbench, [&](const Procedure& run) {
         run.workbench.LastAudioFocus = flagFalse;
         block0::beginFocusDispatch(ceaScreenRules, run.workbench);
-        run.screen.Hints(tagPanel).setVisible(true);
+        run.screen.Hints(panels::tag).setVisible(true);
         for (const Row& row : rows) {
             if (row.matches(run.workbench, index)) {
                 row.open(run, index);

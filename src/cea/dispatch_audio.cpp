@@ -1,6 +1,7 @@
 #include "cea/dispatch_audio.h"
 
 #include "cea/dispatch_steps.h"
+#include "cea/panels.h"
 #include "cea/short_audio.h"
 #include "cea/tag_panel.h"
 
@@ -13,9 +14,9 @@ void colourInAudio(const Procedure& run, int index) {
 }
 
 void openFrequencyPanel(const Procedure& run, int index) {
-    showPanel(run, 5, index, "Audio Sampling Frequency (");
+    showPanel(run, panels::frequencies, index, "Audio Sampling Frequency (");
     colourInAudio(run, index);
-    run.screen.Hints(0).setVisible(false);
+    run.screen.Hints(panels::audioChannels).setVisible(false);
     run.screen.FrmAudioFormat.setVisible(false);
 }
 
@@ -31,20 +32,21 @@ void showRateControls(const Procedure& run, bool rate, bool sizes) {
 void openAudioHeader(const Procedure& run, int index) {
     openHeader(run, index, "ShortAudio");
     run.screen.FrmAudioFormat.setVisible(true);
-    run.screen.Hints(16).setVisible(false);
+    run.screen.Hints(panels::videoDescriptor).setVisible(false);
     BuildAudioTag(run.workbench);
 }
 
 void openAudioChannels(const Procedure& run, int index) {
-    showPanel(run, 0);
+    showPanel(run, panels::audioChannels);
     colourInAudio(run, index);
     BuildAudioChannels(run.workbench);
-    run.captionPanel(0, index, isCompressed(run.screen) ? "Compressed Audio Codes (" : "Uncompressed Audio (");
+    run.captionPanel(panels::audioChannels, index,
+                     isCompressed(run.screen) ? "Compressed Audio Codes (" : "Uncompressed Audio (");
     run.screen.FrmAudFormCode.setVisible(isCompressed(run.screen));
 }
 
 void openLastAudioChannels(const Procedure& run, int index) {
-    showPanel(run, 0, index, "Compressed Audio Codes (");
+    showPanel(run, panels::audioChannels, index, "Compressed Audio Codes (");
     run.screen.FrmAudFormCode.setVisible(true);
     run.screen.FrmAudioFormat.setVisible(false);
     colourInAudio(run, index);
@@ -66,13 +68,14 @@ void openLastFrequencies(const Procedure& run, int index) {
 
 void openBitRate(const Procedure& run, int index) {
     Workbench& workbench = run.workbench;
-    showPanel(run, 6);
+    showPanel(run, panels::bitRate);
     colourInAudio(run, index);
     showRateControls(run, false, false);
-    run.screen.Hints(5).setVisible(false);
+    run.screen.Hints(panels::frequencies).setVisible(false);
     BuildBitRate(workbench);
     const bool compressed = isCompressed(run.screen);
-    run.captionPanel(6, index, compressed ? "Compressed Sampl bit rate (" : "Uncompressed Sampl bit rate (");
+    run.captionPanel(panels::bitRate, index,
+                     compressed ? "Compressed Sampl bit rate (" : "Uncompressed Sampl bit rate (");
     showRateControls(run, compressed, !compressed);
     if (workbench.AudioBlockStart != 0 && workbench.VideoBlockStart != 0) {
         workbench.SpeakerBlockStart = int16From(location(workbench.AudioBlockStart, 4));
@@ -81,11 +84,11 @@ void openBitRate(const Procedure& run, int index) {
 
 void openLastBitRate(const Procedure& run, int index) {
     Workbench& workbench = run.workbench;
-    showPanel(run, 6, index, "Compressed Sampl bit rate (");
+    showPanel(run, panels::bitRate, index, "Compressed Sampl bit rate (");
     showRateControls(run, true, false);
     colourInAudio(run, index);
     workbench.LastAudioFocus = flagTrue;
-    run.screen.Hints(5).setVisible(false);
+    run.screen.Hints(panels::frequencies).setVisible(false);
     BuildLastBitRate(workbench);
     if (workbench.AudioBlockStart != 0 && workbench.VideoBlockStart != 0 && workbench.LastAudioDescriptor != 0) {
         workbench.SpeakerBlockStart = 0;

@@ -1,9 +1,11 @@
 #include "cea/dispatch_steps.h"
 
+#include "cea/panels.h"
+
 namespace wb::cea {
 
 void showPanel(const Procedure& run, int panel) {
-    run.screen.Hints(tagPanel).setVisible(false);
+    run.screen.Hints(panels::tag).setVisible(false);
     run.screen.Hints(panel).setVisible(true);
 }
 
@@ -22,7 +24,7 @@ void colourInBlock(const Procedure& run, int index, int start, int length) {
 }
 
 void openHeader(const Procedure& run, int index, std::string_view kind) {
-    run.captionPanel(tagPanel, index, "Data Block Tag Codes (");
+    run.captionPanel(panels::tag, index, "Data Block Tag Codes (");
     colourField(run, index);
     run.workbench.DataBlockKind = kind;
 }

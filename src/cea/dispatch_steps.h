@@ -7,9 +7,6 @@
 /// Steps that the rows of the focus dispatch share.
 namespace wb::cea {
 
-/// The panel of a block's header; the dispatch shows it before it looks for a row.
-inline constexpr int tagPanel = 15;
-
 /// Shows a panel in place of the tag panel; with `words`, captions it for the cell.
 void showPanel(const Procedure& run, int panel);
 void showPanel(const Procedure& run, int panel, int index, std::string_view words);

@@ -1,6 +1,7 @@
 #include "cea/header.h"
 
 #include "cea/data_blocks.h"
+#include "cea/panels.h"
 #include "cea/procedure.h"
 
 namespace wb::cea {
@@ -21,7 +22,7 @@ void BuildVersion(Workbench& workbench) {
         const std::string version = std::to_string(run.readByte(versionCell));
         run.screen.txtVersion.setText(version);
         run.screen.VerRev.setText(version);
-        run.screen.Hints(2).setCaption("Version Number (1)");
+        run.screen.Hints(panels::version).setCaption("Version Number (1)");
         run.screen.lbEDID(0).setCaption("Version Number - " + version);
     });
 }

@@ -4,6 +4,7 @@
 
 #include "cea/digits.h"
 #include "cea/flag_list.h"
+#include "cea/panels.h"
 
 namespace wb::cea {
 
@@ -130,7 +131,8 @@ void BuildAudioChannels(Workbench& workbench) {
         decodeChannels(run, cellIndex, run.workbench.AudioChannelsText);
         const bool compressed = isCompressed(run.screen);
         run.screen.FrmAudFormCode.setVisible(compressed);
-        run.captionPanel(0, cellIndex, compressed ? "Compressed Audio Codes(" : "Uncompressed Audio (");
+        run.captionPanel(panels::audioChannels, cellIndex,
+                         compressed ? "Compressed Audio Codes(" : "Uncompressed Audio (");
         if (compressed) {
             BuildAudioFormatName(run.workbench);
         } else {

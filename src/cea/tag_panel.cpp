@@ -4,6 +4,7 @@
 
 #include "cea/data_blocks.h"
 #include "cea/digits.h"
+#include "cea/panels.h"
 #include "cea/procedure.h"
 #include "cea/short_audio.h"
 
@@ -158,7 +159,7 @@ void optButTag_Click(Workbench& workbench, int index) {
             return;
         }
         if (block == &audioBlock) {
-            run.screen.Hints(16).setVisible(false);
+            run.screen.Hints(panels::videoDescriptor).setVisible(false);
         }
         focusOnHeader(run, *block);
         const int header = run.workbench.*block->start;
