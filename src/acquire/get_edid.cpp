@@ -18,8 +18,6 @@ namespace {
 
 /// Block 0 and one extension block; a longer value loses the rest.
 constexpr std::size_t imageSize = std::size_t{2} * BlockScreen::cellCount;
-/// The major version of the systems that keep the EDID in their registry.
-constexpr int registryVersion = 5;
 constexpr int readerTries = 5;
 
 std::string bootTimeNotes() {
@@ -60,7 +58,7 @@ void GetEDIDData(Workbench& workbench) {
         if (!files::offerSave(workbench)) {
             return;
         }
-        if (workbench.platform.operatingSystem.majorVersion() != registryVersion) {
+        if (workbench.platform.operatingSystem.majorVersion() != platform::registryMajorVersion) {
             LoadStoredEdid(workbench, edidFromReader(workbench));
         } else if (const auto data = readStoredEdid(workbench)) {
             LoadStoredEdid(workbench, *data);

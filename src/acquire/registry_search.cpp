@@ -5,13 +5,14 @@
 #include <optional>
 #include <vector>
 
-#include "acquire/open_key.h"
 #include "core/text.h"
+#include "platform/open_key.h"
 
 namespace wb::acquire {
 
 namespace {
 
+using platform::OpenKey;
 using platform::RegistryCode;
 
 /// Display adapters and virtual monitors: they carry no EDID of a real monitor. Exact spelling.

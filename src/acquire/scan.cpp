@@ -6,7 +6,6 @@ namespace wb::acquire {
 
 namespace {
 
-constexpr const char* toolName = "devcon.exe";
 /// The one place where the tool is looked for.
 constexpr const char* toolFolder = "c:/QOR/EDID/EDIDv314d";
 constexpr double secondsAfterRemoval = 3;
@@ -14,8 +13,11 @@ constexpr double secondsAfterRescan = 10;
 constexpr double secondsPerDay = 24 * 60 * 60;
 
 void startTool(Workbench& workbench, const std::string& arguments) {
-    workbench.platform.shell.start(
-        {.verb = "open", .program = toolName, .arguments = arguments, .folder = toolFolder, .hidden = true});
+    workbench.platform.shell.start({.verb = "open",
+                                    .program = platform::deviceToolName,
+                                    .arguments = arguments,
+                                    .folder = toolFolder,
+                                    .hidden = true});
 }
 
 /// The rest of a wait that ends when the clock shows `seconds` more than `start` (both clock readings in seconds since

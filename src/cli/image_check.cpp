@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "acquire/registry_search.h"
 #include "core/text.h"
 
 namespace wb::cli {
@@ -10,7 +11,6 @@ namespace {
 
 constexpr std::size_t blockSize = 128;
 constexpr std::size_t extensionCountPlace = 126;
-constexpr std::string_view header("\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8);
 
 Finding checkLength(std::string_view image, std::size_t mostBlocks) {
     std::string text = "length " + std::to_string(image.size());
@@ -43,7 +43,7 @@ Finding checkSum(std::string_view image, std::size_t block) {
 } // namespace
 
 std::vector<Finding> checkImage(std::string_view image, std::size_t mostBlocks) {
-    const bool headed = image.starts_with(header);
+    const bool headed = acquire::IsEDIDHeaderValid(image);
     std::vector<Finding> findings = {{headed, headed ? "header ok" : "header wrong"}, checkLength(image, mostBlocks)};
     for (std::size_t block = 0; block < 2 && (block + 1) * blockSize <= image.size(); ++block) {
         findings.push_back(checkSum(image, block));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "acquire/registry_search.h"
 #include "core/digits.h"
 #include "core/text.h"
 #include "files/data_file.h"
@@ -12,7 +13,6 @@ namespace wb::cli {
 namespace {
 
 constexpr std::size_t blockSize = 128;
-constexpr std::string_view header("\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8);
 
 bool holdsMarker(std::string_view bytes) {
     const auto sameLetter = [](char a, char b) { return upperCase(a) == b; };
@@ -75,7 +75,7 @@ bool isBinaryImage(std::string_view bytes) {
     if (bytes.size() < blockSize) {
         return false;
     }
-    return bytes.starts_with(header) ||
+    return acquire::IsEDIDHeaderValid(bytes) ||
            (bytes.size() % blockSize == 0 && !std::all_of(bytes.begin(), bytes.end(), isTextCharacter));
 }
 

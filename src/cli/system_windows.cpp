@@ -1,5 +1,5 @@
-#include "acquire/open_key.h"
 #include "cli/system.h"
+#include "platform/open_key.h"
 #include "platform/windows/win32_registry.h"
 
 namespace wb::cli {
@@ -11,7 +11,7 @@ using platform::RegistryCode;
 constexpr const char* displayKey = "SYSTEM\\CurrentControlSet\\Enum\\Display";
 
 std::vector<std::string> subKeys(platform::Registry& registry, const std::string& path) {
-    const acquire::OpenKey key(registry, path);
+    const platform::OpenKey key(registry, path);
     std::vector<std::string> names;
     std::string name;
     while (key.isOpen() && registry.enumerateKey(key.key(), static_cast<int>(names.size()), name) == RegistryCode::Ok) {
@@ -21,7 +21,7 @@ std::vector<std::string> subKeys(platform::Registry& registry, const std::string
 }
 
 std::size_t edidLength(platform::Registry& registry, const std::string& parameters) {
-    const acquire::OpenKey key(registry, parameters);
+    const platform::OpenKey key(registry, parameters);
     platform::RegistryValue value;
     return key.isOpen() && registry.readValue(key.key(), "EDID", value) == RegistryCode::Ok ? value.data.size() : 0;
 }
@@ -41,7 +41,7 @@ std::vector<Monitor> attachedMonitors(const SystemOptions&) {
         for (const std::string& instance : subKeys(registry, std::string(displayKey) + '\\' + model)) {
             const std::string name = model + '\\' + instance;
             const std::string path = std::string(displayKey) + '\\' + name;
-            if (acquire::OpenKey(registry, path + "\\Control").isOpen()) {
+            if (platform::OpenKey(registry, path + "\\Control").isOpen()) {
                 const std::string parameters = path + "\\Device Parameters";
                 monitors.push_back(
                     {name, "HKEY_LOCAL_MACHINE\\" + parameters + "\\EDID", edidLength(registry, parameters)});

@@ -43,11 +43,14 @@ public:
     /// Each file dialog gives the chosen path, or an empty text after a cancel.
     virtual std::string openFile(const FileDialogRequest& request) = 0;
     virtual std::string saveFile(const FileDialogRequest& request) = 0;
-    /// True when the user confirmed. `flags` are the printer flags: 8 no page numbers, 256 return a device context, 1
-    /// selection.
+    /// True when the user confirmed. `flags` is a sum of the printer flags below.
     virtual bool print(const std::string& title, int flags) = 0;
     virtual bool pageSetup(const std::string& title) = 0;
 };
+
+inline constexpr int printSelection = 1;
+inline constexpr int printNoPageNumbers = 8;
+inline constexpr int printReturnDeviceContext = 256;
 
 class Printer {
 public:
@@ -75,6 +78,9 @@ struct RegistryValue {
     std::string data; ///< raw bytes; a Number32 has four, least significant first
 };
 
+/// What an enumeration gives at most, in characters of a name and in bytes of a value's data.
+inline constexpr std::size_t registryBufferSize = 1024;
+
 /// The registry tree below HKEY_LOCAL_MACHINE. Keys and values keep their order and are found in any letter case.
 class Registry {
 public:
@@ -84,13 +90,16 @@ public:
     /// Opens the key at `path` (separators are backslashes; an empty path is the root).
     virtual RegistryCode open(const std::string& path, Key& key) = 0;
     virtual RegistryCode queryInfo(Key key, int& subKeys, int& values) = 0;
-    /// Name of the sub-key of that index; NoMoreItems past the last, MoreData above 1,024 characters.
+    /// Name of the sub-key of that index; NoMoreItems past the last, MoreData above the buffer size.
     virtual RegistryCode enumerateKey(Key key, int index, std::string& name) = 0;
-    /// Value of that index; NoMoreItems past the last, MoreData where name or data pass 1,024 bytes.
+    /// Value of that index; NoMoreItems past the last, MoreData where name or data pass the buffer size.
     virtual RegistryCode enumerateValue(Key key, int index, RegistryValue& value) = 0;
     virtual RegistryCode readValue(Key key, const std::string& name, RegistryValue& value) = 0;
     virtual void close(Key key) = 0;
 };
+
+/// The major version of the systems whose registry tree holds the stored EDIDs.
+inline constexpr int registryMajorVersion = 5;
 
 class OperatingSystem {
 public:
@@ -98,13 +107,16 @@ public:
     virtual int majorVersion() const = 0;
 };
 
-/// Reads the EDID straight from a monitor, on systems whose major version is not 5.
+/// Reads the EDID straight from a monitor, on systems of any other major version.
 class DirectEdidReader {
 public:
     virtual ~DirectEdidReader() = default;
     /// Takes a text of 256 blanks and gives the EDID, one character a byte.
     virtual std::string read(const std::string& blanks) = 0;
 };
+
+/// The device console tool, which has the system look for its devices anew.
+inline constexpr const char* deviceToolName = "devcon.exe";
 
 struct ShellCommand {
     std::string verb;
@@ -117,8 +129,8 @@ struct ShellCommand {
 class Shell {
 public:
     virtual ~Shell() = default;
-    /// Starts the program without waiting; a program that cannot be started is not reported.
-    virtual void start(const ShellCommand& command) = 0;
+    /// Starts the program without waiting; false when it cannot be started.
+    virtual bool start(const ShellCommand& command) = 0;
 };
 
 struct DateTime {

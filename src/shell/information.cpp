@@ -1,17 +1,15 @@
 #include "shell/information.h"
 
-#include "acquire/open_key.h"
 #include "core/numbers.h"
 #include "core/text.h"
 #include "core/version.h"
 #include "files/text_file.h"
+#include "platform/open_key.h"
 #include "shell/startup.h"
 
 namespace wb::shell {
 
 namespace {
-
-constexpr std::size_t valueBufferSize = 1024;
 
 constexpr const char* standardsPointer =
     "For detailed information regarding the use of this program, please refer to the VESA\xAE Enhanced Extended "
@@ -64,8 +62,10 @@ std::string textOf(const platform::RegistryValue& value) {
 }
 
 void run(Workbench& workbench, const std::string& program) {
-    workbench.platform.shell.start(
-        {.verb = "open", .program = program, .arguments = "", .folder = "", .hidden = false});
+    if (!workbench.platform.shell.start(
+            {.verb = "open", .program = program, .arguments = "", .folder = "", .hidden = false})) {
+        throw Failure(FailureKind::FileNotFound);
+    }
 }
 
 } // namespace
@@ -122,10 +122,10 @@ void StartSysInfo(Workbench& workbench) {
 bool GetKeyValue(Workbench& workbench, const std::string& KeyName, const std::string& SubKeyRef, std::string& KeyVal) {
     KeyVal.clear();
     platform::Registry& registry = workbench.platform.registry;
-    const acquire::OpenKey key(registry, KeyName);
+    const platform::OpenKey key(registry, KeyName);
     platform::RegistryValue value;
     if (!key.isOpen() || registry.readValue(key.key(), SubKeyRef, value) != platform::RegistryCode::Ok ||
-        value.data.size() > valueBufferSize) {
+        value.data.size() > platform::registryBufferSize) {
         return false;
     }
     KeyVal = textOf(value);

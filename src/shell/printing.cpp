@@ -6,16 +6,14 @@ namespace wb::shell {
 
 namespace {
 
-constexpr int selectionFlag = 1;
-/// No page numbers (8), return a device context (256).
-constexpr int printerFlags = 264;
+constexpr int printerFlags = platform::printNoPageNumbers + platform::printReturnDeviceContext;
 
 /// Only the report window has a document; reading the selection of any other child fails, which leaves the flags as
 /// they are. The report is built anew after the dialog, so that the selection never narrows what is printed.
 int flagsFor(Workbench& workbench) {
     const bool isDocument = workbench.windows.activeChild()->id() == ScreenId::Document;
     const bool selection = isDocument && workbench.frmDocument().rtftext.selLength() != 0;
-    return selection ? printerFlags + selectionFlag : printerFlags;
+    return selection ? printerFlags + platform::printSelection : printerFlags;
 }
 
 } // namespace

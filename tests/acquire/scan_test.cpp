@@ -55,7 +55,10 @@ TEST(Scan, TwoBlanksAreAName) {
 TEST(Scan, StartsTheToolHiddenByTheVerbOpen) {
     class RecordingShell : public platform::Shell {
     public:
-        void start(const platform::ShellCommand& command) override { commands.push_back(command); }
+        bool start(const platform::ShellCommand& command) override {
+            commands.push_back(command);
+            return false;
+        }
         std::vector<platform::ShellCommand> commands;
     };
     platform::headless::HeadlessPlatform headless;
@@ -65,7 +68,10 @@ TEST(Scan, StartsTheToolHiddenByTheVerbOpen) {
                                       inner.registry,     inner.operatingSystem, inner.edidReader, shell,
                                       inner.clock,        inner.eventLoop,       inner.arranger,   ""};
     Workbench workbench(services, shell::wiring());
+    Lines boxes;
+    headless.onBox = [&](const std::string& text) { boxes.push_back(text.substr(0, 15)); };
     Command5_Click(workbench);
+    EXPECT_EQ(boxes, (Lines{"These processes", "Unable to locat"})) << "that it cannot be started is not told";
     ASSERT_EQ(shell.commands.size(), 2U);
     for (const platform::ShellCommand& command : shell.commands) {
         EXPECT_EQ(command.verb, "open");

@@ -102,25 +102,33 @@ TEST(EventLoop, ShowsTheHourglassOnce) {
 }
 
 struct DeviceTool : platform::Shell {
-    void start(const platform::ShellCommand& command) override { arguments.push_back(command.arguments); }
+    bool start(const platform::ShellCommand& command) override {
+        arguments.push_back(command.arguments);
+        return known;
+    }
+    bool known = true;
     std::vector<std::string> arguments;
 };
 
 TEST(Shell, LeavesTheDeviceToolToItsStandIn) {
     DeviceTool tool;
     QtShell shell(tool);
-    shell.start({.verb = "open", .program = "devcon.exe", .arguments = "rescan", .folder = "c:/nowhere"});
+    const platform::ShellCommand rescan{
+        .verb = "open", .program = "devcon.exe", .arguments = "rescan", .folder = "c:/nowhere"};
+    EXPECT_TRUE(shell.start(rescan));
     EXPECT_EQ(tool.arguments, std::vector<std::string>{"rescan"});
+    tool.known = false;
+    EXPECT_FALSE(shell.start(rescan));
 }
 
 TEST(Shell, StartsOtherProgramsInTheirFolder) {
     const test::TemporaryFolder folder;
     DeviceTool tool;
     QtShell shell(tool);
-    shell.start({.verb = "open", .program = "touch", .arguments = "\"a b\" c", .folder = folder.file("")});
+    EXPECT_TRUE(shell.start({.verb = "open", .program = "touch", .arguments = "\"a b\" c", .folder = folder.file("")}));
     const auto made = [&](const char* name) { return QFile::exists(QString::fromStdString(folder.file(name))); };
     EXPECT_TRUE(QTest::qWaitFor([&] { return made("a b") && made("c"); }, 5000));
-    shell.start({.verb = "open", .program = "no such program", .arguments = "", .folder = ""}); // not reported
+    EXPECT_FALSE(shell.start({.verb = "open", .program = "no such program", .arguments = "", .folder = ""}));
     EXPECT_TRUE(tool.arguments.empty());
 }
 

@@ -92,9 +92,9 @@ TEST_F(Connectors, EndlessFilesAreNotRead) {
 
 class Tool : public Connectors {
 protected:
-    void start(const std::string& program, const std::string& arguments) {
+    bool start(const std::string& program, const std::string& arguments) {
         DeviceTool tool(sysfs.root());
-        static_cast<Shell&>(tool).start(
+        return static_cast<Shell&>(tool).start(
             {.verb = "open", .program = program, .arguments = arguments, .folder = "", .hidden = true});
     }
 };
@@ -103,7 +103,7 @@ TEST_F(Tool, HasEachConnectorDetected) {
     for (const char* arguments : {"remove monitor\\ABC1234", "remove monitor\\", "rescan"}) {
         sysfs.addConnector("a", "connected", "old");
         sysfs.addConnector("b", "disconnected", "");
-        start("devcon.exe", arguments);
+        EXPECT_TRUE(start("devcon.exe", arguments));
         EXPECT_EQ(sysfs.read("a", "status"), "detect") << arguments;
         EXPECT_EQ(sysfs.read("b", "status"), "detect") << arguments;
         EXPECT_EQ(sysfs.read("a", "edid"), "old");
@@ -112,9 +112,9 @@ TEST_F(Tool, HasEachConnectorDetected) {
 
 TEST_F(Tool, DoesNothingElse) {
     sysfs.addConnector("a", "connected", "");
-    start("devcon.exe", "status *");
-    start("devcon.exe", "");
-    start("other.exe", "rescan");
+    EXPECT_FALSE(start("devcon.exe", "status *"));
+    EXPECT_FALSE(start("devcon.exe", ""));
+    EXPECT_FALSE(start("other.exe", "rescan"));
     EXPECT_EQ(sysfs.read("a", "status"), "connected\n");
 }
 
@@ -122,7 +122,7 @@ TEST_F(Tool, PassesOverWhatCannotBeWritten) {
     sysfs.write("a", "edid", "");
     std::filesystem::create_directories(sysfs.drm() / "b" / "status");
     sysfs.addConnector("c", "connected", "");
-    start("devcon.exe", "rescan");
+    EXPECT_TRUE(start("devcon.exe", "rescan"));
     EXPECT_FALSE(std::filesystem::exists(sysfs.drm() / "a" / "status")) << "nothing is created";
     EXPECT_EQ(sysfs.read("c", "status"), "detect");
 }

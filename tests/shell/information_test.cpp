@@ -97,21 +97,46 @@ TEST_F(Information, WithoutAToolABoxSaysSo) {
     EXPECT_EQ(program.takeBoxes(), Lines{unavailable});
 }
 
-TEST_F(Information, ShowsTheToolsWindow) {
+/// A program whose shell keeps the last command and starts what it is told to.
+class InformationShell : public Information {
+protected:
     class RecordingShell : public platform::Shell {
     public:
-        void start(const platform::ShellCommand& command) override { hidden = command.hidden; }
-        bool hidden = true;
+        bool start(const platform::ShellCommand& command) override {
+            last = command;
+            return starts;
+        }
+        bool starts = true;
+        platform::ShellCommand last;
     };
+
     RecordingShell shell;
     const platform::Services& inner = program.platform.services();
-    const platform::Services services{inner.messageBoxes, inner.dialogs,         inner.printer,    inner.settings,
-                                      inner.registry,     inner.operatingSystem, inner.edidReader, shell,
-                                      inner.clock,        inner.eventLoop,       inner.arranger,   ""};
+    platform::Services services{inner.messageBoxes, inner.dialogs,         inner.printer,    inner.settings,
+                                inner.registry,     inner.operatingSystem, inner.edidReader, shell,
+                                inner.clock,        inner.eventLoop,       inner.arranger,   ""};
+    Workbench other{services, wiring()};
+};
+
+TEST_F(InformationShell, ShowsTheToolsWindow) {
     store(toolKey, "PATH", "tool");
-    Workbench other(services, wiring());
     StartSysInfo(other);
-    EXPECT_FALSE(shell.hidden);
+    EXPECT_EQ(shell.last.program, "tool");
+    EXPECT_FALSE(shell.last.hidden);
+    EXPECT_TRUE(program.boxes.empty());
+}
+
+TEST_F(InformationShell, AToolThatCannotBeStartedIsAFailure) {
+    shell.starts = false;
+    store(toolKey, "PATH", "tool");
+    StartSysInfo(other);
+    EXPECT_EQ(program.takeBoxes(), Lines{"File not found"}) << "and no other place is looked at";
+    program.platform.registry.clear();
+    const test::TemporaryFolder folder;
+    store(locationKey, "MSINFO", folder.file("tools"));
+    folder.write("tools\\MSINFO32.EXE", "");
+    StartSysInfo(other);
+    EXPECT_EQ(program.takeBoxes(), Lines{"File not found"});
 }
 
 TEST_F(Information, AKeyValueIsTextAsItStands) {

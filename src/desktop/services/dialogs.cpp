@@ -12,9 +12,6 @@ namespace wb::desktop {
 
 namespace {
 
-constexpr int noPageNumbersFlag = 8;
-constexpr int selectionFlag = 1;
-
 QString offeredPath(const platform::FileDialogRequest& request) {
     const QDir folder(fromFileNameBytes(request.folder));
     return request.name.empty() ? folder.path() : folder.filePath(fromFileNameBytes(request.name));
@@ -50,9 +47,9 @@ bool QtDialogs::print(const std::string& title, int flags) {
     gate_.announceEventLoop();
     QPrintDialog dialog(&printer_.device(), dialogOwner());
     dialog.setWindowTitle(toUnicode(title));
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, (flags & noPageNumbersFlag) == 0);
-    dialog.setOption(QAbstractPrintDialog::PrintSelection, (flags & selectionFlag) != 0);
-    if ((flags & selectionFlag) != 0) {
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, (flags & platform::printNoPageNumbers) == 0);
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, (flags & platform::printSelection) != 0);
+    if ((flags & platform::printSelection) != 0) {
         dialog.setPrintRange(QAbstractPrintDialog::Selection);
     }
     return dialog.exec() == QDialog::Accepted;

@@ -6,13 +6,13 @@
 
 namespace wb::desktop {
 
-void QtShell::start(const platform::ShellCommand& command) {
-    if (command.program == "devcon.exe") {
-        deviceTool_.start(command);
-        return;
+bool QtShell::start(const platform::ShellCommand& command) {
+    if (command.program == platform::deviceToolName) {
+        return deviceTool_.start(command);
     }
-    QProcess::startDetached(fromFileNameBytes(command.program), QProcess::splitCommand(toUnicode(command.arguments)),
-                            fromFileNameBytes(command.folder));
+    return QProcess::startDetached(fromFileNameBytes(command.program),
+                                   QProcess::splitCommand(toUnicode(command.arguments)),
+                                   fromFileNameBytes(command.folder));
 }
 
 } // namespace wb::desktop

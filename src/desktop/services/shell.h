@@ -9,7 +9,7 @@ class QtShell : public platform::Shell {
 public:
     explicit QtShell(platform::Shell& deviceTool) : deviceTool_(deviceTool) {}
 
-    void start(const platform::ShellCommand& command) override;
+    bool start(const platform::ShellCommand& command) override;
 
 private:
     platform::Shell& deviceTool_;

@@ -117,8 +117,9 @@ std::string HeadlessPlatform::read(const std::string&) {
     return readerData_;
 }
 
-void HeadlessPlatform::start(const ShellCommand& command) {
+bool HeadlessPlatform::start(const ShellCommand& command) {
     line("[shell] " + quoted(command.program) + " " + quoted(command.arguments) + " folder=" + quoted(command.folder));
+    return true;
 }
 
 void HeadlessPlatform::setClock(const DateTime& now) {

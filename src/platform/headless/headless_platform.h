@@ -64,7 +64,7 @@ private:
     void write(const std::string& name, const std::string& value) override;
     int majorVersion() const override { return majorVersion_; }
     std::string read(const std::string& blanks) override;
-    void start(const ShellCommand& command) override;
+    bool start(const ShellCommand& command) override;
     DateTime now() const override { return now_; }
     double secondsSinceMidnight() const override;
     void wait(double seconds) override;
@@ -85,7 +85,7 @@ private:
     std::vector<std::string> printed_;
     DateTime now_;
     double secondFraction_ = 0;
-    int majorVersion_ = 5;
+    int majorVersion_ = registryMajorVersion;
     std::string readerData_;
     std::vector<std::function<void()>> timers_;
 };

@@ -7,12 +7,6 @@
 
 namespace wb::platform::headless {
 
-namespace {
-
-constexpr std::size_t bufferSize = 1024;
-
-} // namespace
-
 struct RegistryTree::Node {
     std::string name;
     RegistryCode openCode = RegistryCode::Ok;
@@ -117,7 +111,7 @@ RegistryCode RegistryTree::enumerateKey(Key key, int index, std::string& name) {
         return RegistryCode::NoMoreItems;
     }
     const std::string& found = node->children[static_cast<std::size_t>(index)]->name;
-    if (found.size() > bufferSize) {
+    if (found.size() > registryBufferSize) {
         return RegistryCode::MoreData;
     }
     name = found;
@@ -133,7 +127,7 @@ RegistryCode RegistryTree::enumerateValue(Key key, int index, RegistryValue& val
         return RegistryCode::NoMoreItems;
     }
     const RegistryValue& found = node->values[static_cast<std::size_t>(index)];
-    if (found.name.size() > bufferSize || found.data.size() > bufferSize) {
+    if (found.name.size() > registryBufferSize || found.data.size() > registryBufferSize) {
         return RegistryCode::MoreData;
     }
     value = found;

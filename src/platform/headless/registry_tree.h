@@ -15,7 +15,7 @@ public:
     RegistryTree();
     ~RegistryTree() override;
 
-    /// Adds the key with all that lead to it; gives the existing one where there is one.
+    /// Adds the key with all that lead to it; those that are there stay as they are.
     void addKey(const std::string& path);
     /// Adds or replaces a value of a key that is added if need be.
     void setValue(const std::string& path, RegistryValue value);

@@ -2,11 +2,13 @@
 
 namespace wb::platform::linux_system {
 
-void DeviceTool::start(const ShellCommand& command) {
-    if (command.program == "devcon.exe" &&
-        (command.arguments.starts_with("remove ") || command.arguments == "rescan")) {
-        connectors_.detect();
+bool DeviceTool::start(const ShellCommand& command) {
+    if (command.program != deviceToolName ||
+        !(command.arguments.starts_with("remove ") || command.arguments == "rescan")) {
+        return false;
     }
+    connectors_.detect();
+    return true;
 }
 
 } // namespace wb::platform::linux_system

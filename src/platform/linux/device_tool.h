@@ -12,7 +12,7 @@ public:
     /// `sysfs` is the root of sysfs, normally "/sys".
     explicit DeviceTool(const std::filesystem::path& sysfs) : connectors_(sysfs) {}
 
-    void start(const ShellCommand& command) override;
+    bool start(const ShellCommand& command) override;
 
 private:
     DrmConnectors connectors_;

@@ -15,9 +15,6 @@ constexpr const char* controlKey = "Control";
 constexpr const char* parametersKey = "Device Parameters";
 constexpr const char* edidValue = "EDID";
 
-/// What an enumeration gives at most.
-constexpr std::size_t bufferSize = 1024;
-
 bool sameName(std::string_view one, std::string_view other) {
     return upperCase(one) == upperCase(other);
 }
@@ -137,7 +134,7 @@ RegistryCode SysfsRegistry::enumerateValue(Key key, int index, RegistryValue& va
     if (found == nullptr) {
         return RegistryCode::Refused;
     }
-    const RegistryCode code = index == 0 ? edidOf(found->node, bufferSize, value) : RegistryCode::NotFound;
+    const RegistryCode code = index == 0 ? edidOf(found->node, registryBufferSize, value) : RegistryCode::NotFound;
     return code == RegistryCode::NotFound ? RegistryCode::NoMoreItems : code;
 }
 

@@ -11,9 +11,6 @@ namespace wb::platform::windows {
 
 namespace {
 
-/// Names and values are enumerated into buffers of this size.
-constexpr DWORD bufferSize = 1024;
-
 HKEY handleOf(Registry::Key key) {
     return reinterpret_cast<HKEY>(static_cast<std::uintptr_t>(key));
 }
@@ -77,8 +74,8 @@ RegistryCode Win32Registry::queryInfo(Key key, int& subKeys, int& values) {
 }
 
 RegistryCode Win32Registry::enumerateKey(Key key, int index, std::string& name) {
-    std::array<char, bufferSize> buffer{};
-    DWORD length = bufferSize;
+    std::array<char, registryBufferSize> buffer{};
+    DWORD length = registryBufferSize;
     const LSTATUS status = RegEnumKeyExA(handleOf(key), static_cast<DWORD>(index), buffer.data(), &length, nullptr,
                                          nullptr, nullptr, nullptr);
     if (status == ERROR_SUCCESS) {
@@ -88,10 +85,10 @@ RegistryCode Win32Registry::enumerateKey(Key key, int index, std::string& name) 
 }
 
 RegistryCode Win32Registry::enumerateValue(Key key, int index, RegistryValue& value) {
-    std::array<char, bufferSize> name{};
-    DWORD nameLength = bufferSize;
-    std::string data(bufferSize, '\0');
-    DWORD dataLength = bufferSize;
+    std::array<char, registryBufferSize> name{};
+    DWORD nameLength = registryBufferSize;
+    std::string data(registryBufferSize, '\0');
+    DWORD dataLength = registryBufferSize;
     DWORD type = REG_NONE;
     const LSTATUS status = RegEnumValueA(handleOf(key), static_cast<DWORD>(index), name.data(), &nameLength, nullptr,
                                          &type, bytesOf(data), &dataLength);

@@ -15,9 +15,13 @@ const char* orNull(const std::string& text) {
 
 } // namespace
 
-void Win32Shell::start(const ShellCommand& command) {
-    ShellExecuteA(nullptr, orNull(command.verb), command.program.c_str(), orNull(command.arguments),
-                  orNull(command.folder), command.hidden ? SW_HIDE : SW_SHOWNORMAL);
+bool Win32Shell::start(const ShellCommand& command) {
+    // What is not above it is the code of an error.
+    constexpr INT_PTR lastError = 32;
+    const HINSTANCE outcome =
+        ShellExecuteA(nullptr, orNull(command.verb), command.program.c_str(), orNull(command.arguments),
+                      orNull(command.folder), command.hidden ? SW_HIDE : SW_SHOWNORMAL);
+    return reinterpret_cast<INT_PTR>(outcome) > lastError;
 }
 
 } // namespace wb::platform::windows

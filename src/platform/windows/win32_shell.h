@@ -7,7 +7,7 @@ namespace wb::platform::windows {
 /// Starts programs through the system's shell.
 class Win32Shell : public Shell {
 public:
-    void start(const ShellCommand& command) override;
+    bool start(const ShellCommand& command) override;
 };
 
 } // namespace wb::platform::windows
