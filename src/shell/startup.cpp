@@ -13,8 +13,6 @@ namespace {
 
 constexpr const char* defaultBaseLocation = "SYSTEM\\CurrentControlSet\\Enum\\Display";
 constexpr int splashMilliseconds = 2000;
-/// The major version of the systems whose registry tree holds the stored EDIDs.
-constexpr int registryMajorVersion = 5;
 
 float positionSetting(Workbench& workbench, const char* name, float otherwise) {
     const auto stored = workbench.platform.settings.read(name);
@@ -64,13 +62,16 @@ void Main(Workbench& workbench) {
 void frmMain_Load(Workbench& workbench) {
     trapped(workbench, [&] {
         FrmMain& frame = workbench.frmMain();
-        frame.setPosition(positionSetting(workbench, "MainLeft", 1000), positionSetting(workbench, "MainTop", 1000),
-                          positionSetting(workbench, "MainWidth", 6500),
-                          positionSetting(workbench, "MainHeight", 6500));
+        // One after the other: the first bad setting is the one that is told.
+        const float left = positionSetting(workbench, "MainLeft", 1000);
+        const float top = positionSetting(workbench, "MainTop", 1000);
+        const float width = positionSetting(workbench, "MainWidth", 6500);
+        const float height = positionSetting(workbench, "MainHeight", 6500);
+        frame.setPosition(left, top, width, height);
         workbench.RegBaseLocation = defaultBaseLocation;
         // Never so, as the location has just been set: the entry keeps its design state.
         if (workbench.RegBaseLocation.empty() &&
-            workbench.platform.operatingSystem.majorVersion() == registryMajorVersion) {
+            workbench.platform.operatingSystem.majorVersion() == platform::registryMajorVersion) {
             frame.Windows2000.setVisible(true);
         }
         frame.FirstActivation = flagTrue;
@@ -86,7 +87,7 @@ void frmMain_Activate(Workbench& workbench) {
     FrmMain& frame = workbench.frmMain();
     // The fallback of an empty base location; the load step sets one, so that it does not run.
     if (workbench.RegBaseLocation.empty() && frame.FirstActivation != flagFalse &&
-        workbench.platform.operatingSystem.majorVersion() == registryMajorVersion) {
+        workbench.platform.operatingSystem.majorVersion() == platform::registryMajorVersion) {
         workbench.RegBaseLocation = defaultBaseLocation;
         workbench.windows.showModal(workbench.frmEDIDREG());
     }

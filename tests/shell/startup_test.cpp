@@ -47,6 +47,19 @@ TEST(Startup, ASettingBeyondSinglePrecisionEndsTheLoadStep) {
     EXPECT_TRUE(program.workbench.frmMain().shown()) << "the program comes up all the same";
 }
 
+TEST(Startup, OfSeveralBadSettingsTheFirstIsTold) {
+    const auto boxesOf = [](std::map<std::string, std::string> settings) {
+        test::Program program(false);
+        program.platform.settings = std::move(settings);
+        Main(program.workbench);
+        return program.takeBoxes();
+    };
+    EXPECT_EQ(boxesOf({{"MainLeft", "left"}, {"MainTop", "1E39"}}), Lines{"Type mismatch"});
+    EXPECT_EQ(boxesOf({{"MainLeft", "left"}, {"MainHeight", "1E39"}}), Lines{"Type mismatch"});
+    EXPECT_EQ(boxesOf({{"MainTop", "1E39"}, {"MainWidth", "wide"}}), Lines{"Overflow"});
+    EXPECT_EQ(boxesOf({{"MainWidth", "1E39"}, {"MainHeight", "high"}}), Lines{"Overflow"});
+}
+
 /// Tells what the program asks of the event loop, and lets the splash timer fire only after some rounds.
 class RecordingEvents : public platform::EventLoop {
 public:
