@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "files/text_file.h"
+#include "report/report_lines.h"
 
 namespace wb::files {
 
@@ -57,7 +58,7 @@ void ParseHexRowLine(Workbench& workbench, std::string_view line, int& nextIndex
 
 std::string dataFileText(const TextArray& reportLines) {
     std::string text;
-    for (int i = 0; i < reportLines.size() && reportLines(i) != "END REPORT"; ++i) {
+    for (int i = 0; i < reportLines.size() && reportLines(i) != report::endOfReport; ++i) {
         const std::string line = StripTrailingCrLf(reportLines(i));
         if (!line.empty()) {
             text += line;

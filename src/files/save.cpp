@@ -15,22 +15,10 @@ namespace {
 /// The file is written that many times over, each pass anew, so that it ends up as the last pass wrote it.
 constexpr int savePasses = 5;
 
-/// The hourglass while a save runs, with a chance for pending events at both ends.
-class Hourglass {
-public:
-    explicit Hourglass(platform::EventLoop& events) : events_(events) { set(platform::Pointer::Hourglass); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-    ~Hourglass() { set(platform::Pointer::Normal); }
-
-private:
-    void set(platform::Pointer pointer) {
-        events_.setPointer(pointer);
-        events_.processPending();
-    }
-
-    platform::EventLoop& events_;
-};
+void showPointer(Workbench& workbench, platform::Pointer pointer) {
+    workbench.platform.eventLoop.setPointer(pointer);
+    workbench.platform.eventLoop.processPending();
+}
 
 void writeImage(Workbench& workbench) {
     if (fileExists(workbench.CurrentFileName)) {
@@ -47,8 +35,7 @@ void writeImage(Workbench& workbench) {
 }
 
 /// False when there is still no name to write to.
-bool savePass(Workbench& workbench) {
-    const Hourglass hourglass(workbench.platform.eventLoop);
+bool saveOnce(Workbench& workbench) {
     if (workbench.CurrentFileName.empty()) {
         FileSaveAs(workbench);
         if (workbench.CurrentFileName.empty()) {
@@ -58,6 +45,20 @@ bool savePass(Workbench& workbench) {
     writeImage(workbench);
     workbench.EDIDModified = flagFalse;
     return true;
+}
+
+/// The same under the hourglass, with a chance for pending events at both ends; a failure passes on after that.
+bool savePass(Workbench& workbench) {
+    showPointer(workbench, platform::Pointer::Hourglass);
+    bool named = false;
+    try {
+        named = saveOnce(workbench);
+    } catch (const Failure&) {
+        showPointer(workbench, platform::Pointer::Normal);
+        throw;
+    }
+    showPointer(workbench, platform::Pointer::Normal);
+    return named;
 }
 
 } // namespace

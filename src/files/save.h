@@ -8,7 +8,8 @@ namespace wb::files {
 /// Writes the open image to CurrentFileName, asking for a name where there is none. Clears EDIDModified when the file
 /// is whole.
 void FileSave(Workbench& workbench);
-/// Asks for a name, makes it the image's and saves. No at the replace question leaves the name and writes nothing.
+/// Asks for a name, makes it the image's and saves. After a No at the replace question nothing is written, but the new
+/// name stays, and the next save replaces that file.
 void FileSaveAs(Workbench& workbench);
 
 /// Offers to save a modified image. False when the command that asks is to stop: the save was wanted and abandoned.

@@ -72,11 +72,7 @@ void mnuFileClose(Workbench& workbench) {
     for (const ScreenId id : {ScreenId::HexCalculator, ScreenId::Edid, ScreenId::Document, ScreenId::CeaExt}) {
         const Screen* active = workbench.windows.activeChild();
         if (active != nullptr && active->id() == id) {
-            try {
-                workbench.windows.unload(id);
-            } catch (const Failure&) {
-                continue;
-            }
+            silently([&] { workbench.windows.unload(id); });
         }
     }
 }

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
+#include "files/text_file.h"
 #include "support/program.h"
 #include "support/temporary_folder.h"
 
@@ -78,6 +81,71 @@ public:
     int hourglasses = 0;
     bool hourglass = false;
 };
+
+/// Tells in which order the hourglass comes and goes, events run and boxes are shown; the first round of pending events
+/// under the given pointer fails.
+class FailingEvents : public platform::EventLoop {
+public:
+    explicit FailingEvents(Lines& calls) : calls_(calls) {}
+
+    void processPending() override {
+        calls_.emplace_back("events");
+        if (pointer_ == failing) {
+            failing.reset();
+            throw Failure(FailureKind::Overflow);
+        }
+    }
+    void setPointer(platform::Pointer pointer) override {
+        pointer_ = pointer;
+        calls_.emplace_back(pointer == platform::Pointer::Hourglass ? "hourglass" : "normal");
+    }
+    void startTimer(int, std::function<void()> fire) override { fire(); }
+
+    std::optional<platform::Pointer> failing;
+
+private:
+    Lines& calls_;
+    platform::Pointer pointer_ = platform::Pointer::Normal;
+};
+
+class SaveEvents : public Save {
+protected:
+    SaveEvents() {
+        shell::Main(other);
+        input::choose(other.frmMain().mnuFileNew);
+        program.platform.onBox = [this](const std::string& text) { calls.push_back(text); };
+    }
+    Lines callsOf(const std::string& name, std::optional<platform::Pointer> failing = {}) {
+        other.CurrentFileName = name;
+        events.failing = failing;
+        calls.clear();
+        FileSave(other);
+        return calls;
+    }
+
+    Lines calls;
+    FailingEvents events{calls};
+    const platform::Services& inner = program.platform.services();
+    platform::Services services{
+        inner.messageBoxes, inner.dialogs, inner.printer, inner.settings, inner.registry, inner.operatingSystem,
+        inner.edidReader,   inner.shell,   inner.clock,   events,         inner.arranger, ""};
+    Workbench other{services, shell::wiring()};
+};
+
+TEST_F(SaveEvents, RunBeforeAFailureIsTold) {
+    EXPECT_EQ(callsOf(folder.file("no/such/folder.DAT")),
+              (Lines{"hourglass", "events", "normal", "events", "Path/File access error"}));
+}
+
+TEST_F(SaveEvents, ThatFailEndTheSaveLikeAnyFailure) {
+    const std::string name = folder.file("image.DAT");
+    EXPECT_EQ(callsOf(name, platform::Pointer::Hourglass), (Lines{"hourglass", "events", "Overflow"}));
+    EXPECT_FALSE(fileExists(name));
+    EXPECT_EQ(callsOf(name, platform::Pointer::Normal), (Lines{"hourglass", "events", "normal", "events", "Overflow"}));
+    EXPECT_TRUE(fileExists(name)) << "the first pass has written it";
+    EXPECT_EQ(callsOf(folder.file("no/such/folder.DAT"), platform::Pointer::Normal),
+              (Lines{"hourglass", "events", "normal", "events", "Overflow"}));
+}
 
 class SavePasses : public Save {
 protected:
