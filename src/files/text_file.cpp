@@ -14,17 +14,17 @@ namespace {
 
 constexpr std::size_t chunkSize = std::size_t{1} << 16U;
 
-FailureKind kindOf(int error) {
-    switch (error) {
-        case EACCES:
-        case EPERM:
-        case EROFS:
-            return FailureKind::PermissionDenied;
-        case ENOSPC:
-            return FailureKind::DiskFull;
-        default:
-            return FailureKind::PathFileAccess;
+FailureKind kindOf(const std::error_code& error) {
+    if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+        error == std::errc::read_only_file_system) {
+        return FailureKind::PermissionDenied;
     }
+    return error == std::errc::no_space_on_device ? FailureKind::DiskFull : FailureKind::PathFileAccess;
+}
+
+/// What the C library told last.
+std::error_code lastError() {
+    return {errno, std::generic_category()};
 }
 
 bool folderExists(const std::filesystem::path& folder) {
@@ -40,8 +40,8 @@ std::FILE* openFile(const std::string& name, const char* mode) {
     }
     std::FILE* file = std::fopen(name.c_str(), mode);
     if (file == nullptr) {
-        const int code = errno;
-        const bool missing = code == ENOENT && folderExists(path.parent_path());
+        const std::error_code code = lastError();
+        const bool missing = code == std::errc::no_such_file_or_directory && folderExists(path.parent_path());
         throw Failure(missing ? FailureKind::FileNotFound : kindOf(code));
     }
     return file;
@@ -57,7 +57,7 @@ bool fileExists(const std::string& name) {
 void deleteFile(const std::string& name) {
     std::error_code error;
     if (!std::filesystem::remove(name, error)) {
-        throw Failure(error ? kindOf(error.value()) : FailureKind::FileNotFound);
+        throw Failure(error ? kindOf(error) : FailureKind::FileNotFound);
     }
 }
 
@@ -70,7 +70,7 @@ bool LineReader::fill() {
     at_ = 0;
     end_ = std::fread(buffer_.data(), 1, buffer_.size(), file_.get());
     if (end_ == 0 && std::ferror(file_.get()) != 0) {
-        throw Failure(kindOf(errno));
+        throw Failure(kindOf(lastError()));
     }
     return end_ > 0;
 }
@@ -113,7 +113,7 @@ void Writer::write(std::string_view text) {
     }
     errno = 0;
     if (std::fwrite(text.data(), 1, text.size(), file_.get()) != text.size()) {
-        throw Failure(kindOf(errno));
+        throw Failure(kindOf(lastError()));
     }
 }
 
@@ -123,7 +123,7 @@ void Writer::close() {
     }
     errno = 0;
     if (std::fclose(file_.release()) != 0) {
-        throw Failure(kindOf(errno));
+        throw Failure(kindOf(lastError()));
     }
 }
 
