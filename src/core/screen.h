@@ -52,8 +52,7 @@ public:
     /// The control of that name and index, or null.
     Control* find(std::string_view name, int index = Control::noIndex) const;
 
-    /// The control that last had the focus here, or null.
-    Control* lastFocus() const { return lastFocus_; }
+    /// Notes the control that has got the focus here; null forgets it.
     void setLastFocus(Control* control) { lastFocus_ = control; }
     /// Where the focus goes when the screen gets it: where it last was, else the first in tab order that can take it,
     /// or null.

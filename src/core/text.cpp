@@ -18,14 +18,6 @@ std::string upperCase(std::string_view text) {
     return result;
 }
 
-std::string lowerCase(std::string_view text) {
-    std::string result(text);
-    for (char& c : result) {
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    }
-    return result;
-}
-
 std::string PadRight(std::string_view text, int width) {
     std::string result(text);
     if (static_cast<int>(text.size()) < width) {

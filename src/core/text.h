@@ -13,7 +13,6 @@ inline constexpr std::string_view crLf = "\r\n";
 /// Upper case of the letters a to z only.
 char upperCase(char c);
 std::string upperCase(std::string_view text);
-std::string lowerCase(std::string_view text);
 
 /// `text` followed by blanks up to `width` characters; a text that is not shorter stays whole.
 std::string PadRight(std::string_view text, int width);
