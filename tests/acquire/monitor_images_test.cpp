@@ -1,9 +1,11 @@
-// Images that real monitors reported. They are no part of the repository; where their folder stands beside it, all of
-// them are translated.
+// Whole images are translated: the samples, and those of a folder that the environment variable
+// WORKBENCH_MONITOR_IMAGES names, such as a collection of what real monitors report, which is no part of the
+// repository.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <vector>
 
@@ -20,10 +22,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<fs::path> images() {
+constexpr const char* foreignFolder = "WORKBENCH_MONITOR_IMAGES";
+
+std::vector<fs::path> imagesIn(const fs::path& folder) {
     std::vector<fs::path> found;
-    std::error_code absent;
-    for (const auto& entry : fs::directory_iterator(WORKBENCH_SOURCE_DIR "/../shared/edids", absent)) {
+    for (const auto& entry : fs::directory_iterator(folder)) {
         if (entry.path().extension() == ".bin") {
             found.push_back(entry.path());
         }
@@ -32,12 +35,21 @@ std::vector<fs::path> images() {
     return found;
 }
 
-class RealMonitors : public testing::Test {
+enum class Collection { Samples, Foreign };
+
+class MonitorImages : public testing::TestWithParam<Collection> {
 protected:
     void SetUp() override {
-        if (images().empty()) {
-            GTEST_SKIP() << "the folder is not there";
+        fs::path folder = WORKBENCH_SOURCE_DIR "/samples";
+        if (GetParam() == Collection::Foreign) {
+            const char* named = std::getenv(foreignFolder);
+            if (named == nullptr) {
+                GTEST_SKIP() << "set " << foreignFolder << " to a folder of raw images to translate them too";
+            }
+            folder = named;
         }
+        images = imagesIn(folder);
+        ASSERT_FALSE(images.empty()) << folder;
     }
     /// Loads an image into a program of its own and shows its report.
     static void translate(Program& program, const fs::path& image) {
@@ -46,6 +58,8 @@ protected:
             report::ShowReport(program.workbench, false);
         });
     }
+
+    std::vector<fs::path> images;
 };
 
 std::vector<std::string> texts(BlockScreen& screen) {
@@ -57,8 +71,8 @@ std::vector<std::string> texts(BlockScreen& screen) {
 }
 
 // A decoder may clear the serration bit in the flags of a timing; it leaves all other cells as they came.
-TEST_F(RealMonitors, KeepTheirBytes) {
-    for (const fs::path& image : images()) {
+TEST_P(MonitorImages, KeepTheirBytes) {
+    for (const fs::path& image : images) {
         SCOPED_TRACE(image.filename());
         Program program;
         translate(program, image);
@@ -74,10 +88,10 @@ TEST_F(RealMonitors, KeepTheirBytes) {
     }
 }
 
-TEST_F(RealMonitors, ComeBackFromTheDumpOfTheirReport) {
+TEST_P(MonitorImages, ComeBackFromTheDumpOfTheirReport) {
     const TemporaryFolder folder;
     int withExtension = 0;
-    for (const fs::path& image : images()) {
+    for (const fs::path& image : images) {
         SCOPED_TRACE(image.filename());
         Program program;
         Workbench& workbench = program.workbench;
@@ -102,8 +116,8 @@ TEST_F(RealMonitors, ComeBackFromTheDumpOfTheirReport) {
     EXPECT_GT(withExtension, 0);
 }
 
-TEST_F(RealMonitors, AreToldInFull) {
-    for (const fs::path& image : images()) {
+TEST_P(MonitorImages, AreToldInFull) {
+    for (const fs::path& image : images) {
         SCOPED_TRACE(image.filename());
         Program program;
         translate(program, image);
@@ -116,6 +130,11 @@ TEST_F(RealMonitors, AreToldInFull) {
         EXPECT_NE(report.find("\r\n  (127)  " + words + "\r\n"), std::string::npos);
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Collections, MonitorImages, testing::Values(Collection::Samples, Collection::Foreign),
+                         [](const auto& collection) {
+                             return collection.param == Collection::Samples ? "samples" : "foreign";
+                         });
 
 } // namespace
 } // namespace wb::test
