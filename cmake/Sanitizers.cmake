@@ -2,7 +2,7 @@
 add_compile_definitions($<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
 if(WORKBENCH_SANITIZE)
-    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
+    set(sanitizers -fsanitize=${WORKBENCH_SANITIZE} -fno-sanitize-recover=all)
     add_compile_options(${sanitizers} -fno-omit-frame-pointer)
     add_link_options(${sanitizers})
 endif()

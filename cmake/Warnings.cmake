@@ -1,22 +1,17 @@
 # What every target of the project is compiled with.
 add_library(workbench_warnings INTERFACE)
-
-if(MSVC)
-    target_compile_options(workbench_warnings INTERFACE /W4 /WX /permissive- /utf-8)
-else()
-    target_compile_options(
-        workbench_warnings
-        INTERFACE -Wall
-                  -Wextra
-                  -Wpedantic
-                  -Wshadow
-                  -Wconversion
-                  -Wno-sign-conversion
-                  -Wold-style-cast
-                  -Wnon-virtual-dtor
-                  -Woverloaded-virtual
-                  -Werror)
-endif()
+target_compile_options(
+    workbench_warnings
+    INTERFACE -Wall
+              -Wextra
+              -Wpedantic
+              -Wshadow
+              -Wconversion
+              -Wno-sign-conversion
+              -Wold-style-cast
+              -Wnon-virtual-dtor
+              -Woverloaded-virtual
+              -Werror)
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # GCC 12 sees overlapping copies in plain concatenations of std::string (GCC bug 105651).

@@ -4,7 +4,6 @@
 
 #include "desktop/widget_front_end.h"
 #include "script/driver.h"
-#include "script/script_error.h"
 #include "support/german_locale.h"
 #include "support/scenarios.h"
 
@@ -18,12 +17,7 @@ std::string traceOf(const Scenario& scenario) {
     std::string trace;
     script::Driver driver(
         {program.workbench, program.platform, user, [&](const std::string& line) { trace += line + '\n'; }});
-    std::ifstream script(scenario.script, std::ios::binary);
-    try {
-        driver.run(script);
-    } catch (const script::ScriptError& error) {
-        ADD_FAILURE() << scenario.script.string() << ':' << error.line() << ": " << error.what();
-    }
+    play(scenario, driver);
     return trace;
 }
 
@@ -31,13 +25,6 @@ class ScenariosOnWidgets : public testing::TestWithParam<Scenario> {};
 
 TEST_P(ScenariosOnWidgets, LeaveTheSameTraceAsWithoutAView) {
     EXPECT_EQ(traceOf(GetParam()), TemporaryFolder::read(GetParam().expected.string()));
-}
-
-std::string testName(const testing::TestParamInfo<Scenario>& info) {
-    std::string name = info.param.name;
-    std::replace_if(
-        name.begin(), name.end(), [](char c) { return c == '-' || c == '.'; }, '_');
-    return name;
 }
 
 TEST(ScenariosUnderACommaLocale, LeaveTheSameTrace) {
@@ -53,7 +40,7 @@ TEST(ScenariosUnderACommaLocale, LeaveTheSameTrace) {
     std::setlocale(LC_ALL, "C");
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ScenariosOnWidgets, testing::ValuesIn(scenarios()), testName);
+INSTANTIATE_TEST_SUITE_P(All, ScenariosOnWidgets, testing::ValuesIn(scenarios()), scenarioTestName);
 
 } // namespace
 } // namespace wb::test

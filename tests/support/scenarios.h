@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -7,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "script/driver.h"
+#include "script/script_error.h"
 #include "support/temporary_folder.h"
 
 /// The scenarios: scripts of whole sessions and the trace that each must leave, through whatever front end.
@@ -33,6 +37,24 @@ inline std::vector<Scenario> scenarios() {
     }
     std::sort(found.begin(), found.end(), [](const Scenario& a, const Scenario& b) { return a.name < b.name; });
     return found;
+}
+
+/// The name of a scenario as a parameter of tests.
+inline std::string scenarioTestName(const testing::TestParamInfo<Scenario>& info) {
+    std::string name = info.param.name;
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return c == '-' || c == '.'; }, '_');
+    return name;
+}
+
+/// Runs the script; a mistake in it fails the test.
+inline void play(const Scenario& scenario, script::Driver& driver) {
+    std::ifstream script(scenario.script, std::ios::binary);
+    try {
+        driver.run(script);
+    } catch (const script::ScriptError& error) {
+        ADD_FAILURE() << scenario.script.string() << ':' << error.line() << ": " << error.what();
+    }
 }
 
 /// The folder in which a scenario runs, its working folder while the object lives: new, with copies of the shared input
