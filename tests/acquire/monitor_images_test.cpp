@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <vector>
@@ -24,42 +25,85 @@ namespace fs = std::filesystem;
 
 constexpr const char* foreignFolder = "WORKBENCH_MONITOR_IMAGES";
 
-std::vector<fs::path> imagesIn(const fs::path& folder) {
-    std::vector<fs::path> found;
+struct Image {
+    std::string name;
+    std::string bytes;
+};
+
+std::vector<Image> imagesIn(const fs::path& folder) {
+    std::vector<Image> found;
     for (const auto& entry : fs::directory_iterator(folder)) {
         if (entry.path().extension() == ".bin") {
-            found.push_back(entry.path());
+            found.push_back({entry.path().filename().string(), TemporaryFolder::read(entry.path().string())});
         }
     }
-    std::sort(found.begin(), found.end());
+    std::sort(found.begin(), found.end(), [](const Image& a, const Image& b) { return a.name < b.name; });
     return found;
 }
 
-enum class Collection { Samples, Foreign };
+/// An image with other bytes in block 0, whose check sum fits again.
+std::string changed(std::string image, std::size_t first, std::string_view bytes) {
+    image.replace(first, bytes.size(), bytes);
+    int sum = 0;
+    for (std::size_t i = 0; i < 127; ++i) {
+        sum += static_cast<unsigned char>(image[i]);
+    }
+    image[127] = static_cast<char>(256 - sum % 256);
+    return image;
+}
+
+/// An image with that many extension blocks, the first of them with that tag.
+std::string extended(std::string image, int blocks, char tag) {
+    image.resize(128U * static_cast<std::size_t>(1 + blocks), '\x5A');
+    image[128] = tag;
+    return changed(std::move(image), 126, std::string(1, static_cast<char>(blocks)));
+}
+
+/// What monitors have and the samples do not: a later revision, descriptors of other kinds, extensions that are no
+/// timing extension, and many of them.
+std::vector<Image> variedImages() {
+    std::vector<Image> varied;
+    for (const auto& [name, bytes] : imagesIn(WORKBENCH_SOURCE_DIR "/samples")) {
+        varied.push_back({name + ", revision 4", changed(bytes, 19, "\x04")});
+        for (const char tag : {'\xF7', '\xF8'}) {
+            const std::string descriptor{'\0', '\0', '\0', tag, '\0', '\x01'};
+            varied.push_back({name + ", descriptor", changed(bytes, 108, descriptor)});
+        }
+        for (const char tag : {'\x40', '\x70', '\xF0'}) {
+            varied.push_back({name + ", one extension", extended(bytes, 1, tag)});
+        }
+        for (const int blocks : {2, 10, 127, 254}) {
+            varied.push_back({name + ", " + std::to_string(blocks) + " extensions", extended(bytes, blocks, '\x02')});
+        }
+    }
+    return varied;
+}
+
+enum class Collection { Samples, Varied, Foreign };
 
 class MonitorImages : public testing::TestWithParam<Collection> {
 protected:
     void SetUp() override {
-        fs::path folder = WORKBENCH_SOURCE_DIR "/samples";
         if (GetParam() == Collection::Foreign) {
-            const char* named = std::getenv(foreignFolder);
-            if (named == nullptr) {
+            const char* folder = std::getenv(foreignFolder);
+            if (folder == nullptr) {
                 GTEST_SKIP() << "set " << foreignFolder << " to a folder of raw images to translate them too";
             }
-            folder = named;
+            images = imagesIn(folder);
+        } else {
+            images = GetParam() == Collection::Samples ? imagesIn(WORKBENCH_SOURCE_DIR "/samples") : variedImages();
         }
-        images = imagesIn(folder);
-        ASSERT_FALSE(images.empty()) << folder;
+        ASSERT_FALSE(images.empty());
     }
     /// Loads an image into a program of its own and shows its report.
-    static void translate(Program& program, const fs::path& image) {
+    static void translate(Program& program, const Image& image) {
         program.workbench.runAction([&] {
-            acquire::LoadStoredEdid(program.workbench, TemporaryFolder::read(image.string()));
+            acquire::LoadStoredEdid(program.workbench, image.bytes);
             report::ShowReport(program.workbench, false);
         });
     }
 
-    std::vector<fs::path> images;
+    std::vector<Image> images;
 };
 
 std::vector<std::string> texts(BlockScreen& screen) {
@@ -72,14 +116,13 @@ std::vector<std::string> texts(BlockScreen& screen) {
 
 // A decoder may clear the serration bit in the flags of a timing; it leaves all other cells as they came.
 TEST_P(MonitorImages, KeepTheirBytes) {
-    for (const fs::path& image : images) {
-        SCOPED_TRACE(image.filename());
+    for (const Image& image : images) {
+        SCOPED_TRACE(image.name);
         Program program;
         translate(program, image);
-        const std::string bytes = TemporaryFolder::read(image.string());
-        ASSERT_GE(bytes.size(), 128U);
+        ASSERT_GE(image.bytes.size(), 128U);
         for (int i = 0; i < BlockScreen::cellCount; ++i) {
-            const auto byte = static_cast<unsigned char>(bytes[static_cast<std::size_t>(i)]);
+            const auto byte = static_cast<unsigned char>(image.bytes[static_cast<std::size_t>(i)]);
             const bool isFlagCell = i >= 54 && i < 126 && (i - 54) % 18 == 17;
             if (!isFlagCell || program.cell(i) != ByteToHex2(byte & 251)) {
                 EXPECT_EQ(program.cell(i), ByteToHex2(byte)) << i;
@@ -91,8 +134,8 @@ TEST_P(MonitorImages, KeepTheirBytes) {
 TEST_P(MonitorImages, ComeBackFromTheDumpOfTheirReport) {
     const TemporaryFolder folder;
     int withExtension = 0;
-    for (const fs::path& image : images) {
-        SCOPED_TRACE(image.filename());
+    for (const Image& image : images) {
+        SCOPED_TRACE(image.name);
         Program program;
         Workbench& workbench = program.workbench;
         translate(program, image);
@@ -117,8 +160,8 @@ TEST_P(MonitorImages, ComeBackFromTheDumpOfTheirReport) {
 }
 
 TEST_P(MonitorImages, AreToldInFull) {
-    for (const fs::path& image : images) {
-        SCOPED_TRACE(image.filename());
+    for (const Image& image : images) {
+        SCOPED_TRACE(image.name);
         Program program;
         translate(program, image);
         const std::string& report = program.workbench.frmDocument().rtftext.text();
@@ -131,10 +174,13 @@ TEST_P(MonitorImages, AreToldInFull) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Collections, MonitorImages, testing::Values(Collection::Samples, Collection::Foreign),
-                         [](const auto& collection) {
-                             return collection.param == Collection::Samples ? "samples" : "foreign";
-                         });
+std::string collectionName(const testing::TestParamInfo<Collection>& collection) {
+    constexpr std::array<const char*, 3> names = {"samples", "varied", "foreign"};
+    return names[static_cast<std::size_t>(collection.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Collections, MonitorImages,
+                         testing::Values(Collection::Samples, Collection::Varied, Collection::Foreign), collectionName);
 
 } // namespace
 } // namespace wb::test
