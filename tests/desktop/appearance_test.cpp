@@ -10,7 +10,7 @@
 
 #include "desktop/desktop_test.h"
 #include "desktop/drawing/colours.h"
-#include "desktop/views/sizes.h"
+#include "desktop/drawing/fonts.h"
 
 namespace wb::test {
 namespace {

@@ -9,8 +9,8 @@
 #include <QRadioButton>
 #include <set>
 
+#include "desktop/base/text_codec.h"
 #include "desktop/desktop_test.h"
-#include "desktop/text_codec.h"
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/child_view.h"
 

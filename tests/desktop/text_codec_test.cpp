@@ -1,11 +1,11 @@
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "desktop/views/document_view.h"
-#include "desktop/windows/titles.h"
+#include "desktop/base/report_text.h"
+#include "desktop/base/titles.h"
 
 namespace wb::desktop {
 namespace {

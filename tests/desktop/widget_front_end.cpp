@@ -14,7 +14,7 @@
 #include <array>
 
 #include "core/input.h"
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/visibility.h"
 

@@ -6,8 +6,8 @@
 
 #include "core/view.h"
 #include "core/workbench.h"
+#include "desktop/base/model_gate.h"
 #include "desktop/binder/focus_keeper.h"
-#include "desktop/binder/model_gate.h"
 #include "desktop/windows/main_view.h"
 
 namespace wb::desktop {

@@ -5,7 +5,7 @@
 #include <QThread>
 #include <cmath>
 
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
 
 namespace wb::desktop {
 

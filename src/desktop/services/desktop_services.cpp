@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
 
 namespace wb::desktop {
 

@@ -5,8 +5,8 @@
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 
+#include "desktop/base/text_codec.h"
 #include "desktop/services/owner.h"
-#include "desktop/text_codec.h"
 
 namespace wb::desktop {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/binder/model_gate.h"
+#include "desktop/base/model_gate.h"
 #include "platform/services.h"
 
 namespace wb::desktop {

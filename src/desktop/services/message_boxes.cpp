@@ -4,9 +4,9 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 
+#include "desktop/base/text_codec.h"
+#include "desktop/base/titles.h"
 #include "desktop/services/owner.h"
-#include "desktop/text_codec.h"
-#include "desktop/windows/titles.h"
 
 namespace wb::desktop {
 

@@ -7,22 +7,21 @@
 #include <QStandardPaths>
 #include <algorithm>
 
-#include "desktop/text_codec.h"
-#include "desktop/views/document_view.h"
-#include "desktop/views/sizes.h"
+#include "desktop/base/report_text.h"
+#include "desktop/drawing/fonts.h"
+#include "report/report_lines.h"
 
 namespace wb::desktop {
 
 namespace {
 
-constexpr int reportColumns = 70;
 constexpr qreal largestPointSize = 10;
 
 /// The largest size up to ten points in which a report's line fits the width.
 QFont fittingFont(QPaintDevice& device, qreal width) {
     QFont font = fixedPitchFont();
     font.setPointSizeF(largestPointSize);
-    const qreal line = QFontMetricsF(font, &device).horizontalAdvance(QString(reportColumns, QLatin1Char('0')));
+    const qreal line = QFontMetricsF(font, &device).horizontalAdvance(QString(report::reportWidth, QLatin1Char('0')));
     if (line > width) {
         font.setPointSizeF(largestPointSize * width / line);
     }

@@ -1,6 +1,6 @@
 #include "desktop/services/settings.h"
 
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
 
 namespace wb::desktop {
 

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "desktop/binder/model_gate.h"
+#include "desktop/base/model_gate.h"
 #include "platform/services.h"
 
 class QMdiArea;

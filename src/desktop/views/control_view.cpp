@@ -5,8 +5,8 @@
 
 #include "core/input.h"
 #include "core/screen.h"
-#include "desktop/binder/keys.h"
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
+#include "desktop/views/keys.h"
 
 namespace wb::desktop {
 

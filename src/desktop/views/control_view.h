@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "core/control.h"
-#include "desktop/binder/model_gate.h"
+#include "desktop/base/model_gate.h"
 #include "desktop/layouts/layout.h"
 
 namespace wb::desktop {

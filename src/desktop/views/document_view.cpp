@@ -5,57 +5,20 @@
 
 #include "core/input.h"
 #include "core/screen.h"
-#include "core/text.h"
-#include "desktop/binder/keys.h"
+#include "desktop/base/report_text.h"
+#include "desktop/drawing/fonts.h"
 #include "desktop/drawing/twips.h"
-#include "desktop/text_codec.h"
-#include "desktop/views/sizes.h"
+#include "desktop/views/keys.h"
+#include "report/report_lines.h"
 
 namespace wb::desktop {
 
 namespace {
 
-constexpr int reportColumns = 74; // the 70 of a report, and room for a dump row that a long cell pushes out
+constexpr int visibleColumns = report::reportWidth + 4; // room for a dump row that a long cell pushes out
 constexpr int visibleLines = 30;
-constexpr char16_t firstControlPicture = 0x2400;
-constexpr char16_t deletePicture = 0x2421;
-
-bool isLineEnd(std::string_view text, std::size_t place) {
-    return text.substr(place, crLf.size()) == crLf;
-}
-
-QChar drawn(QChar character) {
-    const char16_t code = character.unicode();
-    if (code < u' ') {
-        return QChar(static_cast<char16_t>(firstControlPicture + code));
-    }
-    return code == u'\x7F' ? QChar(deletePicture) : character;
-}
 
 } // namespace
-
-QString reportLines(std::string_view text) {
-    const QString characters = toUnicode(text);
-    QString result;
-    result.reserve(characters.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (isLineEnd(text, i)) {
-            result.append(QLatin1Char('\n'));
-            i += crLf.size() - 1;
-        } else {
-            result.append(drawn(characters[static_cast<qsizetype>(i)]));
-        }
-    }
-    return result;
-}
-
-int placeInText(std::string_view text, int drawn) {
-    std::size_t place = 0;
-    for (int i = 0; i < drawn && place < text.size(); ++i) {
-        place += isLineEnd(text, place) ? crLf.size() : 1;
-    }
-    return static_cast<int>(place);
-}
 
 DocumentView::DocumentView(Control& control, const Place& place, UserActions& actions)
     : ControlView(control, place, actions), box_(new ReportBox(*this)) {
@@ -96,7 +59,7 @@ void DocumentView::tellSelection() {
 QSize ReportBox::sizeHint() const {
     const QFontMetrics metrics(font());
     const int margins = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
-    return {metrics.horizontalAdvance('0') * reportColumns + margins + verticalScrollBar()->sizeHint().width(),
+    return {metrics.horizontalAdvance('0') * visibleColumns + margins + verticalScrollBar()->sizeHint().width(),
             metrics.lineSpacing() * visibleLines + margins};
 }
 

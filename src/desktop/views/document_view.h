@@ -36,10 +36,4 @@ private:
     std::string shown_;
 };
 
-/// The text of a report as it is drawn: a line end is one character, and other control characters are drawn as their
-/// pictures, so that each place of the text keeps its place.
-QString reportLines(std::string_view text);
-/// The place in the program's text that a place in the drawn text stands for.
-int placeInText(std::string_view text, int drawn);
-
 } // namespace wb::desktop

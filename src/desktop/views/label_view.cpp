@@ -4,8 +4,8 @@
 
 #include "core/input.h"
 #include "core/screen.h"
+#include "desktop/base/text_codec.h"
 #include "desktop/drawing/pictures.h"
-#include "desktop/text_codec.h"
 #include "desktop/views/sizes.h"
 
 namespace wb::desktop {

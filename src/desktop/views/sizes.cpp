@@ -1,6 +1,5 @@
 #include "desktop/views/sizes.h"
 
-#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -24,14 +23,6 @@ void keepWidth(QWidget& widget, int characters) {
     if (characters > 0) {
         widget.setMinimumWidth(qMax(widthOfCharacters(widget, characters), widget.sizeHint().width()));
     }
-}
-
-QFont fixedPitchFont() {
-    QFont font;
-    font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
-    font.setStyleHint(QFont::Monospace);
-    font.setFixedPitch(true);
-    return font;
 }
 
 } // namespace wb::desktop

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QFont>
 #include <QLineEdit>
 
 namespace wb::desktop {
@@ -10,7 +9,5 @@ int widthOfText(const QLineEdit& box, int characters);
 int widthOfCharacters(const QWidget& widget, int characters);
 /// Keeps room for that many characters, and for all of what the widget shows now.
 void keepWidth(QWidget& widget, int characters);
-/// The system's fixed-pitch face; its size is left open, so that a widget takes that of its surroundings.
-QFont fixedPitchFont();
 
 } // namespace wb::desktop

@@ -9,10 +9,10 @@
 
 #include "core/input.h"
 #include "core/workbench.h"
+#include "desktop/base/titles.h"
 #include "desktop/drawing/pictures.h"
 #include "desktop/windows/document_page.h"
 #include "desktop/windows/screen_page.h"
-#include "desktop/windows/titles.h"
 
 namespace wb::desktop {
 

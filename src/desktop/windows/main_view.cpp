@@ -18,15 +18,15 @@
 
 #include "core/input.h"
 #include "core/workbench.h"
+#include "desktop/base/text_codec.h"
+#include "desktop/base/titles.h"
 #include "desktop/drawing/icons.h"
 #include "desktop/drawing/pictures.h"
 #include "desktop/drawing/twips.h"
-#include "desktop/text_codec.h"
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/flow_layout.h"
 #include "desktop/windows/screen_page.h"
-#include "desktop/windows/titles.h"
 
 namespace wb::desktop {
 

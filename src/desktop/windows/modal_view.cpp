@@ -3,8 +3,8 @@
 #include <QCloseEvent>
 #include <QVBoxLayout>
 
+#include "desktop/base/titles.h"
 #include "desktop/windows/screen_page.h"
-#include "desktop/windows/titles.h"
 
 namespace wb::desktop {
 

@@ -1,6 +1,6 @@
-#include "desktop/windows/titles.h"
+#include "desktop/base/titles.h"
 
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
 
 namespace wb::desktop {
 

@@ -1,4 +1,4 @@
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
 
 #include <QFile>
 #include <QStringDecoder>

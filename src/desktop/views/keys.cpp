@@ -1,9 +1,9 @@
-#include "desktop/binder/keys.h"
+#include "desktop/views/keys.h"
 
 #include <array>
 
 #include "core/input.h"
-#include "desktop/text_codec.h"
+#include "desktop/base/text_codec.h"
 
 namespace wb::desktop {
 

@@ -1,4 +1,4 @@
-#include "desktop/binder/model_gate.h"
+#include "desktop/base/model_gate.h"
 
 #include <utility>
 
