@@ -2,6 +2,7 @@
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -54,6 +55,25 @@ TEST_F(Frame, ClosesByTheKeyOfTheMenu) {
     program.newImage();
     press(Qt::Key_W, Qt::ControlModifier);
     EXPECT_EQ(program.workbench.loaded(ScreenId::Edid), nullptr) << "no second owner of the key makes it ambiguous";
+}
+
+TEST_F(Frame, ListsTheChildrenInTheWindowMenu) {
+    program.newImage();
+    program.act([&] { input::choose(frame().HexCalculator); });
+    EXPECT_EQ(entriesOf(1).mid(4), QStringList({"-", "&1 Hex Calculator", "&2 Edid Decoding Screen"}));
+    const QPointer<QAction> entry = window().menuBar()->actions()[1]->menu()->actions()[6];
+    bool alive = false;
+    QObject::connect(window().menuBar(), &QMenuBar::triggered, window().menuBar(), [&] { alive = !entry.isNull(); });
+    press(Qt::Key_W, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_2);
+    EXPECT_TRUE(alive) << "the choice lists the children anew while Qt still tells of the entry";
+    EXPECT_EQ(program.workbench.windows.activeChild(), &edid());
+    DesktopProgram::settle();
+    EXPECT_EQ(entriesOf(1).mid(4), QStringList({"-", "&1 Edid Decoding Screen", "&2 Hex Calculator"}));
+    const QList<QAction*> entries = window().menuBar()->actions()[1]->menu()->actions();
+    EXPECT_TRUE(entries[5]->isChecked());
+    EXPECT_FALSE(entries[6]->isChecked());
 }
 
 TEST_F(Frame, FollowsThePropertiesOfAMenuEntry) {

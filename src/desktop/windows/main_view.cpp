@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "core/input.h"
 #include "core/workbench.h"
@@ -221,8 +222,10 @@ void MainView::notePosition() {
 }
 
 void MainView::listChildren(const std::vector<ScreenView*>& children) {
-    qDeleteAll(childEntries_);
-    childEntries_.clear();
+    for (QAction* entry : std::exchange(childEntries_, {})) {
+        windowMenu_->removeAction(entry);
+        entry->deleteLater(); // it may be the one whose choice has led here
+    }
     if (!children.empty()) {
         childEntries_.push_back(windowMenu_->addSeparator());
     }
