@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 
 namespace wb::desktop {
@@ -52,6 +53,13 @@ TEST_F(Gate, ManagesWithoutAnObserver) {
         ++calls;
     });
     EXPECT_EQ(calls, 1);
+}
+
+TEST_F(Gate, StaysOpenAfterACallThatThrows) {
+    EXPECT_THROW(gate.run([] { throw std::runtime_error("odd"); }), std::runtime_error);
+    EXPECT_FALSE(gate.running());
+    gate.run([&] { recorder.log += "call "; });
+    EXPECT_EQ(recorder.log, "call returned ");
 }
 
 } // namespace

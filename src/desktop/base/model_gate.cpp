@@ -1,5 +1,6 @@
 #include "desktop/base/model_gate.h"
 
+#include <QScopeGuard>
 #include <utility>
 
 namespace wb::desktop {
@@ -10,6 +11,7 @@ void ModelGate::run(Call call) {
         return;
     }
     running_ = true;
+    const auto stopped = qScopeGuard([this] { running_ = false; }); // a call that throws must not hold up all others
     while (!waiting_.empty()) {
         const Call next = std::move(waiting_.front());
         waiting_.pop_front();
@@ -18,7 +20,6 @@ void ModelGate::run(Call call) {
             observer_->callReturned();
         }
     }
-    running_ = false;
 }
 
 void ModelGate::announceEventLoop() {
