@@ -7,12 +7,15 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QRadioButton>
+#include <functional>
 #include <set>
+#include <stdexcept>
 
 #include "desktop/base/text_codec.h"
 #include "desktop/desktop_test.h"
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/child_view.h"
+#include "desktop/windows/screen_page.h"
 
 namespace wb::test {
 namespace {
@@ -44,6 +47,23 @@ TEST_F(Binder, GivesEveryControlAWidgetOfItsOwn) {
             EXPECT_EQ(entry != nullptr, control->kind() == ControlKind::Menu) << control->fullName();
         }
     }
+}
+
+std::string mistakeOf(const std::function<void()>& lookUp) {
+    try {
+        lookUp();
+    } catch (const std::logic_error& mistake) {
+        return mistake.what();
+    }
+    return "none";
+}
+
+TEST_F(Binder, NamesWhatALayoutMisspells) {
+    program.newImage();
+    EXPECT_EQ(&desktop::controlAt(edid(), "txtEdit", 127), &edid().txtEdit(127));
+    EXPECT_EQ(mistakeOf([&] { desktop::controlAt(edid(), "txtEdit", 128); }), "frmEDID has no txtEdit(128)");
+    EXPECT_EQ(mistakeOf([&] { desktop::controlAt(edid(), "txtBrant", Control::noIndex); }), "frmEDID has no txtBrant");
+    EXPECT_EQ(mistakeOf([] { desktop::layoutOf(ScreenId::Edid).at("#gird"); }), "the layout has no area #gird");
 }
 
 TEST_F(Binder, GivesEveryWidgetAnAccessibleName) {

@@ -1,5 +1,8 @@
 #include "desktop/layouts/layout.h"
 
+#include <stdexcept>
+#include <string>
+
 #include "desktop/layouts/screens.h"
 
 namespace wb::desktop {
@@ -13,6 +16,14 @@ const Area* ScreenLayout::find(std::string_view name, int index) const {
         }
     }
     return nullptr;
+}
+
+const Area& ScreenLayout::at(std::string_view name) const {
+    const Area* area = find(name);
+    if (area == nullptr) {
+        throw std::logic_error("the layout has no area " + std::string(name));
+    }
+    return *area;
 }
 
 const ScreenLayout& layoutOf(ScreenId id) {

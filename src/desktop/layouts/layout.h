@@ -128,6 +128,8 @@ struct ScreenLayout {
     std::span<const Area> shared = {};
 
     const Area* find(std::string_view name, int index = Control::noIndex) const;
+    /// The area of a group. One that is missing is a mistake in the table: a std::logic_error that names it.
+    const Area& at(std::string_view name) const;
 };
 
 /// The layout of a screen; the splash, which has no controls, has one without areas.

@@ -134,8 +134,8 @@ void MainView::makeToolBar() {
 void MainView::makeButtons(QVBoxLayout& column) {
     auto* buttons = new QWidget;
     auto* flow = new FlowLayout(buttons);
-    for (const Place& place : layoutOf(ScreenId::Main).find("")->places) {
-        own_.push_back(makeView(*screen()->find(place.name), place, actions()));
+    for (const Place& place : layoutOf(ScreenId::Main).at("").places) {
+        own_.push_back(makeView(controlAt(*screen(), place.name, place.first), place, actions()));
         add(*own_.back());
         QWidget* widget = own_.back()->widget();
         if (own_.back()->control()->kind() == ControlKind::Button) {

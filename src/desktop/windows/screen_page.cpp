@@ -5,6 +5,8 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <algorithm>
+#include <stdexcept>
+#include <string>
 
 #include "core/screen.h"
 #include "desktop/drawing/colours.h"
@@ -74,6 +76,15 @@ std::unique_ptr<ControlView> makeView(Control& control, const Place& place, User
     }
 }
 
+Control& controlAt(const Screen& screen, std::string_view name, int index) {
+    Control* control = screen.find(name, index);
+    if (control == nullptr) {
+        const std::string member = index == Control::noIndex ? "" : '(' + std::to_string(index) + ')';
+        throw std::logic_error(std::string(screen.name()) + " has no " + std::string(name) + member);
+    }
+    return *control;
+}
+
 ScreenPage::ScreenPage(Screen& screen, UserActions& actions)
     : screen_(screen), layout_(layoutOf(screen.id())), actions_(actions) {
     refreshPalette();
@@ -115,13 +126,13 @@ void ScreenPage::placeControls(QWidget& parent, QGridLayout& grid, const Place& 
         return;
     }
     for (int index = place.first; index <= place.last; ++index) {
-        Control* control = screen_.find(place.name, index);
-        if (control->kind() == ControlKind::Document) {
-            makeControl(parent, *control, place); // stands where its bounds say
+        Control& control = controlAt(screen_, place.name, index);
+        if (control.kind() == ControlKind::Document) {
+            makeControl(parent, control, place); // stands where its bounds say
             continue;
         }
         const int step = place.together ? 0 : index - place.first;
-        grid.addWidget(makeControl(parent, *control, place), place.row + step / place.across * place.rowSpan,
+        grid.addWidget(makeControl(parent, control, place), place.row + step / place.across * place.rowSpan,
                        place.column + step % place.across * place.columnSpan, place.rowSpan, place.columnSpan,
                        alignmentIn(place));
     }
@@ -132,7 +143,7 @@ QWidget* ScreenPage::makeGroup(QWidget& parent, const Place& place) {
         return makeFiller();
     }
     auto* inside = new QWidget(&parent);
-    fill(*inside, *layout_.find(place.name));
+    fill(*inside, layout_.at(place.name));
     inside->layout()->setContentsMargins(0, 0, 0, 0);
     return inside;
 }

@@ -48,5 +48,8 @@ private:
 
 /// The view of a control of that kind.
 std::unique_ptr<ControlView> makeView(Control& control, const Place& place, UserActions& actions);
+/// The control that a layout table means. One that is missing is a mistake in the table: a std::logic_error that names
+/// it.
+Control& controlAt(const Screen& screen, std::string_view name, int index);
 
 } // namespace wb::desktop
