@@ -232,6 +232,26 @@ bool activate(Screen& screen) {
     return true;
 }
 
+void placed(FrmMain& frame, float left, float top, float width, float height) {
+    frame.Left = left;
+    frame.Top = top;
+    frame.Width = width;
+    frame.Height = height;
+}
+
+void minimised(FrmMain& frame, bool isMinimised) {
+    frame.minimised = isMinimised;
+}
+
+void resized(FrmDocument& document, int width, int height) {
+    document.innerWidth = width;
+    document.innerHeight = height;
+    if (document.resize != nullptr) {
+        Workbench& workbench = document.workbench();
+        workbench.runAction([&] { document.resize(workbench); });
+    }
+}
+
 int keyCodeOf(char character) {
     constexpr int graveKey = 192; // its character code is that of a digit key of the number pad
     if (character == '`') {

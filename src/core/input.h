@@ -5,7 +5,8 @@
 #include "core/workbench.h"
 
 /// What a user can do. Both front ends, scripts and the desktop view, call these and nothing else, so that the order of
-/// events is the model's. Each gives false, and does nothing, where the user cannot reach the control.
+/// events is the model's. Each that gives a bool gives false, and does nothing, where the user cannot reach the
+/// control.
 namespace wb::input {
 
 /// Within the user's reach: visible and enabled with all that contains it, on a shown screen, not behind a modal one.
@@ -42,6 +43,11 @@ bool toolBar(Workbench& workbench, const std::string& key);
 bool close(Screen& screen);
 /// A click on the title bar of a child window, the window list, or the next-window key.
 bool activate(Screen& screen);
+/// The frame stands somewhere else, in twips; no event. A minimised one keeps the place it had.
+void placed(FrmMain& frame, float left, float top, float width, float height);
+void minimised(FrmMain& frame, bool isMinimised);
+/// The report window has another inner size, in twips.
+void resized(FrmDocument& document, int width, int height);
 
 /// The key code of a typed character: that of the upper-case character for letters and digits.
 int keyCodeOf(char character);

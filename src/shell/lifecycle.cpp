@@ -109,7 +109,7 @@ void frmDocument_Unload(Workbench& workbench, bool&) {
 }
 
 void frmDocument_Resize(Workbench& workbench) {
-    constexpr int margin = 100;
+    constexpr int margin = FrmDocument::margin;
     FrmDocument& screen = workbench.frmDocument();
     const int width = screen.innerWidth - 2 * margin;
     const int height = screen.innerHeight - 2 * margin;

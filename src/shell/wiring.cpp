@@ -16,7 +16,7 @@ const Wiring& wiring() {
         life(ScreenId::Main) = {&connectMainScreen, &frmMain_Load, &frmMain_Unload};
         life(ScreenId::Edid) = {&connectEdidScreen, &frmEDID_Load, &frmEDID_Unload};
         life(ScreenId::CeaExt) = {&connectCeaExtScreen, &cea::Form_Load, &frmCEA_EXT_Unload};
-        life(ScreenId::Document) = {nullptr, &frmDocument_Load, &frmDocument_Unload};
+        life(ScreenId::Document) = {&connectDocumentScreen, &frmDocument_Load, &frmDocument_Unload};
         life(ScreenId::HexCalculator) = {&connectHexCalculatorScreen, nullptr, &frmHexCalculator_Unload};
         life(ScreenId::Help) = {&connectHelpScreen, &frmHelp_Load, nullptr};
         life(ScreenId::EdidReg) = {&connectEdidRegScreen, &acquire::frmEDIDREG_Load, nullptr};

@@ -12,6 +12,7 @@ void connectEdidScreen(Screen& screen);
 void connectCeaExtScreen(Screen& screen);
 void connectMainScreen(Screen& screen);
 void connectHexCalculatorScreen(Screen& screen);
+void connectDocumentScreen(Screen& screen);
 void connectHelpScreen(Screen& screen);
 void connectEdidRegScreen(Screen& screen);
 void connectAboutScreen(Screen& screen);

@@ -59,6 +59,10 @@ void connectHexCalculatorScreen(Screen& screen) {
     calculator.keyUp = &frmHexCalculator_KeyUp;
 }
 
+void connectDocumentScreen(Screen& screen) {
+    static_cast<FrmDocument&>(screen).resize = &frmDocument_Resize;
+}
+
 void connectHelpScreen(Screen& screen) {
     static_cast<FrmHelp&>(screen).Command1.on.click = &handler<frmHelp_Command1_Click>;
 }

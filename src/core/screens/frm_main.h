@@ -65,7 +65,7 @@ public:
     SingleControl Command5{*this, "Command5", ControlKind::Button, nullptr, "Scan+Read EDID"};
     SingleControl sbStatusBar{*this, "sbStatusBar", ControlKind::Label, nullptr, "Status"};
 
-    /// Position and size of the frame in twips; the view keeps them up to date.
+    /// Position and size of the frame in twips; `input::placed` keeps them up to date.
     float Left = 0;
     float Top = 0;
     float Width = 0;

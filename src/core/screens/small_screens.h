@@ -18,9 +18,11 @@ public:
 
     SingleControl rtftext{*this, "rtftext", ControlKind::Document};
 
-    /// Inner size in twips; the view keeps it up to date.
+    static constexpr int margin = 100; ///< of rtftext on all sides, in twips
+    /// Inner size in twips; `input::resized` keeps it up to date.
     int innerWidth = 0;
     int innerHeight = 0;
+    void (*resize)(Workbench&) = nullptr; ///< called after the inner size has changed
 };
 
 /// The calculator.

@@ -1,19 +1,12 @@
 #include "desktop/windows/document_page.h"
 
-#include "core/workbench.h"
+#include "core/input.h"
 #include "desktop/drawing/twips.h"
-#include "shell/lifecycle.h"
 
 namespace wb::desktop {
 
-namespace {
-
-constexpr int marginTwips = 100;
-
-} // namespace
-
 QSize DocumentPage::sizeHint() const {
-    const int margins = 2 * toPixels(*this, marginTwips);
+    const int margins = 2 * toPixels(*this, FrmDocument::margin);
     return views().front()->widget()->sizeHint() + QSize(margins, margins);
 }
 
@@ -26,10 +19,7 @@ void DocumentPage::resizeEvent(QResizeEvent* event) {
     const int width = static_cast<int>(toTwips(*this, this->width()));
     const int height = static_cast<int>(toTwips(*this, this->height()));
     views().front()->tell([width, height](Control& report) {
-        auto& screen = static_cast<FrmDocument&>(report.screen());
-        screen.innerWidth = width;
-        screen.innerHeight = height;
-        screen.workbench().runAction([&] { shell::frmDocument_Resize(screen.workbench()); });
+        input::resized(static_cast<FrmDocument&>(report.screen()), width, height);
     });
 }
 

@@ -208,16 +208,14 @@ void MainView::notePosition() {
         return;
     }
     FrmMain& model = frame();
-    model.minimised = window_->isMinimized();
+    input::minimised(model, window_->isMinimized());
     const QRect now(window_->pos(), window_->size());
     if (model.minimised || !window_->isVisible() || now == shownGeometry_) {
         return;
     }
     shownGeometry_ = now;
-    model.Left = toTwips(*window_, now.left());
-    model.Top = toTwips(*window_, now.top());
-    model.Width = toTwips(*window_, now.width());
-    model.Height = toTwips(*window_, now.height());
+    input::placed(model, toTwips(*window_, now.left()), toTwips(*window_, now.top()), toTwips(*window_, now.width()),
+                  toTwips(*window_, now.height()));
     shownPosition_ = {model.Left, model.Top, model.Width, model.Height};
 }
 
