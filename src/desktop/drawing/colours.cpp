@@ -16,17 +16,15 @@ QColor mixed(const QColor& first, const QColor& second, double share) {
 } // namespace
 
 CellColours cellColours(CellColour colour, const QPalette& palette) {
-    constexpr QRgb group = 0xFFFFC0C0;
-    constexpr QRgb field = 0xFFFFFF80;
     constexpr QRgb blue = 0xFF0000C0;
     constexpr QRgb blueOnDark = 0xFF9DB8FF;
     constexpr int middleLightness = 128;
 
     switch (colour) {
         case CellColour::Group:
-            return {QColor(group), QColor(blue)};
+            return {QColor(groupColour), QColor(blue)};
         case CellColour::Field:
-            return {QColor(field), QColor(blue)};
+            return {QColor(fieldColour), QColor(blue)};
         case CellColour::Window:
             break;
     }

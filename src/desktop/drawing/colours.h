@@ -7,6 +7,9 @@
 
 namespace wb::desktop {
 
+constexpr QRgb groupColour = 0xFFFFC0C0;
+constexpr QRgb fieldColour = 0xFFFFFF80;
+
 struct CellColours {
     QColor background;
     QColor text;

@@ -1,11 +1,12 @@
 #include "desktop/drawing/pictures.h"
 
-#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 #include <QWidget>
+
+#include "desktop/drawing/colours.h"
 
 namespace wb::desktop {
 
@@ -16,8 +17,6 @@ constexpr QRgb dusk = 0xFF2E6F95;
 constexpr QRgb paper = 0xFFF4F7FA;
 constexpr QRgb shade = 0xFFB9C6D3;
 constexpr QRgb plainCell = 0xFFDCE6F0;
-constexpr QRgb groupCell = 0xFFFFC0C0;
-constexpr QRgb fieldCell = 0xFFFFFF80;
 
 /// The picture is drawn on a field of 64 by 64.
 constexpr qreal monitorField = 64;
@@ -26,9 +25,9 @@ QRgb cellColour(int row, int column) {
     constexpr int field = 9;
     const int cell = row * 5 + column;
     if (cell == field) {
-        return fieldCell;
+        return fieldColour;
     }
-    return cell > field - 5 && cell < field + 3 ? groupCell : plainCell;
+    return cell > field - 5 && cell < field + 3 ? groupColour : plainCell;
 }
 
 void paintMonitor(QPainter& painter) {
@@ -105,7 +104,7 @@ void paintSplash(QPainter& painter, const QRect& rect) {
     title.setPointSizeF(title.pointSizeF() * 2);
     painter.setFont(title);
     painter.drawText(words, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, "EDID / DDC\nField Workbench");
-    painter.setPen(QPen(QColor(fieldCell), 2));
+    painter.setPen(QPen(QColor(fieldColour), 2));
     painter.drawLine(rect.bottomLeft(), rect.bottomRight());
 }
 

@@ -7,7 +7,8 @@
 
 namespace wb::desktop {
 
-/// A label tells clicks where the model listens to them; otherwise they go through to what is behind it.
+/// A label tells clicks where the model listens to them; otherwise they go through to what is behind it. A double click
+/// is its own in any case: it is none on the panel behind it.
 class CaptionLabel : public QLabel {
 public:
     explicit CaptionLabel(ControlView& view) : view_(view) {}
