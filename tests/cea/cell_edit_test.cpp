@@ -1,24 +1,17 @@
 #include "cea/cell_edit.h"
 
-#include "cea/definitions.h"
 #include "cea/extension_fixture.h"
 
 namespace wb::cea {
 namespace {
 
-using test::ExtensionTest;
 using Texts = std::vector<std::string>;
 
-/// The same block as in the tests of the dispatch.
-class CellEdit : public ExtensionTest {
+class CellEdit : public test::EveryBlockTest {
 protected:
     void SetUp() override {
-        loadCollection({"42", "90", "04", "26", "15", "07", "50", "0D", "01", "02", "83",
-                        "4F", "00", "00", "67", "03", "0C", "00", "10", "00", "80", "2D"},
-                       "1A");
-        BuildCEA_EXT_Definations(wb);
+        EveryBlockTest::SetUp();
         modify();
-        boxes();
     }
     void typeInto(int index, const std::string& text) {
         focusOn(index);

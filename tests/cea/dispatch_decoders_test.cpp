@@ -2,27 +2,14 @@
 
 #include "cea/dispatch.h"
 
-#include "cea/definitions.h"
 #include "cea/extension_fixture.h"
 
 namespace wb::cea {
 namespace {
 
-using test::ExtensionTest;
 using test::selectedOf;
 
-/// Video at 4, audio with two descriptors at 7, speakers at 14, a long vendor block at 18, timings from 26 on.
-class DispatchDecoder : public ExtensionTest {
-protected:
-    void SetUp() override {
-        loadCollection({"42", "90", "04", "26", "15", "07", "50", "0D", "01", "02", "83",
-                        "4F", "00", "00", "67", "03", "0C", "00", "10", "00", "80", "2D"},
-                       "1A");
-        BuildCEA_EXT_Definations(wb); // finds the speakers
-        ASSERT_EQ(wb.SpeakerBlockStart, 14);
-        boxes();
-    }
-};
+using DispatchDecoder = test::EveryBlockTest;
 
 struct DecodedText {
     int index;

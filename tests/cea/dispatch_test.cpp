@@ -1,31 +1,18 @@
 #include "cea/dispatch.h"
 
-#include "cea/definitions.h"
 #include "cea/extension_fixture.h"
 
 namespace wb::cea {
 namespace {
 
 using test::cellRange;
-using test::ExtensionTest;
 using test::noElement;
 using test::selectedOf;
 using Cells = std::vector<int>;
 using Texts = std::vector<std::string>;
 
-/// Video at 4, audio with two descriptors at 7, speakers at 14, a long vendor block at 18, timings from 26 on.
-class Dispatch : public ExtensionTest {
+class Dispatch : public test::EveryBlockTest {
 protected:
-    void SetUp() override {
-        loadCollection({"42", "90", "04", "26", "15", "07", "50", "0D", "01", "02", "83",
-                        "4F", "00", "00", "67", "03", "0C", "00", "10", "00", "80", "2D"},
-                       "1A");
-        BuildCEA_EXT_Definations(wb); // finds the speakers
-        ASSERT_EQ(
-            (Cells{wb.VideoBlockStart, wb.AudioBlockStart, wb.SpeakerBlockStart, wb.VendorBlockStart, wb.ExtDtdStart}),
-            (Cells{4, 7, 14, 18, 26}));
-        boxes();
-    }
     /// Cells `first` to `last` without one of them.
     static Cells without(int first, int last, int cell) {
         Cells cells = cellRange(first, last);
@@ -397,52 +384,6 @@ TEST_F(Dispatch, AStaleReportIsMadeAnew) {
     EXPECT_NE(wb.frmDocument().rtftext.text(), "old");
     EXPECT_EQ(wb.EDIDRedecodeNeeded, flagFalse);
     EXPECT_EQ(wb.focus.current(), &wb.frmDocument().rtftext);
-}
-
-class Return : public ExtensionTest {
-protected:
-    void showBoth() {
-        wb.windows.show(wb.frmEDID());
-        wb.windows.show(screen());
-        wb.CEAScreenOpen = flagTrue;
-    }
-};
-
-TEST_F(Return, GoesToTheFirstCellOfBlock0) {
-    showBoth();
-    wb.focus.moveTo(wb.frmEDID().txtEdit(20));
-    wb.windows.show(screen());
-    setCell(30, "AB");
-    ASSERT_TRUE(input::click(screen().Cmd_Return));
-    EXPECT_FALSE(screen().shown());
-    EXPECT_EQ(wb.CEAScreenOpen, flagFalse);
-    EXPECT_EQ(wb.focus.current(), &wb.frmEDID().txtEdit(0));
-    EXPECT_EQ(wb.windows.activeChild(), &wb.frmEDID());
-    EXPECT_EQ(cell(30), "AB");
-    EXPECT_TRUE(boxes().empty());
-}
-
-TEST_F(Return, ShowsBlock0WhereTheFocusLastWasThere) {
-    wb.windows.show(wb.frmEDID());
-    wb.focus.moveTo(wb.frmEDID().txtEdit(20));
-    wb.windows.show(wb.frmDocument());
-    wb.frmEDID().txtEdit(20).setText("ABC");
-    wb.windows.show(screen());
-    ASSERT_TRUE(input::click(screen().Cmd_Return));
-    // On its way to cell 0 the focus meets a cell that does not let it go.
-    EXPECT_EQ(boxes(), Texts{"Please Make Your Values In Hex"});
-    EXPECT_EQ(wb.focus.current(), &wb.frmEDID().txtEdit(20));
-    EXPECT_FALSE(screen().shown());
-}
-
-TEST_F(Return, OnlyHidesWithoutAnImage) {
-    wb.windows.show(screen());
-    wb.CEAScreenOpen = flagTrue;
-    wb.EDIDLoaded = flagFalse;
-    input::click(screen().Cmd_Return);
-    EXPECT_FALSE(screen().shown());
-    EXPECT_EQ(wb.CEAScreenOpen, flagFalse);
-    EXPECT_FALSE(wb.frmEDID().shown());
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "cea/definitions.h"
+#include "core/keys.h"
 #include "files/image_loading.h"
 #include "support/program.h"
 
@@ -40,7 +42,7 @@ protected:
     void enter(Control& box, const std::string& text) {
         wb.runAction([&] {
             box.setText(text);
-            box.handlers().keyUp(wb, box.index(), 13);
+            box.handlers().keyUp(wb, box.index(), enterKey);
         });
     }
     /// The user picks a row of a list, sets an option or changes a check, where the focus stays unseen.
@@ -75,6 +77,29 @@ protected:
 
     Program program;
     Workbench& wb = program.workbench;
+};
+
+/// The same with an image that has a block of every kind: video at 4, audio with two descriptors at 7, speakers at 14,
+/// a long vendor block at 18, timings from 26 on.
+class EveryBlockTest : public ExtensionTest {
+protected:
+    void SetUp() override {
+        loadCollection({"42", "90", "04", "26", "15", "07", "50", "0D", "01", "02", "83",
+                        "4F", "00", "00", "67", "03", "0C", "00", "10", "00", "80", "2D"},
+                       "1A");
+        cea::BuildCEA_EXT_Definations(wb); // finds the speakers
+        ASSERT_EQ((std::vector<int>{wb.VideoBlockStart, wb.AudioBlockStart, wb.SpeakerBlockStart, wb.VendorBlockStart,
+                                    wb.ExtDtdStart}),
+                  (std::vector<int>{4, 7, 14, 18, 26}));
+        boxes();
+    }
+};
+
+/// A byte of flags: the checks that it sets, and its list in the report.
+struct FlagsCase {
+    std::string cell;
+    std::vector<int> checks;
+    std::string text;
 };
 
 inline const std::string invalidCall = "Invalid procedure call or argument";

@@ -8,6 +8,7 @@ namespace wb::cea {
 namespace {
 
 using test::ExtensionTest;
+using test::FlagsCase;
 using test::noElement;
 using test::selectedOf;
 using Texts = std::vector<std::string>;
@@ -102,13 +103,7 @@ TEST_F(ShortAudio, CompressedDescriptor) {
     EXPECT_EQ(selectedOf(screen().AudFormCode), std::vector<int>{2});
 }
 
-struct FrequencyCase {
-    std::string cell;
-    std::vector<int> checks;
-    std::string text;
-};
-
-class Frequencies : public ShortAudio, public testing::WithParamInterface<FrequencyCase> {};
+class Frequencies : public ShortAudio, public testing::WithParamInterface<FlagsCase> {};
 
 TEST_P(Frequencies, OfTheFirstAndTheLastDescriptor) {
     wb.AudioBlockStart = 40;
@@ -129,13 +124,12 @@ TEST_P(Frequencies, OfTheFirstAndTheLastDescriptor) {
 
 INSTANTIATE_TEST_SUITE_P(
     Bytes, Frequencies,
-    testing::Values(FrequencyCase{"00", {}, ""}, FrequencyCase{"80", {}, ""}, FrequencyCase{"01", {0}, "32KHz,"},
-                    FrequencyCase{"02", {1}, " 44.1KHz,"}, FrequencyCase{"04", {2}, " 48KHz,"},
-                    FrequencyCase{"08", {3}, " 88.2KHz,"}, FrequencyCase{"10", {4}, " 96KHz,"},
-                    FrequencyCase{"20", {5}, " 176.4KHz,"}, FrequencyCase{"40", {6}, " 192KHz"},
-                    FrequencyCase{"05", {0, 2}, "32KHz, 48KHz,"}, FrequencyCase{"42", {1, 6}, " 44.1KHz, 192KHz"},
-                    FrequencyCase{
-                        "7F", {0, 1, 2, 3, 4, 5, 6}, "32KHz, 44.1KHz, 48KHz, 88.2KHz, 96KHz, 176.4KHz, 192KHz"}),
+    testing::Values(FlagsCase{"00", {}, ""}, FlagsCase{"80", {}, ""}, FlagsCase{"01", {0}, "32KHz,"},
+                    FlagsCase{"02", {1}, " 44.1KHz,"}, FlagsCase{"04", {2}, " 48KHz,"},
+                    FlagsCase{"08", {3}, " 88.2KHz,"}, FlagsCase{"10", {4}, " 96KHz,"},
+                    FlagsCase{"20", {5}, " 176.4KHz,"}, FlagsCase{"40", {6}, " 192KHz"},
+                    FlagsCase{"05", {0, 2}, "32KHz, 48KHz,"}, FlagsCase{"42", {1, 6}, " 44.1KHz, 192KHz"},
+                    FlagsCase{"7F", {0, 1, 2, 3, 4, 5, 6}, "32KHz, 44.1KHz, 48KHz, 88.2KHz, 96KHz, 176.4KHz, 192KHz"}),
     [](const auto& frequencies) { return test::cellName(frequencies.param.cell); });
 
 TEST_F(ShortAudio, SampleSizes) {

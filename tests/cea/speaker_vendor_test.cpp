@@ -7,15 +7,10 @@ namespace wb::cea {
 namespace {
 
 using test::ExtensionTest;
+using test::FlagsCase;
 using test::noElement;
 using test::selectedOf;
 using Texts = std::vector<std::string>;
-
-struct FlagsCase {
-    std::string cell;
-    std::vector<int> checks;
-    std::string text;
-};
 
 class Speakers : public ExtensionTest, public testing::WithParamInterface<FlagsCase> {};
 
