@@ -6,13 +6,14 @@
 #include "cea/flag_list.h"
 #include "cea/panels.h"
 #include "cea/short_audio.h"
+#include "core/edid_image.h"
 
 namespace wb::cea {
 
 namespace {
 
 bool hasLastDescriptor(const Workbench& workbench) {
-    return workbench.AudioBlockLength >= 6 && workbench.LastAudioDescriptor > workbench.AudioBlockStart;
+    return workbench.AudioBlockLength >= longDataBlock && workbench.LastAudioDescriptor > workbench.AudioBlockStart;
 }
 
 bool lastInFocus(const Workbench& workbench) {

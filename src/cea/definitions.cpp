@@ -16,9 +16,6 @@ namespace wb::cea {
 
 namespace {
 
-/// From this length on an audio block has a second descriptor, and a vendor block its extension byte.
-constexpr int longBlock = 6;
-
 /// The slots behind the fifth are decoded only where they are whole. A walk from cell 0, which a block without timings
 /// gets, stops at cell 90.
 bool isDecodedSlot(int slot, int base) {
@@ -37,7 +34,7 @@ void BuildCEA_EXT_Definations(Workbench& workbench) {
                                   BuildAudioTag, BuildAudioChannels, BuildSampFreq, BuildBitRate}) {
             decode(run.workbench);
         }
-        if (run.workbench.AudioBlockLength >= longBlock) {
+        if (run.workbench.AudioBlockLength >= longDataBlock) {
             LocateAudioDescriptors(run.workbench);
             BuildLastAudioChannels(run.workbench);
             BuildLastSampFreq(run.workbench);
@@ -46,7 +43,7 @@ void BuildCEA_EXT_Definations(Workbench& workbench) {
         for (const auto decode : {BuildSpeakerTag, BuildSpeaker, BuildVendorTag, BuildVendorID, BuildVendorData}) {
             decode(run.workbench);
         }
-        if (run.workbench.VendorBlockLength >= longBlock) {
+        if (run.workbench.VendorBlockLength >= longDataBlock) {
             BuildVSDBExt(run.workbench);
         }
         BuildDetailedTimings(run.workbench);

@@ -42,6 +42,10 @@ bool UpdateExtensionButton(Workbench& workbench);
 /// so that "0A" and "FF" do not.
 bool hasExtensionByDecimalText(Workbench& workbench);
 
+/// From this number of data bytes on an audio block of the extension has a second descriptor, and a vendor block its
+/// byte of extension flags (CEA-861-D, sections 7.5.2 and 7.5.4).
+inline constexpr int longDataBlock = 6;
+
 /// Where the detailed timings of the extension block begin (CEA-861-D, section 7.5): the number in ExtDtdOffsetText. A
 /// text that is no number is a TypeMismatch failure, a number beyond 16 bits an Overflow.
 std::int16_t timingOffset(const SharedVariables& variables);

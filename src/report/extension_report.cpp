@@ -27,9 +27,6 @@ constexpr int speakerEntryAfterLongAudio = 74;
 constexpr int vendorEntry = 73;
 constexpr int longVendorEntry = 76;
 
-/// From this length on an audio block has a second descriptor, and a vendor block its extension byte.
-constexpr int longBlock = 6;
-
 constexpr std::string_view ceaTag = "02";
 constexpr std::string_view mapTag = "F0";
 constexpr std::string_view repeatedBlockTag = "00";
@@ -152,7 +149,7 @@ void putAudio(const Workbench& workbench, TextArray& lines, int entry) {
     putAudioDescriptor(lines, entry + 1, workbench.AudioBlockStart + 1,
                        workbench.AudioKindText + ", " + workbench.AudioChannelsText + ", " + workbench.AudioFormatText,
                        workbench.SampFreqText, workbench.BitRateText);
-    if (workbench.AudioBlockLength >= longBlock && workbench.AudioDescriptorCount >= 2) {
+    if (workbench.AudioBlockLength >= longDataBlock && workbench.AudioDescriptorCount >= 2) {
         putAudioDescriptor(
             lines, entry + 4, workbench.LastAudioDescriptor,
             workbench.LastAudioKindText + ", " + workbench.LastAudioChannelsText + ", " + workbench.LastAudioFormatText,
@@ -177,7 +174,7 @@ void putVendorLines(const Workbench& workbench, TextArray& lines, int entry, int
 /// A short vendor block stands where audio and speaker lines may be, and wins.
 void putVendor(const Workbench& workbench, TextArray& lines, int videoLines) {
     const int start = workbench.VendorBlockStart;
-    if (workbench.VendorBlockLength >= longBlock) {
+    if (workbench.VendorBlockLength >= longDataBlock) {
         const int entry = videoLines + longVendorEntry;
         putVendorLines(workbench, lines, entry, start + 5);
         lines(entry + 3) = line(place(start + 6) + pad(7) + "VSDB Extension: " + workbench.VSDBExtText);
@@ -192,7 +189,7 @@ void putDataBlocks(const Workbench& workbench, TextArray& lines) {
         putAudio(workbench, lines, videoLines + audioEntry);
     }
     if (workbench.SpeakerBlockStart != 0) {
-        const int entry = workbench.AudioBlockLength >= longBlock ? speakerEntryAfterLongAudio : speakerEntry;
+        const int entry = workbench.AudioBlockLength >= longDataBlock ? speakerEntryAfterLongAudio : speakerEntry;
         putSpeakers(workbench, lines, videoLines + entry);
     }
     if (workbench.VendorBlockStart != 0) {
