@@ -118,8 +118,8 @@ private:
         }
     }
 
-    /// The name of the file behind all links, in one letter case: the same for whatever leads to one file. Empty where
-    /// there is none.
+    /// The name of the file behind all symbolic links, in one letter case: the same for whatever leads to that name.
+    /// Empty where there is none. A hard link has a name of its own, and to replace it does the file no harm.
     static std::string placeKey(const std::string& name) {
         std::error_code ignored;
         return upperCase(fs::canonical(name, ignored).filename().string());
