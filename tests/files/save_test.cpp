@@ -86,10 +86,8 @@ public:
 /// under the given pointer fails.
 class FailingEvents : public platform::EventLoop {
 public:
-    explicit FailingEvents(Lines& calls) : calls_(calls) {}
-
     void processPending() override {
-        calls_.emplace_back("events");
+        calls.emplace_back("events");
         if (pointer_ == failing) {
             failing.reset();
             throw Failure(FailureKind::Overflow);
@@ -97,39 +95,46 @@ public:
     }
     void setPointer(platform::Pointer pointer) override {
         pointer_ = pointer;
-        calls_.emplace_back(pointer == platform::Pointer::Hourglass ? "hourglass" : "normal");
+        calls.emplace_back(pointer == platform::Pointer::Hourglass ? "hourglass" : "normal");
     }
     void startTimer(int, std::function<void()> fire) override { fire(); }
 
     std::optional<platform::Pointer> failing;
+    Lines calls;
 
 private:
-    Lines& calls_;
     platform::Pointer pointer_ = platform::Pointer::Normal;
 };
 
-class SaveEvents : public Save {
+/// A second program, with a new image, whose events are those of the test.
+template <class Events>
+class SaveUnder : public Save {
 protected:
-    SaveEvents() {
+    SaveUnder() {
         shell::Main(other);
         input::choose(other.frmMain().mnuFileNew);
-        program.platform.onBox = [this](const std::string& text) { calls.push_back(text); };
-    }
-    Lines callsOf(const std::string& name, std::optional<platform::Pointer> failing = {}) {
-        other.CurrentFileName = name;
-        events.failing = failing;
-        calls.clear();
-        FileSave(other);
-        return calls;
     }
 
-    Lines calls;
-    FailingEvents events{calls};
+    Events events;
     const platform::Services& inner = program.platform.services();
     platform::Services services{
         inner.messageBoxes, inner.dialogs, inner.printer, inner.settings, inner.registry, inner.operatingSystem,
         inner.edidReader,   inner.shell,   inner.clock,   events,         inner.arranger, ""};
     Workbench other{services, shell::wiring()};
+};
+
+class SaveEvents : public SaveUnder<FailingEvents> {
+protected:
+    SaveEvents() {
+        program.platform.onBox = [this](const std::string& text) { events.calls.push_back(text); };
+    }
+    Lines callsOf(const std::string& name, std::optional<platform::Pointer> failing = {}) {
+        other.CurrentFileName = name;
+        events.failing = failing;
+        events.calls.clear();
+        FileSave(other);
+        return events.calls;
+    }
 };
 
 TEST_F(SaveEvents, RunBeforeAFailureIsTold) {
@@ -147,21 +152,12 @@ TEST_F(SaveEvents, ThatFailEndTheSaveLikeAnyFailure) {
               (Lines{"hourglass", "events", "normal", "events", "Overflow"}));
 }
 
-class SavePasses : public Save {
+class SavePasses : public SaveUnder<CountingEvents> {
 protected:
     SavePasses() {
-        shell::Main(other);
-        input::choose(other.frmMain().mnuFileNew);
         events.rounds = 0;
         events.hourglasses = 0;
     }
-
-    CountingEvents events;
-    const platform::Services& inner = program.platform.services();
-    platform::Services services{
-        inner.messageBoxes, inner.dialogs, inner.printer, inner.settings, inner.registry, inner.operatingSystem,
-        inner.edidReader,   inner.shell,   inner.clock,   events,         inner.arranger, ""};
-    Workbench other{services, shell::wiring()};
 };
 
 TEST_F(SavePasses, AreFive) {
