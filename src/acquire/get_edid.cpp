@@ -5,9 +5,9 @@
 
 #include "acquire/registry_search.h"
 #include "cea/definitions.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/numbers.h"
-#include "core/text.h"
 #include "files/image_loading.h"
 #include "files/save.h"
 #include "report/definitions.h"

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "platform/open_key.h"
 
 namespace wb::acquire {

@@ -2,8 +2,8 @@
 
 #include "block0/grid.h"
 #include "block0/panel_detailed_timing.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/text.h"
 #include "report/detailed_timing.h"
 
 namespace wb::block0 {

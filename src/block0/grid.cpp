@@ -1,6 +1,6 @@
 #include "block0/grid.h"
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "report/show_report.h"
 
 namespace wb::block0 {

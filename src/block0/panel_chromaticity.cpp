@@ -3,9 +3,9 @@
 #include "block0/cell_writing.h"
 #include "block0/grid.h"
 #include "block0/panel.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/cells.h"
-#include "core/numbers.h"
-#include "core/text.h"
 #include "report/chromaticity.h"
 
 namespace wb::block0 {

@@ -5,10 +5,10 @@
 
 #include "block0/cell_writing.h"
 #include "block0/grid.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
 #include "core/keys.h"
-#include "core/numbers.h"
-#include "core/text.h"
 
 namespace wb::block0 {
 

@@ -2,9 +2,9 @@
 
 #include "block0/cell_writing.h"
 #include "block0/panel.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/cells.h"
-#include "core/numbers.h"
-#include "core/text.h"
 #include "report/detailed_timing.h"
 #include "report/standard_timings.h"
 

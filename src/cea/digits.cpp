@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/cells.h"
-#include "core/numbers.h"
-#include "core/text.h"
 
 namespace wb::cea {
 

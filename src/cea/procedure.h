@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "block0/grid.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/cells.h"
 #include "core/keys.h"
-#include "core/numbers.h"
 #include "core/statements.h"
-#include "core/text.h"
 #include "core/workbench.h"
 
 /// How the procedures of the extension screen run.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "acquire/registry_search.h"
-#include "core/text.h"
+#include "core/base/text.h"
 
 namespace wb::cli {
 

@@ -5,17 +5,17 @@
 #include <system_error>
 
 #include "cli/cli_error.h"
-#include "script/file_content.h"
+#include "files/file_content.h"
 
 namespace wb::cli {
 
 Input readInput(const std::string& name) {
     try {
         if (name == standardStream) {
-            return {name, script::readStream(stdin), false};
+            return {name, files::readStream(stdin), false};
         }
         std::error_code ignored;
-        return {name, script::readFile(name), std::filesystem::is_regular_file(name, ignored)};
+        return {name, files::readFile(name), std::filesystem::is_regular_file(name, ignored)};
     } catch (const std::system_error& error) {
         throw CliError(error.code().message());
     }

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "acquire/registry_search.h"
-#include "core/digits.h"
-#include "core/text.h"
+#include "core/base/digits.h"
+#include "core/base/text.h"
 #include "files/data_file.h"
 
 namespace wb::cli {

@@ -11,9 +11,9 @@
 #include "cli/ordered_jobs.h"
 #include "cli/output.h"
 #include "cli/program.h"
-#include "core/digits.h"
-#include "core/text.h"
-#include "script/date_time.h"
+#include "core/base/digits.h"
+#include "core/base/text.h"
+#include "platform/date_time.h"
 
 namespace wb::cli {
 
@@ -146,7 +146,7 @@ std::optional<platform::DateTime> dateOf(const Options& options) {
     if (!options.date) {
         return std::nullopt;
     }
-    const auto date = script::parseDateTime(*options.date);
+    const auto date = platform::parseDateTime(*options.date);
     if (!date) {
         throw UsageError("'" + *options.date + "' is no date and time like \"2000-01-31 23:59:59\"");
     }

@@ -1,7 +1,7 @@
 #include "core/cells.h"
 
-#include "core/numbers.h"
-#include "core/text.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 
 namespace wb {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 
 namespace wb {
 

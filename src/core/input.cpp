@@ -1,7 +1,7 @@
 #include "core/input.h"
 
+#include "core/base/text.h"
 #include "core/keys.h"
-#include "core/text.h"
 
 namespace wb::input {
 

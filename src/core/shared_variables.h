@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 
 namespace wb {
 

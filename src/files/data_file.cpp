@@ -1,6 +1,6 @@
 #include "files/data_file.h"
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "files/text_file.h"
 #include "report/report_lines.h"
 

@@ -1,7 +1,7 @@
 #include "files/save.h"
 
+#include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/text.h"
 #include "files/common_dialog.h"
 #include "files/data_file.h"
 #include "files/text_file.h"

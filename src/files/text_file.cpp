@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 
 namespace wb::files {
 

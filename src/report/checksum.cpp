@@ -1,7 +1,7 @@
 #include "report/checksum.h"
 
+#include "core/base/numbers.h"
 #include "core/edid_image.h"
-#include "core/numbers.h"
 #include "report/report_lines.h"
 
 namespace wb::report {

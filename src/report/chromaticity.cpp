@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/numbers.h"
-#include "core/text.h"
 
 namespace wb::report {
 

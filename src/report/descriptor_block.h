@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/cells.h"
-#include "core/numbers.h"
-#include "core/text.h"
 #include "report/report_lines.h"
 
 namespace wb::report {

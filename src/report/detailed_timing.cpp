@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/numbers.h"
-#include "core/text.h"
 #include "report/detailed_timing_layout.h"
 #include "report/monitor_descriptor.h"
 #include "report/report_lines.h"

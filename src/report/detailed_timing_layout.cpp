@@ -1,6 +1,6 @@
 #include "report/detailed_timing_layout.h"
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "report/report_lines.h"
 
 namespace wb::report {

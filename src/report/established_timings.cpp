@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/text.h"
 #include "report/report_lines.h"
 
 namespace wb::report {

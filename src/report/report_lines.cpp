@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/numbers.h"
-#include "core/text.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 
 namespace wb::report {
 

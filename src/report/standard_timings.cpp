@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "core/base/numbers.h"
 #include "core/edid_image.h"
-#include "core/numbers.h"
 
 namespace wb::report {
 

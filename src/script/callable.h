@@ -8,9 +8,9 @@
 #include <type_traits>
 #include <utility>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/shared_variables.h"
-#include "core/text.h"
 #include "core/workbench.h"
 #include "script/parser.h"
 

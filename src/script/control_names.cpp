@@ -3,7 +3,7 @@
 #include <memory>
 #include <utility>
 
-#include "core/digits.h"
+#include "core/base/digits.h"
 #include "script/script_error.h"
 
 namespace wb::script {

@@ -1,4 +1,4 @@
-#include "core/text.h"
+#include "core/base/text.h"
 #include "script/callable.h"
 #include "script/commands.h"
 #include "script/control_names.h"

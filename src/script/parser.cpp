@@ -1,6 +1,6 @@
 #include "script/parser.h"
 
-#include "core/digits.h"
+#include "core/base/digits.h"
 #include "script/script_error.h"
 
 namespace wb::script {

@@ -2,12 +2,12 @@
 #include <system_error>
 #include <utility>
 
-#include "core/digits.h"
-#include "core/text.h"
+#include "core/base/digits.h"
+#include "core/base/text.h"
+#include "files/file_content.h"
+#include "platform/date_time.h"
+#include "platform/headless/registry_export.h"
 #include "script/commands.h"
-#include "script/date_time.h"
-#include "script/file_content.h"
-#include "script/reg_file.h"
 #include "script/script_error.h"
 
 namespace wb::script::commands {
@@ -30,7 +30,7 @@ platform::Answer answerNamed(const std::string& name) {
 
 std::string contentOf(const std::string& path) {
     try {
-        return readFile(path);
+        return files::readFile(path);
     } catch (const std::system_error& error) {
         throw ScriptError(path + ": " + error.code().message());
     }
@@ -64,7 +64,7 @@ void printed(Session& session, const Arguments&) {
 }
 
 void clock(Session& session, const Arguments& arguments) {
-    const auto dateTime = parseDateTime(arguments[0].text);
+    const auto dateTime = platform::parseDateTime(arguments[0].text);
     if (!dateTime) {
         throw ScriptError("'" + arguments[0].text + "' is no date and time like \"2000-01-31 23:59:59\"");
     }
@@ -103,18 +103,15 @@ void reader(Session& session, const Arguments& arguments) {
 void registry(Session& session, const Arguments& arguments) {
     const std::string& path = arguments[0].text;
     try {
-        const std::vector<RegistryKey> keys = parseRegistryExport(contentOf(path));
+        const auto keys = platform::headless::parseRegistryExport(contentOf(path));
         session.platform.registry.clear();
-        for (const RegistryKey& key : keys) {
+        for (const platform::headless::RegistryKey& key : keys) {
             session.platform.registry.addKey(key.path);
             for (const platform::RegistryValue& value : key.values) {
                 session.platform.registry.setValue(key.path, value);
             }
         }
-    } catch (const ScriptError& error) {
-        if (error.line() == 0) {
-            throw;
-        }
+    } catch (const platform::headless::RegistryExportError& error) {
         throw ScriptError(path + ':' + std::to_string(error.line()) + ": " + error.what());
     }
 }

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "script/script_error.h"
 
 namespace wb::script {

@@ -1,6 +1,6 @@
 #include "script/session.h"
 
-#include "core/text.h"
+#include "core/base/text.h"
 
 namespace wb::script {
 

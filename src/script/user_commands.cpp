@@ -1,4 +1,4 @@
-#include "core/digits.h"
+#include "core/base/digits.h"
 #include "script/commands.h"
 #include "script/control_names.h"
 #include "script/script_error.h"

@@ -2,9 +2,9 @@
 
 #include <type_traits>
 
-#include "core/digits.h"
-#include "core/numbers.h"
-#include "core/text.h"
+#include "core/base/digits.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "script/script_error.h"
 
 namespace wb::script {

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <string>
 
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/cells.h"
-#include "core/numbers.h"
-#include "core/text.h"
 
 namespace wb::shell {
 

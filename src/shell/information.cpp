@@ -1,7 +1,7 @@
 #include "shell/information.h"
 
-#include "core/numbers.h"
-#include "core/text.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/version.h"
 #include "files/text_file.h"
 #include "platform/open_key.h"

@@ -1,7 +1,7 @@
 #include "shell/lifecycle.h"
 
+#include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/text.h"
 #include "files/common_dialog.h"
 #include "files/data_file.h"
 #include "files/image_loading.h"

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 
 namespace wb::shell {
 

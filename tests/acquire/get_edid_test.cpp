@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "acquire/monitors.h"
-#include "core/text.h"
+#include "core/base/text.h"
 #include "support/program.h"
 #include "support/temporary_folder.h"
 

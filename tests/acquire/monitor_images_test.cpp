@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "acquire/get_edid.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/text.h"
 #include "files/data_file.h"
 #include "report/show_report.h"
 #include "support/program.h"

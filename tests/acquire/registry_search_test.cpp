@@ -6,7 +6,7 @@
 #include <map>
 
 #include "acquire/monitors.h"
-#include "core/text.h"
+#include "core/base/text.h"
 #include "support/program.h"
 
 namespace wb::acquire {

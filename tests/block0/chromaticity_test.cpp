@@ -1,5 +1,5 @@
 #include "block0/editor.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 
 namespace wb::test {
 namespace {

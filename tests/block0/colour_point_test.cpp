@@ -1,5 +1,5 @@
 #include "block0/descriptor_fixture.h"
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 
 namespace wb::test {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "cea/definitions.h"
 #include "cea/extension_fixture.h"
-#include "core/text.h"
+#include "core/base/text.h"
 
 namespace wb::cea {
 namespace {

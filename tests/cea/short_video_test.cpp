@@ -1,7 +1,7 @@
 #include "cea/short_video.h"
 
 #include "cea/extension_fixture.h"
-#include "core/text.h"
+#include "core/base/text.h"
 
 namespace wb::cea {
 namespace {

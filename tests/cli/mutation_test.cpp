@@ -5,12 +5,12 @@
 #include "cli/cli_error.h"
 #include "cli/program.h"
 #include "cli/samples.h"
-#include "core/digits.h"
-#include "core/text.h"
+#include "core/base/code_page.h"
+#include "core/base/digits.h"
+#include "core/base/text.h"
 #include "files/data_file.h"
-#include "script/code_page.h"
+#include "platform/headless/registry_export.h"
 #include "script/parser.h"
-#include "script/reg_file.h"
 #include "script/script_error.h"
 #include "support/program.h"
 #include "support/temporary_folder.h"
@@ -63,13 +63,13 @@ TEST(Mutations, RegistryExportsParseOrAreToldByLine) {
     int good = 0;
     for (int i = 0; i < rounds; ++i) {
         const std::string content = mutator.mutate(seed);
-        EXPECT_LE(script::decodeTextFile(content).size(), content.size());
+        EXPECT_LE(decodeTextFile(content).size(), content.size());
         try {
-            for (const script::RegistryKey& key : script::parseRegistryExport(content)) {
+            for (const platform::headless::RegistryKey& key : platform::headless::parseRegistryExport(content)) {
                 EXPECT_FALSE(upperCase(key.path).starts_with("HKEY_LOCAL_MACHINE"));
             }
             ++good;
-        } catch (const script::ScriptError& error) {
+        } catch (const platform::headless::RegistryExportError& error) {
             const auto lines = 1 + std::count(content.begin(), content.end(), '\n');
             EXPECT_GE(error.line(), 1);
             EXPECT_LE(error.line(), lines);

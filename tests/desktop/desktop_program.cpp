@@ -2,8 +2,8 @@
 
 #include <QApplication>
 
+#include "core/base/text.h"
 #include "core/input.h"
-#include "core/text.h"
 #include "desktop/services/message_boxes.h"
 #include "files/image_loading.h"
 #include "shell/startup.h"

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 #include "support/temporary_folder.h"
 
 namespace wb::files {

@@ -3,7 +3,7 @@
 #include <clocale>
 #include <cstdio>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 #include "report/show_report.h"
 #include "support/german_locale.h"
 #include "support/program.h"

@@ -5,8 +5,8 @@
 #include <iterator>
 #include <sstream>
 
+#include "core/base/text.h"
 #include "core/input.h"
-#include "core/text.h"
 
 namespace wb::test {
 

@@ -1,6 +1,6 @@
 #include "desktop/base/report_text.h"
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "desktop/base/text_codec.h"
 
 namespace wb::desktop {

@@ -4,8 +4,8 @@
 #include <chrono>
 #include <cmath>
 
-#include "core/numbers.h"
-#include "core/text.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 
 namespace wb::platform::headless {
 

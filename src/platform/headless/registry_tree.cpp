@@ -2,7 +2,7 @@
 
 #include <unordered_map>
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "platform/registry_path.h"
 
 namespace wb::platform::headless {

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <system_error>
 
-#include "core/text.h"
+#include "core/base/text.h"
 
 namespace wb::platform::linux_system {
 

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/text.h"
+#include "core/base/text.h"
 #include "platform/registry_path.h"
 
 namespace wb::platform::linux_system {

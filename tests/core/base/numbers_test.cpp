@@ -1,11 +1,11 @@
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <limits>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 
 namespace wb {
 namespace {

@@ -1,10 +1,10 @@
-#include "script/code_page.h"
+#include "core/base/code_page.h"
 
 #include <array>
 #include <cstdint>
 #include <optional>
 
-namespace wb::script {
+namespace wb {
 
 namespace {
 
@@ -15,15 +15,12 @@ constexpr std::array<std::uint16_t, 32> upperControls = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 constexpr char32_t firstUpperControl = 128;
 
+bool isUpperControl(char32_t code) {
+    return code >= firstUpperControl && code < firstUpperControl + upperControls.size();
+}
+
 char toCodePage(char32_t character) {
-    for (std::size_t i = 0; i < upperControls.size(); ++i) {
-        if (upperControls[i] == character) {
-            return static_cast<char>(firstUpperControl + i);
-        }
-    }
-    const bool same =
-        character < firstUpperControl || (character >= firstUpperControl + upperControls.size() && character <= 0xFF);
-    return same ? static_cast<char>(character) : '?';
+    return unicodeToCodePage(character).value_or('?');
 }
 
 enum class ByteOrder { LeastFirst, MostFirst };
@@ -98,6 +95,23 @@ std::optional<std::string> decodeUtf8(std::string_view bytes) {
 
 } // namespace
 
+char16_t codePageToUnicode(char character) {
+    const auto code = static_cast<unsigned char>(character);
+    return isUpperControl(code) ? upperControls[code - firstUpperControl] : char16_t{code};
+}
+
+std::optional<char> unicodeToCodePage(char32_t character) {
+    for (std::size_t i = 0; i < upperControls.size(); ++i) {
+        if (upperControls[i] == character) {
+            return static_cast<char>(firstUpperControl + i);
+        }
+    }
+    if (character > 0xFF || isUpperControl(character)) {
+        return std::nullopt;
+    }
+    return static_cast<char>(character);
+}
+
 std::string decodeTextFile(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE")) {
         return decodeUtf16(bytes.substr(2), ByteOrder::LeastFirst);
@@ -115,4 +129,4 @@ std::string fromUtf16(std::string_view bytes) {
     return decodeUtf16(bytes, ByteOrder::LeastFirst);
 }
 
-} // namespace wb::script
+} // namespace wb

@@ -1,8 +1,8 @@
-#include "script/date_time.h"
+#include "platform/date_time.h"
 
 #include <gtest/gtest.h>
 
-namespace wb::script {
+namespace wb::platform {
 namespace {
 
 TEST(DateTime, ReadsTheOneForm) {
@@ -26,4 +26,4 @@ TEST(DateTime, RefusesWhatIsNoDateAndTime) {
 }
 
 } // namespace
-} // namespace wb::script
+} // namespace wb::platform

@@ -5,9 +5,9 @@
 
 #include "platform/services.h"
 
-namespace wb::script {
+namespace wb::platform {
 
 /// The moment of a text "YYYY-MM-DD HH:MM:SS" exactly, or nothing where that is no date and time of the calendar.
-std::optional<platform::DateTime> parseDateTime(std::string_view text);
+std::optional<DateTime> parseDateTime(std::string_view text);
 
-} // namespace wb::script
+} // namespace wb::platform

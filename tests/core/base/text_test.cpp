@@ -1,8 +1,8 @@
-#include "core/text.h"
+#include "core/base/text.h"
 
 #include <gtest/gtest.h>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 
 namespace wb {
 namespace {

@@ -1,10 +1,10 @@
-#include "script/date_time.h"
+#include "platform/date_time.h"
 
 #include <chrono>
 
-#include "core/digits.h"
+#include "core/base/digits.h"
 
-namespace wb::script {
+namespace wb::platform {
 
 namespace {
 
@@ -25,19 +25,19 @@ bool hasShape(std::string_view text) {
 
 } // namespace
 
-std::optional<platform::DateTime> parseDateTime(std::string_view text) {
+std::optional<DateTime> parseDateTime(std::string_view text) {
     if (!hasShape(text)) {
         return std::nullopt;
     }
     const auto part = [&](std::size_t start, std::size_t length) {
         return *wholeNumber<int>(text.substr(start, length));
     };
-    const platform::DateTime result{.year = part(0, 4),
-                                    .month = part(5, 2),
-                                    .day = part(8, 2),
-                                    .hour = part(11, 2),
-                                    .minute = part(14, 2),
-                                    .second = part(17, 2)};
+    const DateTime result{.year = part(0, 4),
+                          .month = part(5, 2),
+                          .day = part(8, 2),
+                          .hour = part(11, 2),
+                          .minute = part(14, 2),
+                          .second = part(17, 2)};
     const std::chrono::year_month_day date{std::chrono::year(result.year),
                                            std::chrono::month(static_cast<unsigned>(result.month)),
                                            std::chrono::day(static_cast<unsigned>(result.day))};
@@ -45,4 +45,4 @@ std::optional<platform::DateTime> parseDateTime(std::string_view text) {
     return valid ? std::optional(result) : std::nullopt;
 }
 
-} // namespace wb::script
+} // namespace wb::platform

@@ -2,9 +2,9 @@
 #include <charconv>
 #include <cmath>
 
-#include "core/digits.h"
-#include "core/failure.h"
-#include "core/numbers.h"
+#include "core/base/digits.h"
+#include "core/base/failure.h"
+#include "core/base/numbers.h"
 
 namespace wb {
 

@@ -1,8 +1,8 @@
-#include "core/text.h"
+#include "core/base/text.h"
 
 #include <array>
 
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 
 namespace wb {
 

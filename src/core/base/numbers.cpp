@@ -1,11 +1,11 @@
-#include "core/numbers.h"
+#include "core/base/numbers.h"
 
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
 
-#include "core/failure.h"
+#include "core/base/failure.h"
 
 namespace wb {
 

@@ -1,13 +1,9 @@
-#include "script/reg_file.h"
+#include "platform/headless/registry_export.h"
 
 #include <gtest/gtest.h>
 
-#include "script/script_error.h"
-
-namespace wb::script {
+namespace wb::platform::headless {
 namespace {
-
-using platform::RegistryType;
 
 const std::string head = "Windows Registry Editor Version 5.00\r\n\r\n";
 const std::string key = "[HKEY_LOCAL_MACHINE\\SYSTEM\\A]\r\n";
@@ -23,7 +19,7 @@ platform::RegistryValue onlyValue(const std::string& line) {
 std::string errorOf(const std::string& bytes) {
     try {
         parseRegistryExport(bytes);
-    } catch (const ScriptError& error) {
+    } catch (const RegistryExportError& error) {
         return std::to_string(error.line()) + ": " + error.what();
     }
     return {};
@@ -169,4 +165,4 @@ TEST(RegFile, TellsTheLineOfAnError) {
 }
 
 } // namespace
-} // namespace wb::script
+} // namespace wb::platform::headless

@@ -1,4 +1,4 @@
-#include "core/failure.h"
+#include "core/base/failure.h"
 
 namespace wb {
 

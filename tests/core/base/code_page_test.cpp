@@ -1,8 +1,8 @@
-#include "script/code_page.h"
+#include "core/base/code_page.h"
 
 #include <gtest/gtest.h>
 
-namespace wb::script {
+namespace wb {
 namespace {
 
 TEST(CodePage, DecodesUtf8WithAndWithoutMark) {
@@ -42,4 +42,4 @@ TEST(CodePage, DropsHalfACharacter) {
 }
 
 } // namespace
-} // namespace wb::script
+} // namespace wb

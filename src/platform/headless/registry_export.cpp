@@ -1,4 +1,4 @@
-#include "script/reg_file.h"
+#include "platform/headless/registry_export.h"
 
 #include <algorithm>
 #include <array>
@@ -6,17 +6,13 @@
 #include <optional>
 #include <utility>
 
-#include "core/digits.h"
-#include "core/text.h"
-#include "script/code_page.h"
-#include "script/script_error.h"
+#include "core/base/code_page.h"
+#include "core/base/digits.h"
+#include "core/base/text.h"
 
-namespace wb::script {
+namespace wb::platform::headless {
 
 namespace {
-
-using platform::RegistryType;
-using platform::RegistryValue;
 
 constexpr std::string_view blanks = " \t";
 
@@ -65,7 +61,9 @@ public:
     }
 
 private:
-    [[noreturn]] void fail(const std::string& message) const { throw ScriptError(message, std::max(lineNumber_, 1)); }
+    [[noreturn]] void fail(const std::string& message) const {
+        throw RegistryExportError(message, std::max(lineNumber_, 1));
+    }
 
     bool nextLine() {
         if (rest_.empty()) {
@@ -304,4 +302,4 @@ std::vector<RegistryKey> parseRegistryExport(std::string_view bytes) {
     return ExportParser(text).parse();
 }
 
-} // namespace wb::script
+} // namespace wb::platform::headless

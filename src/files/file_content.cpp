@@ -1,4 +1,4 @@
-#include "script/file_content.h"
+#include "files/file_content.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -7,7 +7,7 @@
 
 #include "files/text_file.h"
 
-namespace wb::script {
+namespace wb::files {
 
 namespace {
 
@@ -24,7 +24,7 @@ std::string readFile(const std::string& path) {
     if (std::filesystem::is_directory(path, ignored)) {
         fail(EISDIR);
     }
-    const files::FileHandle file(std::fopen(path.c_str(), "rb"));
+    const FileHandle file(std::fopen(path.c_str(), "rb"));
     if (file == nullptr) {
         fail(errno);
     }
@@ -48,4 +48,4 @@ std::string readStream(std::FILE* stream) {
     return content;
 }
 
-} // namespace wb::script
+} // namespace wb::files

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <string>
 
-namespace wb::script {
+namespace wb::files {
 
 /// The whole content of a file, in binary. One that cannot be read, a folder, and one above 1 GiB are a
 /// std::system_error.
@@ -12,4 +12,4 @@ std::string readFile(const std::string& path);
 /// The same for what an open stream still holds.
 std::string readStream(std::FILE* stream);
 
-} // namespace wb::script
+} // namespace wb::files

@@ -1,0 +1,13 @@
+# WORKBENCH_FOLDERS: the folders of the house that have lists of their own, from the ground up, as src/floors.txt tells.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/floors.txt)
+file(STRINGS "${PROJECT_SOURCE_DIR}/src/floors.txt" floors REGEX "^(library|program) ")
+set(WORKBENCH_FOLDERS)
+foreach(floor IN LISTS floors)
+    string(REGEX REPLACE "^[a-z]+ " "" folder "${floor}")
+    if(EXISTS "${PROJECT_SOURCE_DIR}/src/${folder}/CMakeLists.txt")
+        list(APPEND WORKBENCH_FOLDERS ${folder})
+    endif()
+endforeach()
+if(NOT WORKBENCH_DESKTOP)
+    list(REMOVE_ITEM WORKBENCH_FOLDERS desktop)
+endif()
