@@ -67,7 +67,7 @@ void GetEDIDData(Workbench& workbench) {
 }
 
 std::optional<std::string> readStoredEdid(Workbench& workbench) {
-    // The notes are composed on each read and stay unused: nothing shows them, and that silence is meant.
+    // The notes are composed on each read, and no box shows them.
     [[maybe_unused]] const std::string notes = bootTimeNotes();
     const std::string key = SearchRegistryForEDID(workbench, workbench.RegBaseLocation, true);
     std::string data = SearchRegistryForEDID(workbench, key, false);

@@ -16,7 +16,7 @@
 namespace wb::cea {
 
 /// Recalculates the check sum cell of the extension block after an edit; does nothing while ModifyEDIDOn is false. A
-/// cell that cannot be read counts as nothing. The change memory is that of block 0, on purpose.
+/// cell that cannot be read counts as nothing. Block 0 and the extension block share one change memory.
 void CalcCheckSum(Workbench& workbench);
 
 /// A running procedure: a failure of one of its statements is shown, and the procedure goes on with the next one. A

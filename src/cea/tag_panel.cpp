@@ -25,7 +25,7 @@ constexpr std::array<TagName, 5> tagNames = {{{tag::reserved, "Reserved"},
                                               {tag::speaker, "Speaker Data Block"}}};
 
 /// A kind of block: where the shared variables keep it, and what a new length in its header, at row R of the list, does
-/// besides. The kinds differ in that on purpose.
+/// besides, for which each kind has rules of its own.
 struct Block {
     std::string_view kind;
     std::int16_t SharedVariables::*start;

@@ -69,7 +69,7 @@ void frmMain_Load(Workbench& workbench) {
         const float height = positionSetting(workbench, "MainHeight", 6500);
         frame.setPosition(left, top, width, height);
         workbench.RegBaseLocation = defaultBaseLocation;
-        // Never so, as the location has just been set: the entry keeps its design state.
+        // The location has just been set, so that this does not run; the entry is visible from the start.
         if (workbench.RegBaseLocation.empty() &&
             workbench.platform.operatingSystem.majorVersion() == platform::registryMajorVersion) {
             frame.Windows2000.setVisible(true);
