@@ -20,7 +20,7 @@ void noteChecksum(Workbench& workbench, const std::string& checksumText) {
 }
 
 void rememberChecksum(Workbench& workbench) {
-    workbench.Block0ChecksumAsLoaded = workbench.frmEDID().txtEdit(127).text();
+    workbench.Block0ChecksumAsLoaded = workbench.frmEDID().txtEdit(checksumCell).text();
     workbench.Block0ChecksumLast = workbench.Block0ChecksumAsLoaded;
 }
 
@@ -35,19 +35,19 @@ void RecalcBlock0Checksum(Workbench& workbench) {
         }
         FrmEdid& screen = workbench.frmEDID();
         int sum = 0;
-        for (int i = 0; i <= 126; ++i) {
+        for (int i = 0; i < checksumCell; ++i) {
             sum += byteAt(screen, i);
             if (sum > 255) {
                 sum -= 256;
             }
         }
-        screen.txtEdit(127).setText(checksumTextFor(sum));
-        noteChecksum(workbench, screen.txtEdit(127).text());
+        screen.txtEdit(checksumCell).setText(checksumTextFor(sum));
+        noteChecksum(workbench, screen.txtEdit(checksumCell).text());
     });
 }
 
 bool UpdateExtensionButton(Workbench& workbench) {
-    const bool extension = byteAt(workbench.frmEDID(), 126) != 0;
+    const bool extension = byteAt(workbench.frmEDID(), extensionCountCell) != 0;
     Control& button = workbench.frmMain().Command4;
     button.setEnabled(extension);
     button.setCaption(extension ? "See Ext Block" : "No Ext Block");
@@ -55,7 +55,7 @@ bool UpdateExtensionButton(Workbench& workbench) {
 }
 
 bool hasExtensionByDecimalText(Workbench& workbench) {
-    return Value(workbench, workbench.frmEDID().txtEdit(126).text()) != 0;
+    return Value(workbench, workbench.frmEDID().txtEdit(extensionCountCell).text()) != 0;
 }
 
 std::int16_t timingOffset(const SharedVariables& variables) {

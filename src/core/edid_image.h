@@ -1,21 +1,12 @@
 #pragma once
 
+#include "core/base/image_layout.h"
 #include "core/cells.h"
 #include "core/workbench.h"
 
 /// The open image: 256 two-character cells on two screens. Cell i of frmEDID holds image byte i, cell i of frmCEA_EXT
 /// byte 128 + i. Nothing keeps a parallel numeric image.
 namespace wb {
-
-/// Detailed timings and monitor descriptors are blocks of 18 cells (VESA E-EDID Standard, Release A, sections 3.10.2
-/// and 3.10.3). Block 0 has four of them.
-inline constexpr int detailedBlockSize = 18;
-inline constexpr int detailedBlockCount = 4;
-
-/// The first cell of detailed block `number` of block 0, counted from 0.
-constexpr int detailedBlockBase(int number) {
-    return 54 + detailedBlockSize * number;
-}
 
 /// Whether the block from cell `base` on is marked as no timing: the texts of its first three cells read "000000".
 bool hasDescriptorMark(BlockScreen& screen, int base);

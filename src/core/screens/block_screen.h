@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "core/base/image_layout.h"
 #include "core/screen.h"
 #include "core/shared_variables.h"
 
@@ -11,7 +12,7 @@ namespace wb {
 /// these the panels of a version and of a detailed timing.
 class BlockScreen : public Screen {
 public:
-    static constexpr int cellCount = 128;
+    static constexpr int cellCount = blockSize;
     static constexpr int timingValuePanel = 9; ///< of `Hints`
     static constexpr int timingFlagPanel = 10;
 
