@@ -112,6 +112,32 @@ std::optional<char> unicodeToCodePage(char32_t character) {
     return static_cast<char>(character);
 }
 
+std::size_t utf8SequenceLength(std::string_view text) {
+    const std::size_t length = text.empty() ? 0 : sequenceLength(static_cast<unsigned char>(text[0]));
+    const bool whole = length != 0 && length <= text.size() && decodeSequence(text.substr(0, length)).has_value();
+    return whole ? length : 0;
+}
+
+std::string codePageToUtf8(std::string_view text) {
+    std::string utf8;
+    utf8.reserve(text.size());
+    for (const char character : text) {
+        const unsigned code = codePageToUnicode(character);
+        if (code < 0x80) {
+            utf8 += character;
+            continue;
+        }
+        if (code < 0x800) {
+            utf8 += static_cast<char>(0xC0U | code >> 6U);
+        } else {
+            utf8 += static_cast<char>(0xE0U | code >> 12U);
+            utf8 += static_cast<char>(0x80U | (code >> 6U & 0x3FU));
+        }
+        utf8 += static_cast<char>(0x80U | (code & 0x3FU));
+    }
+    return utf8;
+}
+
 std::string decodeTextFile(std::string_view bytes) {
     if (bytes.starts_with("\xFF\xFE")) {
         return decodeUtf16(bytes.substr(2), ByteOrder::LeastFirst);

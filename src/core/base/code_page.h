@@ -12,6 +12,12 @@ char16_t codePageToUnicode(char character);
 /// The way back, or nothing where the code page does not have the character.
 std::optional<char> unicodeToCodePage(char32_t character);
 
+/// A text of 8-bit characters in UTF-8.
+std::string codePageToUtf8(std::string_view text);
+
+/// Bytes of the UTF-8 sequence that stands at the front of a text, 0 where there is none.
+std::size_t utf8SequenceLength(std::string_view text);
+
 /// The content of a Unicode file in characters of Windows code page 1252: UTF-16 of either byte order with a byte order
 /// mark, UTF-8 with or without. Bytes that are no UTF-8 are taken as 8-bit text already. A character that the code page
 /// does not have becomes '?'.

@@ -1,0 +1,33 @@
+#include "core/base/image.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <utility>
+
+namespace wb {
+
+namespace {
+
+constexpr std::array<std::uint8_t, 8> header = {0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00};
+
+} // namespace
+
+std::optional<Image> Image::fromBytes(std::string_view bytes, ImageOrigin origin) {
+    const std::size_t blocks = std::min(bytes.size() / blockSize, mostBlocks);
+    if (blocks == 0) {
+        return std::nullopt;
+    }
+    const std::size_t taken = blocks * blockSize;
+    return Image(bytes.substr(0, taken), bytes.size() - taken, std::move(origin));
+}
+
+bool Image::hasHeader() const {
+    return std::equal(header.begin(), header.end(), bytes_.begin());
+}
+
+bool sumsToZero(std::span<const std::uint8_t> block) {
+    return std::accumulate(block.begin(), block.end(), 0U) % 256 == 0;
+}
+
+} // namespace wb

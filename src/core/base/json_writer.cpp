@@ -1,0 +1,132 @@
+#include "core/base/json_writer.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "core/base/code_page.h"
+
+namespace wb {
+
+namespace {
+
+constexpr std::string_view replacement = "\xEF\xBF\xBD";
+
+template <class Number>
+void appendNumber(std::string& text, Number number) {
+    std::array<char, 32> buffer{};
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+    text.append(buffer.data(), end);
+}
+
+void appendEscape(std::string& text, char control) {
+    switch (control) {
+        case '"':
+        case '\\':
+            text += '\\';
+            text += control;
+            break;
+        case '\n':
+            text += "\\n";
+            break;
+        case '\t':
+            text += "\\t";
+            break;
+        default:
+            text += "\\u00";
+            text += "0123456789abcdef"[static_cast<unsigned char>(control) >> 4U];
+            text += "0123456789abcdef"[static_cast<unsigned char>(control) & 15U];
+            break;
+    }
+}
+
+bool isEscaped(char c) {
+    return c == '"' || c == '\\' || static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+}
+
+} // namespace
+
+JsonWriter& JsonWriter::begin(char bracket) {
+    separate();
+    text_ += bracket;
+    owesComma_ = false;
+    return *this;
+}
+
+JsonWriter& JsonWriter::end(char bracket) {
+    text_ += bracket;
+    owesComma_ = true;
+    return *this;
+}
+
+JsonWriter& JsonWriter::key(std::string_view name) {
+    separate();
+    writeText(name);
+    text_ += ':';
+    owesComma_ = false;
+    return *this;
+}
+
+JsonWriter& JsonWriter::value(std::string_view text) {
+    separate();
+    writeText(text);
+    owesComma_ = true;
+    return *this;
+}
+
+JsonWriter& JsonWriter::value(bool truth) {
+    separate();
+    text_ += truth ? "true" : "false";
+    owesComma_ = true;
+    return *this;
+}
+
+JsonWriter& JsonWriter::value(std::int64_t number) {
+    separate();
+    appendNumber(text_, number);
+    owesComma_ = true;
+    return *this;
+}
+
+JsonWriter& JsonWriter::value(double number) {
+    if (!std::isfinite(number)) {
+        return null();
+    }
+    separate();
+    appendNumber(text_, number);
+    owesComma_ = true;
+    return *this;
+}
+
+JsonWriter& JsonWriter::null() {
+    separate();
+    text_ += "null";
+    owesComma_ = true;
+    return *this;
+}
+
+void JsonWriter::separate() {
+    if (owesComma_) {
+        text_ += ',';
+    }
+}
+
+void JsonWriter::writeText(std::string_view text) {
+    text_ += '"';
+    for (std::size_t place = 0; place < text.size();) {
+        const std::size_t length = utf8SequenceLength(text.substr(place));
+        if (length == 0) {
+            text_ += replacement;
+            ++place;
+        } else if (length == 1 && isEscaped(text[place])) {
+            appendEscape(text_, text[place]);
+            ++place;
+        } else {
+            text_ += text.substr(place, length);
+            place += length;
+        }
+    }
+    text_ += '"';
+}
+
+} // namespace wb

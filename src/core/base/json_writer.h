@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace wb {
+
+/// Writes one JSON text (RFC 8259) on one line. Keys and texts are in UTF-8; what is no UTF-8 in them is written as
+/// U+FFFD. Objects and arrays are begun and ended in pairs; commas come by themselves.
+class JsonWriter {
+public:
+    JsonWriter& beginObject() { return begin('{'); }
+    JsonWriter& endObject() { return end('}'); }
+    JsonWriter& beginArray() { return begin('['); }
+    JsonWriter& endArray() { return end(']'); }
+    /// The name of the member whose value comes next.
+    JsonWriter& key(std::string_view name);
+
+    JsonWriter& value(std::string_view text);
+    JsonWriter& value(const char* text) { return value(std::string_view(text)); }
+    JsonWriter& value(bool truth);
+    JsonWriter& value(std::int64_t number);
+    JsonWriter& value(int number) { return value(std::int64_t{number}); }
+    JsonWriter& value(std::size_t number) { return value(static_cast<std::int64_t>(number)); }
+    /// The shortest digits that read back to the number; null where it is not finite.
+    JsonWriter& value(double number);
+    JsonWriter& null();
+
+    template <class T>
+    JsonWriter& value(const std::optional<T>& maybe) {
+        return maybe ? value(*maybe) : null();
+    }
+    template <class T>
+    JsonWriter& member(std::string_view name, const T& content) {
+        return key(name).value(content);
+    }
+
+    const std::string& text() const { return text_; }
+
+private:
+    JsonWriter& begin(char bracket);
+    JsonWriter& end(char bracket);
+    void separate();
+    void writeText(std::string_view text);
+
+    std::string text_;
+    bool owesComma_ = false; ///< an element stands before the next one
+};
+
+} // namespace wb

@@ -1,0 +1,170 @@
+#include "fields/detailed_timing.h"
+
+#include <array>
+#include <cmath>
+
+namespace wb::fields {
+
+namespace {
+
+/// Bits 4 and 3 of the flags.
+enum class SyncKind { Analog = 0, BipolarAnalog = 1, Composite = 2, Separate = 3 };
+
+constexpr std::array<Choice, 4> syncKinds = {
+    {{0, "analog composite"}, {1, "bipolar analog composite"}, {2, "digital composite"}, {3, "digital separate"}}};
+constexpr std::array<Choice, 2> polarities = {{{0, "negative"}, {1, "positive"}}};
+/// Bits 6, 5 and 0 of the flags.
+constexpr std::array<Choice, 8> stereoModes = {{{0, "none"},
+                                                {1, "none"},
+                                                {2, "field sequential, right image on sync"},
+                                                {3, "2-way interleaved, right image on even lines"},
+                                                {4, "field sequential, left image on sync"},
+                                                {5, "2-way interleaved, left image on even lines"},
+                                                {6, "4-way interleaved"},
+                                                {7, "side by side interleaved"}}};
+
+/// VESA E-EDID Standard, Release A, table 3.21 (EDID 1.3: table 3.16).
+constexpr std::array<Row, 15> timingRows = {{
+    {.name = "pixel_clock", .label = "Pixel clock", .parts = {{1}, {0}}, .unit = "MHz", .scale = 0.01, .decimals = 2},
+    {.name = "h_active", .label = "Horizontal active", .parts = {{4, 7, 4}, {2}}, .unit = "px"},
+    {.name = "h_blank", .label = "Horizontal blanking", .parts = {{4, 3, 0}, {3}}, .unit = "px"},
+    {.name = "v_active", .label = "Vertical active", .parts = {{7, 7, 4}, {5}}, .unit = "px"},
+    {.name = "v_blank", .label = "Vertical blanking", .parts = {{7, 3, 0}, {6}}, .unit = "px"},
+    {.name = "h_front_porch", .label = "Horizontal front porch", .parts = {{11, 7, 6}, {8}}, .unit = "px"},
+    {.name = "h_sync_width", .label = "Horizontal sync width", .parts = {{11, 5, 4}, {9}}, .unit = "px"},
+    {.name = "v_front_porch", .label = "Vertical front porch", .parts = {{11, 3, 2}, {10, 7, 4}}, .unit = "px"},
+    {.name = "v_sync_width", .label = "Vertical sync width", .parts = {{11, 1, 0}, {10, 3, 0}}, .unit = "px"},
+    {.name = "h_image_size", .label = "Horizontal image size", .parts = {{14, 7, 4}, {12}}, .unit = "mm"},
+    {.name = "v_image_size", .label = "Vertical image size", .parts = {{14, 3, 0}, {13}}, .unit = "mm"},
+    {.name = "h_border", .label = "Horizontal border, each side", .parts = {{15}}, .unit = "px"},
+    {.name = "v_border", .label = "Vertical border, each side", .parts = {{16}}, .unit = "px"},
+    {.name = "interlaced", .label = "Interlaced", .parts = {{17, 7, 7}}, .kind = Kind::Flag},
+    {.name = "stereo",
+     .label = "Stereo viewing",
+     .parts = {{17, 6, 5}, {17, 0, 0}},
+     .kind = Kind::Choice,
+     .choices = stereoModes},
+}};
+
+constexpr Row syncKindRow = {
+    .name = "sync_type", .label = "Sync type", .parts = {{17, 4, 3}}, .kind = Kind::Choice, .choices = syncKinds};
+constexpr std::array<Row, 2> analogRows = {{
+    {.name = "sync_serrate", .label = "Serrations", .parts = {{17, 2, 2}}, .kind = Kind::Flag},
+    {.name = "sync_on_all", .label = "Sync on red, green and blue", .parts = {{17, 1, 1}}, .kind = Kind::Flag},
+}};
+constexpr std::array<Row, 2> compositeRows = {{
+    {.name = "sync_serrate", .label = "Serrations", .parts = {{17, 2, 2}}, .kind = Kind::Flag},
+    {.name = "h_sync_polarity",
+     .label = "Horizontal sync polarity",
+     .parts = {{17, 1, 1}},
+     .kind = Kind::Choice,
+     .choices = polarities},
+}};
+constexpr std::array<Row, 2> separateRows = {{
+    {.name = "v_sync_polarity",
+     .label = "Vertical sync polarity",
+     .parts = {{17, 2, 2}},
+     .kind = Kind::Choice,
+     .choices = polarities},
+    {.name = "h_sync_polarity",
+     .label = "Horizontal sync polarity",
+     .parts = {{17, 1, 1}},
+     .kind = Kind::Choice,
+     .choices = polarities},
+}};
+
+constexpr std::uint8_t interlacedBit = 0x80;
+
+std::span<const Row> syncRowsOf(SyncKind kind) {
+    switch (kind) {
+        case SyncKind::Composite:
+            return compositeRows;
+        case SyncKind::Separate:
+            return separateRows;
+        case SyncKind::Analog:
+        case SyncKind::BipolarAnalog:
+            break;
+    }
+    return analogRows;
+}
+
+/// The numbers of a timing that the checks and the summary need; lengths in pixels and lines of a field.
+struct Timing {
+    std::int64_t clockKilohertz;
+    int hActive;
+    int hBlank;
+    int vActive;
+    int vBlank;
+    int hSyncEnd; ///< front porch and sync, the part of the blanking that they take
+    int vSyncEnd;
+    bool interlaced;
+};
+
+Timing timingOf(const Scope& scope) {
+    const auto number = [&](const Parts& parts) { return static_cast<int>(scope.raw(parts)); };
+    return {.clockKilohertz = static_cast<std::int64_t>(scope.word(0)) * 10,
+            .hActive = number({{4, 7, 4}, {2}}),
+            .hBlank = number({{4, 3, 0}, {3}}),
+            .vActive = number({{7, 7, 4}, {5}}),
+            .vBlank = number({{7, 3, 0}, {6}}),
+            .hSyncEnd = number({{11, 7, 6}, {8}}) + number({{11, 5, 4}, {9}}),
+            .vSyncEnd = number({{11, 3, 2}, {10, 7, 4}}) + number({{11, 1, 0}, {10, 3, 0}}),
+            .interlaced = (scope.byte(17) & interlacedBit) != 0};
+}
+
+void checkTiming(const Scope& scope, const Timing& timing) {
+    if (timing.hActive == 0 || timing.vActive == 0) {
+        scope.tell(
+            Severity::Error, "timing.nothing_active", timing.hActive == 0 ? 2 : 5,
+            timing.hActive == 0 ? "h_active" : "v_active",
+            "The timing has no active pixels, so that no picture can be made of it; enter the real size or blank "
+            "the descriptor.");
+        return;
+    }
+    if (timing.hSyncEnd > timing.hBlank) {
+        scope.tell(Severity::Error, "timing.h_sync_beyond_blanking", 8, "h_sync_width",
+                   "Horizontal front porch and sync take " + std::to_string(timing.hSyncEnd) + " of " +
+                       std::to_string(timing.hBlank) +
+                       " blanking pixels, so that the sync pulse would reach into the picture; lengthen the blanking.");
+    }
+    if (timing.vSyncEnd > timing.vBlank) {
+        scope.tell(Severity::Error, "timing.v_sync_beyond_blanking", 10, "v_sync_width",
+                   "Vertical front porch and sync take " + std::to_string(timing.vSyncEnd) + " of " +
+                       std::to_string(timing.vBlank) +
+                       " blanking lines, so that the sync pulse would reach into the picture; lengthen the blanking.");
+    }
+}
+
+Mode modeOf(const Timing& timing, bool native) {
+    Mode mode{.source = ModeSource::Detailed, .native = native};
+    const int hTotal = timing.hActive + timing.hBlank;
+    const int fieldTotal = timing.vActive + timing.vBlank;
+    const int fields = timing.interlaced ? 2 : 1;
+    mode.width = timing.hActive;
+    mode.height = timing.vActive * fields;
+    mode.interlaced = timing.interlaced;
+    mode.pixelClockKilohertz = timing.clockKilohertz;
+    mode.horizontalTotal = hTotal;
+    // An interlaced picture has half a line more than its two fields together tell.
+    mode.verticalTotal = fieldTotal * fields + (timing.interlaced ? 1 : 0);
+    const double pixels = static_cast<double>(hTotal) * *mode.verticalTotal / fields;
+    if (pixels > 0) {
+        mode.refreshMilliHertz = std::llround(static_cast<double>(timing.clockKilohertz) * 1e6 / pixels);
+    }
+    return mode;
+}
+
+} // namespace
+
+void readDetailedTiming(const Scope& scope, bool native) {
+    scope.add(timingRows);
+    const Timing timing = timingOf(scope);
+    scope.add(syncKindRow);
+    scope.add(syncRowsOf(static_cast<SyncKind>(scope.raw(syncKindRow.parts))));
+    checkTiming(scope, timing);
+    if (timing.hActive > 0 && timing.vActive > 0) {
+        scope.summary().modes.push_back(modeOf(timing, native));
+    }
+}
+
+} // namespace wb::fields

@@ -1,0 +1,101 @@
+#include "fields/reading.h"
+
+#include <algorithm>
+
+#include "fields/block0.h"
+#include "fields/extensions.h"
+#include "fields/scope.h"
+
+namespace wb::fields {
+
+namespace {
+
+BlockInfo infoOf(const Image& image, std::size_t index) {
+    const std::uint8_t tag = index == 0 ? 0 : image.block(index)[0];
+    return {.index = index,
+            .tag = tag,
+            .name = index == 0 ? "base EDID" : extensionName(tag),
+            .sum = sumsToZero(image.block(index)) ? Sum::Ok : Sum::Wrong};
+}
+
+void listBlocks(Reading& reading) {
+    const Image& image = reading.image;
+    for (std::size_t i = 0; i < image.blockCount(); ++i) {
+        reading.blocks.push_back(infoOf(image, i));
+    }
+    for (std::size_t i = image.blockCount(); i <= image.announcedExtensions(); ++i) {
+        reading.blocks.push_back({.index = i, .name = "missing extension"});
+    }
+}
+
+void tellOfBlocks(Reading& reading) {
+    const std::size_t there = reading.image.blockCount() - 1;
+    const std::size_t announced = reading.image.announcedExtensions();
+    const Scope base(reading, 0, "base", "E-EDID 1.4, 3.12");
+    if (there < announced) {
+        base.tell(Severity::Error, "image.blocks_missing", 126, "extension_count",
+                  "Byte 126 announces " + std::to_string(announced) + " extension blocks and " + std::to_string(there) +
+                      " are there, so that readers miss what the others tell; dump the whole image anew.");
+    } else if (there > announced) {
+        base.tell(Severity::Warning, "image.blocks_extra", 126, "extension_count",
+                  "Byte 126 announces " + std::to_string(announced) + " extension blocks and " + std::to_string(there) +
+                      " are there, so that readers pass over the last ones; set byte 126 or cut the image.");
+    }
+    if (reading.image.leftOver() != 0) {
+        base.tell(Severity::Warning, "image.left_over", 0, "",
+                  std::to_string(reading.image.leftOver()) +
+                      " bytes after the last whole block belong to no block and are passed over.");
+    }
+    for (const BlockInfo& block : reading.blocks) {
+        if (block.sum == Sum::Wrong) {
+            const Scope scope(reading, block.index * Image::blockSize, "", "E-EDID 1.4, 3.13");
+            scope.tell(Severity::Error, "block.checksum", 127, "",
+                       "The bytes of block " + std::to_string(block.index) +
+                           " do not sum up to 0, so that careful readers refuse it; correct its last byte if the rest "
+                           "is right.");
+        }
+    }
+}
+
+/// Fields by their first bits: by byte, in a byte from the highest bit down.
+void sortByPlace(std::vector<Field>& fields) {
+    const auto firstBit = [](const Field& field) {
+        const BitRange* first = std::min_element(field.where.begin(), field.where.end(),
+                                                 [](const BitRange& a, const BitRange& b) { return a.byte < b.byte; });
+        return first->byte * 8 + (7U - first->high);
+    };
+    std::stable_sort(fields.begin(), fields.end(),
+                     [&](const Field& a, const Field& b) { return firstBit(a) < firstBit(b); });
+}
+
+} // namespace
+
+Reading read(const Image& image) {
+    Reading reading{.image = image};
+    listBlocks(reading);
+    tellOfBlocks(reading);
+    readBlock0(reading);
+    for (std::size_t i = 1; i < image.blockCount(); ++i) {
+        readExtension(reading, i);
+        reading.summary.extensions.push_back(reading.blocks[i].name);
+    }
+    sortByPlace(reading.fields);
+    std::stable_sort(reading.findings.begin(), reading.findings.end(),
+                     [](const Finding& a, const Finding& b) { return a.byte < b.byte; });
+    reading.summary.sumsOk = std::none_of(reading.blocks.begin(), reading.blocks.end(),
+                                          [](const BlockInfo& block) { return block.sum == Sum::Wrong; });
+    return reading;
+}
+
+const Field* fieldAt(const Reading& reading, std::size_t byte, int bit) {
+    for (const Field& field : reading.fields) {
+        for (const BitRange& range : field.where) {
+            if (byte >= range.byte && byte < range.byte + range.count && bit <= range.high && bit >= range.low) {
+                return &field;
+            }
+        }
+    }
+    return nullptr;
+}
+
+} // namespace wb::fields

@@ -1,0 +1,226 @@
+#include "fields/scope.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "core/base/code_page.h"
+
+namespace wb::fields {
+
+namespace {
+
+constexpr unsigned lineFeed = 0x0A;
+
+std::uint64_t maskOf(int bits) {
+    return (std::uint64_t{1} << static_cast<unsigned>(bits)) - 1;
+}
+
+std::string_view choiceOf(std::span<const Choice> choices, std::uint64_t raw) {
+    const auto found =
+        std::find_if(choices.begin(), choices.end(), [&](const Choice& choice) { return choice.raw == raw; });
+    return found == choices.end() ? std::string_view() : found->text;
+}
+
+void readNumber(const Row& row, std::uint64_t raw, Field& field) {
+    if (const std::string_view words = choiceOf(row.choices, raw); !words.empty()) {
+        field.text = words;
+        return;
+    }
+    const double number = static_cast<double>(raw) * row.scale + row.bias;
+    if (row.decimals == 0) {
+        field.value = static_cast<std::int64_t>(std::llround(number));
+    } else {
+        field.value = number;
+    }
+    field.text = withUnit(decimalText(number, row.decimals), row.unit);
+    field.unit = row.unit;
+}
+
+void readChoice(const Row& row, std::uint64_t raw, Field& field) {
+    const std::string_view words = choiceOf(row.choices, raw);
+    field.text = words.empty() ? "reserved (" + std::to_string(raw) + ")" : std::string(words);
+    field.value = field.text;
+}
+
+/// A descriptor's text ends at a line feed; blanks fill what follows it. One without the end mark may lose its padding.
+std::string textOf(std::span<const std::uint8_t> bytes) {
+    const auto end = std::find(bytes.begin(), bytes.end(), lineFeed);
+    std::string text(bytes.begin(), end);
+    text.erase(text.find_last_not_of(std::string(" \0", 2)) + 1);
+    return codePageToUtf8(text);
+}
+
+void appendHex(std::string& text, unsigned byte) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    text += digits[byte >> 4U];
+    text += digits[byte & 15U];
+}
+
+std::string hexOf(std::span<const std::uint8_t> bytes) {
+    std::string text;
+    for (const unsigned byte : bytes) {
+        if (!text.empty()) {
+            text += ' ';
+        }
+        appendHex(text, byte);
+    }
+    return text;
+}
+
+std::string hexNumber(std::uint64_t number, int bits) {
+    std::string text;
+    for (int digit = (bits + 3) / 4 - 1; digit >= 0; --digit) {
+        text += "0123456789ABCDEF"[number >> static_cast<unsigned>(4 * digit) & 15U];
+    }
+    return text;
+}
+
+bool isRun(const Field& field) {
+    return field.where.front().count > 1;
+}
+
+/// The value of the bits of a field, and how many they are.
+std::pair<std::uint64_t, int> bitsOf(std::span<const std::uint8_t> image, const Where& where) {
+    std::uint64_t value = 0;
+    int count = 0;
+    for (const BitRange& range : where) {
+        const int bits = range.high - range.low + 1;
+        value = value << static_cast<unsigned>(bits) | (image[range.byte] >> range.low & maskOf(bits));
+        count += bits;
+    }
+    return {value, count};
+}
+
+} // namespace
+
+Scope Scope::inner(std::size_t offset, std::string_view name, std::string_view clause) const {
+    std::string path = path_;
+    if (!name.starts_with('[')) {
+        path += '.';
+    }
+    path += name;
+    return {*reading_, start_ + offset, std::move(path), clause.empty() ? clause_ : clause};
+}
+
+std::string Scope::pathOf(std::string_view name) const {
+    std::string path;
+    path.reserve(path_.size() + 1 + name.size());
+    path += path_;
+    if (!name.starts_with('[')) {
+        path += '.';
+    }
+    path += name;
+    return path;
+}
+
+std::uint64_t Scope::raw(const Parts& parts) const {
+    std::uint64_t value = 0;
+    for (const Part& part : parts) {
+        const int bits = part.high - part.low + 1;
+        value = value << static_cast<unsigned>(bits) | (byte(part.offset) >> part.low & maskOf(bits));
+    }
+    return value;
+}
+
+void Scope::add(std::span<const Row> rows, std::size_t end) const {
+    for (const Row& row : rows) {
+        const bool inside = std::all_of(row.parts.begin(), row.parts.end(),
+                                        [&](const Part& part) { return part.offset + row.length <= end; });
+        if (inside) {
+            add(row);
+        }
+    }
+}
+
+Field& Scope::add(const Row& row) const {
+    Field field;
+    field.path = pathOf(row.name);
+    field.label = row.label;
+    field.clause = row.clause.empty() ? clause_ : row.clause;
+    for (const Part& part : row.parts) {
+        field.where.add({place(part.offset), part.high, part.low, row.length});
+    }
+    const std::size_t offset = row.parts.begin()->offset;
+    const std::uint64_t bits = row.length == 1 ? raw(row.parts) : 0;
+    switch (row.kind) {
+        case Kind::Number:
+            readNumber(row, bits, field);
+            break;
+        case Kind::Flag:
+            field.value = bits != 0;
+            field.text = bits != 0 ? "yes" : "no";
+            break;
+        case Kind::Choice:
+            readChoice(row, bits, field);
+            break;
+        case Kind::Text:
+            field.text = textOf(bytes(offset, row.length));
+            field.value = field.text;
+            break;
+        case Kind::Bytes:
+        case Kind::Reserved:
+            field.text = isRun(field) ? hexOf(bytes(offset, row.length)) : rawText(reading_->image, field);
+            break;
+    }
+    if (row.read != nullptr) {
+        row.read(*this, bits, field);
+    }
+    reading_->fields.push_back(std::move(field));
+    return reading_->fields.back();
+}
+
+void Scope::addBytes(std::size_t offset, std::size_t end, std::string_view name, std::string_view label,
+                     Kind kind) const {
+    if (offset < end) {
+        add(Row{.name = name, .label = label, .parts = {{offset}}, .kind = kind, .length = end - offset});
+    }
+}
+
+void Scope::tell(Severity severity, std::string_view code, std::size_t offset, std::string_view name, std::string text,
+                 std::string_view clause) const {
+    reading_->findings.push_back({severity, code, block(), place(offset), name.empty() ? std::string() : pathOf(name),
+                                  std::move(text), clause.empty() ? clause_ : clause});
+}
+
+std::string rawText(const Image& image, const Field& field) {
+    if (isRun(field)) {
+        const BitRange& run = field.where.front();
+        std::string text;
+        for (const unsigned byte : image.bytes().subspan(run.byte, run.count)) {
+            appendHex(text, byte);
+        }
+        return text;
+    }
+    const auto [value, bits] = bitsOf(image.bytes(), field.where);
+    return hexNumber(value, bits);
+}
+
+std::string decimalText(double value, int decimals) {
+    std::array<char, 64> buffer{};
+    const auto [end, error] =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
+    return error == std::errc() ? std::string(buffer.data(), end) : std::string();
+}
+
+std::string withUnit(std::string number, std::string_view unit) {
+    if (!unit.empty()) {
+        number += ' ';
+        number += unit;
+    }
+    return number;
+}
+
+std::string_view severityName(Severity severity) {
+    switch (severity) {
+        case Severity::Note:
+            return "note";
+        case Severity::Warning:
+            return "warning";
+        case Severity::Error:
+            break;
+    }
+    return "error";
+}
+
+} // namespace wb::fields

@@ -1,0 +1,120 @@
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "fields/reading.h"
+
+namespace wb::fields {
+
+class Scope;
+
+/// A part of a row's bits, counted from the start of its structure.
+struct Part {
+    std::size_t offset = 0;
+    std::uint8_t high = 7;
+    std::uint8_t low = 0;
+};
+
+/// The parts of a row, the highest part of its value first.
+class Parts {
+public:
+    constexpr Parts(std::initializer_list<Part> parts) {
+        for (const Part& part : parts) {
+            list_[size_++] = part;
+        }
+    }
+    constexpr const Part* begin() const { return list_.data(); }
+    constexpr const Part* end() const { return list_.data() + size_; }
+
+private:
+    std::array<Part, 4> list_{};
+    std::size_t size_ = 0;
+};
+
+/// What a raw value stands for in words.
+struct Choice {
+    std::uint64_t raw;
+    std::string_view text;
+};
+
+enum class Kind {
+    Number,   ///< raw * scale + bias; a raw value that `choices` names has that text instead, and no value
+    Flag,     ///< one bit, "yes" or "no"
+    Choice,   ///< one of `choices`; any other raw value is told as reserved
+    Text,     ///< `length` characters from the offset of its one part on, ended by a line feed and padded with blanks
+    Bytes,    ///< `length` bytes from there on, without a meaning of their own
+    Reserved, ///< the same, or the bits of the parts, that the standard wants to be 0
+};
+
+/// One field of a structure.
+struct Row {
+    std::string_view name; ///< last part of its path
+    std::string_view label;
+    Parts parts;
+    Kind kind = Kind::Number;
+    std::string_view unit = {};
+    double scale = 1;
+    double bias = 0;
+    int decimals = 0; ///< of a number's text; where there are none, the value is a whole number
+    std::span<const Choice> choices = {};
+    std::size_t length = 1; ///< bytes of a Text, of Bytes, of whole reserved bytes
+    std::string_view clause = {};
+    /// Sets value and text itself where the kinds above do not tell enough; gets the raw value.
+    void (*read)(const Scope& scope, std::uint64_t raw, Field& field) = nullptr;
+};
+
+/// Writes the fields of one structure of the image, in a table or one by one. Paths are put behind the structure's own.
+class Scope {
+public:
+    /// `clause` is that of rows and findings that name none.
+    Scope(Reading& reading, std::size_t start, std::string path, std::string_view clause)
+        : reading_(&reading), start_(start), path_(std::move(path)), clause_(clause) {}
+
+    /// A structure inside this one. `name` is "vendor", or "[3]" for a place in a list.
+    Scope inner(std::size_t offset, std::string_view name, std::string_view clause = {}) const;
+
+    /// Number in the image of a byte of the structure.
+    std::size_t place(std::size_t offset) const { return start_ + offset; }
+    std::size_t block() const { return start_ / Image::blockSize; }
+    const std::string& path() const { return path_; }
+    std::uint8_t byte(std::size_t offset) const { return reading_->image.byte(start_ + offset); }
+    /// Two bytes, the least significant first.
+    unsigned word(std::size_t offset) const { return byte(offset) | static_cast<unsigned>(byte(offset + 1)) << 8U; }
+    std::span<const std::uint8_t> bytes(std::size_t offset, std::size_t count) const {
+        return reading_->image.bytes().subspan(start_ + offset, count);
+    }
+    std::uint64_t raw(const Parts& parts) const;
+
+    /// Adds a field for every row. Rows whose bytes reach past `end` (an offset) are left out.
+    void add(std::span<const Row> rows, std::size_t end = Image::blockSize) const;
+    /// Adds one; it may be changed until the next is added.
+    Field& add(const Row& row) const;
+    /// Bytes from `offset` up to `end` as one field; none where there are none.
+    void addBytes(std::size_t offset, std::size_t end, std::string_view name, std::string_view label,
+                  Kind kind = Kind::Bytes) const;
+
+    /// A finding about the byte at `offset`, and about the field `name` of this structure (empty: about none).
+    void tell(Severity severity, std::string_view code, std::size_t offset, std::string_view name, std::string text,
+              std::string_view clause = {}) const;
+
+    Reading& reading() const { return *reading_; }
+    Summary& summary() const { return reading_->summary; }
+
+private:
+    std::string pathOf(std::string_view name) const;
+
+    Reading* reading_;
+    std::size_t start_;
+    std::string path_;
+    std::string_view clause_;
+};
+
+/// A number with as many decimals as are asked for.
+std::string decimalText(double value, int decimals);
+/// "number unit".
+std::string withUnit(std::string number, std::string_view unit);
+
+} // namespace wb::fields
