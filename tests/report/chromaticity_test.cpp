@@ -1,6 +1,7 @@
 #include "report/chromaticity.h"
 
 #include "block0_fixture.h"
+#include "core/base/text.h"
 
 namespace wb::report {
 namespace {
@@ -39,6 +40,22 @@ TEST_F(Chromaticity, EachCoordinateHasItsBits) {
     }
     EXPECT_EQ(workbench.ChromaText1, "Red X - 0.034 Green X - 0.095 Blue X - 0.156 White X - 0.221");
     EXPECT_EQ(workbench.ChromaText2, "Red Y - 0.064 Green Y - 0.125 Blue Y - 0.188 White Y - 0.253");
+}
+
+TEST_F(Chromaticity, EachLowBitCounts) {
+    const Lines digits = {"0.000", "0.001", "0.002", "0.003"}; // 1/1024 = 0.00098 and so on
+    for (int k = 0; k <= 7; ++k) {
+        for (int low = 1; low <= 3; ++low) {
+            SCOPED_TRACE(std::to_string(low) + " of coordinate " + std::to_string(k));
+            set(25, {"00", "00"});
+            set(25 + k / 4, {ByteToHex2(low << (6 - 2 * (k % 4)))});
+            ConvertChromaticity(workbench);
+            for (int other = 0; other <= 7; ++other) {
+                const std::string& caption = screen.chkChroma(other).caption();
+                EXPECT_EQ(caption.substr(caption.size() - 5), digits[other == k ? static_cast<std::size_t>(low) : 0]);
+            }
+        }
+    }
 }
 
 TEST_F(Chromaticity, AHalfIsRoundedAwayFromZero) {

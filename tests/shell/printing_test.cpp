@@ -97,6 +97,7 @@ TEST_F(Printing, GoesOnWithTheCalculatorActive) {
     ASSERT_EQ(workbench.windows.activeChild(), &workbench.frmHexCalculator());
     print();
     EXPECT_EQ(printed().size(), 1U);
+    EXPECT_EQ(workbench.windows.activeChild(), &workbench.frmEDID()) << "a report that is built unseen raises it";
     EXPECT_TRUE(program.takeBoxes().empty());
 }
 
