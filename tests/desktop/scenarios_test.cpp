@@ -10,21 +10,20 @@
 namespace wb::test {
 namespace {
 
-std::string traceOf(const Scenario& scenario) {
+testing::AssertionResult leavesItsTraceOnWidgets(const Scenario& scenario) {
     const ScenarioFolder folder;
     DesktopProgram program(false);
     WidgetFrontEnd user(program);
     std::string trace;
     script::Driver driver(
         {program.workbench, program.platform, user, [&](const std::string& line) { trace += line + '\n'; }});
-    play(scenario, driver);
-    return trace;
+    return leavesItsTrace(scenario, driver, trace);
 }
 
 class ScenariosOnWidgets : public testing::TestWithParam<Scenario> {};
 
 TEST_P(ScenariosOnWidgets, LeaveTheSameTraceAsWithoutAView) {
-    EXPECT_EQ(traceOf(GetParam()), TemporaryFolder::read(GetParam().expected.string()));
+    EXPECT_TRUE(leavesItsTraceOnWidgets(GetParam()));
 }
 
 TEST(ScenariosUnderACommaLocale, LeaveTheSameTrace) {
@@ -34,7 +33,7 @@ TEST(ScenariosUnderACommaLocale, LeaveTheSameTrace) {
     ASSERT_NE(std::setlocale(LC_ALL, GermanLocale::name), nullptr);
     for (const Scenario& scenario : scenarios()) {
         if (scenario.name.starts_with("report-")) {
-            EXPECT_EQ(traceOf(scenario), TemporaryFolder::read(scenario.expected.string())) << scenario.name;
+            EXPECT_TRUE(leavesItsTraceOnWidgets(scenario));
         }
     }
     std::setlocale(LC_ALL, "C");

@@ -4,13 +4,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "script/driver.h"
-#include "script/script_error.h"
 #include "support/temporary_folder.h"
 
 /// The scenarios: scripts of whole sessions and the trace that each must leave, through whatever front end.
@@ -47,15 +45,9 @@ inline std::string scenarioTestName(const testing::TestParamInfo<Scenario>& info
     return name;
 }
 
-/// Runs the script; a mistake in it fails the test.
-inline void play(const Scenario& scenario, script::Driver& driver) {
-    std::ifstream script(scenario.script, std::ios::binary);
-    try {
-        driver.run(script);
-    } catch (const script::ScriptError& error) {
-        ADD_FAILURE() << scenario.script.string() << ':' << error.line() << ": " << error.what();
-    }
-}
+/// Runs the script of a scenario and compares `trace`, where the driver prints, with what is expected. A trace that
+/// differs is told by the first line that does and the command that printed it, and kept as a file of the build folder.
+testing::AssertionResult leavesItsTrace(const Scenario& scenario, script::Driver& driver, const std::string& trace);
 
 /// The folder in which a scenario runs, its working folder while the object lives: new, with copies of the shared input
 /// files and, in `samples`, of the samples.
