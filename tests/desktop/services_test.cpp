@@ -183,6 +183,21 @@ TEST_F(Arranger, LinesUpMinimisedWindowsAtTheBottom) {
     EXPECT_FALSE(windows[0]->geometry().intersects(windows[1]->geometry()));
 }
 
+TEST_F(Arranger, BeginsANewRowOfIconsWhereThereIsNoRoom) {
+    windows[2]->show();
+    for (QMdiSubWindow* window : windows) {
+        window->showMinimized();
+    }
+    area.resize(windows[0]->width() * 5 / 2, 400);
+    arranger.arrange(platform::Arrangement::ArrangeIcons);
+    for (const QMdiSubWindow* window : windows) {
+        EXPECT_TRUE(whole().contains(window->geometry()));
+        for (const QMdiSubWindow* other : windows) {
+            EXPECT_EQ(window == other, window->geometry().intersects(other->geometry()));
+        }
+    }
+}
+
 TEST_F(Arranger, DoesNothingWithoutAFrame) {
     arranger.area = [] { return static_cast<QMdiArea*>(nullptr); };
     const QRect before = windows[0]->geometry();

@@ -40,7 +40,10 @@ private:
     void eventLoopStarts() override;
     ModelGate& gate() override { return gate_; }
     void focusArrived(ControlView& view, Qt::FocusReason reason) override { focus_.focusArrived(view, reason); }
-    void activationArrived(ScreenView& view) override { focus_.activationArrived(view); }
+    void activationArrived(ScreenView& view, Qt::FocusReason reason) override {
+        focus_.activationArrived(view, reason);
+    }
+    void windowsSettled() override { focus_.alignSoon(); }
 
     void showChanges();
     void dropGone();

@@ -18,15 +18,19 @@ public:
     FocusKeeper(Workbench& workbench, ModelGate& gate, Find find);
 
     void focusArrived(ControlView& view, Qt::FocusReason reason);
-    void activationArrived(ScreenView& view);
+    void activationArrived(ScreenView& view, Qt::FocusReason reason);
     /// Carries out a move that waits.
     void settle();
     /// Gives Qt's focus to the widget of the control that has it in the model, or takes it from all.
     void align();
-    /// The same after the model has moved the focus, which restores a minimised window around it.
+    /// The same when the events at hand are through.
+    void alignSoon() { queue(&FocusKeeper::align); }
+    /// The same after the model has moved the focus, which restores a minimised window around it unless the user has
+    /// pressed just that.
     void follow();
 
 private:
+    void focusChanged(QWidget* from, QWidget* to);
     bool moveWaits() const { return !control_.isNull() || !screen_.isNull(); }
     QWidget* target() const;
     void queue(void (FocusKeeper::*step)());
@@ -37,6 +41,9 @@ private:
     // The move that waits: the latest one wins.
     QPointer<ControlView> control_;
     QPointer<ScreenView> screen_;
+    bool pressed_ = false;     ///< of the screen: by the mouse
+    bool keepsIcons_ = false;  ///< no window is to be restored
+    QPointer<QWidget> holder_; ///< what had Qt's focus when it was last told of a change
 };
 
 } // namespace wb::desktop

@@ -30,10 +30,17 @@ void tile(const QMdiArea& area, bool horizontal) {
     }
 }
 
+/// Rows from the lower left corner, each above the last.
 void lineUpIcons(const QMdiArea& area) {
+    const QSize room = area.viewport()->size();
     int left = 0;
+    int bottom = room.height();
     for (QMdiSubWindow* window : shownWindows(area, true)) {
-        window->move(left, area.viewport()->height() - window->height());
+        if (left > 0 && left + window->width() > room.width()) {
+            left = 0;
+            bottom -= window->height();
+        }
+        window->move(left, bottom - window->height());
         left += window->width();
     }
 }

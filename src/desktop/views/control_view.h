@@ -21,10 +21,12 @@ public:
     virtual ModelGate& gate() = 0;
     /// Qt has given its focus to the widget of that view.
     virtual void focusArrived(ControlView& view, Qt::FocusReason reason) = 0;
-    /// Qt has made the window of that view the active child.
-    virtual void activationArrived(ScreenView& view) = 0;
+    /// Qt has made the window of that view the active child, or the user has pressed its title bar with the mouse.
+    virtual void activationArrived(ScreenView& view, Qt::FocusReason reason) = 0;
     /// Carries out a focus move that has been reported and still waits, so that what follows finds it done.
     virtual void settleFocus() = 0;
+    /// Qt has shown, hidden or resized windows by itself: its focus is to go where the model has it, once that is done.
+    virtual void windowsSettled() = 0;
 };
 
 /// The widget of one control. It shows the control's properties and turns what the user does into calls of the model;

@@ -68,6 +68,7 @@ ChildView::ChildView(Screen& screen, UserActions& actions, QMdiArea& area)
     fitting_ = window_->sizeHint();
     window_->resize(fitting_); // the area scrolls where that is too large
     window_->hide();
+    QObject::connect(window_, &QMdiSubWindow::windowStateChanged, this, [this] { this->actions().windowsSettled(); });
     auto* shortcut = new QShortcut(QKeySequence(Qt::Key_F6), window_);
     QObject::connect(shortcut, &QShortcut::activated, this, [this] { changeSide(); });
 }
@@ -95,7 +96,7 @@ void ChildView::activate() {
     // Qt tells a change of the active child only; the focus may be on a button of the frame.
     const Control* holder = screen() != nullptr ? screen()->workbench().focus.current() : nullptr;
     if (screen() != nullptr && (holder == nullptr || &holder->screen() != screen())) {
-        actions().activationArrived(*this);
+        actions().activationArrived(*this, Qt::MouseFocusReason);
     }
 }
 

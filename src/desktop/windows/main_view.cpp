@@ -28,6 +28,7 @@
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/flow_layout.h"
 #include "desktop/windows/screen_page.h"
+#include "desktop/windows/visibility.h"
 
 namespace wb::desktop {
 
@@ -157,7 +158,7 @@ void MainView::makeArea(QVBoxLayout& column) {
         auto* child = dynamic_cast<ChildWindow*>(window);
         // Qt tells it again when the frame itself becomes active.
         if (child != nullptr && child->view().screen() != activeChild()) {
-            actions().activationArrived(child->view());
+            actions().activationArrived(child->view(), Qt::ActiveWindowFocusReason);
         }
     });
 }
@@ -235,7 +236,10 @@ void MainView::listChildren(const std::vector<ScreenView*>& children) {
         entry->setChecked(child == children.front());
         QObject::connect(entry, &QAction::triggered, child, [child, entry] {
             entry->setChecked(!entry->isChecked()); // the model decides
-            child->act([](Screen& screen) { input::activate(screen); });
+            child->act([child](Screen& screen) {
+                restoreWindowOf(child->window()); // the model knows no icons
+                input::activate(screen);
+            });
         });
         childEntries_.push_back(entry);
     }

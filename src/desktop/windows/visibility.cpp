@@ -37,12 +37,17 @@ void bringIntoSight(QWidget& widget) {
     }
 }
 
+QMdiSubWindow* minimisedWindowOf(QWidget& widget) {
+    QWidget* outer = &widget;
+    while (outer != nullptr && qobject_cast<QMdiSubWindow*>(outer) == nullptr) {
+        outer = outer->parentWidget();
+    }
+    return outer != nullptr && outer->isMinimized() ? static_cast<QMdiSubWindow*>(outer) : nullptr;
+}
+
 void restoreWindowOf(QWidget& widget) {
-    for (QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget()) {
-        auto* window = qobject_cast<QMdiSubWindow*>(outer);
-        if (window != nullptr && window->isMinimized()) {
-            window->showNormal();
-        }
+    if (QMdiSubWindow* window = minimisedWindowOf(widget)) {
+        window->showNormal();
     }
 }
 
