@@ -131,6 +131,44 @@ TEST_F(Keyboard, UndoesTyping) {
     EXPECT_EQ(box(edid().txtModel).text(), "a");
 }
 
+TEST_F(Keyboard, UndoesNothingThatEnterHasCommitted) {
+    focus(edid().txtEdit(8));
+    focus(edid().VendorInfo);
+    type("AB");
+    type("C");
+    press(Qt::Key_Return);
+    const std::string committed = edid().VendorInfo.text();
+    ASSERT_EQ(edid().txtEdit(8).text() + edid().txtEdit(9).text(), "0443") << "A, B and C in five bits each";
+    EXPECT_FALSE(box(edid().VendorInfo).isUndoAvailable());
+    press(Qt::Key_Z, Qt::ControlModifier, "\x1A");
+    EXPECT_EQ(edid().VendorInfo.text(), committed);
+    EXPECT_EQ(box(edid().VendorInfo).text().toStdString(), committed);
+}
+
+TEST_F(Keyboard, UndoesUpToTheLastEnter) {
+    focus(edid().txtEdit(21));
+    focus(edid().BasicInput);
+    type("50");
+    press(Qt::Key_Return);
+    const std::string committed = edid().BasicInput.text();
+    press(Qt::Key_End);
+    type("7");
+    ASSERT_EQ(edid().BasicInput.text(), committed + "7");
+    press(Qt::Key_Z, Qt::ControlModifier, "\x1A");
+    press(Qt::Key_Z, Qt::ControlModifier, "\x1A");
+    EXPECT_EQ(edid().BasicInput.text(), committed);
+}
+
+TEST_F(Keyboard, LeavesTheCursorWhereItIsOnEnter) {
+    focus(edid().txtModel);
+    type("abc");
+    press(Qt::Key_Left);
+    press(Qt::Key_Return);
+    EXPECT_EQ(box(edid().txtModel).cursorPosition(), 2);
+    type("x");
+    EXPECT_EQ(edid().txtModel.text(), "abxc");
+}
+
 TEST_F(Keyboard, TakesWhatAnInputMethodCommits) {
     focus(edid().txtEdit(23));
     QInputMethodEvent event;

@@ -82,6 +82,8 @@ void TextView::refresh() {
         }
     }
     box_->setReadOnly(model.locked());
+    // A drop is no way to type: a cell keeps what its keys let through.
+    box_->setAcceptDrops(place().look != Look::Cell && !model.locked());
     if (box_->hasFocus()) {
         refreshSelection(); // elsewhere it is not drawn
     }
@@ -159,6 +161,16 @@ void TextView::type(const QKeyEvent& event, char character) {
     keepHistory_ = false;
 }
 
+void TextView::enter(const QKeyEvent& event) {
+    typeInto(event);
+    // What Enter has written into the cells is not to be taken back in the box alone.
+    const QSignalBlocker quiet(box_);
+    box_->setText(box_->text()); // ends the history
+    if (control() != nullptr) {
+        refreshSelection();
+    }
+}
+
 bool TextView::moveVertically(int rows) {
     if (place().look != Look::Cell || control() == nullptr) {
         return false;
@@ -173,7 +185,7 @@ bool TextView::moveVertically(int rows) {
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
     if (isEnter(*event)) {
-        view_.typeInto(*event);
+        view_.enter(*event);
         return;
     }
     if (types(*event)) {

@@ -44,6 +44,7 @@ private:
     void shape();
     void refreshSelection();
     void type(const QKeyEvent& event, char character);
+    void enter(const QKeyEvent& event);
     /// Runs what the widget does by itself, and tells the outcome with that key code (0: no key).
     template <class Editing>
     void editByWidget(Editing&& editing, int code, bool alwaysTell);
