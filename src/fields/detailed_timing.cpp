@@ -88,31 +88,19 @@ std::span<const Row> syncRowsOf(SyncKind kind) {
     return analogRows;
 }
 
-/// The numbers of a timing that the checks and the summary need; lengths in pixels and lines of a field.
-struct Timing {
-    std::int64_t clockKilohertz;
-    int hActive;
-    int hBlank;
-    int vActive;
-    int vBlank;
-    int hSyncEnd; ///< front porch and sync, the part of the blanking that they take
-    int vSyncEnd;
-    bool interlaced;
-};
-
-Timing timingOf(const Scope& scope) {
-    const auto number = [&](const Parts& parts) { return static_cast<int>(scope.raw(parts)); };
-    return {.clockKilohertz = static_cast<std::int64_t>(scope.word(0)) * 10,
-            .hActive = number({{4, 7, 4}, {2}}),
-            .hBlank = number({{4, 3, 0}, {3}}),
-            .vActive = number({{7, 7, 4}, {5}}),
-            .vBlank = number({{7, 3, 0}, {6}}),
-            .hSyncEnd = number({{11, 7, 6}, {8}}) + number({{11, 5, 4}, {9}}),
-            .vSyncEnd = number({{11, 3, 2}, {10, 7, 4}}) + number({{11, 1, 0}, {10, 3, 0}}),
-            .interlaced = (scope.byte(17) & interlacedBit) != 0};
+/// Rates that no monitor has; what makes them is a wrong clock or a wrong total.
+void checkRate(const Scope& scope, const DetailedTiming& timing) {
+    constexpr double lowest = 10;
+    constexpr double highest = 1000;
+    const std::optional<double> rate = verticalHertz(timing);
+    if (rate && (*rate < lowest || *rate > highest)) {
+        scope.tell(Severity::Warning, "timing.rate", 0, "pixel_clock",
+                   "The timing has " + decimalText(*rate, 2) +
+                       " pictures a second, which no monitor shows; correct its pixel clock or its lengths.");
+    }
 }
 
-void checkTiming(const Scope& scope, const Timing& timing) {
+void checkTiming(const Scope& scope, const DetailedTiming& timing) {
     if (timing.hActive == 0 || timing.vActive == 0) {
         scope.tell(
             Severity::Error, "timing.nothing_active", timing.hActive == 0 ? 2 : 5,
@@ -133,32 +121,59 @@ void checkTiming(const Scope& scope, const Timing& timing) {
                        std::to_string(timing.vBlank) +
                        " blanking lines, so that the sync pulse would reach into the picture; lengthen the blanking.");
     }
+    checkRate(scope, timing);
 }
 
-Mode modeOf(const Timing& timing, bool native) {
+/// Lines of a whole picture: an interlaced one has one more than its two fields together tell, half of it in each.
+int linesOf(const DetailedTiming& timing) {
+    const int lines = timing.vActive + timing.vBlank;
+    return timing.interlaced ? 2 * lines + 1 : lines;
+}
+
+Mode modeOf(const DetailedTiming& timing, bool native) {
     Mode mode{.source = ModeSource::Detailed, .native = native};
-    const int hTotal = timing.hActive + timing.hBlank;
-    const int fieldTotal = timing.vActive + timing.vBlank;
-    const int fields = timing.interlaced ? 2 : 1;
     mode.width = timing.hActive;
-    mode.height = timing.vActive * fields;
+    mode.height = timing.vActive * (timing.interlaced ? 2 : 1);
     mode.interlaced = timing.interlaced;
     mode.pixelClockKilohertz = timing.clockKilohertz;
-    mode.horizontalTotal = hTotal;
-    // An interlaced picture has half a line more than its two fields together tell.
-    mode.verticalTotal = fieldTotal * fields + (timing.interlaced ? 1 : 0);
-    const double pixels = static_cast<double>(hTotal) * *mode.verticalTotal / fields;
-    if (pixels > 0) {
-        mode.refreshMilliHertz = std::llround(static_cast<double>(timing.clockKilohertz) * 1e6 / pixels);
+    mode.horizontalTotal = timing.hActive + timing.hBlank;
+    mode.verticalTotal = linesOf(timing);
+    if (const std::optional<double> rate = verticalHertz(timing)) {
+        mode.refreshMilliHertz = std::llround(*rate * 1000);
     }
     return mode;
 }
 
 } // namespace
 
+DetailedTiming detailedTimingOf(const Scope& scope) {
+    const auto number = [&](const Parts& parts) { return static_cast<int>(scope.raw(parts)); };
+    return {.clockKilohertz = std::int64_t{scope.word(0)} * 10,
+            .hActive = number({{4, 7, 4}, {2}}),
+            .hBlank = number({{4, 3, 0}, {3}}),
+            .vActive = number({{7, 7, 4}, {5}}),
+            .vBlank = number({{7, 3, 0}, {6}}),
+            .hSyncEnd = number({{11, 7, 6}, {8}}) + number({{11, 5, 4}, {9}}),
+            .vSyncEnd = number({{11, 3, 2}, {10, 7, 4}}) + number({{11, 1, 0}, {10, 3, 0}}),
+            .widthMillimetres = number({{14, 7, 4}, {12}}),
+            .heightMillimetres = number({{14, 3, 0}, {13}}),
+            .interlaced = (scope.byte(17) & interlacedBit) != 0};
+}
+
+std::optional<double> horizontalKilohertz(const DetailedTiming& timing) {
+    const int pixels = timing.hActive + timing.hBlank;
+    return pixels > 0 ? std::optional(static_cast<double>(timing.clockKilohertz) / pixels) : std::nullopt;
+}
+
+std::optional<double> verticalHertz(const DetailedTiming& timing) {
+    const std::optional<double> lineRate = horizontalKilohertz(timing);
+    const int lines = linesOf(timing);
+    return lineRate && lines > 0 ? std::optional(*lineRate * 1000 * (timing.interlaced ? 2 : 1) / lines) : std::nullopt;
+}
+
 void readDetailedTiming(const Scope& scope, bool native) {
     scope.add(timingRows);
-    const Timing timing = timingOf(scope);
+    const DetailedTiming timing = detailedTimingOf(scope);
     scope.add(syncKindRow);
     scope.add(syncRowsOf(static_cast<SyncKind>(scope.raw(syncKindRow.parts))));
     checkTiming(scope, timing);

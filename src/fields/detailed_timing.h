@@ -1,11 +1,34 @@
 #pragma once
 
+#include <optional>
+
 #include "fields/scope.h"
 
 namespace wb::fields {
 
 /// Bytes of a detailed timing descriptor.
 inline constexpr std::size_t detailedTimingSize = 18;
+
+/// The numbers of a detailed timing that checks and modes need; lengths in pixels and lines of a field.
+struct DetailedTiming {
+    std::int64_t clockKilohertz;
+    int hActive;
+    int hBlank;
+    int vActive;
+    int vBlank;
+    int hSyncEnd; ///< front porch and sync, the part of the blanking that they take
+    int vSyncEnd;
+    int widthMillimetres;
+    int heightMillimetres;
+    bool interlaced;
+};
+
+/// The timing that `scope` begins with, which may be nonsense.
+DetailedTiming detailedTimingOf(const Scope& scope);
+
+/// Fields a second, and lines a second in kilohertz; nothing where the timing has no pixels.
+std::optional<double> verticalHertz(const DetailedTiming& timing);
+std::optional<double> horizontalKilohertz(const DetailedTiming& timing);
 
 /// The fields of a detailed timing descriptor, which `scope` begins with; its mode goes into the summary. The same 18
 /// bytes stand in block 0, in CTA-861 extensions and elsewhere.

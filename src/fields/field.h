@@ -43,6 +43,8 @@ struct Field {
     std::string_view label; ///< in words
     Where where{};
     Value value{};
+    double scale = 1; ///< of a number: value = raw bits * scale + bias
+    double bias = 0;
     std::string_view unit;   ///< "px", "mm", "cm", "Hz", "kHz", "MHz", "ms", "bit", "%", or empty
     std::string text{};      ///< one line for people, in UTF-8
     std::string_view clause; ///< of the standard that says so

@@ -31,7 +31,7 @@ void listBlocks(Reading& reading) {
 void tellOfBlocks(Reading& reading) {
     const std::size_t there = reading.image.blockCount() - 1;
     const std::size_t announced = reading.image.announcedExtensions();
-    const Scope base(reading, 0, "base", "E-EDID 1.4, 3.12");
+    const Scope base(reading, 0, "base", "E-EDID 1.4, 3.11");
     if (there < announced) {
         base.tell(Severity::Error, "image.blocks_missing", 126, "extension_count",
                   "Byte 126 announces " + std::to_string(announced) + " extension blocks and " + std::to_string(there) +
@@ -48,7 +48,7 @@ void tellOfBlocks(Reading& reading) {
     }
     for (const BlockInfo& block : reading.blocks) {
         if (block.sum == Sum::Wrong) {
-            const Scope scope(reading, block.index * Image::blockSize, "", "E-EDID 1.4, 3.13");
+            const Scope scope(reading, block.index * Image::blockSize, "", "E-EDID 1.4, 3.11");
             scope.tell(Severity::Error, "block.checksum", 127, "",
                        "The bytes of block " + std::to_string(block.index) +
                            " do not sum up to 0, so that careful readers refuse it; correct its last byte if the rest "

@@ -16,18 +16,28 @@ std::uint64_t maskOf(int bits) {
     return (std::uint64_t{1} << static_cast<unsigned>(bits)) - 1;
 }
 
-std::string_view choiceOf(std::span<const Choice> choices, std::uint64_t raw) {
-    const auto found =
-        std::find_if(choices.begin(), choices.end(), [&](const Choice& choice) { return choice.raw == raw; });
-    return found == choices.end() ? std::string_view() : found->text;
+int bitsOf(const Row& row) {
+    int bits = 0;
+    for (const Part& part : row.parts) {
+        bits += part.high - part.low + 1;
+    }
+    return bits;
+}
+
+double plainNumber(const Row& row, std::uint64_t raw) {
+    const auto modulus = static_cast<double>(maskOf(bitsOf(row))) + 1;
+    const auto number = static_cast<double>(raw);
+    return row.kind == Kind::Signed && number >= modulus / 2 ? number - modulus : number;
 }
 
 void readNumber(const Row& row, std::uint64_t raw, Field& field) {
-    if (const std::string_view words = choiceOf(row.choices, raw); !words.empty()) {
+    if (const std::string_view words = choiceText(row.choices, raw); !words.empty()) {
         field.text = words;
         return;
     }
-    const double number = static_cast<double>(raw) * row.scale + row.bias;
+    field.scale = row.scale;
+    field.bias = row.bias;
+    const double number = plainNumber(row, raw) * row.scale + row.bias;
     if (row.decimals == 0) {
         field.value = static_cast<std::int64_t>(std::llround(number));
     } else {
@@ -38,23 +48,43 @@ void readNumber(const Row& row, std::uint64_t raw, Field& field) {
 }
 
 void readChoice(const Row& row, std::uint64_t raw, Field& field) {
-    const std::string_view words = choiceOf(row.choices, raw);
+    const std::string_view words = choiceText(row.choices, raw);
     field.text = words.empty() ? "reserved (" + std::to_string(raw) + ")" : std::string(words);
     field.value = field.text;
 }
 
 /// A descriptor's text ends at a line feed; blanks fill what follows it. One without the end mark may lose its padding.
-std::string textOf(std::span<const std::uint8_t> bytes) {
+std::string charactersOf(std::span<const std::uint8_t> bytes) {
     const auto end = std::find(bytes.begin(), bytes.end(), lineFeed);
     std::string text(bytes.begin(), end);
-    text.erase(text.find_last_not_of(std::string(" \0", 2)) + 1);
-    return codePageToUtf8(text);
+    text.erase(text.find_last_not_of(std::string_view(" \0", 2)) + 1);
+    return text;
 }
 
+/// Of the characters of Latin-1 and ASCII, those that are no signs.
+bool isControl(char16_t character) {
+    return character < u' ' || (character >= u'\x7F' && character < u'\xA0');
+}
+
+constexpr std::string_view hexDigits = "0123456789ABCDEF";
+
 void appendHex(std::string& text, unsigned byte) {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    text += digits[byte >> 4U];
-    text += digits[byte & 15U];
+    text += hexDigits[byte >> 4U];
+    text += hexDigits[byte & 15U];
+}
+
+/// A text of 8-bit characters in UTF-8 without control characters, which stand as "\x0D".
+std::string printable(std::string_view characters) {
+    std::string text;
+    for (const char character : characters) {
+        if (isControl(codePageToUnicode(character))) {
+            text += "\\x";
+            appendHex(text, static_cast<unsigned char>(character));
+        } else {
+            text += codePageToUtf8({&character, 1});
+        }
+    }
+    return text;
 }
 
 std::string hexOf(std::span<const std::uint8_t> bytes) {
@@ -68,16 +98,13 @@ std::string hexOf(std::span<const std::uint8_t> bytes) {
     return text;
 }
 
-std::string hexNumber(std::uint64_t number, int bits) {
-    std::string text;
-    for (int digit = (bits + 3) / 4 - 1; digit >= 0; --digit) {
-        text += "0123456789ABCDEF"[number >> static_cast<unsigned>(4 * digit) & 15U];
-    }
-    return text;
-}
-
 bool isRun(const Field& field) {
     return field.where.front().count > 1;
+}
+
+void readText(const std::string& characters, Field& field) {
+    field.value = codePageToUtf8(characters);
+    field.text = printable(characters);
 }
 
 /// The value of the bits of a field, and how many they are.
@@ -145,6 +172,7 @@ Field& Scope::add(const Row& row) const {
     const std::uint64_t bits = row.length == 1 ? raw(row.parts) : 0;
     switch (row.kind) {
         case Kind::Number:
+        case Kind::Signed:
             readNumber(row, bits, field);
             break;
         case Kind::Flag:
@@ -155,8 +183,7 @@ Field& Scope::add(const Row& row) const {
             readChoice(row, bits, field);
             break;
         case Kind::Text:
-            field.text = textOf(bytes(offset, row.length));
-            field.value = field.text;
+            readText(charactersOf(bytes(offset, row.length)), field);
             break;
         case Kind::Bytes:
         case Kind::Reserved:
@@ -165,6 +192,11 @@ Field& Scope::add(const Row& row) const {
     }
     if (row.read != nullptr) {
         row.read(*this, bits, field);
+    }
+    if (row.kind == Kind::Reserved) {
+        checkReserved(row);
+    } else if (row.kind == Kind::Choice && choiceText(row.choices, bits).empty()) {
+        tellReservedValue(row);
     }
     reading_->fields.push_back(std::move(field));
     return reading_->fields.back();
@@ -183,6 +215,32 @@ void Scope::tell(Severity severity, std::string_view code, std::size_t offset, s
                                   std::move(text), clause.empty() ? clause_ : clause});
 }
 
+void Scope::tellReservedValue(const Row& row) const {
+    tell(Severity::Warning, "field.reserved_value", row.parts.begin()->offset, row.name,
+         "The value " + std::to_string(raw(row.parts)) + " of \"" + std::string(row.label) +
+             "\" has no meaning in any standard, so that software guesses or passes over it; choose one that has.",
+         row.clause);
+}
+
+void Scope::checkReserved(const Row& row) const {
+    const std::size_t offset = row.parts.begin()->offset;
+    const auto run = bytes(offset, row.length);
+    const bool isSet = row.length == 1 ? raw(row.parts) != 0
+                                       : std::any_of(run.begin(), run.end(), [](unsigned byte) { return byte != 0; });
+    if (isSet) {
+        tell(Severity::Warning, "field.reserved_bits", offset, row.name,
+             "Bits are set that are reserved, to which later standards may give a meaning that is not meant here; set "
+             "them to 0.",
+             row.clause);
+    }
+}
+
+std::string_view choiceText(std::span<const Choice> choices, std::uint64_t raw) {
+    const auto found =
+        std::find_if(choices.begin(), choices.end(), [&](const Choice& choice) { return choice.raw == raw; });
+    return found == choices.end() ? std::string_view() : found->text;
+}
+
 std::string rawText(const Image& image, const Field& field) {
     if (isRun(field)) {
         const BitRange& run = field.where.front();
@@ -194,6 +252,14 @@ std::string rawText(const Image& image, const Field& field) {
     }
     const auto [value, bits] = bitsOf(image.bytes(), field.where);
     return hexNumber(value, bits);
+}
+
+std::string hexNumber(std::uint64_t number, int bits) {
+    std::string text;
+    for (int digit = (bits + 3) / 4 - 1; digit >= 0; --digit) {
+        text += hexDigits[number >> static_cast<unsigned>(4 * digit) & 15U];
+    }
+    return text;
 }
 
 std::string decimalText(double value, int decimals) {

@@ -42,11 +42,12 @@ struct Choice {
 
 enum class Kind {
     Number,   ///< raw * scale + bias; a raw value that `choices` names has that text instead, and no value
+    Signed,   ///< the same, the raw value in two's complement
     Flag,     ///< one bit, "yes" or "no"
-    Choice,   ///< one of `choices`; any other raw value is told as reserved
+    Choice,   ///< one of `choices`; any other raw value is reserved, which is told as a finding
     Text,     ///< `length` characters from the offset of its one part on, ended by a line feed and padded with blanks
     Bytes,    ///< `length` bytes from there on, without a meaning of their own
-    Reserved, ///< the same, or the bits of the parts, that the standard wants to be 0
+    Reserved, ///< the same, or the bits of the parts, that the standard wants to be 0; any other value is a finding
 };
 
 /// One field of a structure.
@@ -76,6 +77,9 @@ public:
     /// A structure inside this one. `name` is "vendor", or "[3]" for a place in a list.
     Scope inner(std::size_t offset, std::string_view name, std::string_view clause = {}) const;
 
+    /// The same structure by another clause.
+    Scope withClause(std::string_view clause) const { return {*reading_, start_, path_, clause}; }
+
     /// Number in the image of a byte of the structure.
     std::size_t place(std::size_t offset) const { return start_ + offset; }
     std::size_t block() const { return start_ / Image::blockSize; }
@@ -99,12 +103,15 @@ public:
     /// A finding about the byte at `offset`, and about the field `name` of this structure (empty: about none).
     void tell(Severity severity, std::string_view code, std::size_t offset, std::string_view name, std::string text,
               std::string_view clause = {}) const;
+    /// The finding that the raw value of a row is one to which no standard gave a meaning.
+    void tellReservedValue(const Row& row) const;
 
     Reading& reading() const { return *reading_; }
     Summary& summary() const { return reading_->summary; }
 
 private:
     std::string pathOf(std::string_view name) const;
+    void checkReserved(const Row& row) const;
 
     Reading* reading_;
     std::size_t start_;
@@ -112,6 +119,10 @@ private:
     std::string_view clause_;
 };
 
+/// The text of a raw value, empty where there is none.
+std::string_view choiceText(std::span<const Choice> choices, std::uint64_t raw);
+/// A number of that many bits in hexadecimal, in as many digits as they need.
+std::string hexNumber(std::uint64_t number, int bits);
 /// A number with as many decimals as are asked for.
 std::string decimalText(double value, int decimals);
 /// "number unit".

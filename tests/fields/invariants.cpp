@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <set>
 #include <vector>
 
@@ -27,6 +29,32 @@ void expectEachBitOnce(const Reading& reading) {
     }
 }
 
+/// Turns a number back into the bits that it was read from.
+void expectRoundTrip(const Reading& reading, const Field& field) {
+    double number = 0;
+    if (const auto* whole = std::get_if<std::int64_t>(&field.value)) {
+        number = static_cast<double>(*whole);
+    } else if (const auto* real = std::get_if<double>(&field.value)) {
+        number = *real;
+    } else {
+        return;
+    }
+    const std::string raw = rawText(reading.image, field);
+    unsigned bits = 0;
+    for (const BitRange& range : field.where) {
+        bits += (range.high - range.low + 1U) * static_cast<unsigned>(range.count);
+    }
+    ASSERT_LE(bits, 32U) << field.path;
+    const auto back = static_cast<std::int64_t>(std::llround((number - field.bias) / field.scale));
+    const std::int64_t mask = (std::int64_t{1} << bits) - 1;
+    EXPECT_EQ(back & mask, std::stoll(raw, nullptr, 16)) << field.path;
+    EXPECT_NEAR(static_cast<double>(back) * field.scale + field.bias, number, 1e-9) << field.path;
+}
+
+bool hasControlCharacter(const std::string& text) {
+    return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; });
+}
+
 std::size_t firstByte(const Field& field) {
     std::size_t first = field.where.front().byte;
     for (const BitRange& range : field.where) {
@@ -38,6 +66,7 @@ std::size_t firstByte(const Field& field) {
 } // namespace
 
 void expectInvariants(const Reading& reading) {
+    const std::size_t textValue = Value(std::string()).index();
     expectEachBitOnce(reading);
     std::set<std::string> paths;
     std::size_t last = 0;
@@ -47,12 +76,15 @@ void expectInvariants(const Reading& reading) {
         last = firstByte(field);
         EXPECT_FALSE(field.label.empty()) << field.path;
         EXPECT_FALSE(field.clause.empty()) << field.path;
-        EXPECT_EQ(field.text.find_first_of("\r\n"), std::string::npos) << field.path;
+        EXPECT_FALSE(field.text.empty() && field.value.index() != textValue) << field.path;
+        EXPECT_FALSE(hasControlCharacter(field.text)) << field.path;
+        expectRoundTrip(reading, field);
     }
     for (const Finding& finding : reading.findings) {
         EXPECT_LT(finding.byte, reading.image.bytes().size()) << finding.code;
         EXPECT_EQ(finding.block, finding.byte / Image::blockSize) << finding.code;
         EXPECT_FALSE(finding.text.empty()) << finding.code;
+        EXPECT_FALSE(hasControlCharacter(finding.text)) << finding.code;
         EXPECT_FALSE(finding.clause.empty()) << finding.code;
         EXPECT_TRUE(finding.path.empty() || paths.count(finding.path) != 0) << finding.code << ' ' << finding.path;
     }

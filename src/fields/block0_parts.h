@@ -1,0 +1,37 @@
+#pragma once
+
+#include "fields/scope.h"
+
+/// What block 0 is made of. Each function adds the fields of one structure, the findings that it alone tells and its
+/// part of the summary. `base` begins with block 0; `revision` is that of revisionOf.
+namespace wb::fields {
+
+inline constexpr std::size_t slotCount = 4;
+/// First byte of slot `number` (0 to 3), which holds a detailed timing or a descriptor.
+constexpr std::size_t slotStart(std::size_t number) {
+    return 54 + 18 * number;
+}
+
+/// Revision of version 1 by whose rules block 0 is read, 0 to 4. Later and unknown ones are read as 1.4.
+int revisionOf(const Image& image);
+/// Whether the video input is digital.
+bool isDigital(const Image& image);
+/// Whether slot `number` holds a detailed timing: it begins with a pixel clock.
+bool isTimingSlot(const Image& image, std::size_t number);
+/// The kind of the descriptor in slot `number`, or nothing where that holds a timing.
+std::optional<std::uint8_t> descriptorTag(const Image& image, std::size_t number);
+/// The scope of slot `number`: "detailed[1]" to "detailed[4]" for timings, "descriptor[1]" to "descriptor[4]" else.
+Scope slotScope(const Scope& base, std::size_t number);
+
+void readVendor(const Scope& base, int revision);
+void readBasicDisplay(const Scope& base, int revision);
+void readChromaticity(const Scope& base);
+void readEstablishedTimings(const Scope& base);
+void readStandardTimings(const Scope& base, int revision);
+
+/// Findings about what stands in more than one structure, and about what is missing.
+void checkBlock0(const Scope& base, int revision);
+/// Those about the four slots: their kinds and their order.
+void checkSlots(const Scope& base, int revision);
+
+} // namespace wb::fields

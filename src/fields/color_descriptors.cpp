@@ -1,0 +1,53 @@
+#include <array>
+
+#include "fields/descriptors.h"
+
+namespace wb::fields {
+
+namespace {
+
+constexpr std::array<Choice, 1> unusedPoint = {{{0, "unused"}}};
+constexpr std::array<Choice, 1> noGamma = {{{255, "not told"}}};
+
+/// VESA E-EDID Standard, Release A, section 3.10.3.5: two of these, 5 bytes each.
+constexpr std::array<Row, 5> whitePointRows = {{
+    {.name = "index", .label = "Number of the white point", .parts = {{0}}, .choices = unusedPoint},
+    {.name = "reserved", .label = "Reserved", .parts = {{1, 7, 4}}, .kind = Kind::Reserved},
+    {.name = "x", .label = "White x", .parts = {{2}, {1, 3, 2}}, .scale = 1.0 / 1024, .decimals = 4},
+    {.name = "y", .label = "White y", .parts = {{3}, {1, 1, 0}}, .scale = 1.0 / 1024, .decimals = 4},
+    {.name = "gamma", .label = "Gamma", .parts = {{4}}, .scale = 0.01, .bias = 1, .decimals = 2, .choices = noGamma},
+}};
+
+constexpr Row coefficient(std::string_view name, std::string_view label, std::size_t offset) {
+    return {.name = name,
+            .label = label,
+            .parts = {{offset + 1}, {offset}},
+            .kind = Kind::Signed,
+            .scale = 0.01,
+            .decimals = 2};
+}
+
+/// VESA E-EDID Standard, Release A, section 3.10.3.7, and the Display Color Management Standard.
+constexpr std::array<Row, 7> managementRows = {{
+    {.name = "version", .label = "Version of the data", .parts = {{5}}},
+    coefficient("red_a3", "Red a3", 6),
+    coefficient("red_a2", "Red a2", 8),
+    coefficient("green_a3", "Green a3", 10),
+    coefficient("green_a2", "Green a2", 12),
+    coefficient("blue_a3", "Blue a3", 14),
+    coefficient("blue_a2", "Blue a2", 16),
+}};
+
+} // namespace
+
+void readWhitePoints(const Scope& slot, int /*revision*/) {
+    slot.inner(5, "white_point[1]").add(whitePointRows);
+    slot.inner(10, "white_point[2]").add(whitePointRows);
+    slot.addBytes(15, 18, "padding", "Padding");
+}
+
+void readColorManagement(const Scope& slot, int /*revision*/) {
+    slot.inner(0, "color_management").add(managementRows);
+}
+
+} // namespace wb::fields

@@ -1,0 +1,242 @@
+#include <algorithm>
+#include <array>
+
+#include "fields/descriptors.h"
+
+namespace wb::fields {
+
+namespace {
+
+/// Byte 4 since 1.4: what is added to the rates, which are above 255 otherwise out of reach.
+constexpr std::array<Choice, 3> offsets = {{{0, "none"}, {2, "255 on the maximum"}, {3, "255 on both"}}};
+constexpr double rateOffset = 255;
+constexpr std::array<Row, 3> offsetRows = {{
+    {.name = "reserved", .label = "Reserved", .parts = {{4, 7, 4}}, .kind = Kind::Reserved},
+    {.name = "h_offset",
+     .label = "Offset of the horizontal rates",
+     .parts = {{4, 3, 2}},
+     .kind = Kind::Choice,
+     .choices = offsets},
+    {.name = "v_offset",
+     .label = "Offset of the vertical rates",
+     .parts = {{4, 1, 0}},
+     .kind = Kind::Choice,
+     .choices = offsets},
+}};
+
+constexpr Row minVerticalRow = {.name = "min_v_rate", .label = "Lowest vertical rate", .parts = {{5}}, .unit = "Hz"};
+constexpr Row maxVerticalRow = {.name = "max_v_rate", .label = "Highest vertical rate", .parts = {{6}}, .unit = "Hz"};
+constexpr Row minHorizontalRow = {
+    .name = "min_h_rate", .label = "Lowest horizontal rate", .parts = {{7}}, .unit = "kHz"};
+constexpr Row maxHorizontalRow = {
+    .name = "max_h_rate", .label = "Highest horizontal rate", .parts = {{8}}, .unit = "kHz"};
+constexpr double clockUnit = 10;
+constexpr std::array<Choice, 1> clockNotTold = {{{0, "not told"}}};
+constexpr Row clockRow = {.name = "max_pixel_clock",
+                          .label = "Highest pixel clock",
+                          .parts = {{9}},
+                          .unit = "MHz",
+                          .scale = clockUnit,
+                          .choices = clockNotTold};
+
+/// Byte 10.
+enum class Formula : std::uint8_t { DefaultGtf = 0, None = 1, SecondaryGtf = 2, Cvt = 4 };
+constexpr std::array<Choice, 4> formulas = {
+    {{0, "default GTF"}, {1, "range limits only"}, {2, "secondary GTF"}, {4, "CVT"}}};
+constexpr std::array<Choice, 2> oldFormulas = {{{0, "no secondary timing formula"}, {2, "secondary GTF"}}};
+constexpr Row formulaRow = {.name = "timing_support",
+                            .label = "Timing formula supported",
+                            .parts = {{10}},
+                            .kind = Kind::Choice,
+                            .choices = formulas};
+constexpr Row oldFormulaRow = {.name = "timing_support",
+                               .label = "Timing formula supported",
+                               .parts = {{10}},
+                               .kind = Kind::Choice,
+                               .choices = oldFormulas,
+                               .clause = "E-EDID 1.3, 3.10.3"};
+
+/// VESA E-EDID Standard, Release A, section 3.10.3.3.1.
+constexpr std::array<Row, 6> secondaryGtfRows = {{
+    {.name = "gtf_reserved", .label = "Reserved", .parts = {{11}}, .kind = Kind::Reserved},
+    {.name = "gtf_start", .label = "Start of the secondary curve", .parts = {{12}}, .unit = "kHz", .scale = 2},
+    {.name = "gtf_c", .label = "C of the secondary curve", .parts = {{13}}, .scale = 0.5, .decimals = 1},
+    {.name = "gtf_m", .label = "M of the secondary curve", .parts = {{15}, {14}}},
+    {.name = "gtf_k", .label = "K of the secondary curve", .parts = {{16}}},
+    {.name = "gtf_j", .label = "J of the secondary curve", .parts = {{17}}, .scale = 0.5, .decimals = 1},
+}};
+
+constexpr std::array<Choice, 5> aspects = {{{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "5:4"}, {4, "15:9"}}};
+constexpr std::array<Choice, 1> noLimit = {{{0, "no limit"}}};
+
+/// VESA E-EDID Standard, Release A, section 3.10.3.3.2.
+constexpr std::array<Row, 19> cvtRows = {{
+    {.name = "cvt_version", .label = "Version of CVT", .parts = {{11, 7, 4}}},
+    {.name = "cvt_revision", .label = "Revision of CVT", .parts = {{11, 3, 0}}},
+    {.name = "clock_less",
+     .label = "To be taken from the highest pixel clock",
+     .parts = {{12, 7, 2}},
+     .unit = "MHz",
+     .scale = 0.25,
+     .decimals = 2},
+    {.name = "max_h_active",
+     .label = "Most active pixels a line",
+     .parts = {{12, 1, 0}, {13}},
+     .unit = "px",
+     .scale = 8,
+     .choices = noLimit},
+    {.name = "aspect_4_3", .label = "4:3 supported", .parts = {{14, 7, 7}}, .kind = Kind::Flag},
+    {.name = "aspect_16_9", .label = "16:9 supported", .parts = {{14, 6, 6}}, .kind = Kind::Flag},
+    {.name = "aspect_16_10", .label = "16:10 supported", .parts = {{14, 5, 5}}, .kind = Kind::Flag},
+    {.name = "aspect_5_4", .label = "5:4 supported", .parts = {{14, 4, 4}}, .kind = Kind::Flag},
+    {.name = "aspect_15_9", .label = "15:9 supported", .parts = {{14, 3, 3}}, .kind = Kind::Flag},
+    {.name = "cvt_reserved_14", .label = "Reserved", .parts = {{14, 2, 0}}, .kind = Kind::Reserved},
+    {.name = "preferred_aspect",
+     .label = "Preferred aspect ratio",
+     .parts = {{15, 7, 5}},
+     .kind = Kind::Choice,
+     .choices = aspects},
+    {.name = "reduced_blanking", .label = "Reduced blanking supported", .parts = {{15, 4, 4}}, .kind = Kind::Flag},
+    {.name = "standard_blanking", .label = "Standard blanking supported", .parts = {{15, 3, 3}}, .kind = Kind::Flag},
+    {.name = "cvt_reserved_15", .label = "Reserved", .parts = {{15, 2, 0}}, .kind = Kind::Reserved},
+    {.name = "h_shrink", .label = "Horizontal shrink supported", .parts = {{16, 7, 7}}, .kind = Kind::Flag},
+    {.name = "h_stretch", .label = "Horizontal stretch supported", .parts = {{16, 6, 6}}, .kind = Kind::Flag},
+    {.name = "v_shrink", .label = "Vertical shrink supported", .parts = {{16, 5, 5}}, .kind = Kind::Flag},
+    {.name = "v_stretch", .label = "Vertical stretch supported", .parts = {{16, 4, 4}}, .kind = Kind::Flag},
+    {.name = "cvt_reserved_16", .label = "Reserved", .parts = {{16, 3, 0}}, .kind = Kind::Reserved},
+}};
+constexpr Row preferredRateRow = {
+    .name = "preferred_rate", .label = "Preferred vertical rate", .parts = {{17}}, .unit = "Hz"};
+
+/// What stands in place of a formula's data.
+constexpr std::array<std::uint8_t, 7> noData = {0x0A, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20};
+constexpr Row noDataRow = {
+    .name = "padding", .label = "No data of a formula", .parts = {{11}}, .kind = Kind::Bytes, .length = noData.size()};
+
+int readRate(const Scope& range, Row row, bool hasOffset) {
+    if (hasOffset) {
+        row.bias = rateOffset;
+    }
+    return static_cast<int>(std::get<std::int64_t>(range.add(row).value));
+}
+
+RangeLimits readRates(const Scope& range, unsigned offsetByte) {
+    const unsigned vertical = offsetByte & 3U;
+    const unsigned horizontal = offsetByte >> 2U & 3U;
+    RangeLimits limits;
+    limits.minVerticalHertz = readRate(range, minVerticalRow, vertical == 3);
+    limits.maxVerticalHertz = readRate(range, maxVerticalRow, vertical >= 2);
+    limits.minHorizontalKilohertz = readRate(range, minHorizontalRow, horizontal == 3);
+    limits.maxHorizontalKilohertz = readRate(range, maxHorizontalRow, horizontal >= 2);
+    return limits;
+}
+
+void checkPadding(const Scope& range) {
+    const auto padding = range.bytes(11, noData.size());
+    if (!std::equal(padding.begin(), padding.end(), noData.begin())) {
+        range.tell(
+            Severity::Warning, "range.bad_padding", 11, noDataRow.name,
+            "Where no formula has data, 0A and six blanks must stand, by which old software finds the end of the "
+            "descriptor; set bytes 11 to 17 of the descriptor to 0A 20 20 20 20 20 20.");
+    }
+}
+
+void checkCvt(const Scope& range) {
+    constexpr std::array<std::uint8_t, 5> aspectBits = {7, 6, 5, 4, 3};
+    const std::uint64_t preferred = range.raw({{15, 7, 5}});
+    if (preferred < aspectBits.size() && (range.byte(14) >> aspectBits[preferred] & 1U) == 0) {
+        range.tell(Severity::Warning, "range.preferred_aspect_unsupported", 15, "preferred_aspect",
+                   "The preferred aspect ratio is not among those that are supported, so that software makes timings "
+                   "of a ratio that the monitor disclaims; set its bit in byte 14 of the descriptor.");
+    }
+    if (range.byte(17) == 0) {
+        range.tell(Severity::Warning, "range.preferred_rate_zero", 17, preferredRateRow.name,
+                   "The preferred vertical rate is 0 Hz, of which no timing can be made; enter the true one.");
+    }
+}
+
+void readFormula(const Scope& range, int revision) {
+    const Row& row = revision >= 4 ? formulaRow : oldFormulaRow;
+    range.add(row);
+    const auto formula = static_cast<Formula>(range.byte(10));
+    if (formula == Formula::SecondaryGtf) {
+        range.add(secondaryGtfRows);
+    } else if (formula == Formula::Cvt && revision >= 4) {
+        range.add(cvtRows);
+        range.add(preferredRateRow);
+        checkCvt(range);
+    } else {
+        range.add(noDataRow);
+        if (!choiceText(row.choices, range.byte(10)).empty()) {
+            checkPadding(range);
+        }
+    }
+}
+
+void checkFormula(const Scope& range) {
+    constexpr std::size_t featuresByte = 24;
+    constexpr unsigned continuousBit = 1;
+    const bool isContinuous = (range.reading().image.byte(featuresByte) & continuousBit) != 0;
+    if (!isContinuous && static_cast<Formula>(range.byte(10)) != Formula::None) {
+        range.tell(
+            Severity::Warning, "range.formula_without_continuous", 10, "timing_support",
+            "A timing formula is supported and bit 0 of byte 24 denies that frequencies are continuous, so that "
+            "software cannot tell whether it may make timings; set that bit, or byte 10 of the descriptor to 1.");
+    }
+}
+
+void checkOrder(const Scope& range, std::size_t offset, const Row& row, int low, int high, std::string_view what) {
+    if (low > high) {
+        range.tell(Severity::Error, "range.min_above_max", offset, row.name,
+                   "The lowest " + std::string(what) + " rate, " + withUnit(std::to_string(low), row.unit) +
+                       ", is above the highest, " + withUnit(std::to_string(high), row.unit) +
+                       ", so that no timing fits; enter them the other way round, or the true ones.");
+    } else if (low == 0 || high == 0) {
+        range.tell(Severity::Warning, "range.zero", offset, row.name,
+                   "A " + std::string(what) +
+                       " rate of 0 is reserved, of which software makes no limit or refuses all; "
+                       "enter the true one.");
+    }
+}
+
+void checkLimits(const Scope& range, const RangeLimits& limits) {
+    checkOrder(range, 5, minVerticalRow, limits.minVerticalHertz, limits.maxVerticalHertz, "vertical");
+    checkOrder(range, 7, minHorizontalRow, limits.minHorizontalKilohertz, limits.maxHorizontalKilohertz, "horizontal");
+    if (!limits.maxClockMegahertz) {
+        range.tell(Severity::Warning, "range.clock_zero", 9, clockRow.name,
+                   "The highest pixel clock is not told, so that software takes the fastest mode that it knows; enter "
+                   "the clock in units of 10 MHz.");
+    }
+}
+
+/// The highest clock, less what CVT tells more exactly.
+std::optional<double> clockOf(const Scope& range, int revision) {
+    if (range.byte(9) == 0) {
+        return {};
+    }
+    const bool isExact = revision >= 4 && static_cast<Formula>(range.byte(10)) == Formula::Cvt;
+    constexpr double step = 0.25;
+    return range.byte(9) * clockUnit - (isExact ? static_cast<double>(range.byte(12) >> 2U) * step : 0);
+}
+
+} // namespace
+
+void readRangeLimits(const Scope& slot, int revision) {
+    const Scope range = slot.inner(0, "range");
+    if (revision >= 4) {
+        range.add(offsetRows);
+    }
+    RangeLimits limits = readRates(range, revision >= 4 ? range.byte(4) : 0);
+    limits.maxClockMegahertz = clockOf(range, revision);
+    range.add(clockRow);
+    readFormula(range, revision);
+    checkLimits(range, limits);
+    if (revision >= 4) {
+        checkFormula(range);
+    }
+    if (!slot.summary().range) {
+        slot.summary().range = limits;
+    }
+}
+
+} // namespace wb::fields

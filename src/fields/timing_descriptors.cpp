@@ -1,0 +1,154 @@
+#include <algorithm>
+#include <array>
+
+#include "fields/descriptors.h"
+#include "fields/mode_flags.h"
+#include "fields/standard_timing.h"
+
+namespace wb::fields {
+
+namespace {
+
+/// VESA E-EDID Standard, Release A, section 3.10.3.9: bytes 6 to 11 of the descriptor.
+constexpr std::array<ModeFlag, 44> moreModes = {{
+    {"640x350_85", "640 x 350 at 85 Hz", 640, 350, 85},
+    {"640x400_85", "640 x 400 at 85 Hz", 640, 400, 85},
+    {"720x400_85", "720 x 400 at 85 Hz", 720, 400, 85},
+    {"640x480_85", "640 x 480 at 85 Hz", 640, 480, 85},
+    {"848x480_60", "848 x 480 at 60 Hz", 848, 480, 60},
+    {"800x600_85", "800 x 600 at 85 Hz", 800, 600, 85},
+    {"1024x768_85", "1024 x 768 at 85 Hz", 1024, 768, 85},
+    {"1152x864_75", "1152 x 864 at 75 Hz", 1152, 864, 75},
+    {"1280x768_60_rb", "1280 x 768 at 60 Hz, reduced blanking", 1280, 768, 60},
+    {"1280x768_60", "1280 x 768 at 60 Hz", 1280, 768, 60},
+    {"1280x768_75", "1280 x 768 at 75 Hz", 1280, 768, 75},
+    {"1280x768_85", "1280 x 768 at 85 Hz", 1280, 768, 85},
+    {"1280x960_60", "1280 x 960 at 60 Hz", 1280, 960, 60},
+    {"1280x960_85", "1280 x 960 at 85 Hz", 1280, 960, 85},
+    {"1280x1024_60", "1280 x 1024 at 60 Hz", 1280, 1024, 60},
+    {"1280x1024_85", "1280 x 1024 at 85 Hz", 1280, 1024, 85},
+    {"1360x768_60", "1360 x 768 at 60 Hz", 1360, 768, 60},
+    {"1440x900_60_rb", "1440 x 900 at 60 Hz, reduced blanking", 1440, 900, 60},
+    {"1440x900_60", "1440 x 900 at 60 Hz", 1440, 900, 60},
+    {"1440x900_75", "1440 x 900 at 75 Hz", 1440, 900, 75},
+    {"1440x900_85", "1440 x 900 at 85 Hz", 1440, 900, 85},
+    {"1400x1050_60_rb", "1400 x 1050 at 60 Hz, reduced blanking", 1400, 1050, 60},
+    {"1400x1050_60", "1400 x 1050 at 60 Hz", 1400, 1050, 60},
+    {"1400x1050_75", "1400 x 1050 at 75 Hz", 1400, 1050, 75},
+    {"1400x1050_85", "1400 x 1050 at 85 Hz", 1400, 1050, 85},
+    {"1680x1050_60_rb", "1680 x 1050 at 60 Hz, reduced blanking", 1680, 1050, 60},
+    {"1680x1050_60", "1680 x 1050 at 60 Hz", 1680, 1050, 60},
+    {"1680x1050_75", "1680 x 1050 at 75 Hz", 1680, 1050, 75},
+    {"1680x1050_85", "1680 x 1050 at 85 Hz", 1680, 1050, 85},
+    {"1600x1200_60", "1600 x 1200 at 60 Hz", 1600, 1200, 60},
+    {"1600x1200_65", "1600 x 1200 at 65 Hz", 1600, 1200, 65},
+    {"1600x1200_70", "1600 x 1200 at 70 Hz", 1600, 1200, 70},
+    {"1600x1200_75", "1600 x 1200 at 75 Hz", 1600, 1200, 75},
+    {"1600x1200_85", "1600 x 1200 at 85 Hz", 1600, 1200, 85},
+    {"1792x1344_60", "1792 x 1344 at 60 Hz", 1792, 1344, 60},
+    {"1792x1344_75", "1792 x 1344 at 75 Hz", 1792, 1344, 75},
+    {"1856x1392_60", "1856 x 1392 at 60 Hz", 1856, 1392, 60},
+    {"1856x1392_75", "1856 x 1392 at 75 Hz", 1856, 1392, 75},
+    {"1920x1200_60_rb", "1920 x 1200 at 60 Hz, reduced blanking", 1920, 1200, 60},
+    {"1920x1200_60", "1920 x 1200 at 60 Hz", 1920, 1200, 60},
+    {"1920x1200_75", "1920 x 1200 at 75 Hz", 1920, 1200, 75},
+    {"1920x1200_85", "1920 x 1200 at 85 Hz", 1920, 1200, 85},
+    {"1920x1440_60", "1920 x 1440 at 60 Hz", 1920, 1440, 60},
+    {"1920x1440_75", "1920 x 1440 at 75 Hz", 1920, 1440, 75},
+}};
+
+/// Section 3.10.3.8: codes of three bytes each from byte 6 of the descriptor on.
+constexpr std::size_t codeCount = 4;
+constexpr std::size_t codeSize = 3;
+constexpr std::array<Choice, 4> aspectChoices = {{{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "15:9"}}};
+constexpr std::array<std::array<int, 2>, 4> aspects = {{{4, 3}, {16, 9}, {16, 10}, {15, 9}}};
+constexpr std::array<Choice, 4> rateChoices = {{{0, "50 Hz"}, {1, "60 Hz"}, {2, "75 Hz"}, {3, "85 Hz"}}};
+
+constexpr Row linesRow = {
+    .name = "lines", .label = "Active lines", .parts = {{1, 7, 4}, {0}}, .unit = "px", .scale = 2, .bias = 2};
+constexpr Row aspectRow = {.name = "aspect_ratio",
+                           .label = "Aspect ratio",
+                           .parts = {{1, 3, 2}},
+                           .kind = Kind::Choice,
+                           .choices = aspectChoices};
+constexpr std::array<Row, 3> codeRows = {{
+    {.name = "reserved_1", .label = "Reserved", .parts = {{1, 1, 0}}, .kind = Kind::Reserved},
+    {.name = "reserved_2", .label = "Reserved", .parts = {{2, 7, 7}}, .kind = Kind::Reserved},
+    {.name = "preferred_rate",
+     .label = "Preferred vertical rate",
+     .parts = {{2, 6, 5}},
+     .kind = Kind::Choice,
+     .choices = rateChoices},
+}};
+constexpr Row unusedCodeRow = {
+    .name = "unused", .label = "Unused code", .parts = {{0}}, .kind = Kind::Bytes, .length = codeSize};
+
+struct Rate {
+    std::string_view name;
+    std::string_view label;
+    int hertz;
+};
+
+/// From bit 4 of the last byte of a code down.
+constexpr std::array<Rate, 5> rates = {{{"rate_50", "50 Hz supported", 50},
+                                        {"rate_60", "60 Hz supported", 60},
+                                        {"rate_75", "75 Hz supported", 75},
+                                        {"rate_85", "85 Hz supported", 85},
+                                        {"rate_60_rb", "60 Hz with reduced blanking supported", 60}}};
+
+void readRates(const Scope& code, int width, int height) {
+    for (std::size_t i = 0; i < rates.size(); ++i) {
+        const auto bit = static_cast<std::uint8_t>(4 - i);
+        const Parts parts = {{2, bit, bit}};
+        code.add({.name = rates[i].name, .label = rates[i].label, .parts = parts, .kind = Kind::Flag});
+        if (code.raw(parts) != 0) {
+            Mode mode{.source = ModeSource::Standard, .width = width, .height = height};
+            mode.interlaced = false;
+            mode.refreshMilliHertz = std::int64_t{rates[i].hertz} * 1000;
+            code.summary().modes.push_back(mode);
+        }
+    }
+}
+
+void readCvtCode(const Scope& code) {
+    const auto bytes = code.bytes(0, codeSize);
+    if (std::all_of(bytes.begin(), bytes.end(), [](unsigned byte) { return byte == 0; })) {
+        code.add(unusedCodeRow);
+        return;
+    }
+    const int height = static_cast<int>(code.raw(linesRow.parts) + 1) * 2;
+    const auto [across, down] = aspects[code.raw(aspectRow.parts)];
+    // The width is a multiple of 8 pixels (VESA CVT Standard, section 3.4).
+    const int width = height * across / down / 8 * 8;
+    code.add(linesRow);
+    Field& aspect = code.add(aspectRow);
+    aspect.text += ", " + std::to_string(width) + " pixels a line";
+    code.add(codeRows);
+    readRates(code, width, height);
+}
+
+} // namespace
+
+void readMoreStandardTimings(const Scope& slot, int revision) {
+    constexpr std::size_t timings = 6;
+    for (std::size_t i = 0; i < timings; ++i) {
+        readStandardTiming(slot.inner(5 + 2 * i, "standard[" + std::to_string(i + 1) + ']'), revision);
+    }
+    slot.addBytes(17, 18, "padding", "Padding");
+}
+
+void readCvtCodes(const Scope& slot, int /*revision*/) {
+    slot.add({.name = "version", .label = "Version of the codes", .parts = {{5}}});
+    for (std::size_t i = 0; i < codeCount; ++i) {
+        readCvtCode(slot.inner(6 + codeSize * i, "cvt[" + std::to_string(i + 1) + ']'));
+    }
+}
+
+void readMoreEstablishedTimings(const Scope& slot, int /*revision*/) {
+    slot.add({.name = "version", .label = "Revision of the list", .parts = {{5}}});
+    readModeFlags(slot.inner(6, "established"), moreModes);
+    slot.add({.name = "reserved_11", .label = "Reserved", .parts = {{11, 3, 0}}, .kind = Kind::Reserved});
+    slot.addBytes(12, 18, "reserved_12", "Reserved", Kind::Reserved);
+}
+
+} // namespace wb::fields
