@@ -33,26 +33,10 @@ bool ReadEDIDDataFile(Workbench& workbench) {
 
 void ParseHexRowLine(Workbench& workbench, std::string_view line, int& nextIndex) {
     trapped(workbench, [&] {
-        bool sawBar = false;
-        bool haveHigh = false;
-        char high = ' ';
-        for (const char c : line) {
-            if (c == '|') {
-                sawBar = true;
-                continue;
-            }
-            if (!sawBar || static_cast<unsigned char>(c) <= ' ') {
-                continue;
-            }
-            if (!haveHigh) {
-                high = c;
-                haveHigh = true;
-                continue;
-            }
-            workbench.EDIDCells(nextIndex) = std::string{high, c};
+        forEachPair(line, [&](const std::string& pair) {
+            workbench.EDIDCells(nextIndex) = pair;
             ++nextIndex;
-            haveHigh = false;
-        }
+        });
     });
 }
 

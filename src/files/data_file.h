@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <string>
 #include <string_view>
 
 #include "core/workbench.h"
@@ -13,6 +15,23 @@ inline constexpr std::string_view dataFileMarker = "128 BYTES OF EDID CODE:";
 /// Reads CurrentFileName into EDIDCells, which is created anew. Gives whether the marker was found; a file without it
 /// is told in a box, a failure is shown and gives false.
 bool ReadEDIDDataFile(Workbench& workbench);
+
+/// Calls `take` with each pair of visible characters behind the first bar of a line. A last single one is dropped.
+template <class Take>
+void forEachPair(std::string_view line, const Take& take) {
+    const std::size_t bar = line.find('|');
+    std::string pair;
+    for (const char c : line.substr(std::min(bar, line.size()))) {
+        if (c == '|' || static_cast<unsigned char>(c) <= ' ') {
+            continue;
+        }
+        pair += c;
+        if (pair.size() == 2) {
+            take(pair);
+            pair.clear();
+        }
+    }
+}
 
 /// Takes the pairs of visible characters behind the first bar of a line into EDIDCells from `nextIndex` on and advances
 /// it. Pairs past the array are a SubscriptOutOfRange failure, shown here.

@@ -1,0 +1,50 @@
+#include "forms/data_file_form.h"
+
+#include "core/base/digits.h"
+#include "core/base/text.h"
+#include "files/data_file.h"
+#include "forms/lines.h"
+
+namespace wb::forms {
+
+namespace {
+
+bool hasMarker(std::string_view line) {
+    return upperCase(line).find(files::dataFileMarker) != std::string::npos;
+}
+
+void appendPair(std::string_view pair, DataFileBytes& result) {
+    if (!result.refusal.empty()) {
+        return;
+    }
+    const int high = hexDigit(pair[0]);
+    const int low = hexDigit(pair[1]);
+    if (high < 0 || low < 0) {
+        result.refusal = "cell " + std::to_string(result.bytes.size()) + " is no byte: " + quoted(pair);
+        return;
+    }
+    result.bytes += static_cast<char>(high * 16 + low);
+}
+
+} // namespace
+
+std::optional<DataFileBytes> readDataFile(std::string_view text) {
+    std::optional<DataFileBytes> result;
+    std::size_t toSkip = 0;
+    for (const auto& [line, place] : linesOf(text)) {
+        if (toSkip > 0) {
+            --toSkip;
+            continue;
+        }
+        if (result) {
+            files::forEachPair(line, [&](std::string_view pair) { appendPair(pair, *result); });
+        }
+        if (hasMarker(line)) {
+            result = result ? result : DataFileBytes{};
+            toSkip = 2;
+        }
+    }
+    return result;
+}
+
+} // namespace wb::forms

@@ -1,0 +1,201 @@
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "core/base/digits.h"
+#include "core/base/image.h"
+#include "forms/found.h"
+#include "forms/lines.h"
+
+namespace wb::forms {
+
+namespace {
+
+/// How a dump writes its bytes: numbers of so many digits and bytes.
+struct UnitForm {
+    int base;
+    std::size_t fewestDigits;
+    std::size_t mostDigits;
+    std::size_t bytes;
+    bool leastFirst; ///< of several bytes, the least significant comes first in the image
+};
+
+/// From the most usual to the rarest. Groups of pairs of hexadecimal digits stand in their order, as many as there are
+/// (bytes 0 here); words of a machine stand the other way round.
+constexpr std::array<UnitForm, 9> unitForms = {{{16, 2, 2, 1, false},
+                                                {16, 4, 64, 0, false},
+                                                {16, 4, 4, 2, true},
+                                                {16, 8, 8, 4, true},
+                                                {16, 16, 16, 8, true},
+                                                {8, 3, 3, 1, false},
+                                                {8, 6, 6, 2, true},
+                                                {10, 1, 3, 1, false},
+                                                {10, 1, 5, 2, true}}};
+constexpr std::array<int, 3> offsetBases = {16, 8, 10};
+/// An offset stands behind at most so many words of a log.
+constexpr std::size_t mostPrefixWords = 12;
+
+std::vector<std::string_view> wordsOf(std::string_view line) {
+    std::vector<std::string_view> words;
+    std::size_t place = 0;
+    while ((place = line.find_first_not_of(" \t", place)) != std::string_view::npos) {
+        const std::size_t end = std::min(line.find_first_of(" \t", place), line.size());
+        words.push_back(line.substr(place, end - place));
+        place = end;
+    }
+    return words;
+}
+
+std::optional<std::size_t> offsetOf(std::string_view word, int base) {
+    if (word.ends_with(':')) {
+        word.remove_suffix(1);
+    }
+    if (word.starts_with('+')) {
+        word.remove_prefix(1);
+    }
+    if (word.starts_with("0x") || word.starts_with("0X")) {
+        word.remove_prefix(2);
+    }
+    if (word.size() < 2 || !std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; })) {
+        return std::nullopt;
+    }
+    return wholeNumber<std::size_t>(word, base);
+}
+
+/// Appends the bytes of one unit. False where the word is none.
+bool appendUnit(std::string_view word, const UnitForm& form, std::string& bytes) {
+    if (word.size() < form.fewestDigits || word.size() > form.mostDigits) {
+        return false;
+    }
+    if (form.bytes == 0) { // pairs in their order
+        if (word.size() % 2 != 0 || !std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; })) {
+            return false;
+        }
+        for (std::size_t i = 0; i < word.size(); i += 2) {
+            bytes += static_cast<char>(hexDigit(word[i]) * 16 + hexDigit(word[i + 1]));
+        }
+        return true;
+    }
+    const auto number = wholeNumber<std::uint64_t>(word, form.base);
+    if (!number || (form.bytes < 8 && *number >> (8 * form.bytes) != 0)) {
+        return false;
+    }
+    for (std::size_t i = 0; i < form.bytes; ++i) {
+        const std::size_t shift = 8 * (form.leastFirst ? i : form.bytes - 1 - i);
+        bytes += static_cast<char>(*number >> shift & 0xFFU);
+    }
+    return true;
+}
+
+/// Reads dumps of one kind of unit and offset.
+class DumpReader {
+public:
+    DumpReader(const std::vector<Line>& lines, const UnitForm& form, int offsetBase)
+        : lines_(lines), form_(form), offsetBase_(offsetBase) {}
+
+    std::vector<Found> read() {
+        for (index_ = 0; index_ < lines_.size();) {
+            if (!takeDump()) {
+                ++index_;
+            }
+        }
+        return std::move(found_);
+    }
+
+private:
+    struct Row {
+        std::size_t offset = 0;
+        std::string bytes; ///< all that could be units, the text column included where it looks like some
+    };
+
+    /// The row of a line whose offset is from `least` to `most`.
+    std::optional<Row> rowOf(std::size_t index, std::size_t least, std::size_t most) const {
+        const std::vector<std::string_view> words = wordsOf(lines_[index].text);
+        for (std::size_t k = 0; k < std::min(words.size(), mostPrefixWords); ++k) {
+            const std::optional<std::size_t> offset = offsetOf(words[k], offsetBase_);
+            if (offset && *offset >= least && *offset <= most) {
+                Row row{*offset, {}};
+                for (++k; k < words.size() && appendUnit(words[k], form_, row.bytes); ++k) {
+                }
+                return row;
+            }
+        }
+        return std::nullopt;
+    }
+
+    /// The first line from `index` on that is not empty.
+    std::size_t nextLine(std::size_t index) const {
+        while (index < lines_.size() && lines_[index].text.find_first_not_of(" \t") == std::string_view::npos) {
+            ++index;
+        }
+        return index;
+    }
+
+    /// Takes the dump that begins in this line. False where none does.
+    bool takeDump() {
+        std::optional<Row> row = rowOf(index_, 0, 0);
+        if (!row || !row->bytes.starts_with(imageHeader)) {
+            return false;
+        }
+        Found dump{.bytes = {}, .place = lines_[index_].place};
+        std::size_t rowLength = row->bytes.size();
+        std::size_t next = index_ + 1;
+        for (;;) {
+            next = nextLine(next);
+            const bool repeats = next < lines_.size() && lines_[next].text == "*";
+            if (repeats) {
+                next = nextLine(next + 1);
+            }
+            const std::size_t least = dump.bytes.size() + 1;
+            const std::size_t most =
+                repeats ? dump.bytes.size() + longestRepeat : dump.bytes.size() + row->bytes.size();
+            const std::optional<Row> following = next < lines_.size() ? rowOf(next, least, most) : std::nullopt;
+            rowLength = following && !repeats ? following->offset - dump.bytes.size() : rowLength;
+            const std::string shown = row->bytes.substr(0, rowLength);
+            dump.bytes += shown;
+            if (!following) {
+                break;
+            }
+            while (dump.bytes.size() < following->offset) {
+                dump.bytes += shown.substr(0, following->offset - dump.bytes.size());
+            }
+            if (following->bytes.empty()) { // the offset of the end
+                ++next;
+                break;
+            }
+            row = following;
+            ++next;
+        }
+        index_ = next;
+        if (dump.bytes.size() >= Image::blockSize) {
+            found_.push_back(std::move(dump));
+        }
+        return true;
+    }
+
+    /// What a line "*" may stand for: an image has no more bytes.
+    static constexpr std::size_t longestRepeat = Image::blockSize * Image::mostBlocks;
+
+    const std::vector<Line>& lines_;
+    const UnitForm& form_;
+    int offsetBase_;
+    std::size_t index_ = 0;
+    std::vector<Found> found_;
+};
+
+} // namespace
+
+std::vector<Found> readDumps(std::string_view text) {
+    const std::vector<Line> lines = linesOf(text);
+    for (const UnitForm& form : unitForms) {
+        for (const int base : offsetBases) {
+            std::vector<Found> found = DumpReader(lines, form, base).read();
+            if (!found.empty()) {
+                return found;
+            }
+        }
+    }
+    return {};
+}
+
+} // namespace wb::forms

@@ -1,0 +1,261 @@
+#include <algorithm>
+#include <optional>
+
+#include "core/base/digits.h"
+#include "core/base/image.h"
+#include "forms/found.h"
+#include "forms/lines.h"
+
+namespace wb::forms {
+
+namespace {
+
+/// The hexadecimal bytes of a line, as far as they stand together at its end.
+struct HexRun {
+    std::string bytes;
+    bool wholeLine = false; ///< nothing but marks stands before them
+    bool marked = false;    ///< each had a mark such as "0x"
+};
+
+/// One number of a line.
+struct Token {
+    std::string_view digits;
+    bool marked = false;
+};
+
+bool isHexWord(std::string_view word) {
+    return !word.empty() && std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; });
+}
+
+/// Splits a line into words and reads those that are hexadecimal.
+class LineReader {
+public:
+    explicit LineReader(std::string_view line) : line_(withoutComments(line)) {}
+
+    HexRun read() {
+        for (std::size_t place = 0; place < line_.size();) {
+            if (isWordCharacter(line_[place])) {
+                place = takeWord(place);
+                continue;
+            }
+            // With words behind them, these end the head of a log's line, or the name and size of an array.
+            endsHead_ = endsHead_ || std::string_view("[](=).").find(line_[place]) != std::string_view::npos;
+            ++place;
+        }
+        return run();
+    }
+
+private:
+    /// Comments of C and of shells; what a quoted mail has in front.
+    static std::string_view withoutComments(std::string_view line) {
+        while (!line.empty() && (isBlank(line.front()) || line.front() == '>')) {
+            line.remove_prefix(1);
+        }
+        for (const std::string_view mark : {"//", "/*", "#"}) {
+            line = line.substr(0, line.find(mark));
+        }
+        const std::size_t semicolon = line.find(';');
+        return semicolon != std::string_view::npos && beginsWithWords(line.substr(semicolon + 1))
+                   ? line.substr(0, semicolon)
+                   : line;
+    }
+
+    /// A semicolon begins a comment where a word follows it that is no byte; elsewhere it stands between bytes.
+    static bool beginsWithWords(std::string_view text) {
+        std::size_t place = 0;
+        while (place < text.size() && !isWordCharacter(text[place])) {
+            ++place;
+        }
+        std::size_t end = place;
+        while (end < text.size() && isWordCharacter(text[end])) {
+            ++end;
+        }
+        const std::string_view word = text.substr(place, end - place);
+        return !word.empty() && !isHexWord(word) && !word.starts_with("0x") && !word.starts_with("0X");
+    }
+
+    void forget() {
+        other_ = other_ || !tokens_.empty();
+        tokens_.clear();
+    }
+
+    std::size_t takeWord(std::size_t place) {
+        if (endsHead_) {
+            forget();
+            endsHead_ = false;
+        }
+        std::size_t end = place;
+        while (end < line_.size() && isWordCharacter(line_[end])) {
+            ++end;
+        }
+        const std::string_view word = line_.substr(place, end - place);
+        const bool escaped = place > 0 && line_[place - 1] == '\\' && word.front() == 'x';
+        const bool prefixed = word.starts_with("0x") || word.starts_with("0X");
+        const std::string_view digits = word.substr(escaped ? 1 : prefixed ? 2 : 0);
+        if (!isHexWord(digits)) {
+            forget();
+            other_ = true;
+        } else {
+            tokens_.push_back({digits, escaped || prefixed});
+        }
+        return end;
+    }
+
+    /// Where any number has a mark, those without one are none of the image's.
+    HexRun run() {
+        const bool marked =
+            std::any_of(tokens_.begin(), tokens_.end(), [](const Token& token) { return token.marked; });
+        HexRun result{.bytes = {}, .wholeLine = !other_, .marked = marked};
+        const std::size_t width = tokens_.empty() ? 0 : tokens_.front().digits.size();
+        for (const Token& token : tokens_) {
+            if (marked && !token.marked) {
+                continue;
+            }
+            const bool last = &token == &tokens_.back();
+            const bool single = marked && token.digits.size() == 1;
+            if (!single && (token.digits.size() % 2 != 0 || (!marked && !last && token.digits.size() != width))) {
+                return {};
+            }
+            appendPairs(single ? 1 : 2, token.digits, result.bytes);
+        }
+        return result;
+    }
+
+    static void appendPairs(std::size_t digits, std::string_view word, std::string& bytes) {
+        for (std::size_t i = 0; i < word.size(); i += digits) {
+            int value = 0;
+            for (const char digit : word.substr(i, digits)) {
+                value = value * 16 + hexDigit(digit);
+            }
+            bytes += static_cast<char>(value);
+        }
+    }
+
+    std::string_view line_;
+    std::vector<Token> tokens_;
+    bool other_ = false;    ///< something that is no byte stands in front
+    bool endsHead_ = false; ///< one of the marks that end the head of a line came last
+};
+
+/// Collects the lines of images.
+class HexLinesReader {
+public:
+    explicit HexLinesReader(std::string_view text) : lines_(linesOf(text)) {}
+
+    std::vector<Found> read() {
+        for (std::size_t i = 0; i < lines_.size(); ++i) {
+            takeLine(lines_[i]);
+        }
+        end();
+        return std::move(found_);
+    }
+
+private:
+    void takeLine(const Line& line) {
+        const HexRun run = LineReader(line.text).read();
+        if (image_ && continues(line, run)) {
+            return;
+        }
+        if (image_) {
+            end();
+        }
+        begin(line, run);
+    }
+
+    void begin(const Line& line, const HexRun& run) {
+        const std::size_t start = run.bytes.find(imageHeader.substr(0, std::min(imageHeader.size(), run.bytes.size())));
+        if (run.bytes.empty() || start == std::string::npos || (run.bytes.size() == 1 && !run.wholeLine)) {
+            return;
+        }
+        image_ = Found{run.bytes.substr(start), line.place};
+        rowLength_ = image_->bytes.size();
+        anyLength_ = start == 0 && run.wholeLine;
+        open_ = leavesOpen(line.text);
+    }
+
+    /// Whether a line says itself that the next one goes on with it.
+    static bool leavesOpen(std::string_view line) {
+        const std::size_t last = line.find_last_not_of(" \t");
+        return last != std::string_view::npos && (line[last] == ',' || line[last] == '\\');
+    }
+
+    /// Adds a line to the image. False where it is none of its lines.
+    bool continues(const Line& line, const HexRun& run) {
+        const bool betweenBlocks = image_->bytes.size() % Image::blockSize == 0;
+        if (line.text.find_first_not_of(" \t>") == std::string_view::npos) {
+            return true;
+        }
+        if (run.bytes.empty()) {
+            // Between two rows of a list stand comments and brackets; words end it.
+            return run.wholeLine && line.text.find_first_not_of(" \t>{}[](),;\\\"'") == std::string_view::npos;
+        }
+        if (betweenBlocks && run.bytes.starts_with(imageHeader)) {
+            return false; // another image
+        }
+        const bool fits =
+            open_ || (anyLength_ && run.wholeLine) || run.bytes.size() == rowLength_ ||
+            (run.bytes.size() < rowLength_ && (image_->bytes.size() + run.bytes.size()) % Image::blockSize == 0);
+        if (!fits) {
+            return false;
+        }
+        image_->bytes += run.bytes;
+        open_ = leavesOpen(line.text);
+        return image_->bytes.substr(0, imageHeader.size()) == imageHeader.substr(0, image_->bytes.size());
+    }
+
+    void end() {
+        if (image_ && image_->bytes.size() >= Image::blockSize && image_->bytes.starts_with(imageHeader)) {
+            found_.push_back(std::move(*image_));
+        }
+        image_.reset();
+    }
+
+    std::vector<Line> lines_;
+    std::optional<Found> image_;
+    std::size_t rowLength_ = 0; ///< bytes of the first line
+    bool open_ = false;         ///< the last line taken leaves its list open
+    bool anyLength_ = false;    ///< nothing but hexadecimal stands in the first line, so that rows may be of any length
+    std::vector<Found> found_;
+};
+
+bool separates(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == ',';
+}
+
+} // namespace
+
+std::vector<Found> readHexLines(std::string_view text) {
+    return HexLinesReader(text).read();
+}
+
+std::vector<Found> readBareHex(std::string_view text) {
+    std::string bytes;
+    int high = -1;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        const bool prefix =
+            text[place] == '0' && place + 1 < text.size() && (text[place + 1] == 'x' || text[place + 1] == 'X');
+        if (prefix && high < 0) {
+            ++place;
+            continue;
+        }
+        if (separates(text[place])) {
+            continue;
+        }
+        const int digit = hexDigit(text[place]);
+        if (digit < 0) {
+            return {};
+        }
+        if (high < 0) {
+            high = digit;
+        } else {
+            bytes += static_cast<char>(high * 16 + digit);
+            high = -1;
+        }
+    }
+    if (high >= 0 || bytes.size() < Image::blockSize) {
+        return {};
+    }
+    return {{std::move(bytes), 0}};
+}
+
+} // namespace wb::forms

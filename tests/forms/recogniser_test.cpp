@@ -1,0 +1,390 @@
+#include "forms/recogniser.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <functional>
+
+#include "core/base/text.h"
+#include "support/temporary_folder.h"
+
+namespace wb::forms {
+namespace {
+
+std::string sample(const std::string& name) {
+    return test::TemporaryFolder::read(WORKBENCH_SOURCE_DIR "/samples/" + name);
+}
+
+/// The bytes in rows of `perRow`: `row(offset, bytes)` gives the text of one.
+std::string inRows(const std::string& bytes, std::size_t perRow,
+                   const std::function<std::string(std::size_t, const std::string&)>& row) {
+    std::string text;
+    for (std::size_t place = 0; place < bytes.size(); place += perRow) {
+        text += row(place, bytes.substr(place, perRow));
+    }
+    return text;
+}
+
+std::string formatted(const char* format, unsigned value) {
+    std::array<char, 32> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), format, value);
+    return buffer.data();
+}
+
+/// Each byte by the format, and what stands between them.
+std::string each(const std::string& bytes, const char* format, const std::string& between = {}) {
+    std::string text;
+    for (const char c : bytes) {
+        text += (text.empty() ? "" : between) + formatted(format, static_cast<unsigned char>(c));
+    }
+    return text;
+}
+
+/// Words of two bytes, the least significant first, as machines of today print them.
+std::string words(const std::string& bytes, const char* format) {
+    std::string text;
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const unsigned value = static_cast<unsigned char>(bytes[i]) + 256U * static_cast<unsigned char>(bytes[i + 1]);
+        text += formatted(format, value);
+    }
+    return text;
+}
+
+/// The text column of a dump.
+std::string shown(const std::string& bytes) {
+    std::string text;
+    for (const char c : bytes) {
+        text += c >= ' ' && c <= '~' ? c : '.';
+    }
+    return text;
+}
+
+struct Form {
+    std::string name; ///< of the test
+    std::string form; ///< that is recognised
+    std::string (*write)(const std::string& bytes);
+    std::string output{}; ///< that is named
+};
+
+std::string plainRows(const std::string& bytes, const std::string& before, const std::string& between,
+                      const std::string& after, const char* format = "%02x", std::size_t perRow = 16) {
+    return inRows(bytes, perRow, [&](std::size_t, const std::string& row) {
+        return before + each(row, format, between) + after + '\n';
+    });
+}
+
+std::string hexWith(const std::string& bytes, const char* offset, const std::string& behind, bool column) {
+    return inRows(bytes, 16, [&](std::size_t place, const std::string& row) {
+        return formatted(offset, static_cast<unsigned>(place)) + behind + each(row, "%02x", " ") +
+               (column ? "  |" + shown(row) + "|" : "") + '\n';
+    });
+}
+
+std::string utf16(const std::string& text) {
+    std::string wide;
+    for (const char c : text) {
+        wide += {c, '\0'};
+    }
+    return wide;
+}
+
+std::string base64(const std::string& bytes, std::size_t perRow) {
+    constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string text;
+    for (std::size_t i = 0; i < bytes.size(); i += 3) {
+        unsigned group = 0;
+        for (std::size_t k = 0; k < 3; ++k) {
+            group = group * 256 + (i + k < bytes.size() ? static_cast<unsigned char>(bytes[i + k]) : 0U);
+        }
+        for (std::size_t k = 0; k < 4; ++k) {
+            text += i + k <= bytes.size() ? digits[group >> 18U] : '=';
+            group = group << 6U & 0xFFFFFFU;
+        }
+    }
+    std::string rows;
+    for (std::size_t i = 0; i < text.size(); i += perRow) {
+        rows += text.substr(i, perRow) + '\n';
+    }
+    return rows;
+}
+
+const std::vector<Form>& forms() {
+    using S = std::string;
+    static const std::vector<Form> all = {
+        {"Binary", "bin", [](const S& b) { return b; }},
+        {"PairsInOneLine", "hex", [](const S& b) { return each(b, "%02X", " "); }},
+        {"PairsInRows", "hex", [](const S& b) { return plainRows(b, "", " ", ""); }},
+        {"DigitsInOneLine", "hex", [](const S& b) { return each(b, "%02x"); }},
+        {"DigitsInRows", "hex", [](const S& b) { return plainRows(b, "", "", ""); }},
+        {"OneByteALine", "hex", [](const S& b) { return plainRows(b, "", "", "", "%02x", 1); }},
+        {"Prefixes", "hex", [](const S& b) { return plainRows(b, "", ", ", ",", "0x%02x"); }},
+        {"Colons", "hex", [](const S& b) { return plainRows(b, "", ":", ""); }},
+        {"Semicolons", "hex", [](const S& b) { return plainRows(b, "", ";", ";"); }},
+        {"Quotes", "hex", [](const S& b) { return plainRows(b, "\"", " ", "\""); }},
+        {"CArray", "hex",
+         [](const S& b) {
+             return "/* 256 bytes */\nstatic const unsigned char edid[256] = {\n" +
+                    plainRows(b, "\t", ", ", ", // row", "0x%02x") + "};\n";
+         }},
+        {"CArrayInOneLine", "hex",
+         [](const S& b) { return "unsigned char edid[256] = {" + each(b, "0x%X", ",") + "};"; }},
+        {"ShellComments", "hex", [](const S& b) { return "# made by hand\n" + plainRows(b, "", " ", " # ff"); }},
+        {"CString", "string",
+         [](const S& b) { return "const char edid[] =\n" + plainRows(b, "  \"", "", "\"", "\\x%02x"); }},
+        {"OctalString", "string", [](const S& b) { return "'" + each(b, "\\%03o") + "'"; }},
+        {"PythonBytes", "string", [](const S& b) { return "edid = b'" + each(b, "\\x%02x") + "'\n"; }},
+        {"JsonList", "decimal", [](const S& b) { return "{\"size\": 256, \"edid\": [" + each(b, "%u", ", ") + "]}"; }},
+        {"PythonHexList", "hex", [](const S& b) { return "edid = [" + each(b, "0x%02x", ", ") + "]"; }},
+        {"Inf", "hex",
+         [](const S& b) {
+             return "[EDID_Override]\nHKR,EDID_OVERRIDE,\"0\",0x01," + each(b.substr(0, 128), "0x%02X", ",") + "\n";
+         }},
+        {"Reg", "hex",
+         [](const S& b) {
+             return "Windows Registry Editor Version 5.00\r\n\r\n[HKEY_LOCAL_MACHINE\\SYSTEM\\Device Parameters]\r\n"
+                    "\"EDID\"=hex:" +
+                    each(b.substr(0, 20), "%02x", ",") + ",\\\r\n" + [&] {
+                        S rows;
+                        for (std::size_t i = 20; i < b.size(); i += 25) {
+                            rows +=
+                                "  " + each(b.substr(i, 25), "%02x", ",") + (i + 25 < b.size() ? ",\\\r\n" : "\r\n");
+                        }
+                        return rows;
+                    }();
+         }},
+        {"RegUtf16", "hex",
+         [](const S& b) { return "\xFF\xFE" + utf16("\"EDID\"=hex:" + each(b, "%02x", ",") + "\r\n"); }},
+        {"Utf16WithoutMark", "hex", [](const S& b) { return utf16(plainRows(b, "", " ", "")); }},
+        {"Utf8WithMark", "hex", [](const S& b) { return "\xEF\xBB\xBF" + plainRows(b, "", " ", ""); }},
+        {"HexdumpCanonical", "dump",
+         [](const S& b) {
+             return hexWith(b, "%08x", "  ", true) + formatted("%08x", static_cast<unsigned>(b.size())) + '\n';
+         }},
+        {"Xxd", "dump",
+         [](const S& b) {
+             return inRows(b, 16, [](std::size_t place, const S& row) {
+                 S pairs;
+                 for (std::size_t i = 0; i < row.size(); i += 2) {
+                     pairs += ' ' + each(row.substr(i, 2), "%02x");
+                 }
+                 return formatted("%08x:", static_cast<unsigned>(place)) + pairs + "  " + shown(row) + '\n';
+             });
+         }},
+        {"HexdumpWords", "dump",
+         [](const S& b) {
+             return inRows(b, 16, [](std::size_t place, const S& row) {
+                 return formatted("%07x", static_cast<unsigned>(place)) + words(row, " %04x") + '\n';
+             });
+         }},
+        {"OdWords", "dump",
+         [](const S& b) {
+             return inRows(b, 16,
+                           [](std::size_t place, const S& row) {
+                               return formatted("%07o", static_cast<unsigned>(place)) + words(row, " %06o") + '\n';
+                           }) +
+                    formatted("%07o", static_cast<unsigned>(b.size())) + '\n';
+         }},
+        {"OdBytes", "dump",
+         [](const S& b) {
+             return inRows(b, 16, [](std::size_t place, const S& row) {
+                 return formatted("%07o ", static_cast<unsigned>(place)) + each(row, "%02x", " ") + '\n';
+             });
+         }},
+        {"OdOctalBytes", "dump",
+         [](const S& b) {
+             return inRows(b, 16, [](std::size_t place, const S& row) {
+                 return formatted("%07o ", static_cast<unsigned>(place)) + each(row, "%03o", " ") + '\n';
+             });
+         }},
+        {"OdHexOffsets", "dump", [](const S& b) { return hexWith(b, "%06x", " ", false); }},
+        {"OdDecimalOffsets", "dump",
+         [](const S& b) {
+             return inRows(b, 16, [](std::size_t place, const S& row) {
+                 return formatted("%07u ", static_cast<unsigned>(place)) + each(row, "%02x", " ") + "  >" + shown(row) +
+                        "<\n";
+             });
+         }},
+        {"I2cdump", "dump",
+         [](const S& b) {
+             return "     0  1  2  3  4  5  6  7  8  9  a  b  c  d  e  f    0123456789abcdef\n" +
+                    inRows(b, 16, [](std::size_t place, const S& row) {
+                        return formatted("%02x: ", static_cast<unsigned>(place)) + each(row, "%02x", " ") + "    " +
+                               shown(row) + '\n';
+                    });
+         }},
+        {"Base64", "base64", [](const S& b) { return base64(b, 76); }},
+        {"Base64InJson", "base64", [](const S& b) { return "{\"data\": \"" + base64(b, 1000).substr(0, 344) + "\"}"; }},
+        {"Xrandr", "hex",
+         [](const S& b) {
+             return "Screen 0: minimum 8 x 8, current 1920 x 1080\n"
+                    "DP-1 disconnected (normal left inverted right)\n"
+                    "HDMI-1 connected primary 1920x1080+0+0 (0x45) normal 509mm x 286mm\n\tEDID: \n" +
+                    plainRows(b, "\t\t", "", "") + "\tBroadcast RGB: Automatic \n  1920x1080 (0x45) 148.500MHz\n";
+         },
+         "HDMI-1"},
+        {"Decoder", "hex",
+         [](const S& b) {
+             return "edid-decode (hex):\n\n" + plainRows(b.substr(0, 128), "", " ", "") + '\n' +
+                    plainRows(b.substr(128), "", " ", "") + "\n----------------\n\nBlock 0, Base EDID:\n";
+         }},
+        {"KernelLog", "hex",
+         [](const S& b) {
+             return "[    2.101] [drm] [CONNECTOR:95:HDMI-A-1] EDID:\n" + plainRows(b, "[    2.123456] \t", " ", "");
+         },
+         "HDMI-A-1"},
+        {"KernelHexDump", "dump",
+         [](const S& b) {
+             return inRows(b, 16, [](std::size_t place, const S& row) {
+                 return "[    3.141592] EDID: " + formatted("%08x: ", static_cast<unsigned>(place)) +
+                        each(row, "%02x", " ") + "  " + shown(row) + '\n';
+             });
+         }},
+        {"ServerLog", "hex",
+         [](const S& b) {
+             return "[    27.1] (II) modeset(0): EDID for output DP-2\n[    27.1] (II) modeset(0): EDID (in hex):\n" +
+                    plainRows(b, "[    27.103] (II) modeset(0): \t", "", "") +
+                    "[    27.103] (II) modeset(0): Printing probed modes\n";
+         },
+         "DP-2"},
+        {"Ioreg", "hex", [](const S& b) { return "    |   \"IODisplayEDID\" = <" + each(b, "%02x") + ">\n"; }},
+        {"Ddcutil", "dump",
+         [](const S& b) {
+             return "   DRM connector:           card0-DP-3\n   EDID hex dump:\n" +
+                    ("              +0          +4          +8          +c            0   4   8   c   \n" +
+                     inRows(b, 16, [](std::size_t place, const S& row) {
+                         return "      " + formatted("+%04x   ", static_cast<unsigned>(place)) +
+                                each(row, "%02x", " ") + "   " + shown(row) + '\n';
+                     }));
+         },
+         "DP-3"},
+        {"Modetest", "hex",
+         [](const S& b) {
+             return "94\t93\tconnected\tHDMI-A-2\t600x340\t3\t93\n\t1 EDID:\n\t\tflags: immutable blob\n\t\tblobs:\n\n"
+                    "\t\tvalue:\n" +
+                    plainRows(b, "\t\t\t", "", "") + "\t2 DPMS:\n";
+         },
+         "HDMI-A-2"},
+        {"QuotedMail", "hex", [](const S& b) { return "On Monday you wrote:\n" + plainRows(b, "> ", " ", ""); }},
+    };
+    return all;
+}
+
+class EveryForm : public testing::TestWithParam<Form> {};
+
+TEST_P(EveryForm, GivesTheBytesOfSeveralImages) {
+    for (const char* name : {"zarqo-z40.bin", "halvorine-hv19.bin", "tessaramond-tp8.bin"}) {
+        SCOPED_TRACE(name);
+        const std::string bytes = sample(name);
+        const bool firstBlockOnly = GetParam().name == "Inf";
+        const std::string text = GetParam().write(bytes);
+        const Recognition result = recognise(text);
+        ASSERT_EQ(result.images.size(), 1U) << result.refusal << '\n' << text.substr(0, 400);
+        EXPECT_EQ(result.images[0].content(), firstBlockOnly ? bytes.substr(0, 128) : bytes);
+        EXPECT_EQ(result.images[0].origin().form, GetParam().form);
+        EXPECT_EQ(result.images[0].origin().output, GetParam().output);
+        EXPECT_EQ(result.images[0].leftOver(), 0U);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Recogniser, EveryForm, testing::ValuesIn(forms()),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(Recogniser, GivesAllImagesOfATextWithTheirOutputs) {
+    const std::string first = sample("zarqo-z40.bin");
+    const std::string second = sample("halvorine-hv19.bin");
+    const Recognition result =
+        recognise("DP-1 connected 1920x1080+0+0\n\tEDID:\n" + plainRows(first, "\t\t", "", "") +
+                  "HDMI-2 disconnected\nHDMI-3 connected\n\tEDID:\n" + plainRows(second, "\t\t", "", ""));
+    ASSERT_EQ(result.images.size(), 2U) << result.refusal;
+    EXPECT_EQ(result.images[0].content(), first);
+    EXPECT_EQ(result.images[0].origin().output, "DP-1");
+    EXPECT_EQ(result.images[1].content(), second);
+    EXPECT_EQ(result.images[1].origin().output, "HDMI-3");
+}
+
+TEST(Recogniser, RefusesOffsetsThatDoNotCountTheBytes) {
+    const std::string bytes = sample("zarqo-z40.bin");
+    const std::string text = inRows(bytes, 16, [](std::size_t place, const std::string& row) {
+        return formatted("%06x ", static_cast<unsigned>(place + place / 64)) + each(row, "%02x", " ") + '\n';
+    });
+    EXPECT_TRUE(recognise(text).images.empty());
+}
+
+TEST(Recogniser, FillsWhatADumpLeavesOut) {
+    std::string bytes = sample("zarqo-z40.bin");
+    std::fill(bytes.begin() + 208, bytes.end() - 16, '\0');
+    const std::string whole = hexWith(bytes, "%08x", "  ", true);
+    const std::size_t row = whole.find("000000d0");
+    const std::size_t last = whole.find("000000f0");
+    const Recognition result = recognise(whole.substr(0, whole.find('\n', row) + 1) + "*\n" + whole.substr(last));
+    ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+    EXPECT_EQ(result.images[0].content(), bytes);
+}
+
+TEST(Recogniser, RefusesWhatHasNoHeader) {
+    std::string bytes = sample("zarqo-z40.bin");
+    bytes[1] = '\x7E';
+    for (const std::string& content : {bytes, plainRows(bytes, "", " ", "")}) {
+        EXPECT_TRUE(recognise(content).images.empty());
+        const Recognition any = recognise(content, {.anyHeader = true, .form = {}, .inflate = {}});
+        ASSERT_EQ(any.images.size(), 1U) << any.refusal;
+        EXPECT_EQ(any.images[0].content(), bytes);
+    }
+}
+
+TEST(Recogniser, RefusesSumsOfFiles) {
+    std::string sums;
+    for (int i = 0; i < 4; ++i) {
+        sums += "9f86d081884c7d659a2feaa0c55ad015a3bf4f1b2b0b822cd15d6c15b0f00a0" + std::to_string(i) + "  file\n";
+    }
+    EXPECT_EQ(recognise(sums).refusal, "line 1: 'file' is no hexadecimal pair");
+}
+
+TEST(Recogniser, SaysWhatItSawInstead) {
+    const auto refusal = [](const std::string& content) { return recognise(content).refusal; };
+    EXPECT_EQ(refusal(""), "is empty");
+    EXPECT_EQ(refusal("00 ff ff\n\n  EDID: 12"), "line 3: 'EDID:' is no hexadecimal pair");
+    EXPECT_EQ(refusal("HDMI-1 connected 1x1\n\tEDID: \n"),
+              "line 1: 'HDMI-1' is no hexadecimal pair; looks like xrandr output without data");
+    EXPECT_EQ(refusal("00 ff"), "fewer than the 256 hexadecimal digits of a block");
+    EXPECT_EQ(refusal(std::string(256, '1')),
+              "the hexadecimal bytes do not begin with the header 00 FF FF FF FF FF FF 00");
+    EXPECT_EQ(refusal(std::string(5, '\0')), "5 bytes, and an image has 128 or more");
+    EXPECT_EQ(refusal(std::string(128, '\x01')),
+              "begins with 01 01 01 01 01 01 01 01, not with the header 00 FF FF FF FF FF FF 00");
+    EXPECT_EQ(refusal("\x1F\x8B\x08"), "is gzip data that cannot be uncompressed");
+}
+
+TEST(Recogniser, ReadsWhatIsCompressedWithoutItsWrapping) {
+    const std::string bytes = sample("zarqo-z40.bin");
+    const auto unwrap = [&](std::string_view content) -> std::optional<std::string> {
+        return content == "\x1F\x8B..." ? std::optional(bytes) : std::nullopt;
+    };
+    const Recognition result = recognise("\x1F\x8B...", {.anyHeader = false, .form = "gzip", .inflate = unwrap});
+    ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+    EXPECT_EQ(result.images[0].content(), bytes);
+}
+
+TEST(Recogniser, TakesTheFormThatIsAskedForAlone) {
+    const std::string text = plainRows(sample("zarqo-z40.bin"), "", " ", "");
+    EXPECT_EQ(recognise(text, {.anyHeader = false, .form = "hex", .inflate = {}}).images.size(), 1U);
+    for (const char* form : {"bin", "dat", "base64", "dump", "string", "decimal"}) {
+        EXPECT_TRUE(recognise(text, {.anyHeader = false, .form = form, .inflate = {}}).images.empty()) << form;
+    }
+}
+
+TEST(Recogniser, ReadsDataFilesAndSaysWhichCellIsNone) {
+    const std::string head = "128 bytes of edid code:\n\n\n";
+    const std::string bytes = sample("halvorine-hv19.bin");
+    const std::string rows = plainRows(bytes, "00 | ", " ", "", "%02X");
+    const Recognition result = recognise(head + rows);
+    ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+    EXPECT_EQ(result.images[0].content(), bytes);
+    EXPECT_EQ(result.images[0].origin().form, "dat");
+    EXPECT_EQ(recognise(head + "| 00 FF ZZ\n" + rows).refusal, "cell 2 is no byte: \"ZZ\"");
+    EXPECT_EQ(recognise(head + "| 00 FF\n").refusal, "has 2 bytes; an image has 128 or more");
+}
+
+} // namespace
+} // namespace wb::forms
