@@ -11,26 +11,34 @@ namespace wb::forms {
 
 namespace {
 
-/// How a dump writes its bytes: numbers of so many digits and bytes.
+/// How a dump writes its bytes.
+enum class Order {
+    Pairs,      ///< pairs of hexadecimal digits in their order, grouped or not
+    MostFirst,  ///< numbers of so many bytes, the most significant byte first
+    LeastFirst, ///< the same, as the machines of today keep them
+    Characters, ///< four columns a byte: a character, an escape or an octal number
+};
+
 struct UnitForm {
+    Order order;
     int base;
     std::size_t fewestDigits;
     std::size_t mostDigits;
     std::size_t bytes;
-    bool leastFirst; ///< of several bytes, the least significant comes first in the image
 };
 
-/// From the most usual to the rarest. Groups of pairs of hexadecimal digits stand in their order, as many as there are
-/// (bytes 0 here); words of a machine stand the other way round.
-constexpr std::array<UnitForm, 9> unitForms = {{{16, 2, 2, 1, false},
-                                                {16, 4, 64, 0, false},
-                                                {16, 4, 4, 2, true},
-                                                {16, 8, 8, 4, true},
-                                                {16, 16, 16, 8, true},
-                                                {8, 3, 3, 1, false},
-                                                {8, 6, 6, 2, true},
-                                                {10, 1, 3, 1, false},
-                                                {10, 1, 5, 2, true}}};
+/// From the most usual to the rarest. The header does not tell words of eight bytes from pairs in their order, but the
+/// tools that write pairs put a colon behind the offset.
+constexpr std::array<UnitForm, 10> unitForms = {{{Order::MostFirst, 16, 2, 2, 1},
+                                                 {Order::LeastFirst, 16, 16, 16, 8},
+                                                 {Order::Pairs, 16, 4, 64, 0},
+                                                 {Order::LeastFirst, 16, 4, 4, 2},
+                                                 {Order::LeastFirst, 16, 8, 8, 4},
+                                                 {Order::MostFirst, 8, 3, 3, 1},
+                                                 {Order::LeastFirst, 8, 6, 6, 2},
+                                                 {Order::MostFirst, 10, 1, 3, 1},
+                                                 {Order::LeastFirst, 10, 1, 5, 2},
+                                                 {Order::Characters, 8, 1, 3, 1}}};
 constexpr std::array<int, 3> offsetBases = {16, 8, 10};
 /// An offset stands behind at most so many words of a log.
 constexpr std::size_t mostPrefixWords = 12;
@@ -67,7 +75,7 @@ bool appendUnit(std::string_view word, const UnitForm& form, std::string& bytes)
     if (word.size() < form.fewestDigits || word.size() > form.mostDigits) {
         return false;
     }
-    if (form.bytes == 0) { // pairs in their order
+    if (form.order == Order::Pairs) {
         if (word.size() % 2 != 0 || !std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; })) {
             return false;
         }
@@ -81,10 +89,55 @@ bool appendUnit(std::string_view word, const UnitForm& form, std::string& bytes)
         return false;
     }
     for (std::size_t i = 0; i < form.bytes; ++i) {
-        const std::size_t shift = 8 * (form.leastFirst ? i : form.bytes - 1 - i);
+        const std::size_t shift = 8 * (form.order == Order::LeastFirst ? i : form.bytes - 1 - i);
         bytes += static_cast<char>(*number >> shift & 0xFFU);
     }
     return true;
+}
+
+struct Escape {
+    std::string_view word;
+    char character;
+};
+
+constexpr std::array<Escape, 8> escapes = {{{"\\0", '\0'},
+                                            {"\\a", '\a'},
+                                            {"\\b", '\b'},
+                                            {"\\t", '\t'},
+                                            {"\\n", '\n'},
+                                            {"\\v", '\v'},
+                                            {"\\f", '\f'},
+                                            {"\\r", '\r'}}};
+
+std::optional<char> characterOf(std::string_view cell) {
+    cell.remove_prefix(std::min(cell.find_first_not_of(' '), cell.size()));
+    if (cell.empty()) {
+        return ' ';
+    }
+    if (cell.size() == 1) {
+        return cell.front();
+    }
+    for (const Escape& escape : escapes) {
+        if (escape.word == cell) {
+            return escape.character;
+        }
+    }
+    const auto number = wholeNumber<unsigned>(cell, 8);
+    return number && *number <= 0xFF ? std::optional(static_cast<char>(*number)) : std::nullopt;
+}
+
+/// The characters of a row from behind its offset on.
+std::string charactersOf(std::string_view columns) {
+    constexpr std::size_t width = 4;
+    std::string bytes;
+    for (std::size_t place = 0; place + width <= columns.size(); place += width) {
+        const std::optional<char> character = characterOf(columns.substr(place, width));
+        if (!character) {
+            break;
+        }
+        bytes += *character;
+    }
+    return bytes;
 }
 
 /// Reads dumps of one kind of unit and offset.
@@ -110,11 +163,19 @@ private:
 
     /// The row of a line whose offset is from `least` to `most`.
     std::optional<Row> rowOf(std::size_t index, std::size_t least, std::size_t most) const {
-        const std::vector<std::string_view> words = wordsOf(lines_[index].text);
+        const std::string_view line = lines_[index].text;
+        const std::vector<std::string_view> words = wordsOf(line);
         for (std::size_t k = 0; k < std::min(words.size(), mostPrefixWords); ++k) {
             const std::optional<std::size_t> offset = offsetOf(words[k], offsetBase_);
             if (offset && *offset >= least && *offset <= most) {
                 Row row{*offset, {}};
+                if (form_.order == Order::Characters) {
+                    row.bytes = charactersOf({words[k].data() + words[k].size(), line.data() + line.size()});
+                    return row;
+                }
+                if (form_.bytes == 8 && words[k].ends_with(':')) {
+                    return std::nullopt;
+                }
                 for (++k; k < words.size() && appendUnit(words[k], form_, row.bytes); ++k) {
                 }
                 return row;

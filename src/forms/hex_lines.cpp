@@ -153,6 +153,9 @@ public:
 private:
     void takeLine(const Line& line) {
         const HexRun run = LineReader(line.text).read();
+        if (image_ && line.text == "*") {
+            image_.reset(); // rows were left out, and nothing says how many
+        }
         if (image_ && continues(line, run)) {
             return;
         }
@@ -168,6 +171,7 @@ private:
             return;
         }
         image_ = Found{run.bytes.substr(start), line.place};
+        lead_ = start;
         rowLength_ = image_->bytes.size();
         anyLength_ = start == 0 && run.wholeLine;
         open_ = leavesOpen(line.text);
@@ -180,8 +184,11 @@ private:
     }
 
     /// Adds a line to the image. False where it is none of its lines.
-    bool continues(const Line& line, const HexRun& run) {
+    bool continues(const Line& line, HexRun run) {
         const bool betweenBlocks = image_->bytes.size() % Image::blockSize == 0;
+        if (betweenBlocks && !run.wholeLine && run.bytes.size() > lead_) {
+            run.bytes.erase(0, lead_); // the line that begins a block is made like the first
+        }
         if (line.text.find_first_not_of(" \t>") == std::string_view::npos) {
             return true;
         }
@@ -189,7 +196,7 @@ private:
             // Between two rows of a list stand comments and brackets; words end it.
             return run.wholeLine && line.text.find_first_not_of(" \t>{}[](),;\\\"'") == std::string_view::npos;
         }
-        if (betweenBlocks && run.bytes.starts_with(imageHeader)) {
+        if (betweenBlocks && isComplete() && run.bytes.starts_with(imageHeader)) {
             return false; // another image
         }
         const bool fits =
@@ -203,6 +210,12 @@ private:
         return image_->bytes.substr(0, imageHeader.size()) == imageHeader.substr(0, image_->bytes.size());
     }
 
+    /// Whether all the blocks are there that byte 126 announces; an extension may begin with the header too.
+    bool isComplete() const {
+        const std::size_t announced = 1U + static_cast<unsigned char>(image_->bytes[extensionCountCell]);
+        return image_->bytes.size() >= announced * Image::blockSize;
+    }
+
     void end() {
         if (image_ && image_->bytes.size() >= Image::blockSize && image_->bytes.starts_with(imageHeader)) {
             found_.push_back(std::move(*image_));
@@ -212,6 +225,7 @@ private:
 
     std::vector<Line> lines_;
     std::optional<Found> image_;
+    std::size_t lead_ = 0;      ///< bytes in front of the header in the first line
     std::size_t rowLength_ = 0; ///< bytes of the first line
     bool open_ = false;         ///< the last line taken leaves its list open
     bool anyLength_ = false;    ///< nothing but hexadecimal stands in the first line, so that rows may be of any length

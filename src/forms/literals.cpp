@@ -31,6 +31,9 @@ private:
             takeNumber();
         } else if (c == ',' || isBlank(c) || c == '\r' || c == '\n') {
             ++place_;
+        } else if (c == '*') {
+            run_.clear(); // rows of a dump were left out, and nothing says how many
+            ++place_;
         } else {
             endRun();
             takeOther();

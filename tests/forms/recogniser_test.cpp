@@ -205,6 +205,20 @@ const std::vector<Form>& forms() {
                         "<\n";
              });
          }},
+        {"OdCharacters", "dump",
+         [](const S& b) {
+             return inRows(b, 16, [](std::size_t place, const S& row) {
+                 S cells;
+                 for (const char c : row) {
+                     const bool printable = c >= ' ' && c <= '~';
+                     cells += c == '\0'   ? "  \\0"
+                              : c == '\n' ? "  \\n"
+                              : printable ? S("   ") + c
+                                          : formatted(" %03o", static_cast<unsigned char>(c));
+                 }
+                 return formatted("%07o", static_cast<unsigned>(place)) + cells + '\n';
+             });
+         }},
         {"I2cdump", "dump",
          [](const S& b) {
              return "     0  1  2  3  4  5  6  7  8  9  a  b  c  d  e  f    0123456789abcdef\n" +
@@ -320,6 +334,13 @@ TEST(Recogniser, FillsWhatADumpLeavesOut) {
     const Recognition result = recognise(whole.substr(0, whole.find('\n', row) + 1) + "*\n" + whole.substr(last));
     ASSERT_EQ(result.images.size(), 1U) << result.refusal;
     EXPECT_EQ(result.images[0].content(), bytes);
+}
+
+TEST(Recogniser, RefusesRowsLeftOutWithoutOffsets) {
+    const std::string rows = plainRows(sample("halvorine-hv19.bin"), "", " ", "");
+    const Recognition result = recognise(rows + " 00 00 00 00\n*\n");
+    EXPECT_TRUE(result.images.empty());
+    EXPECT_EQ(result.refusal, "line 10: '*' is no hexadecimal pair");
 }
 
 TEST(Recogniser, RefusesWhatHasNoHeader) {
