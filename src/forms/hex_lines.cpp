@@ -3,6 +3,7 @@
 
 #include "core/base/digits.h"
 #include "core/base/image.h"
+#include "core/base/image_layout.h"
 #include "forms/found.h"
 #include "forms/lines.h"
 
