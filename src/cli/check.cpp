@@ -1,66 +1,175 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <limits>
 #include <memory>
+#include <optional>
 
 #include "cli/cli_error.h"
 #include "cli/commands.h"
 #include "cli/image_check.h"
 #include "cli/output.h"
+#include "cli/plain_reading.h"
 #include "cli/program.h"
+#include "fields/json.h"
 
 namespace wb::cli {
 
 namespace {
 
+using fields::Finding;
+using fields::Reading;
+using fields::Severity;
+
 /// A data file never holds more than these blocks.
 constexpr std::size_t blocksOfDataFile = 2;
 
-std::vector<Finding> checkDataFile(const Input& input) {
+struct Options {
+    std::vector<std::string> files;
+    std::string format = "text";
+    std::string level = "warning";
+    std::string failOn = "error";
+    bool quiet = false;
+};
+
+/// What is known of one file.
+struct Checked {
+    std::vector<CheckResult> results;
+    std::optional<Reading> reading; ///< none where there is not a whole block
+
+    bool good() const {
+        return std::all_of(results.begin(), results.end(), [](const CheckResult& result) { return result.good; });
+    }
+};
+
+Severity severityOf(const std::string& name) {
+    for (const Severity severity : {Severity::Error, Severity::Warning}) {
+        if (name == fields::severityName(severity)) {
+            return severity;
+        }
+    }
+    return Severity::Note;
+}
+
+Checked checkBytes(const Input& input, const std::string& bytes, std::size_t mostBlocks) {
+    Checked checked{.results = checkImage(bytes, mostBlocks), .reading = std::nullopt};
+    if (const auto image = Image::fromBytes(bytes, {.file = input.name, .form = {}, .output = {}})) {
+        checked.reading = fields::read(*image);
+    }
+    return checked;
+}
+
+Checked checkDataFile(const Input& input) {
     Program program;
-    std::vector<Finding> findings = checkImage(program.dataFileBytes(input), blocksOfDataFile);
+    Checked checked = checkBytes(input, program.dataFileBytes(input), blocksOfDataFile);
     for (const std::string& box : program.boxes()) {
-        findings.push_back({false, inOneLine(box)});
+        checked.results.push_back({false, inOneLine(box)});
+    }
+    return checked;
+}
+
+Checked checkFile(const std::string& name) {
+    const Input input = readInput(name);
+    const Content content = imageIn(input);
+    return content.kind == ContentKind::DataFile
+               ? checkDataFile(input)
+               : checkBytes(input, content.image, std::numeric_limits<std::size_t>::max());
+}
+
+std::vector<Finding> findingsFrom(const Checked& checked, Severity level) {
+    std::vector<Finding> findings;
+    if (checked.reading) {
+        std::copy_if(checked.reading->findings.begin(), checked.reading->findings.end(), std::back_inserter(findings),
+                     [&](const Finding& finding) { return finding.severity >= level; });
     }
     return findings;
 }
 
-/// Prints one line about the file. False when anything about it is wrong.
-bool checkFile(const std::string& name) {
-    const Input input = readInput(name);
-    const Content content = imageIn(input);
-    const std::vector<Finding> findings = content.kind == ContentKind::DataFile
-                                              ? checkDataFile(input)
-                                              : checkImage(content.image, std::numeric_limits<std::size_t>::max());
-    bool good = true;
-    std::string line = name;
-    for (const Finding& finding : findings) {
-        good = good && finding.good;
-        line += (&finding == &findings.front() ? ": " : ", ") + finding.text;
+std::string resultLine(const std::string& name, const std::vector<CheckResult>& results) {
+    std::string line = inOneLine(name);
+    for (const CheckResult& result : results) {
+        line += (&result == &results.front() ? ": " : ", ") + result.text;
     }
-    print(line + '\n');
-    return good;
+    return line + '\n';
 }
 
-int run(const std::vector<std::string>& files) {
-    requireOneStandardInput(files);
-    bool good = true;
-    for (const std::string& name : files) {
-        try {
-            good = checkFile(name) && good;
-        } catch (const CliError& error) {
-            complain(name, error.what());
-            good = false;
-        }
+std::string findingLine(const Finding& finding) {
+    fields::Where place;
+    place.add({.byte = finding.byte});
+    std::string line = "  " + std::string(fields::severityName(finding.severity)) + ", byte " + placeText(place);
+    if (!finding.path.empty()) {
+        line += ", " + finding.path;
     }
-    return good ? success : somethingFailed;
+    return line + ": " + inOneLine(finding.text) + " [" + std::string(finding.code) + "; " +
+           std::string(finding.clause) + "]\n";
+}
+
+void tell(const std::string& name, const Checked& checked, const std::vector<Finding>& findings, OutputFormat format) {
+    switch (format) {
+        case OutputFormat::Json:
+            print(fields::findingsToJson(*checked.reading, findings) + '\n');
+            break;
+        case OutputFormat::Tsv:
+            for (const Finding& finding : findings) {
+                print(
+                    tsvLine({name, fields::severityName(finding.severity), finding.code, std::to_string(finding.block),
+                             std::to_string(finding.byte), finding.path, finding.text, finding.clause}));
+            }
+            break;
+        case OutputFormat::Text:
+            print(resultLine(name, checked.results));
+            for (const Finding& finding : findings) {
+                print(findingLine(finding));
+            }
+            break;
+    }
+}
+
+int run(const Options& options) {
+    requireOneStandardInput(options.files);
+    const OutputFormat format = outputFormatOf(options.format);
+    const Severity level = severityOf(options.level);
+    const Severity failOn = severityOf(options.failOn);
+    bool good = true;
+    if (format == OutputFormat::Tsv) {
+        print(tsvLine({"file", "severity", "code", "block", "byte", "path", "text", "clause"}));
+    }
+    const bool read = forEachFile(options.files, [&](const std::string& name) {
+        const Checked checked = checkFile(name);
+        if (!checked.reading && format != OutputFormat::Text) {
+            throw CliError("is short of one block");
+        }
+        const std::vector<Finding> findings = findingsFrom(checked, level);
+        good = good && checked.good() && findingsFrom(checked, failOn).empty();
+        if (!options.quiet || !findings.empty() || !checked.good()) {
+            tell(name, checked, findings, format);
+        }
+    });
+    return good && read ? success : somethingFailed;
 }
 
 } // namespace
 
 Run addCheck(CLI::App& command) {
-    const auto files = std::make_shared<std::vector<std::string>>();
-    command.add_option("FILE", *files, "File in any format; - is standard input")->type_name("")->required();
-    return [files] { return run(*files); };
+    const auto options = std::make_shared<Options>();
+    command.add_option("FILE", options->files, "File in any format; - is standard input")->type_name("")->required();
+    const std::vector<std::string> levels = {"error", "warning", "note"};
+    command
+        .add_option("--level", options->level,
+                    "Tell findings of this severity and above: error, warning (the default), note")
+        ->type_name("LEVEL")
+        ->check(CLI::IsMember(levels))
+        ->take_last();
+    command
+        .add_option("--fail-on", options->failOn, "Fail for findings of this severity and above; error is the default")
+        ->type_name("LEVEL")
+        ->check(CLI::IsMember(levels))
+        ->take_last();
+    command.add_flag("-q,--quiet", options->quiet, "Tell only of files with findings")->disable_flag_override();
+    addFormatOption(command, options->format);
+    command.footer(
+        "Exit status: 0 nothing that counts was found, 1 something was found or a file could not be\n"
+        "read, 2 wrong usage. Header, length and check sums always count.");
+    return [options] { return run(*options); };
 }
 
 } // namespace wb::cli

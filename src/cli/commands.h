@@ -20,6 +20,8 @@ using Run = std::function<int()>;
 Run addTranslate(CLI::App& command);
 Run addConvert(CLI::App& command);
 Run addCheck(CLI::App& command);
+Run addInspect(CLI::App& command);
+Run addDiff(CLI::App& command);
 Run addRead(CLI::App& command);
 Run addMonitors(CLI::App& command);
 Run addScript(CLI::App& command);

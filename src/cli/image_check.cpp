@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t blockSize = 128;
 constexpr std::size_t extensionCountPlace = 126;
 
-Finding checkLength(std::string_view image, std::size_t mostBlocks) {
+CheckResult checkLength(std::string_view image, std::size_t mostBlocks) {
     std::string text = "length " + std::to_string(image.size());
     if (image.size() <= extensionCountPlace) {
         return {false, text + " is short of one block"};
@@ -25,7 +25,7 @@ Finding checkLength(std::string_view image, std::size_t mostBlocks) {
     return {true, text + " ok"};
 }
 
-Finding checkSum(std::string_view image, std::size_t block) {
+CheckResult checkSum(std::string_view image, std::size_t block) {
     const std::string_view bytes = image.substr(block * blockSize, blockSize);
     unsigned sum = 0;
     for (const char byte : bytes.substr(0, blockSize - 1)) {
@@ -42,13 +42,14 @@ Finding checkSum(std::string_view image, std::size_t block) {
 
 } // namespace
 
-std::vector<Finding> checkImage(std::string_view image, std::size_t mostBlocks) {
+std::vector<CheckResult> checkImage(std::string_view image, std::size_t mostBlocks) {
     const bool headed = acquire::IsEDIDHeaderValid(image);
-    std::vector<Finding> findings = {{headed, headed ? "header ok" : "header wrong"}, checkLength(image, mostBlocks)};
-    for (std::size_t block = 0; block < 2 && (block + 1) * blockSize <= image.size(); ++block) {
-        findings.push_back(checkSum(image, block));
+    std::vector<CheckResult> results = {{headed, headed ? "header ok" : "header wrong"},
+                                        checkLength(image, mostBlocks)};
+    for (std::size_t block = 0; (block + 1) * blockSize <= image.size(); ++block) {
+        results.push_back(checkSum(image, block));
     }
-    return findings;
+    return results;
 }
 
 } // namespace wb::cli

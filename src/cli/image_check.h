@@ -6,14 +6,14 @@
 
 namespace wb::cli {
 
-/// One finding about an image.
-struct Finding {
+/// What one check of an image gave.
+struct CheckResult {
     bool good = false;
     std::string text;
 };
 
 /// Checks the header, the length against the extension count in byte 126 (up to `mostBlocks` blocks of 128 bytes), and
-/// the check sums of block 0 and of the first extension, each as far as the image goes (VESA E-EDID Standard).
-std::vector<Finding> checkImage(std::string_view image, std::size_t mostBlocks);
+/// the check sum of every block that is whole (VESA E-EDID Standard).
+std::vector<CheckResult> checkImage(std::string_view image, std::size_t mostBlocks);
 
 } // namespace wb::cli

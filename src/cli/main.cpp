@@ -27,7 +27,9 @@ struct Command {
 constexpr auto commands = std::to_array<Command>({
     {"translate", "Print the report of each file", &addTranslate},
     {"convert", "Write an image in another format", &addConvert},
-    {"check", "Check header, length and check sums of each file", &addCheck},
+    {"check", "Tell what is wrong with each file", &addCheck},
+    {"inspect", "Tell what every byte of each file means", &addInspect},
+    {"diff", "Tell the fields in which two images differ", &addDiff},
     {"read", "Print what the running system stored of its first monitor", &addRead},
     {"monitors", "List the attached monitors, and where their EDID comes from", &addMonitors},
     {"script", "Drive the screens of the program by a script", &addScript},

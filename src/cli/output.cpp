@@ -13,6 +13,7 @@
 #include "cli/cli_error.h"
 #include "cli/input.h"
 #include "cli/temporary.h"
+#include "core/base/text.h"
 
 namespace wb::cli {
 
@@ -79,8 +80,15 @@ void complain(std::string_view file, std::string_view message) {
     complain(std::string(file) + ": " + std::string(message));
 }
 
+bool isControl(char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+}
+
+std::string controlEscape(char c) {
+    return "\\x" + ByteToHex2(static_cast<unsigned char>(c));
+}
+
 std::string inOneLine(std::string_view text) {
-    static constexpr std::string_view digits = "0123456789ABCDEF";
     std::string line;
     bool atLineEnd = false;
     for (const char c : text) {
@@ -92,9 +100,8 @@ std::string inOneLine(std::string_view text) {
             line += ' ';
         }
         atLineEnd = false;
-        const auto code = static_cast<unsigned char>(c);
-        if (code < ' ' || code == 127) {
-            line += {'\\', 'x', digits[code / 16U], digits[code % 16U]};
+        if (isControl(c)) {
+            line += controlEscape(c);
         } else {
             line += c;
         }

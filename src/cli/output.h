@@ -25,6 +25,11 @@ void complain(std::string_view message);
 /// The same about a file: "edidwb: FILE: MESSAGE".
 void complain(std::string_view file, std::string_view message);
 
+/// Whether a character is a control character of ASCII.
+bool isControl(char c);
+/// A control character as "\\x1B".
+std::string controlEscape(char c);
+
 /// A text of the program in one line: line ends become one blank, other control characters are escaped.
 std::string inOneLine(std::string_view text);
 

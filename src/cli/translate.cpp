@@ -10,9 +10,11 @@
 #include "cli/commands.h"
 #include "cli/ordered_jobs.h"
 #include "cli/output.h"
+#include "cli/plain_reading.h"
 #include "cli/program.h"
 #include "core/base/digits.h"
 #include "core/base/text.h"
+#include "fields/json.h"
 #include "platform/date_time.h"
 
 namespace wb::cli {
@@ -26,6 +28,7 @@ struct Options {
     std::optional<std::string> outputFolder;
     std::string jobs = "1";
     std::optional<std::string> date;
+    std::string format = "text";
     bool strict = false;
 };
 
@@ -35,6 +38,16 @@ struct Translation {
     std::vector<std::string> boxes;
     std::optional<std::string> error;
 };
+
+Translation summarise(const std::string& name) {
+    Translation result;
+    try {
+        result.report = fields::summaryToJson(readingOf(readInput(name))) + '\n';
+    } catch (const CliError& error) {
+        result.error = error.what();
+    }
+    return result;
+}
 
 Translation translate(const std::string& name, const std::optional<platform::DateTime>& now) {
     Translation result;
@@ -97,7 +110,8 @@ private:
     std::string reportNameOf(const std::string& name) const {
         const std::string stem = stemOf(name);
         const bool shared = name != standardStream && namesOfStem_.at(stem).size() > 1;
-        return (shared ? fs::path(name).filename().string() : stem) + ".txt";
+        return (shared ? fs::path(name).filename().string() : stem) +
+               (outputFormatOf(options_.format) == OutputFormat::Json ? ".json" : ".txt");
     }
 
     void writeReport(const std::string& name, const std::string& report) {
@@ -178,9 +192,11 @@ int run(const Options& options) {
             return somethingFailed;
         }
     }
+    const bool json = outputFormatOf(options.format) == OutputFormat::Json;
     Collector collector(options);
     OrderedJobs<Translation>::run(
-        options.files.size(), jobs, [&](std::size_t i) { return translate(options.files[i], now); },
+        options.files.size(), jobs,
+        [&](std::size_t i) { return json ? summarise(options.files[i]) : translate(options.files[i], now); },
         [&](const Translation& translation) { collector.take(translation); });
     return collector.failed() ? somethingFailed : success;
 }
@@ -194,7 +210,8 @@ Run addTranslate(CLI::App& command) {
                     "Data file, binary image or hexadecimal text, recognised by content; - is standard input")
         ->type_name("")
         ->required();
-    command.add_option("-o,--output-dir", options->outputFolder, "Write each report to DIR/NAME.txt instead")
+    command
+        .add_option("-o,--output-dir", options->outputFolder, "Write each report to DIR/NAME.txt (or .json) instead")
         ->type_name("DIR")
         ->check(refuseEmpty)
         ->take_last();
@@ -203,6 +220,7 @@ Run addTranslate(CLI::App& command) {
         ->type_name("\"YYYY-MM-DD HH:MM:SS\"")
         ->check(refuseEmpty)
         ->take_last();
+    addFormatOption(command, options->format, {"text", "json"});
     command.add_flag("--strict", options->strict, "Count the boxes that the program shows as failures")
         ->disable_flag_override();
     return [options] { return run(*options); };

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "core/base/json_writer.h"
-
 namespace wb::fields {
 
 namespace {
@@ -194,7 +192,7 @@ void writeField(JsonWriter& json, const Reading& reading, const Field& field) {
     json.beginObject().member("path", field.path).member("label", field.label);
     writeWhere(json, field.where);
     json.member("raw", rawText(reading.image, field)).key("value");
-    std::visit(ValueWriter{json}, field.value);
+    writeValue(json, field.value);
     if (!field.unit.empty()) {
         json.member("unit", field.unit);
     }
@@ -208,24 +206,47 @@ void writeFinding(JsonWriter& json, const Finding& finding) {
     json.member("text", finding.text).member("clause", finding.clause).endObject();
 }
 
-} // namespace
-
-std::string toJson(const Reading& reading) {
-    JsonWriter json;
+/// Begins the object of one file.
+void writeHead(JsonWriter& json, const Reading& reading) {
     json.beginObject().member("schema", jsonSchema);
     writeOrigin(json, reading);
     writeBlocks(json, reading);
+}
+
+void writeFindings(JsonWriter& json, std::span<const Finding> findings) {
+    json.key("findings").beginArray();
+    for (const Finding& finding : findings) {
+        writeFinding(json, finding);
+    }
+    json.endArray();
+}
+
+} // namespace
+
+void writeValue(JsonWriter& json, const Value& value) {
+    std::visit(ValueWriter{json}, value);
+}
+
+std::string toJson(const Reading& reading) {
+    JsonWriter json;
+    writeHead(json, reading);
     json.key("summary").beginObject();
     writeSummary(json, reading.summary);
     json.endObject().key("fields").beginArray();
     for (const Field& field : reading.fields) {
         writeField(json, reading, field);
     }
-    json.endArray().key("findings").beginArray();
-    for (const Finding& finding : reading.findings) {
-        writeFinding(json, finding);
-    }
-    json.endArray().endObject();
+    json.endArray();
+    writeFindings(json, reading.findings);
+    json.endObject();
+    return json.text();
+}
+
+std::string findingsToJson(const Reading& reading, std::span<const Finding> findings) {
+    JsonWriter json;
+    writeHead(json, reading);
+    writeFindings(json, findings);
+    json.endObject();
     return json.text();
 }
 

@@ -8,11 +8,11 @@ namespace {
 constexpr std::size_t anyBlocks = 1000;
 const std::string header("\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8);
 
-/// The findings, the wrong ones in upper case "BAD:".
-std::string textOf(const std::vector<Finding>& findings) {
+/// The results, the wrong ones in upper case "BAD:".
+std::string textOf(const std::vector<CheckResult>& results) {
     std::string text;
-    for (const Finding& finding : findings) {
-        text += (finding.good ? "" : "BAD: ") + finding.text + '\n';
+    for (const CheckResult& result : results) {
+        text += (result.good ? "" : "BAD: ") + result.text + '\n';
     }
     return text;
 }

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/base/image_layout.h"
+
 namespace wb {
 
 /// Where an image came from; what is not known is empty.
@@ -20,7 +22,7 @@ struct ImageOrigin {
 /// The whole of an identification image: one block of 128 bytes or more, in order, whatever they hold.
 class Image {
 public:
-    static constexpr std::size_t blockSize = 128;
+    static constexpr std::size_t blockSize = wb::blockSize;
     /// Byte 126 of block 0 counts at most 255 extensions.
     static constexpr std::size_t mostBlocks = 256;
 
@@ -42,7 +44,7 @@ public:
     /// How many bytes after the last block were left out: less than a block, or more than 256 blocks.
     std::size_t leftOver() const { return leftOver_; }
     /// How many extension blocks byte 126 of block 0 announces.
-    std::size_t announcedExtensions() const { return bytes_[126]; }
+    std::size_t announcedExtensions() const { return bytes_[extensionCountCell]; }
     /// Whether the eight bytes that open an image are there (VESA E-EDID Standard, Release A, section 3.3).
     bool hasHeader() const;
 

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/input.h"
+#include "fields/reading.h"
+
+namespace CLI {
+class App;
+}
+
+/// What the commands share that tell the plain reading of images.
+namespace wb::cli {
+
+enum class OutputFormat { Text, Json, Tsv };
+
+/// The option --format, which takes one of the names.
+void addFormatOption(CLI::App& command, std::string& format,
+                     const std::vector<std::string>& names = {"text", "json", "tsv"});
+
+/// The format of that name: "text", "json" or "tsv".
+OutputFormat outputFormatOf(const std::string& name);
+
+/// The plain reading of a file. One that holds no image is a CliError.
+fields::Reading readingOf(const Input& input);
+
+/// Where a field stands: bytes in hexadecimal, "08", "5F-6B", with the bits where they are not all of a byte,
+/// "17[4:3]", and a plus between the parts, the highest of the value first.
+std::string placeText(const fields::Where& where);
+
+/// The value of a field as one text: numbers in full, "true" or "false", lists with commas, empty where there is none.
+std::string valueText(const fields::Value& value);
+
+/// The columns with tabs between them and a line end; control characters and backslashes are escaped as \t, \n, \xHH
+/// and \\.
+std::string tsvLine(const std::vector<std::string_view>& columns);
+
+/// Runs `work` on each file in turn; what stops it is told, and the next one follows. False where any was stopped.
+bool forEachFile(const std::vector<std::string>& names, const std::function<void(const std::string& name)>& work);
+
+/// Whether texts for people go out in colour: standard output is a terminal, and the environment variable NO_COLOR is
+/// not set.
+bool usesColour();
+
+} // namespace wb::cli
