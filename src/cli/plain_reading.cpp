@@ -111,14 +111,13 @@ std::string valueText(const fields::Value& value) {
 std::string tsvLine(const std::vector<std::string_view>& columns) {
     std::string line;
     for (const std::string_view column : columns) {
-        if (&column != &columns.front()) {
-            line += '\t';
-        }
         for (const char c : column) {
             appendEscaped(line, c);
         }
+        line += '\t';
     }
-    return line + '\n';
+    line.back() = '\n';
+    return line;
 }
 
 bool forEachFile(const std::vector<std::string>& names, const std::function<void(const std::string& name)>& work) {

@@ -8,7 +8,7 @@
 
 namespace wb::fields {
 
-/// A reading as one JSON object on one line, in the schema of docs/edidwb-inspect.schema.json.
+/// A reading as one JSON object on one line, in the schema of docs/edidwb.schema.json.
 std::string toJson(const Reading& reading);
 
 /// The blocks of a reading and those of its findings that are given, in the same members.

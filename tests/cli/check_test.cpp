@@ -50,5 +50,32 @@ TEST_F(CheckTest, ADataFileWithTooManyPairsIsWrong) {
     EXPECT_TRUE(contains(outcome.output, "check sum of block 1 ok, Subscript out of range\n")) << outcome.output;
 }
 
+TEST_F(CheckTest, TellsFindingsBelowTheirFile) {
+    std::string image = sample("halvorine-hv19.bin");
+    image.replace(56, 1, 1, '\0'); // no active pixels in the first timing
+    image[58] = static_cast<char>(image[58] & 0x0F);
+    write("a.bin", image);
+    const Outcome outcome = shell("edidwb check a.bin");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(
+        contains(outcome.output, "\n  error, byte 38, base.detailed[1].h_active: The timing has no active pixels"))
+        << outcome.output;
+    EXPECT_TRUE(contains(outcome.output, "[timing.nothing_active; ")) << outcome.output;
+    const Outcome rows = shell("edidwb check --format tsv a.bin");
+    EXPECT_TRUE(contains(rows.output, "\na.bin\terror\ttiming.nothing_active\t0\t56\tbase.detailed[1].h_active\t"))
+        << rows.output;
+}
+
+TEST_F(CheckTest, QuietTellsOnlyOfFilesWithFindings) {
+    std::string image = sample("halvorine-hv19.bin");
+    image[127] = '\xF3'; // its check sum is F4
+    write("sum.bin", image);
+    const Outcome outcome =
+        shell("cd $SAMPLES; edidwb check --quiet --level error halvorine-hv19.bin \"$OLDPWD/sum.bin\"");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_FALSE(contains(outcome.output, "halvorine-hv19.bin")) << outcome.output;
+    EXPECT_TRUE(contains(outcome.output, "sum.bin: header ok, length 128 ok, check sum of block 0 F3 should be F4\n"));
+}
+
 } // namespace
 } // namespace wb::test

@@ -43,6 +43,13 @@ TEST(ImageCheck, TellsWhatIsWrong) {
               "header ok\nlength 256 ok\ncheck sum of block 0 ok\nBAD: check sum of block 1 00 should be FE\n");
 }
 
+TEST(ImageCheck, ChecksTheSumOfEveryBlock) {
+    const std::string image = block0(2) + std::string(255, '\0') + '\x01';
+    EXPECT_EQ(textOf(checkImage(image, anyBlocks)),
+              "header ok\nlength 384 ok\ncheck sum of block 0 ok\ncheck sum of block 1 ok\n"
+              "BAD: check sum of block 2 01 should be 00\n");
+}
+
 TEST(ImageCheck, GoesAsFarAsTheImage) {
     EXPECT_EQ(textOf(checkImage("", anyBlocks)), "BAD: header wrong\nBAD: length 0 is short of one block\n");
     EXPECT_EQ(textOf(checkImage(block0(0).substr(0, 127), anyBlocks)), "header ok\nBAD: length 127 should be 128\n");

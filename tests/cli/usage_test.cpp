@@ -9,7 +9,8 @@ TEST_F(UsageTest, TellsItsVersionAndHelp) {
     const Outcome version = shell("edidwb --version");
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output.substr(0, 7), "edidwb ");
-    for (const char* command : {"", "translate ", "convert ", "check ", "read ", "monitors ", "script "}) {
+    for (const char* command :
+         {"", "translate ", "convert ", "check ", "inspect ", "diff ", "read ", "monitors ", "script "}) {
         const Outcome help = shell("edidwb " + std::string(command) + "--help");
         EXPECT_EQ(help.status, 0) << command;
         EXPECT_TRUE(contains(help.output, "Usage: edidwb " + std::string(command))) << help.output;
@@ -46,6 +47,17 @@ TEST_F(UsageTest, WrongUseHasStatus2) {
                                   "monitors --frob",
                                   "check",
                                   "check - -",
+                                  "check --level bad x",
+                                  "check --fail-on never x",
+                                  "check --format xml x",
+                                  "check --quiet=no x",
+                                  "inspect",
+                                  "inspect - -",
+                                  "inspect --format xml x",
+                                  "diff a",
+                                  "diff a b c",
+                                  "diff --format tsv a b",
+                                  "translate --format tsv x",
                                   "convert a b",
                                   "convert --to bin a",
                                   "convert --to gif a b",

@@ -1,5 +1,6 @@
 #include "core/base/json_writer.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -40,8 +41,13 @@ void appendEscape(std::string& text, char control) {
     }
 }
 
-bool isEscaped(char c) {
-    return c == '"' || c == '\\' || static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+/// ASCII that stands for itself.
+bool isPlain(char c) {
+    return c >= ' ' && c < '\x7F' && c != '"' && c != '\\';
+}
+
+std::size_t plainLength(std::string_view text) {
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
 }
 
 } // namespace
@@ -113,18 +119,22 @@ void JsonWriter::separate() {
 
 void JsonWriter::writeText(std::string_view text) {
     text_ += '"';
-    for (std::size_t place = 0; place < text.size();) {
-        const std::size_t length = utf8SequenceLength(text.substr(place));
+    while (!text.empty()) {
+        const std::size_t plain = plainLength(text);
+        text_ += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty()) {
+            break;
+        }
+        const std::size_t length = utf8SequenceLength(text);
         if (length == 0) {
             text_ += replacement;
-            ++place;
-        } else if (length == 1 && isEscaped(text[place])) {
-            appendEscape(text_, text[place]);
-            ++place;
+        } else if (length == 1) {
+            appendEscape(text_, text.front());
         } else {
-            text_ += text.substr(place, length);
-            place += length;
+            text_ += text.substr(0, length);
         }
+        text.remove_prefix(std::max<std::size_t>(length, 1));
     }
     text_ += '"';
 }
