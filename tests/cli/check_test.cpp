@@ -6,7 +6,7 @@ namespace {
 using CheckTest = Edidwb;
 
 TEST_F(CheckTest, TellsAboutEachFile) {
-    const Outcome good = shell("cd $SAMPLES; edidwb check halvorine-hv19.bin zarqo-z40.bin");
+    const Outcome good = shell("cd $SAMPLES; edidwb check --level error halvorine-hv19.bin zarqo-z40.bin");
     EXPECT_EQ(good.status, 0);
     EXPECT_EQ(good.output,
               "halvorine-hv19.bin: header ok, length 128 ok, check sum of block 0 ok\n"
@@ -30,11 +30,14 @@ TEST_F(CheckTest, Status1WhenAnythingIsWrong) {
     write("notes", "no image");
     write("odd.DAT", "128 BYTES OF EDID CODE:\n\n\n|00 FF ZZ\n");
     write("short.DAT", "128 BYTES OF EDID CODE:\n\n\n|00 FF\n");
-    const Outcome outcome = shell("edidwb check sum.bin notes odd.DAT short.DAT missing");
+    const Outcome outcome = shell("edidwb check --level error sum.bin notes odd.DAT short.DAT missing");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.output,
-              "sum.bin: header ok, length 128 ok, check sum of block 0 F3 should be F4\n"
-              "short.DAT: header wrong, length 2 is short of one block\n");
+    EXPECT_EQ(
+        outcome.output,
+        "sum.bin: header ok, length 128 ok, check sum of block 0 F3 should be F4\n"
+        "  error, byte 7F: The bytes of block 0 do not sum up to 0, so that careful readers refuse it; correct its "
+        "last byte if the rest is right. [block.checksum; E-EDID 1.4, 3.11]\n"
+        "short.DAT: header wrong, length 2 is short of one block\n");
     EXPECT_EQ(outcome.errors,
               "edidwb: notes: is no EDID image: neither a data file, nor hexadecimal text, nor a binary image\n"
               "edidwb: odd.DAT: cell 2 is no byte: \"ZZ\"\n"
@@ -64,6 +67,18 @@ TEST_F(CheckTest, TellsFindingsBelowTheirFile) {
     const Outcome rows = shell("edidwb check --format tsv a.bin");
     EXPECT_TRUE(contains(rows.output, "\na.bin\terror\ttiming.nothing_active\t0\t56\tbase.detailed[1].h_active\t"))
         << rows.output;
+}
+
+TEST_F(CheckTest, TheLevelChoosesWhatIsToldAndTheOtherWhatFails) {
+    // The sample does not declare its first timing the preferred one, which 1.3 demands.
+    const std::string code = "[basic.no_preferred_timing; ";
+    const std::string check = "edidwb check $SAMPLES/halvorine-hv19.bin ";
+    EXPECT_EQ(shell(check).status, 0);
+    EXPECT_TRUE(contains(shell(check).output, code));
+    EXPECT_FALSE(contains(shell(check + "--level error").output, code));
+    const Outcome failed = shell(check + "--level error --fail-on warning");
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_FALSE(contains(failed.output, code));
 }
 
 TEST_F(CheckTest, QuietTellsOnlyOfFilesWithFindings) {
