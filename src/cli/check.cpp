@@ -10,6 +10,7 @@
 #include "cli/output.h"
 #include "cli/plain_reading.h"
 #include "cli/program.h"
+#include "core/base/text.h"
 #include "fields/json.h"
 
 namespace wb::cli {
@@ -93,9 +94,8 @@ std::string resultLine(const std::string& name, const std::vector<CheckResult>& 
 }
 
 std::string findingLine(const Finding& finding) {
-    fields::Where place;
-    place.add({.byte = finding.byte});
-    std::string line = "  " + std::string(fields::severityName(finding.severity)) + ", byte " + placeText(place);
+    std::string line = "  " + std::string(fields::severityName(finding.severity)) + ", byte " +
+                       std::to_string(finding.byte) + " (" + ByteToHex2(static_cast<long long>(finding.byte)) + "h)";
     if (!finding.path.empty()) {
         line += ", " + finding.path;
     }

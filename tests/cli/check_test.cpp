@@ -32,12 +32,12 @@ TEST_F(CheckTest, Status1WhenAnythingIsWrong) {
     write("short.DAT", "128 BYTES OF EDID CODE:\n\n\n|00 FF\n");
     const Outcome outcome = shell("edidwb check --level error sum.bin notes odd.DAT short.DAT missing");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(
-        outcome.output,
-        "sum.bin: header ok, length 128 ok, check sum of block 0 F3 should be F4\n"
-        "  error, byte 7F: The bytes of block 0 do not sum up to 0, so that careful readers refuse it; correct its "
-        "last byte if the rest is right. [block.checksum; E-EDID 1.4, 3.11]\n"
-        "short.DAT: header wrong, length 2 is short of one block\n");
+    EXPECT_EQ(outcome.output,
+              "sum.bin: header ok, length 128 ok, check sum of block 0 F3 should be F4\n"
+              "  error, byte 127 (7Fh): The bytes of block 0 do not sum up to 0, so that careful readers refuse it; "
+              "correct its "
+              "last byte if the rest is right. [block.checksum; E-EDID 1.4, 3.11]\n"
+              "short.DAT: header wrong, length 2 is short of one block\n");
     EXPECT_EQ(outcome.errors,
               "edidwb: notes: is no EDID image: neither a data file, nor hexadecimal text, nor a binary image\n"
               "edidwb: odd.DAT: cell 2 is no byte: \"ZZ\"\n"
@@ -60,8 +60,8 @@ TEST_F(CheckTest, TellsFindingsBelowTheirFile) {
     write("a.bin", image);
     const Outcome outcome = shell("edidwb check a.bin");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(
-        contains(outcome.output, "\n  error, byte 38, base.detailed[1].h_active: The timing has no active pixels"))
+    EXPECT_TRUE(contains(outcome.output,
+                         "\n  error, byte 56 (38h), base.detailed[1].h_active: The timing has no active pixels"))
         << outcome.output;
     EXPECT_TRUE(contains(outcome.output, "[timing.nothing_active; ")) << outcome.output;
     const Outcome rows = shell("edidwb check --format tsv a.bin");

@@ -50,6 +50,17 @@ TEST(ImageCheck, ChecksTheSumOfEveryBlock) {
               "BAD: check sum of block 2 01 should be 00\n");
 }
 
+TEST(ImageCheck, TellsRightSumsOfFurtherBlocksTogether) {
+    std::string image = block0(5) + std::string(5 * 128, '\0');
+    EXPECT_EQ(textOf(checkImage(image, anyBlocks)),
+              "header ok\nlength 768 ok\ncheck sum of block 0 ok\ncheck sum of block 1 ok\n"
+              "check sums of blocks 2 to 5 ok\n");
+    image[4 * 128] = '\x01';
+    EXPECT_EQ(textOf(checkImage(image, anyBlocks)),
+              "header ok\nlength 768 ok\ncheck sum of block 0 ok\ncheck sum of block 1 ok\n"
+              "check sums of blocks 2 to 3 ok\nBAD: check sum of block 4 00 should be FF\ncheck sum of block 5 ok\n");
+}
+
 TEST(ImageCheck, GoesAsFarAsTheImage) {
     EXPECT_EQ(textOf(checkImage("", anyBlocks)), "BAD: header wrong\nBAD: length 0 is short of one block\n");
     EXPECT_EQ(textOf(checkImage(block0(0).substr(0, 127), anyBlocks)), "header ok\nBAD: length 127 should be 128\n");
