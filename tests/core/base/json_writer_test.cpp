@@ -22,10 +22,12 @@ TEST(JsonWriter, EscapesWhatATextMayNotHold) {
 
 TEST(JsonWriter, ReplacesWhatIsNoUtf8) {
     JsonWriter json;
-    json.value("a\xFC"
-               "b\xE2\x82");
-    EXPECT_EQ(json.text(), "\"a\xEF\xBF\xBD"
-                           "b\xEF\xBF\xBD\xEF\xBF\xBD\"");
+    json.value(
+        "a\xFC"
+        "b\xE2\x82");
+    EXPECT_EQ(json.text(),
+              "\"a\xEF\xBF\xBD"
+              "b\xEF\xBF\xBD\xEF\xBF\xBD\"");
 }
 
 TEST(JsonWriter, WritesNumbersInTheFewestDigits) {
