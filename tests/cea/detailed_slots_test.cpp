@@ -306,8 +306,7 @@ TEST_F(SlotDispatch, SeekGoesOnToTheInputBox) {
 }
 
 TEST_F(SlotDispatch, AnEntryIsWrittenAndDecoded) {
-    modify();
-    focusOn(58);
+    visit(58);
     enter(screen().DTInput, "65");
     EXPECT_EQ(cell(58), "64");
     EXPECT_EQ(cell(59), "19");
@@ -319,13 +318,12 @@ TEST_F(SlotDispatch, AnEntryIsWrittenAndDecoded) {
 }
 
 TEST_F(SlotDispatch, AnEntryThatCannotBeReadCountsAsNothingAndAClockIsReadTwice) {
-    modify();
-    focusOn(60);
+    visit(60);
     enter(screen().DTInput, "1E400");
     EXPECT_EQ(boxes(), Texts{"Overflow"});
     EXPECT_EQ(cell(60), "00");
     EXPECT_EQ(cell(62), "01"); // the blanking part of "71" stays
-    focusOn(58);
+    visit(58);
     enter(screen().DTInput, "1E400");
     EXPECT_EQ(boxes(), Texts(2, "Overflow"));
     EXPECT_EQ(cell(58), "00");
@@ -333,13 +331,13 @@ TEST_F(SlotDispatch, AnEntryThatCannotBeReadCountsAsNothingAndAClockIsReadTwice)
 }
 
 TEST_F(SlotDispatch, AnOptionLeadsToItsCell) {
-    focusOn(58);
-    wb.runAction([&] { choose(screen().DT(11), -1); });
+    visit(58);
+    choose(screen().DT(11), -1);
     EXPECT_EQ(wb.focus.current(), &screen().txtEdit(70));
 }
 
 TEST_F(SlotDispatch, TheFlagByteIsEdited) {
-    focusOn(57);
+    visit(57);
     choose(screen().DT1, 1);
     EXPECT_EQ(cell(57), "9E");
     choose(screen().DTStereo(5), -1);
@@ -348,15 +346,18 @@ TEST_F(SlotDispatch, TheFlagByteIsEdited) {
     choose(screen().DTStereo(6), -1);
     EXPECT_EQ(cell(57), "9E");
     EXPECT_EQ(screen().frmStereo.caption(), "Normal Display - No Stereo");
+    ASSERT_TRUE(input::click(screen().VSyncLine));
+    EXPECT_EQ(cell(57), "9A");
+    ASSERT_TRUE(input::click(screen().VSyncLine));
+    EXPECT_EQ(cell(57), "9E");
     choose(screen().DTSync(2), -1); // polarities stay, the second one now is the serration
     EXPECT_EQ(cell(57), "96");
     EXPECT_EQ(screen().SyncSerrate.value(), 1);
     EXPECT_EQ(screen().SyncLine.caption(), "Composite Polarity (+)");
-    screen().SyncLine.raiseClick();
+    ASSERT_TRUE(input::click(screen().SyncLine));
     EXPECT_EQ(cell(57), "94");
-    screen().VSyncLine.raiseClick();
+    choose(screen().SyncSerrate, 0);
     EXPECT_EQ(cell(57), "90");
-    EXPECT_EQ(screen().SyncSerrate.value(), 0);
     choose(screen().SyncSerrate, 1);
     EXPECT_EQ(cell(57), "94");
     EXPECT_NE(wb.ExtDetailedBlockText(0).find("Digital Composite (Serrate) Composite Polarity (-)"), std::string::npos);

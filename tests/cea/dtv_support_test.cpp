@@ -77,6 +77,7 @@ TEST_F(DtvPanel, ADigitWithoutBitsClearsTheFlags) {
 
 TEST_F(DtvPanel, AFlagReplacesTheFirstDigit) {
     decode("81");
+    visit(3);
     const std::string before = wb.DTVSupportText;
     choose(screen().NativeChk(2), 1);
     EXPECT_EQ(cell(3), "A1");
@@ -90,6 +91,7 @@ TEST_F(DtvPanel, AFlagReplacesTheFirstDigit) {
 
 TEST_F(DtvPanel, TheNumberReplacesTheSecondDigit) {
     decode("81");
+    visit(3);
     choose(screen().NativeCBox, 15);
     EXPECT_EQ(cell(3), "8F");
     choose(screen().NativeCBox, 0);
@@ -107,6 +109,7 @@ TEST_F(DtvPanel, TheCheckSumFollows) {
     modify();
     decode("00");
     EXPECT_EQ(cell(127), "FB");
+    visit(3);
     choose(screen().NativeChk(0), 1);
     EXPECT_EQ(cell(127), "7B");
     choose(screen().NativeCBox, 11);
@@ -116,8 +119,10 @@ TEST_F(DtvPanel, TheCheckSumFollows) {
 TEST_F(DtvPanel, TheHandlersRestWhileADecoderRuns) {
     decode("81");
     screen().InFocusDispatch = flagTrue;
-    choose(screen().NativeChk(2), 1);
-    choose(screen().NativeCBox, 15);
+    screen().NativeChk(2).changeValue(1);
+    NativeChk_Click(wb, 2);
+    screen().NativeCBox.changeValue(15);
+    NativeCBox_Click(wb, 0);
     EXPECT_EQ(cell(3), "81");
 }
 

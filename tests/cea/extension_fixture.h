@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "cea/definitions.h"
-#include "core/keys.h"
 #include "files/image_loading.h"
 #include "support/program.h"
 
@@ -38,17 +37,27 @@ protected:
     void focusOn(int index) {
         wb.runAction([&] { wb.focus.moveTo(screen().txtEdit(index)); });
     }
-    /// A text entered into a box, confirmed by Enter.
-    void enter(Control& box, const std::string& text) {
-        wb.runAction([&] {
-            box.setText(text);
-            box.handlers().keyUp(wb, box.index(), enterKey);
-        });
+    /// The user sees the screen with Modify EDID on, and goes to a cell, which shows its panel.
+    void visit(int index) {
+        modify();
+        wb.windows.show(screen());
+        ASSERT_TRUE(input::moveFocus(screen().txtEdit(index)));
     }
-    /// The user picks a row of a list, sets an option or changes a check, where the focus stays unseen.
+    /// The user types a text over what a box holds, and confirms it by Enter.
+    void enter(Control& box, const std::string& text) {
+        ASSERT_TRUE(input::moveFocus(box)) << box.fullName();
+        input::select(box, 0, static_cast<int>(box.text().size()));
+        program.type(text.empty() ? "\b" : text);
+        ASSERT_TRUE(input::enter(wb));
+    }
+    /// The user picks a row of a list, sets an option or changes a check.
     static void choose(Control& control, int value) {
-        control.changeValue(value);
-        control.raiseClick();
+        if (control.kind() == ControlKind::Combo) {
+            ASSERT_TRUE(input::pick(control, value)) << control.fullName();
+        } else {
+            ASSERT_TRUE(control.kind() == ControlKind::Option || control.value() != value) << control.fullName();
+            ASSERT_TRUE(input::click(control)) << control.fullName();
+        }
     }
     void clearColours() {
         for (int i = 0; i < BlockScreen::cellCount; ++i) {

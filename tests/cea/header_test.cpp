@@ -84,6 +84,7 @@ class VersionEntry : public Header, public testing::WithParamInterface<Entry> {}
 
 TEST_P(VersionEntry, IsTakenOrRefused) {
     setCell(1, "AB");
+    visit(1);
     enter(screen().VerRev, GetParam().text);
     if (GetParam().cell != nullptr) {
         EXPECT_EQ(cell(1), GetParam().cell);
@@ -105,14 +106,15 @@ INSTANTIATE_TEST_SUITE_P(Entries, VersionEntry,
 class OffsetEntry : public Header, public testing::WithParamInterface<Entry> {};
 
 TEST_P(OffsetEntry, IsTakenOrRefused) {
-    setCell(2, "AB");
+    setCell(2, "20");
+    visit(2);
     enter(screen().DetailOffset, GetParam().text);
     if (GetParam().cell != nullptr) {
         EXPECT_EQ(cell(2), GetParam().cell);
         EXPECT_TRUE(boxes().empty());
         EXPECT_EQ(wb.ExtDtdOffsetText, std::to_string(std::stoi(GetParam().cell, nullptr, 16)));
     } else {
-        EXPECT_EQ(cell(2), "AB");
+        EXPECT_EQ(cell(2), "20");
         EXPECT_EQ(boxes(), Texts{"Valid number are 4 - 109"});
     }
 }

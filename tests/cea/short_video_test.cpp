@@ -87,7 +87,7 @@ TEST_P(VideoFormat, HasItsLineAndItsRow) {
     loadCollection({"41", GetParam().cell}, "10");
     EXPECT_EQ(wb.ShortVideoText.size(), 2);
     EXPECT_EQ(wb.ShortVideoText(1), GetParam().report + "   \r\n");
-    focusOn(5);
+    visit(5);
     EXPECT_EQ(screen().VideoBlkCBox.value(), code);
     EXPECT_EQ(screen().VideoBlkCBox.text(), GetParam().row);
     EXPECT_EQ(screen().NativeChkBox.value(), 0);
@@ -172,7 +172,7 @@ class VideoPanel : public ExtensionTest {
 protected:
     void SetUp() override {
         loadCollection({"42", "90", "04"}, "10");
-        focusOn(5);
+        visit(5);
     }
 };
 
@@ -201,13 +201,12 @@ TEST_F(VideoPanel, TheNativeFlagKeepsTheCode) {
 }
 
 TEST_F(VideoPanel, ASmallByteHasTwoDigits) {
-    focusOn(6);
+    visit(6);
     choose(screen().VideoBlkCBox, 5);
     EXPECT_EQ(cell(6), "05");
 }
 
 TEST_F(VideoPanel, TheCheckSumFollows) {
-    modify();
     choose(screen().NativeChkBox, 0);
     // 02 03 10 42 10 04: 6B in all
     EXPECT_EQ(cell(127), "95");
@@ -217,8 +216,10 @@ TEST_F(VideoPanel, TheCheckSumFollows) {
 
 TEST_F(VideoPanel, TheHandlersRestWhileADecoderRuns) {
     screen().InFocusDispatch = flagTrue;
-    choose(screen().NativeChkBox, 0);
-    choose(screen().VideoBlkCBox, 3);
+    screen().NativeChkBox.changeValue(0);
+    NativeChkBox_Click(wb, 0);
+    screen().VideoBlkCBox.changeValue(3);
+    VideoBlkCBox_Click(wb, 0);
     EXPECT_EQ(cell(5), "90");
 }
 

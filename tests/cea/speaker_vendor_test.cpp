@@ -45,8 +45,8 @@ TEST_F(SpeakerPanel, EachCheckHasItsMask) {
     const Texts without = {"7E", "7D", "7B", "77", "6F", "5F", "3F"};
     for (int i = 0; i < 7; ++i) {
         setCell(41, "FF");
-        screen().speaker(i).changeValue(0);
-        speaker_Click(wb, i);
+        visit(41);
+        choose(screen().speaker(i), 0);
         EXPECT_EQ(cell(41), without[static_cast<std::size_t>(i)]);
         choose(screen().speaker(i), 1);
         EXPECT_EQ(cell(41), "7F");
@@ -57,7 +57,8 @@ TEST_F(SpeakerPanel, EachCheckHasItsMask) {
 TEST_F(SpeakerPanel, RestsWhileADecoderRuns) {
     wb.SpeakerBlockStart = 40;
     screen().InFocusDispatch = flagTrue;
-    choose(screen().speaker(0), 1);
+    screen().speaker(0).changeValue(1);
+    speaker_Click(wb, 0);
     EXPECT_EQ(cell(41), "00");
 }
 
@@ -117,6 +118,7 @@ TEST_F(Vendor, AnEnteredIdentifierIsSplit) {
                                {"12345678", "123478", {"78", "34", "12"}},
                                {"abc", "ABBCBC", {"BC", "BC", "AB"}},
                                {"", "", {"", "", ""}}};
+    visit(41);
     for (const EntryCase& one : cases) {
         enter(screen().txtBoxVendorID, one.text);
         EXPECT_EQ((Texts{cell(41), cell(42), cell(43)}), one.cells) << one.text;
@@ -131,6 +133,7 @@ TEST_F(Vendor, EnteredDataIsSplit) {
                                {"ABCDE", "ABDE", {"AB", "DE"}}, // the middle is lost
                                {"12", "1212", {"12", "12"}},
                                {"7", "77", {"7", "7"}}};
+    visit(44);
     for (const EntryCase& one : cases) {
         enter(screen().txtBoxVendorData, one.text);
         EXPECT_EQ((Texts{cell(44), cell(45)}), one.cells) << one.text;
@@ -181,13 +184,14 @@ TEST_F(Vendor, EachExtensionFlagHasItsMask) {
     const Texts without = {"7F", "BF", "DF", "EF", "F7", "FE"};
     for (int i = 0; i < 6; ++i) {
         setCell(46, "FF");
-        screen().VSDBExt(i).changeValue(0);
-        VSDBExt_Click(wb, i);
+        visit(46);
+        choose(screen().VSDBExt(i), 0);
         EXPECT_EQ(cell(46), without[static_cast<std::size_t>(i)]);
         choose(screen().VSDBExt(i), 1);
         EXPECT_EQ(cell(46), "FF");
     }
     setCell(46, "06");
+    visit(46);
     choose(screen().VSDBExt(0), 1);
     EXPECT_EQ(cell(46), "86"); // bits without a check stay
     EXPECT_EQ(wb.VSDBExtText, "Supports_AI,");
@@ -195,7 +199,8 @@ TEST_F(Vendor, EachExtensionFlagHasItsMask) {
 
 TEST_F(Vendor, TheExtensionRestsWhileADecoderRuns) {
     screen().InFocusDispatch = flagTrue;
-    choose(screen().VSDBExt(0), 1);
+    screen().VSDBExt(0).changeValue(1);
+    VSDBExt_Click(wb, 0);
     EXPECT_EQ(cell(46), "00");
 }
 

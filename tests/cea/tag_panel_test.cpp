@@ -116,7 +116,8 @@ TEST_F(TagPanel, BeforeAnyHeaderTheHandlersOnlyRunTheCheckSum) {
     optButTag_Click(wb, 3);
     EXPECT_EQ(cell(127), "FB");
     setCell(127, "00");
-    choose(screen().TagCBox, 5);
+    screen().TagCBox.changeValue(5);
+    TagCBox_Click(wb, 0);
     EXPECT_EQ(cell(127), "FB");
     for (int i = 2; i < 127; ++i) {
         EXPECT_EQ(cell(i), "00");
@@ -143,14 +144,14 @@ class TagChoice : public ExtensionTest, public testing::WithParamInterface<KindC
 TEST_P(TagChoice, PutsTheTagBeforeTheOldLength) {
     wb.*GetParam().start = 20;
     setCell(20, "45");
-    wb.DataBlockKind = GetParam().kind;
-    focusOn(60);
-    wb.runAction([&] { choose(screen().optButTag(3), -1); });
+    visit(20);
+    EXPECT_EQ(wb.DataBlockKind, GetParam().kind);
+    choose(screen().optButTag(3), -1);
     EXPECT_EQ(cell(20), "65");
     EXPECT_EQ(wb.focus.current(), &screen().txtEdit(20));
-    wb.runAction([&] { choose(screen().optButTag(0), -1); });
+    choose(screen().optButTag(0), -1);
     EXPECT_EQ(cell(20), "05");
-    wb.runAction([&] { choose(screen().optButTag(4), -1); });
+    choose(screen().optButTag(4), -1);
     EXPECT_EQ(cell(20), "85");
     EXPECT_TRUE(boxes().empty());
 }
@@ -164,19 +165,18 @@ INSTANTIATE_TEST_SUITE_P(Kinds, TagChoice, testing::ValuesIn(kinds), [](const au
 
 TEST_F(TagPanel, ThePanelShowsTheOldHeaderAfterAChoice) {
     loadCollection({"41", "90"}, "10");
-    focusOn(4);
+    visit(4);
     EXPECT_EQ(selectedOf(screen().optButTag), std::vector<int>{2});
-    focusOn(60);
-    wb.runAction([&] { choose(screen().optButTag(1), -1); });
+    choose(screen().optButTag(1), -1);
     EXPECT_EQ(cell(4), "21");
     EXPECT_EQ(selectedOf(screen().optButTag), std::vector<int>{2});
 }
 
 TEST_F(TagPanel, AShortHeaderKeepsTheDigitsItHas) {
     wb.VendorBlockStart = 20;
-    wb.DataBlockKind = "ShortVendor";
     setCell(20, "6"); // 0110, all of it kept
-    wb.runAction([&] { choose(screen().optButTag(2), -1); });
+    visit(20);
+    choose(screen().optButTag(2), -1);
     EXPECT_EQ(cell(20), "26"); // 010 0110
 }
 
@@ -185,12 +185,12 @@ TEST_F(TagPanel, TheAudioKindHidesTheVideoPanel) {
     wb.AudioBlockStart = 20;
     focusOn(20);
     screen().Hints(16).setVisible(true);
-    wb.runAction([&] { choose(screen().optButTag(1), -1); });
+    wb.runAction([&] { optButTag_Click(wb, 1); });
     EXPECT_FALSE(screen().Hints(16).ownVisible());
     wb.DataBlockKind = "ShortVideo";
     wb.VideoBlockStart = 20;
     screen().Hints(16).setVisible(true);
-    wb.runAction([&] { choose(screen().optButTag(1), -1); });
+    wb.runAction([&] { optButTag_Click(wb, 1); });
     EXPECT_TRUE(screen().Hints(16).ownVisible()); // the focus stays, so that no dispatch hides it
 }
 
@@ -200,16 +200,17 @@ protected:
         loadCollection({}, "50");
         wb.VideoBlockStart = 0;
     }
-    void pick(int row) {
-        wb.runAction([&] { choose(screen().TagCBox, row); });
+    /// The user goes to a header and picks another length.
+    void pick(int header, int row) {
+        visit(header);
+        choose(screen().TagCBox, row);
     }
 };
 
 TEST_F(LengthChoice, VideoAlwaysWritesCell4) {
     wb.VideoBlockStart = 10;
     setCell(10, "41");
-    wb.DataBlockKind = "ShortVideo";
-    pick(17);
+    pick(10, 17);
     EXPECT_EQ(cell(4), "51"); // 010 10001
     EXPECT_EQ(cell(10), "41");
     EXPECT_EQ(wb.focus.current(), &screen().txtEdit(10));
@@ -222,8 +223,7 @@ TEST_F(LengthChoice, VideoAlwaysWritesCell4) {
 TEST_F(LengthChoice, AKnownNextStartStays) {
     wb.VideoBlockStart = 4;
     wb.AudioBlockStart = 9;
-    wb.DataBlockKind = "ShortVideo";
-    pick(2);
+    pick(4, 2);
     EXPECT_EQ(wb.AudioBlockStart, 9);
 }
 
@@ -231,8 +231,7 @@ TEST_F(LengthChoice, AudioCountsFromItsStart) {
     wb.VideoBlockStart = 4;
     wb.AudioBlockStart = 10;
     setCell(10, "23");
-    wb.DataBlockKind = "ShortAudio";
-    pick(6);
+    pick(10, 6);
     EXPECT_EQ(cell(10), "26");
     EXPECT_EQ(wb.SpeakerBlockStart, 17);
     EXPECT_EQ(cellsOfColour(CellColour::Group), cellRange(10, 16)); // its header too
@@ -242,8 +241,7 @@ TEST_F(LengthChoice, AudioCountsFromItsStart) {
 TEST_F(LengthChoice, SpeakersAreColouredByTheOldLength) {
     wb.SpeakerBlockStart = 10;
     setCell(10, "82");
-    wb.DataBlockKind = "ShortSpeaker";
-    pick(5);
+    pick(10, 5);
     EXPECT_EQ(cell(10), "85");
     EXPECT_EQ(wb.VendorBlockStart, 16);
     EXPECT_EQ(cellsOfColour(CellColour::Group), cellRange(10, 12));
@@ -252,8 +250,7 @@ TEST_F(LengthChoice, SpeakersAreColouredByTheOldLength) {
 TEST_F(LengthChoice, VendorHasNoFollowUp) {
     wb.VendorBlockStart = 10;
     setCell(10, "65");
-    wb.DataBlockKind = "ShortVendor";
-    pick(31);
+    pick(10, 31);
     EXPECT_EQ(cell(10), "7F");
     EXPECT_EQ(cellsOfColour(CellColour::Group), cellRange(10, 15));
     EXPECT_EQ(wb.SpeakerBlockStart, 0);
@@ -263,28 +260,25 @@ TEST_F(LengthChoice, VendorHasNoFollowUp) {
 TEST_F(LengthChoice, AShortByteHasOneDigit) {
     wb.VendorBlockStart = 10;
     setCell(10, "05");
-    wb.DataBlockKind = "ShortVendor";
-    pick(9);
+    pick(10, 9);
     EXPECT_EQ(cell(10), "9");
-    pick(16);
+    pick(10, 16);
     EXPECT_EQ(cell(10), "90"); // "9" gives the tag 100, and 100 10000 is 90
 }
 
 TEST_F(LengthChoice, ATextOfNoRowLeavesTheTagAlone) {
     wb.SpeakerBlockStart = 10;
     setCell(10, "82");
-    wb.DataBlockKind = "ShortSpeaker";
+    visit(10);
     screen().TagCBox.setText("many");
     wb.runAction([&] { TagCBox_Click(wb, 0); });
     EXPECT_EQ(cell(10), "4");           // 100
     EXPECT_EQ(wb.VendorBlockStart, 11); // as for row 0
 }
 
-TEST_F(LengthChoice, ThroughTheListItself) {
-    modify();
+TEST_F(LengthChoice, IsTakenForTheLengthAtTheNextVisit) {
     loadCollection({"41", "90", "23"}, "50");
-    focusOn(4);
-    ASSERT_TRUE(input::pick(screen().TagCBox, 2));
+    pick(4, 2);
     EXPECT_EQ(cell(4), "42");
     EXPECT_EQ(wb.VideoBlockLength, 1);
     focusOn(5);
