@@ -44,7 +44,7 @@ const Entry entries[] = {
 
 TEST_F(Basic, Values) {
     for (const Entry& row : entries) {
-        SCOPED_TRACE(row.typed);
+        SCOPED_TRACE(entryName(row.cell, row.typed));
         program.setCells(21, {"05", "05", "05"});
         visit(row.cell);
         enter(screen().BasicInput, row.typed);

@@ -42,7 +42,7 @@ const Entry entries[] = {
 
 TEST_F(Chromaticity, Values) {
     for (const Entry& row : entries) {
-        SCOPED_TRACE(row.typed);
+        SCOPED_TRACE(entryName(27, row.typed));
         fill("00");
         visit(27);
         enter(screen().ChromaValue, row.typed);
@@ -62,7 +62,7 @@ TEST_F(Chromaticity, Values) {
 TEST_F(Chromaticity, EachCoordinateHasItsBits) {
     const char* lows[] = {"3F", "CF", "F3", "FC"};
     for (int i = 0; i <= 7; ++i) {
-        SCOPED_TRACE(i);
+        SCOPED_TRACE(cellName(27 + i));
         fill("FF");
         visit(27 + i);
         enter(screen().ChromaValue, "0.5");

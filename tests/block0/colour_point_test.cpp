@@ -42,7 +42,7 @@ const EntryOfWhite entriesOfWhite[] = {
 
 TEST_F(ColourPoint, Entries) {
     for (const EntryOfWhite& row : entriesOfWhite) {
-        SCOPED_TRACE(std::to_string(row.offset) + " " + row.typed);
+        SCOPED_TRACE(entryName(base + row.offset, row.typed));
         makePoints();
         visit(base + row.offset);
         EXPECT_EQ(focused(), "frmEDID.DTaInput") << "the decoder gives it the focus in any case";

@@ -77,7 +77,7 @@ TEST_F(Descriptor, WithoutATagEnterDoesNothing) {
 TEST_F(Descriptor, TagOptions) {
     const char* tags[] = {"FF", "FE", "FD", "FC", "FB", "FA"};
     for (int i = 0; i <= 5; ++i) {
-        SCOPED_TRACE(i);
+        SCOPED_TRACE(screen().DTa(i).fullName());
         makeBlock(i == 0 ? "FE" : "FF");
         visit(base);
         click(screen().DTa(i));

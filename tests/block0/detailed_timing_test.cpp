@@ -89,7 +89,7 @@ const std::vector<Entry> entries = {
 
 TEST_F(DetailedTiming, Entries) {
     for (const Entry& row : entries) {
-        SCOPED_TRACE(std::to_string(row.field) + " on " + row.fill + ": " + row.typed);
+        SCOPED_TRACE(entryName(base + fieldCells[row.field], row.typed) + " on " + row.fill);
         fill(row.fill);
         visitField(row.field);
         ASSERT_EQ(screen().DT.firstSelected(), row.field);
@@ -121,7 +121,7 @@ const Refused refusals[] = {
 
 TEST_F(DetailedTiming, Refusals) {
     for (const Refused& row : refusals) {
-        SCOPED_TRACE(row.typed);
+        SCOPED_TRACE(entryName(base + fieldCells[row.field], row.typed));
         fill("FF");
         visitField(row.field);
         screen().DT(10).setCaption("stale");
@@ -173,7 +173,7 @@ const RoundTrip roundTrips[] = {
 
 TEST_F(DetailedTiming, EntriesComeBack) {
     for (const RoundTrip& row : roundTrips) {
-        SCOPED_TRACE(row.field);
+        SCOPED_TRACE(cellName(base + fieldCells[row.field]));
         for (int value = 0; value <= row.highest; value += value < 300 ? 1 : 37) {
             fill("00");
             visitField(row.field);
@@ -238,7 +238,7 @@ TEST_F(DetailedTiming, StereoBits) {
     setFlags("9E");
     const std::string checksum = cell(127);
     for (int i = 0; i <= 6; ++i) {
-        SCOPED_TRACE(i);
+        SCOPED_TRACE(screen().DTStereo(i).fullName());
         click(screen().DTStereo(i));
         EXPECT_EQ(flags(), texts[i]);
         EXPECT_EQ(screen().frmStereo.caption(), i == 6 ? "Normal Display - No Stereo" : "Stereo");
@@ -265,7 +265,7 @@ TEST_F(DetailedTiming, SyncBits) {
     const char* texts[] = {"80", "88", "90", "98"};
     fill("FF");
     for (int i = 0; i <= 3; ++i) {
-        SCOPED_TRACE(i);
+        SCOPED_TRACE(screen().DTSync(i).fullName());
         setFlags(i == 3 ? "80" : "98");
         click(screen().DTSync(i));
         EXPECT_EQ(flags(), texts[i]);

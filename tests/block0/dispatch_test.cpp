@@ -26,7 +26,7 @@ class Dispatch : public Editor {
 protected:
     void expectVisits(const Visit& row) {
         for (int i = row.first; i <= row.last; ++i) {
-            SCOPED_TRACE(i);
+            SCOPED_TRACE(cellName(i));
             visit(i);
             expectPanel(row.panel);
             for (int other = 0; other < BlockScreen::cellCount; ++other) {
@@ -103,7 +103,7 @@ const VendorVisit vendorVisits[] = {
 TEST_F(Dispatch, IdentityCells) {
     program.setCells(8, {"04", "43", "41", "42", "01", "00", "00", "00", "0A", "0B"});
     for (const VendorVisit& row : vendorVisits) {
-        SCOPED_TRACE(row.cell);
+        SCOPED_TRACE(cellName(row.cell));
         visit(row.cell);
         for (int label = 0; label <= 4; ++label) {
             EXPECT_EQ(screen().lbVendor(label).fontBold(), label == row.label) << label;
@@ -148,7 +148,7 @@ TEST_F(Dispatch, BasicValues) {
     program.setCells(21, {"34", "00", "78"});
     const char* texts[] = {"520", "", "2.20"}; // nothing stands before the blank of " mm"
     for (int i = 0; i <= 2; ++i) {
-        SCOPED_TRACE(i);
+        SCOPED_TRACE(cellName(21 + i));
         visit(21 + i);
         EXPECT_TRUE(screen().BasicInput.visible());
         EXPECT_EQ(screen().BasicInput.text(), texts[i]);
@@ -216,7 +216,7 @@ TEST_F(Dispatch, EstablishedTimings) {
 TEST_F(Dispatch, StandardTimings) {
     program.setCells(38, {"31", "00", "31", "40", "31", "80", "31", "C0"});
     for (int i = 38; i <= 53; ++i) {
-        SCOPED_TRACE(i);
+        SCOPED_TRACE(cellName(i));
         const int pair = (i - 38) / 2;
         visit(i);
         EXPECT_EQ(screen().STOpt.firstSelected(), pair);
@@ -266,7 +266,7 @@ const TimingVisit timingVisits[] = {
 TEST_F(Dispatch, FieldsOfATiming) {
     makeTiming(72);
     for (const TimingVisit& row : timingVisits) {
-        SCOPED_TRACE(row.offset);
+        SCOPED_TRACE(cellName(72 + row.offset));
         visit(72 + row.offset);
         EXPECT_EQ(screen().DT.firstSelected(), row.option);
         EXPECT_EQ(screen().DTInput.visible(), row.input);
@@ -280,7 +280,7 @@ TEST_F(Dispatch, FieldsOfATiming) {
 TEST_F(Dispatch, BlocksAndTheirCaptions) {
     const char* ranges[] = {"(54-71)", "(72-89)", "(90-107)", "(108-125)"};
     for (int block = 0; block <= 3; ++block) {
-        SCOPED_TRACE(block);
+        SCOPED_TRACE("block " + std::to_string(block));
         const int base = 54 + 18 * block;
         makeTiming(base);
         visit(base + 17);

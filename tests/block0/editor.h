@@ -58,6 +58,10 @@ protected:
         return control == nullptr ? "none" : control->fullName();
     }
     static std::string cellName(int index) { return "frmEDID.txtEdit(" + std::to_string(index) + ')'; }
+    /// What a trace calls an entry, which may be empty, into a cell or its panel.
+    static std::string entryName(int index, std::string_view typed) {
+        return cellName(index) + " typed \"" + std::string(typed) + '"';
+    }
     /// The sum of all cells of the block, which its check sum makes 0.
     int blockSum() {
         int sum = 0;

@@ -12,7 +12,7 @@ TEST_F(Established, EachCheckWritesItsBit) {
     const char* bits[] = {"80", "40", "20", "10", "08", "04", "02", "01"};
     const char* others[] = {"7F", "BF", "DF", "EF", "F7", "FB", "FD", "FE"};
     for (int i = 0; i <= 7; ++i) {
-        SCOPED_TRACE(i);
+        SCOPED_TRACE("check " + std::to_string(i));
         for (const auto& [cell, checks] : {std::pair{35, &screen().ET1}, std::pair{36, &screen().ET2}}) {
             program.setCells(cell, {"00"});
             visit(cell);

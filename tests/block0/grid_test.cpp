@@ -183,7 +183,7 @@ const Decoded decodedFields[] = {
 TEST_F(Grid, ATypedCellDecodesItsField) {
     switchModify();
     for (const Decoded& row : decodedFields) {
-        SCOPED_TRACE(row.cell);
+        SCOPED_TRACE(entryName(row.cell, row.typed));
         const std::string before = cell(row.cell);
         visit(row.cell);
         program.type(row.typed);
@@ -331,7 +331,7 @@ TEST_F(DoubleClick, BlanksTheBlockInHand) {
 TEST_F(DoubleClick, OnAnyPanelBlanksTheLastBlock) {
     switchModify();
     for (const auto& [cell, panel] : {std::pair{8, 1}, {18, 2}, {20, 3}, {25, 4}, {35, 5}, {36, 6}, {37, 7}}) {
-        SCOPED_TRACE(panel);
+        SCOPED_TRACE(screen().Hints(panel).fullName());
         fill();
         visit(90);
         visit(cell);

@@ -43,7 +43,7 @@ const Entry rangeEntries[] = {
 
 TEST_F(RangeLimits, Entries) {
     for (const Entry& row : rangeEntries) {
-        SCOPED_TRACE(std::to_string(row.offset) + " " + row.typed);
+        SCOPED_TRACE(entryName(base + row.offset, row.typed));
         makeLimits();
         visit(base + row.offset);
         ASSERT_EQ(screen().DtaOpt.firstSelected(), row.offset - 5);
@@ -169,7 +169,7 @@ TEST_F(Curve, OptionsOpenTheirFields) {
 
 TEST_F(Curve, Entries) {
     for (const Entry& row : curveEntries) {
-        SCOPED_TRACE(std::to_string(row.offset) + " " + row.typed);
+        SCOPED_TRACE(entryName(base + row.offset, row.typed));
         open(optionOf(row.offset));
         enter(screen().DTaInput, row.typed);
         EXPECT_EQ(at(row.offset), row.text);
@@ -197,7 +197,7 @@ const EntryOfM entriesOfM[] = {
 
 TEST_F(Curve, EntriesOfM) {
     for (const EntryOfM& row : entriesOfM) {
-        SCOPED_TRACE(row.typed);
+        SCOPED_TRACE(entryName(base + 14, row.typed));
         open(2);
         enter(screen().DTaInput, row.typed);
         EXPECT_EQ(cells(base + 14, base + 15), row.cells);

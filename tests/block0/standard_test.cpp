@@ -51,7 +51,7 @@ protected:
 
     void expectEntries(int firstCell, ControlArray& adjust, Control& box) {
         for (const Entry& row : entries) {
-            SCOPED_TRACE(std::to_string(row.adjust) + " " + row.typed);
+            SCOPED_TRACE(adjust(row.adjust).fullName() + ", " + entryName(firstCell, row.typed));
             program.setCells(firstCell, {"31", "C5"});
             visit(firstCell);
             click(adjust(row.adjust));
@@ -107,7 +107,7 @@ TEST_F(Standard, TheAspectLeavesTheRate) {
     program.setCells(38, {"31", "C5"});
     program.setCells(59, {"31", "C5"});
     for (int i = 0; i <= 3; ++i) {
-        SCOPED_TRACE(i);
+        SCOPED_TRACE(screen().STAOptb(i).fullName());
         visit(39);
         click(screen().STAOptb(i));
         EXPECT_EQ(cells(38, 39), std::string("31 ") + rates[i]);

@@ -23,7 +23,7 @@ protected:
     template <std::size_t count>
     void expectEntries(const Entry (&rows)[count], Control& box) {
         for (const Entry& row : rows) {
-            SCOPED_TRACE(std::to_string(row.cell) + " " + row.typed);
+            SCOPED_TRACE(entryName(row.cell, row.typed));
             reset();
             visit(row.cell);
             program.takeBoxes();
@@ -219,7 +219,7 @@ const Filtered filters[] = {
 
 TEST_F(Vendor, KeyFilters) {
     for (const Filtered& row : filters) {
-        SCOPED_TRACE(row.typed);
+        SCOPED_TRACE(entryName(row.cell, row.typed));
         visit(row.cell);
         moveFocus(screen().VendorInfo);
         ASSERT_TRUE(input::edit(screen().VendorInfo, "", 0, 0, 0));

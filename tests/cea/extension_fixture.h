@@ -43,11 +43,11 @@ protected:
         wb.windows.show(screen());
         ASSERT_TRUE(input::moveFocus(screen().txtEdit(index)));
     }
-    /// The user types a text over what a box holds, and confirms it by Enter.
+    /// Types a text into a box that the user has emptied, and Enter.
     void enter(Control& box, const std::string& text) {
         ASSERT_TRUE(input::moveFocus(box)) << box.fullName();
-        input::select(box, 0, static_cast<int>(box.text().size()));
-        program.type(text.empty() ? "\b" : text);
+        ASSERT_TRUE(input::edit(box, "", 0, 0, 0));
+        program.type(text);
         ASSERT_TRUE(input::enter(wb));
     }
     /// The user picks a row of a list, sets an option or changes a check.

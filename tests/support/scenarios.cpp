@@ -35,7 +35,7 @@ std::filesystem::path keepTrace(const Scenario& scenario, const std::string& tra
     std::replace(suite.begin(), suite.end(), '/', '-');
     const std::filesystem::path folder = std::filesystem::path(WORKBENCH_TRACES) / suite;
     std::filesystem::create_directories(folder);
-    const std::filesystem::path file = folder / (scenario.name + ".actual");
+    std::filesystem::path file = folder / (scenario.name + ".actual");
     std::ofstream(file, std::ios::binary) << trace;
     return file;
 }
