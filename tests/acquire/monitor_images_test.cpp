@@ -2,6 +2,7 @@
 // WORKBENCH_MONITOR_IMAGES names, such as a collection of what real monitors report, which is no part of the
 // repository.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -20,6 +21,8 @@
 
 namespace wb::test {
 namespace {
+
+using testing::HasSubstr;
 
 namespace fs = std::filesystem;
 
@@ -170,7 +173,7 @@ TEST_P(MonitorImages, AreToldInFull) {
             sum += byteAt(program.workbench.frmEDID(), i);
         }
         const std::string words = sum % 256 == 0 ? "CheckSum OK" : "CheckSum Is Invalid";
-        EXPECT_NE(report.find("\r\n  (127)  " + words + "\r\n"), std::string::npos);
+        EXPECT_THAT(report, HasSubstr("\r\n  (127)  " + words + "\r\n"));
     }
 }
 

@@ -1,7 +1,11 @@
+#include <gmock/gmock.h>
+
 #include "block0/editor.h"
 
 namespace wb::test {
 namespace {
+
+using testing::HasSubstr;
 
 constexpr int base = 72;
 constexpr int fieldCells[] = {0, 2, 3, 5, 6, 8, 9, 10, 11, 15, 16, 12, 13};
@@ -313,7 +317,7 @@ TEST_F(DetailedTiming, Serration) {
     setFlags("10");
     click(screen().SyncSerrate);
     EXPECT_EQ(flags(), "14");
-    EXPECT_EQ(workbench.DetailedBlockText(1).find("Digital Composite (Serrate) ") != std::string::npos, true);
+    EXPECT_THAT(workbench.DetailedBlockText(1), HasSubstr("Digital Composite (Serrate) "));
     click(screen().SyncSerrate);
     EXPECT_EQ(flags(), "10");
     EXPECT_EQ(blockSum(), 0);

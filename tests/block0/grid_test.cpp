@@ -1,8 +1,12 @@
+#include <gmock/gmock.h>
+
 #include "block0/dispatch.h"
 #include "block0/editor.h"
 
 namespace wb::test {
 namespace {
+
+using testing::HasSubstr;
 
 class Grid : public Editor {};
 
@@ -222,19 +226,17 @@ TEST_F(Grid, AnOpenReportFollowsAtTheNextChangeOfCell) {
     switchModify();
     visit(8);
     click(frame().Command1);
-    const auto reportHas = [&](const std::string& text) {
-        return workbench.frmDocument().rtftext.text().find(text) != std::string::npos;
-    };
-    EXPECT_TRUE(reportHas("=   @@@"));
+    const Control& report = workbench.frmDocument().rtftext;
+    EXPECT_THAT(report.text(), HasSubstr("=   @@@"));
     visit(8); // the change of the check sum that Modify brought makes the report anew
     EXPECT_EQ(focused(), "frmDocument.rtftext");
     visit(8);
     EXPECT_EQ(focused(), cellName(8));
     program.type("04");
-    EXPECT_TRUE(reportHas("=   @@@")) << "never at a keystroke";
+    EXPECT_THAT(report.text(), HasSubstr("=   @@@")) << "never at a keystroke";
     EXPECT_EQ(workbench.EDIDRedecodeNeeded, flagTrue);
     moveFocus(screen().txtEdit(9));
-    EXPECT_TRUE(reportHas("=   A@@"));
+    EXPECT_THAT(report.text(), HasSubstr("=   A@@"));
     EXPECT_EQ(workbench.EDIDRedecodeNeeded, flagFalse);
     EXPECT_EQ(focused(), "frmDocument.rtftext") << "a rebuilt report takes the focus";
 }

@@ -1,10 +1,13 @@
 #include "cea/cell_edit.h"
 
+#include <gmock/gmock.h>
+
 #include "cea/extension_fixture.h"
 
 namespace wb::cea {
 namespace {
 
+using testing::HasSubstr;
 using Texts = std::vector<std::string>;
 
 class CellEdit : public test::EveryBlockTest {
@@ -71,7 +74,7 @@ TEST_F(CellEdit, TheOtherFields) {
     typeInto(1, "02");
     EXPECT_EQ(screen().VerRev.text(), "2");
     typeInto(3, "00");
-    EXPECT_NE(wb.DTVSupportText.find("There are no Native Format Specified."), std::string::npos);
+    EXPECT_THAT(wb.DTVSupportText, HasSubstr("There are no Native Format Specified."));
     typeInto(5, "84");
     EXPECT_EQ(wb.ShortVideoText(1), "1280x720p 59.94/60Hz 16:9 861   Native\r\n");
     typeInto(26, "64");

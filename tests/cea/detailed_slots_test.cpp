@@ -1,5 +1,7 @@
 #include "cea/detailed_slots.h"
 
+#include <gmock/gmock.h>
+
 #include "cea/definitions.h"
 #include "cea/extension_fixture.h"
 
@@ -10,6 +12,7 @@ using test::cellRange;
 using test::ExtensionTest;
 using test::noElement;
 using test::selectedOf;
+using testing::HasSubstr;
 using Texts = std::vector<std::string>;
 
 /// 1920x1080 at 148.50 MHz, blanking 280 and 45, sync 88/44 and 4/5, 930 x 523 mm, separate sync of both polarities
@@ -63,12 +66,12 @@ TEST_F(Slots, ATimingIsReportedWithItsScan) {
 TEST_F(Slots, AnInterlacedTitleTellsTheWholeFrame) {
     decode(with(with(with(fullHd, 5, "1C"), 7, "20"), 17, "9E")); // 540 lines
     EXPECT_EQ(firstLine(), std::string(18, ' ') + "1920x1080i  Pixel Clock: 148.50 MHz");
-    EXPECT_NE(text().find("Active Time: 540 lines"), std::string::npos);
-    EXPECT_NE(text().find("Refreshed Mode: Interlaced"), std::string::npos);
+    EXPECT_THAT(text(), HasSubstr("Active Time: 540 lines"));
+    EXPECT_THAT(text(), HasSubstr("Refreshed Mode: Interlaced"));
     EXPECT_EQ(screen().DT(3).caption(), "Active Time - 540 lines");
     EXPECT_EQ(screen().DT1.value(), 1);
     // 585 lines of 14.81 us: the title changes no rate
-    EXPECT_NE(text().find("Frequency: 115.38 Hz"), std::string::npos);
+    EXPECT_THAT(text(), HasSubstr("Frequency: 115.38 Hz"));
     decode(with(with(with(fullHd, 5, "1C"), 7, "20"), 17, "1E"));
     EXPECT_EQ(firstLine(), std::string(18, ' ') + "1920x540p  Pixel Clock: 148.50 MHz");
 }
@@ -77,7 +80,7 @@ TEST_F(Slots, BitZeroAloneIsANormalDisplay) {
     screen().DTStereo(3).changeValue(-1);
     decode(with(fullHd, 17, "01"));
     EXPECT_EQ(screen().frmStereo.caption(), "Normal Display - No Stereo");
-    EXPECT_NE(text().find("Normal Display - No Stereo"), std::string::npos);
+    EXPECT_THAT(text(), HasSubstr("Normal Display - No Stereo"));
     EXPECT_TRUE(selectedOf(screen().DTStereo).empty());
 }
 
@@ -87,7 +90,7 @@ TEST_F(Slots, StereoKinds) {
         decode(with(fullHd, 17, flags));
         EXPECT_EQ(screen().frmStereo.caption(), "Stereo") << flags;
         EXPECT_EQ(selectedOf(screen().DTStereo), std::vector<int>{option}) << flags;
-        EXPECT_NE(text().find("Refreshed Mode: Non-Interlaced    Stereo\r\n"), std::string::npos) << flags;
+        EXPECT_THAT(text(), HasSubstr("Refreshed Mode: Non-Interlaced    Stereo\r\n")) << flags;
     }
 }
 
@@ -200,7 +203,7 @@ TEST_F(SlotWalk, WithoutTimingsItStartsAtCell0AndLeavesSlotsAt90) {
     EXPECT_EQ(wb.ExtDtdSlotCount, 6);
     EXPECT_EQ(screen().CurrentBlockBase, 108);
     const Texts texts = headings();
-    EXPECT_NE(texts[0].find("Pixel Clock: 7.70 MHz"), std::string::npos); // 0302 from cell 0 on
+    EXPECT_THAT(texts[0], HasSubstr("Pixel Clock: 7.70 MHz")); // 0302 from cell 0 on
     EXPECT_EQ(texts[1], "Defined by Manufacturer:");
     EXPECT_EQ(texts[4], "Defined by Manufacturer:");
     EXPECT_EQ(texts[5], "kept");
@@ -311,7 +314,7 @@ TEST_F(SlotDispatch, AnEntryIsWrittenAndDecoded) {
     EXPECT_EQ(cell(58), "64");
     EXPECT_EQ(cell(59), "19");
     EXPECT_EQ(screen().DT(0).caption(), "Pixel Clock - 65.00 MHz");
-    EXPECT_NE(wb.ExtDetailedBlockText(1).find("Pixel Clock: 65.00 MHz"), std::string::npos);
+    EXPECT_THAT(wb.ExtDetailedBlockText(1), HasSubstr("Pixel Clock: 65.00 MHz"));
     enter(screen().DTInput, "655.35");
     EXPECT_EQ(boxes(), Texts{"Invalid Value"});
     EXPECT_EQ(cell(58), "64");
@@ -360,7 +363,7 @@ TEST_F(SlotDispatch, TheFlagByteIsEdited) {
     EXPECT_EQ(cell(57), "90");
     choose(screen().SyncSerrate, 1);
     EXPECT_EQ(cell(57), "94");
-    EXPECT_NE(wb.ExtDetailedBlockText(0).find("Digital Composite (Serrate) Composite Polarity (-)"), std::string::npos);
+    EXPECT_THAT(wb.ExtDetailedBlockText(0), HasSubstr("Digital Composite (Serrate) Composite Polarity (-)"));
 }
 
 } // namespace

@@ -1,8 +1,11 @@
+#include <gmock/gmock.h>
+
 #include "cli/edidwb.h"
 
 namespace wb::test {
 namespace {
 
+using testing::HasSubstr;
 using CheckTest = Edidwb;
 
 TEST_F(CheckTest, TellsAboutEachFile) {
@@ -50,7 +53,7 @@ TEST_F(CheckTest, ADataFileWithTooManyPairsIsWrong) {
     shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; echo '| AA' >>z.DAT");
     const Outcome outcome = shell("edidwb check z.DAT");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(contains(outcome.output, "check sum of block 1 ok, Subscript out of range\n")) << outcome.output;
+    EXPECT_THAT(outcome.output, HasSubstr("check sum of block 1 ok, Subscript out of range\n"));
 }
 
 TEST_F(CheckTest, TellsFindingsBelowTheirFile) {

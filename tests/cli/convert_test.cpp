@@ -1,8 +1,11 @@
+#include <gmock/gmock.h>
+
 #include "cli/edidwb.h"
 
 namespace wb::test {
 namespace {
 
+using testing::HasSubstr;
 using ConvertTest = Edidwb;
 
 TEST_F(ConvertTest, EveryFormLeadsBackToTheImage) {
@@ -98,7 +101,7 @@ TEST_F(ConvertTest, ACellThatIsNoByteHasNoBinaryForm) {
     write("odd.DAT", "128 BYTES OF EDID CODE:\n\n\n|00 FF ZZ\n");
     const Outcome outcome = shell("edidwb convert --to bin odd.DAT out");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(contains(outcome.errors, "edidwb: odd.DAT: cell 2 is no byte: \"ZZ\"\n")) << outcome.errors;
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: odd.DAT: cell 2 is no byte: \"ZZ\"\n"));
     EXPECT_FALSE(exists("out"));
     EXPECT_EQ(shell("edidwb convert --to hex odd.DAT out").status, 0);
     EXPECT_EQ(read("out").substr(0, 12), "00 FF ZZ    ");

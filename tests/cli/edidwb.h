@@ -43,8 +43,4 @@ private:
     TemporaryFolder folder_;
 };
 
-inline bool contains(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
-
 } // namespace wb::test

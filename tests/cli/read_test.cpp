@@ -1,8 +1,12 @@
+#include <gmock/gmock.h>
+
 #include "cli/edidwb.h"
 #include "platform/sysfs_folder.h"
 
 namespace wb::test {
 namespace {
+
+using testing::HasSubstr;
 
 class ReadTest : public Edidwb {
 protected:
@@ -63,7 +67,7 @@ TEST_F(ReadTest, ABoxChangesNoExitStatus) {
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.errors.substr(0, outcome.errors.find('\n')), "edidwb: Invalid procedure call or argument")
         << "the extension block is missing";
-    EXPECT_TRUE(contains(outcome.output, "128 BYTES OF EDID CODE:"));
+    EXPECT_THAT(outcome.output, HasSubstr("128 BYTES OF EDID CODE:"));
 }
 
 TEST_F(ReadTest, RefusesWhatIsNoFolder) {

@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include <algorithm>
 #include <random>
 #include <sstream>
@@ -7,6 +9,8 @@
 namespace wb::test {
 namespace {
 
+using testing::HasSubstr;
+using testing::Not;
 using TranslateTest = Edidwb;
 
 std::string asHexText(const std::string& bytes) {
@@ -24,8 +28,8 @@ TEST_F(TranslateTest, PrintsReportsInTheOrderOfTheInput) {
     EXPECT_EQ(both.errors, "");
     EXPECT_EQ(both.output, shell("edidwb translate $SAMPLES/zarqo-z40.bin").output +
                                shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output);
-    EXPECT_TRUE(contains(both.output, "\n(08-09)  ID Manufacturer Name ________________=   HLV\n"));
-    EXPECT_FALSE(contains(both.output, "\r"));
+    EXPECT_THAT(both.output, HasSubstr("\n(08-09)  ID Manufacturer Name ________________=   HLV\n"));
+    EXPECT_THAT(both.output, Not(HasSubstr("\r")));
 }
 
 TEST_F(TranslateTest, ReadsEveryFormAndStandardInput) {
@@ -42,10 +46,10 @@ TEST_F(TranslateTest, ReadsEveryFormAndStandardInput) {
 }
 
 TEST_F(TranslateTest, TheDateOfTheHeadingCanBeSet) {
-    EXPECT_TRUE(contains(shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output,
-                         "Time:  00:00:00\n                        Date:  Sat Jan 01, 2000\n"));
-    EXPECT_TRUE(contains(shell("edidwb translate --date '2004-02-29 13:14:15' $SAMPLES/halvorine-hv19.bin").output,
-                         "Time:  13:14:15\n                        Date:  Sun Feb 29, 2004\n"));
+    EXPECT_THAT(shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output,
+                HasSubstr("Time:  00:00:00\n                        Date:  Sat Jan 01, 2000\n"));
+    EXPECT_THAT(shell("edidwb translate --date '2004-02-29 13:14:15' $SAMPLES/halvorine-hv19.bin").output,
+                HasSubstr("Time:  13:14:15\n                        Date:  Sun Feb 29, 2004\n"));
 }
 
 TEST_F(TranslateTest, AFileThatIsNoImageIsToldAndTheRestGoesOn) {
@@ -91,7 +95,7 @@ TEST_F(TranslateTest, ADataFileWhoseCellsTheDecodersRewriteIsLoaded) {
         const Outcome outcome = shell("edidwb translate " + std::string(name));
         EXPECT_EQ(outcome.status, 0) << name;
         EXPECT_EQ(outcome.errors, "") << name;
-        EXPECT_TRUE(contains(outcome.output, "128 BYTES OF EDID CODE:")) << name;
+        EXPECT_THAT(outcome.output, HasSubstr("128 BYTES OF EDID CODE:")) << name;
     }
 }
 
@@ -114,7 +118,7 @@ TEST_F(TranslateTest, WritesOneReportAFile) {
     const Outcome outcome = shell("cp $SAMPLES/*.bin .\nedidwb translate --output-dir new/out --jobs 2 *.bin");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.output, "");
-    EXPECT_TRUE(contains(outcome.errors, "edidwb: notes.bin: is no EDID image"));
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: notes.bin: is no EDID image"));
     EXPECT_FALSE(exists("new/out/notes.txt"));
     for (const char* name : {"halvorine-hv19", "zarqo-z40", "norvixan-nx3d"}) {
         EXPECT_EQ(read("new/out/" + std::string(name) + ".txt"),
@@ -159,7 +163,7 @@ TEST_F(TranslateTest, AReportNeverReplacesAnInputThatALinkLeadsTo) {
         "mkdir out\nln -s ../z.bin out/halvorine-hv19.txt\nln -s z.bin link.bin\n"
         "edidwb translate -o out $SAMPLES/halvorine-hv19.bin link.bin");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(contains(outcome.errors, "its report 'out/halvorine-hv19.txt' would replace a file")) << outcome.errors;
+    EXPECT_THAT(outcome.errors, HasSubstr("its report 'out/halvorine-hv19.txt' would replace a file"));
     EXPECT_EQ(read("z.bin"), sample("zarqo-z40.bin"));
     EXPECT_TRUE(exists("out/link.txt"));
 }
@@ -177,7 +181,7 @@ TEST_F(TranslateTest, AReportThatCannotBeWrittenIsTold) {
     EXPECT_EQ(shell("edidwb translate -o file $SAMPLES/zarqo-z40.bin").status, 1);
     const Outcome outcome = shell("mkdir -p out/zarqo-z40.txt\nedidwb translate -o out $SAMPLES/*.bin");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(contains(outcome.errors, "edidwb: out/zarqo-z40.txt: Is a directory\n")) << outcome.errors;
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: out/zarqo-z40.txt: Is a directory\n"));
     EXPECT_TRUE(exists("out/halvorine-hv19.txt"));
 }
 
@@ -219,9 +223,9 @@ TEST_F(TranslateTest, LargeFilesAreReadInOneGo) {
     write("marker", "128 BYTES OF EDID CODE:" + std::string(20 * megabyte, ' '));
     const Outcome outcome = shell("edidwb translate bars hex dump marker");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(contains(outcome.errors, "edidwb: bars: is no EDID image"));
-    EXPECT_TRUE(contains(outcome.errors, "edidwb: dump: Subscript out of range\n"));
-    EXPECT_TRUE(contains(outcome.errors, "edidwb: marker: cannot be loaded: Input past end of file\n"));
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: bars: is no EDID image"));
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: dump: Subscript out of range\n"));
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: marker: cannot be loaded: Input past end of file\n"));
 }
 
 } // namespace

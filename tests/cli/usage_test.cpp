@@ -1,8 +1,11 @@
+#include <gmock/gmock.h>
+
 #include "cli/edidwb.h"
 
 namespace wb::test {
 namespace {
 
+using testing::HasSubstr;
 using UsageTest = Edidwb;
 
 TEST_F(UsageTest, TellsItsVersionAndHelp) {
@@ -13,7 +16,7 @@ TEST_F(UsageTest, TellsItsVersionAndHelp) {
          {"", "translate ", "convert ", "check ", "inspect ", "diff ", "read ", "monitors ", "script "}) {
         const Outcome help = shell("edidwb " + std::string(command) + "--help");
         EXPECT_EQ(help.status, 0) << command;
-        EXPECT_TRUE(contains(help.output, "Usage: edidwb " + std::string(command))) << help.output;
+        EXPECT_THAT(help.output, HasSubstr("Usage: edidwb " + std::string(command)));
         EXPECT_EQ(help.errors, "") << command;
     }
 }
@@ -67,7 +70,7 @@ TEST_F(UsageTest, WrongUseHasStatus2) {
         EXPECT_EQ(outcome.status, 2) << arguments;
         EXPECT_EQ(outcome.output, "") << arguments;
         EXPECT_EQ(outcome.errors.substr(0, 8), "edidwb: ") << arguments;
-        EXPECT_TRUE(contains(outcome.errors, "\nTry 'edidwb --help' for more information.\n")) << outcome.errors;
+        EXPECT_THAT(outcome.errors, HasSubstr("\nTry 'edidwb --help' for more information.\n"));
     }
 }
 
@@ -110,7 +113,7 @@ TEST_F(UsageTest, NamesWhatIsWrong) {
 }
 
 TEST_F(UsageTest, TheHelpOfConvertTellsThatDecodingMayChangeTheImage) {
-    EXPECT_TRUE(contains(shell("edidwb convert --help").output, "OUT gets the image as the program holds it"));
+    EXPECT_THAT(shell("edidwb convert --help").output, HasSubstr("OUT gets the image as the program holds it"));
 }
 
 TEST_F(UsageTest, OutputThatCannotBeWrittenIsAnError) {
@@ -131,8 +134,8 @@ TEST_F(UsageTest, AClosedPipeIsAnError) {
           "' translate --jobs 3; echo status $? >&2) | head -c 100 >/dev/null",
           "yes windows | head -n 20000 | (edidwb script; echo status $? >&2) | head -n 1 >/dev/null"}) {
         const Outcome outcome = shell(command);
-        EXPECT_TRUE(contains(outcome.errors, "edidwb: standard output: Broken pipe\n")) << outcome.errors;
-        EXPECT_TRUE(contains(outcome.errors, "status 1")) << outcome.errors; // xargs makes 123 of it
+        EXPECT_THAT(outcome.errors, HasSubstr("edidwb: standard output: Broken pipe\n"));
+        EXPECT_THAT(outcome.errors, HasSubstr("status 1")); // xargs makes 123 of it
     }
 }
 

@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
@@ -6,6 +8,8 @@
 
 namespace wb::test {
 namespace {
+
+using testing::HasSubstr;
 
 class Drops : public DesktopTest {
 protected:
@@ -58,7 +62,7 @@ TEST_F(Drops, AreNotTakenByALockedBox) {
 
 TEST_F(Drops, AreTakenByAnInputBoxAsByPasting) {
     EXPECT_TRUE(drop(edid().VendorInfo));
-    EXPECT_NE(edid().VendorInfo.text().find("a monitor.DAT"), std::string::npos);
+    EXPECT_THAT(edid().VendorInfo.text(), HasSubstr("a monitor.DAT"));
 }
 
 } // namespace

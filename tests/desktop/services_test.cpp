@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -21,6 +22,8 @@
 namespace wb::desktop {
 namespace {
 
+using testing::HasSubstr;
+
 TEST(Settings, KeepTextsOfAllCharacters) {
     const test::TemporaryFolder folder;
     const QString file = QString::fromStdString(folder.file("settings.ini"));
@@ -34,7 +37,7 @@ TEST(Settings, KeepTextsOfAllCharacters) {
     const QtSettings settings(file);
     EXPECT_EQ(settings.read("MainLeft"), "1000.5");
     EXPECT_EQ(settings.read("Windows2000RegBaseLocation"), odd);
-    EXPECT_NE(test::TemporaryFolder::read(folder.file("settings.ini")).find("[Settings]"), std::string::npos);
+    EXPECT_THAT(test::TemporaryFolder::read(folder.file("settings.ini")), HasSubstr("[Settings]"));
 }
 
 TEST(Clock, WaitsWithoutLettingEventsRun) {
@@ -255,7 +258,7 @@ TEST_P(Printing, BreaksLinesThatAreTooLong) {
     const std::string text = std::string(300, 'x') + "\r\nlast";
     const QString printed = print(text).join(QString());
     EXPECT_EQ(printed.count('x'), 300);
-    EXPECT_TRUE(printed.contains("last"));
+    EXPECT_THAT(printed.toStdString(), HasSubstr("last"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Papers, Printing, testing::Values(QPageSize::A4, QPageSize::Letter));

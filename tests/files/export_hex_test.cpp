@@ -1,5 +1,6 @@
 #include "files/export_hex.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/program.h"
@@ -8,6 +9,7 @@
 namespace wb::files {
 namespace {
 
+using testing::HasSubstr;
 using Lines = std::vector<std::string>;
 
 const std::string dialog = "[dialog] Save filter=\"Hexadecimal Files (*.hex)|*.hex\" -> ";
@@ -106,7 +108,7 @@ TEST_F(Export, MakesTheFileThatOfTheImage) {
     EXPECT_EQ(workbench.CurrentFileName, name);
     EXPECT_EQ(workbench.EDIDModified, flagTrue);
     input::choose(workbench.frmMain().mnuFileSave);
-    EXPECT_NE(test::TemporaryFolder::read(name).find("128 BYTES OF EDID CODE:"), std::string::npos);
+    EXPECT_THAT(test::TemporaryFolder::read(name), HasSubstr("128 BYTES OF EDID CODE:"));
 }
 
 TEST_F(Export, NoAtTheQuestionLeavesTheFileAndTheImageNameless) {

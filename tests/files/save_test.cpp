@@ -1,5 +1,6 @@
 #include "files/save.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -11,6 +12,8 @@
 namespace wb::files {
 namespace {
 
+using testing::HasSubstr;
+using testing::Not;
 using Lines = std::vector<std::string>;
 
 class Save : public testing::Test {
@@ -36,9 +39,9 @@ TEST_F(Save, AskOnceForANameAndWriteARepeatedFile) {
     EXPECT_EQ(workbench.CurrentFileName, name);
     EXPECT_EQ(workbench.EDIDModified, flagFalse);
     const std::string content = test::TemporaryFolder::read(name);
-    EXPECT_NE(content.find("128 BYTES OF EDID CODE:\r\n"), std::string::npos);
-    EXPECT_NE(content.find("0    |00  FF  FF  FF  FF  FF  FF  00  00  00  \r\n"), std::string::npos);
-    EXPECT_EQ(content.find("END REPORT"), std::string::npos);
+    EXPECT_THAT(content, HasSubstr("128 BYTES OF EDID CODE:\r\n"));
+    EXPECT_THAT(content, HasSubstr("0    |00  FF  FF  FF  FF  FF  FF  00  00  00  \r\n"));
+    EXPECT_THAT(content, Not(HasSubstr("END REPORT")));
     EXPECT_EQ(content.find("128 BYTES OF EDID CODE:", content.find("128 BYTES") + 1), std::string::npos)
         << "written anew each time";
 }
@@ -64,7 +67,7 @@ TEST_F(Save, NoAtTheReplaceQuestionInsideSaveReplacesAllTheSame) {
     const std::string name = folder.write("old.DAT", "old");
     program.platform.queueFileName(name);
     FileSave(workbench);
-    EXPECT_NE(test::TemporaryFolder::read(name).find("EDID Block 0"), std::string::npos);
+    EXPECT_THAT(test::TemporaryFolder::read(name), HasSubstr("EDID Block 0"));
 }
 
 /// Counts the passes of a save by the hourglasses it shows.

@@ -1,10 +1,13 @@
 #include "report/definitions.h"
 
+#include <gmock/gmock.h>
+
 #include "block0_fixture.h"
 
 namespace wb::report {
 namespace {
 
+using testing::HasSubstr;
 using Definitions = Block0;
 
 TEST_F(Definitions, LaterDecodersRestOnEarlierOnes) {
@@ -37,7 +40,7 @@ TEST_F(Definitions, RunEveryDecoder) {
     EXPECT_EQ(workbench.SerialLast5, "Not Used");
     EXPECT_EQ(workbench.ManufactureWeek, "00");
     EXPECT_EQ(workbench.ManufactureYear, "1990");
-    EXPECT_NE(workbench.DetailedBlockText(0).find("Pixel Clock: 0.01 MHz"), std::string::npos);
+    EXPECT_THAT(workbench.DetailedBlockText(0), HasSubstr("Pixel Clock: 0.01 MHz"));
     EXPECT_EQ(workbench.ExtensionFlagText, "No Extension EDID Block(s)\r\n");
     EXPECT_EQ(workbench.Block0ChecksumText, "CheckSum Is Invalid\r\n");
 }

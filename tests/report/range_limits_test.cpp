@@ -1,9 +1,13 @@
 #include "report/range_limits.h"
 
+#include <gmock/gmock.h>
+
 #include "descriptor_fixture.h"
 
 namespace wb::report {
 namespace {
+
+using testing::HasSubstr;
 
 class RangeLimits : public Descriptor {};
 
@@ -45,7 +49,7 @@ TEST_F(RangeLimits, TheClockMayBeUnspecified) {
 TEST_F(RangeLimits, ReservedForLaterTimings) {
     screen.frmS_GTF(0).setEnabled(true);
     decode("FD", {"00", "00", "00", "00", "00", "04"});
-    EXPECT_NE(report().find("         Reserved for EDID 1.4 Timings\r\n"), std::string::npos);
+    EXPECT_THAT(report(), HasSubstr("         Reserved for EDID 1.4 Timings\r\n"));
     EXPECT_FALSE(screen.frmS_GTF(0).enabled());
     EXPECT_TRUE(screen.DTAFrame(0).enabled());
     EXPECT_EQ(screen.DTAGTF.value(), 0);

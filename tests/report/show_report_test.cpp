@@ -1,9 +1,14 @@
 #include "report/show_report.h"
 
+#include <gmock/gmock.h>
+
 #include "block0_fixture.h"
 
 namespace wb::report {
 namespace {
+
+using testing::HasSubstr;
+using testing::Not;
 
 class Show : public Block0 {
 protected:
@@ -25,9 +30,8 @@ TEST_F(Show, PutsTheReportIntoTheWindow) {
     EXPECT_EQ(workbench.focus.current(), &document());
     EXPECT_TRUE(document().locked());
     EXPECT_EQ(document().text().substr(0, 6), "\r\n\r\n\r\n");
-    EXPECT_NE(document().text().find("(38-53)  Standard Timing Identification:\r\n\r\n  (126)    (127)  "),
-              std::string::npos);
-    EXPECT_EQ(document().text().find("END REPORT"), std::string::npos);
+    EXPECT_THAT(document().text(), HasSubstr("(38-53)  Standard Timing Identification:\r\n\r\n  (126)    (127)  "));
+    EXPECT_THAT(document().text(), Not(HasSubstr("END REPORT")));
     EXPECT_EQ(workbench.loaded(ScreenId::CeaExt), nullptr);
 }
 
@@ -61,8 +65,8 @@ TEST_F(Show, ABuildThatFailsDoesSoInEachOfTheFivePasses) {
     workbench.StandardTimingText.create(30);
     ShowReport(workbench, false);
     EXPECT_EQ(boxes(), Lines(5, "Subscript out of range"));
-    EXPECT_NE(document().text().find("Standard Timing Identification:\r\n         \r\n"), std::string::npos);
-    EXPECT_EQ(document().text().find("(126)"), std::string::npos) << "it runs to the end of the array";
+    EXPECT_THAT(document().text(), HasSubstr("Standard Timing Identification:\r\n         \r\n"));
+    EXPECT_THAT(document().text(), Not(HasSubstr("(126)"))) << "it runs to the end of the array";
 }
 
 class ShowWithExtension : public Show {
@@ -107,7 +111,7 @@ TEST_F(ShowWithExtension, BlockZeroComesFirst) {
     const std::string& text = document().text();
     EXPECT_EQ(text.find("EDID Block 0, Bytes 0-127"), text.rfind("EDID Block 0, Bytes 0-127"));
     EXPECT_LT(text.find("  (127)  "), text.find("EDID Block 1"));
-    EXPECT_EQ(text.find("END REPORT"), std::string::npos);
+    EXPECT_THAT(text, Not(HasSubstr("END REPORT")));
 }
 
 TEST_F(Show, ACellThatCallsTheFocusBackDoesSoAtEachAttempt) {
@@ -116,7 +120,7 @@ TEST_F(Show, ACellThatCallsTheFocusBackDoesSoAtEachAttempt) {
     // Showing the window, then giving it the focus at the end of each pass.
     EXPECT_EQ(boxes(), Lines(6, "Please Make Your Values In Hex"));
     EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.txtEdit(0)");
-    EXPECT_NE(document().text().find("0    |ABC 00"), std::string::npos);
+    EXPECT_THAT(document().text(), HasSubstr("0    |ABC 00"));
 }
 
 TEST_F(Show, HiddenCreatesTheWindowWithoutShowingIt) {
@@ -132,7 +136,7 @@ TEST_F(Show, HiddenCreatesTheWindowWithoutShowingIt) {
     EXPECT_EQ(workbench.DocumentOpen, flagTrue);
     EXPECT_EQ(windowNames(), (Lines{"frmEDID", "frmHexCalculator"}));
     EXPECT_FALSE(document().locked());
-    EXPECT_NE(document().text().find("EDID Block 0"), std::string::npos);
+    EXPECT_THAT(document().text(), HasSubstr("EDID Block 0"));
     EXPECT_NE(workbench.loaded(ScreenId::CeaExt), nullptr) << "brought to the front, and so touched";
 }
 

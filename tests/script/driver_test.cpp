@@ -1,5 +1,6 @@
 #include "script/driver.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "script/script_runner.h"
@@ -7,6 +8,9 @@
 
 namespace wb::script {
 namespace {
+
+using testing::HasSubstr;
+using testing::Not;
 
 constexpr const char* newImage = "menu mnuFileNew\n";
 constexpr const char* newImageTrace = "[box] \"CEA 861 EDID Timing Extension?\" YesNo -> No\n";
@@ -142,7 +146,7 @@ TEST(Driver, TheReportIsShownWithoutTouchingItsScreen) {
     const std::string head = "--- report\n\n\n\n                            Time:  00:00:00\n";
     EXPECT_EQ(report.substr(0, head.size()), head);
     EXPECT_EQ(report.substr(report.size() - 9), "\n--- end\n");
-    EXPECT_EQ(report.find('\r'), std::string::npos);
+    EXPECT_THAT(report, Not(HasSubstr("\r")));
 }
 
 TEST(Driver, TellsClockSettingsAndShell) {

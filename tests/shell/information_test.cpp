@@ -1,5 +1,6 @@
 #include "shell/information.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "core/version.h"
@@ -10,6 +11,7 @@ namespace wb::shell {
 namespace {
 
 using platform::RegistryType;
+using testing::HasSubstr;
 using Lines = std::vector<std::string>;
 
 const std::string unavailable = "System Information Is Unavailable At This Time";
@@ -55,10 +57,10 @@ TEST_F(Information, AboutShowsVersionAndCredits) {
     EXPECT_EQ(screen.caption(), "EDID / DDC Field Workbench ");
     EXPECT_EQ(screen.lblVersion.caption(), std::string("Version ") + programVersion());
     EXPECT_TRUE(screen.lblWrittenby.caption().starts_with("Written By\r\nHalvorine Corporation\r\n"));
-    EXPECT_NE(screen.lblWrittenby.caption().find("\r\nCopyright "), std::string::npos);
-    EXPECT_NE(screen.lblWrittenby.caption().find("\r\nModified: "), std::string::npos);
+    EXPECT_THAT(screen.lblWrittenby.caption(), HasSubstr("\r\nCopyright "));
+    EXPECT_THAT(screen.lblWrittenby.caption(), HasSubstr("\r\nModified: "));
     const std::string& address = screen.lblAddress.caption();
-    EXPECT_NE(address.find("\r\n"), std::string::npos);
+    EXPECT_THAT(address, HasSubstr("\r\n"));
     EXPECT_EQ(address.find("\r\n"), address.rfind("\r\n")) << "two lines";
     EXPECT_EQ(workbench.focus.current()->fullName(), "frmAbout.cmdOK");
     input::click(workbench.frmAbout().cmdOK);
@@ -89,7 +91,7 @@ TEST_F(Information, TheToolIsLookedForInItsFolder) {
     EXPECT_TRUE(program.boxes.empty());
     ASSERT_EQ(program.lines.size(), 2U);
     EXPECT_TRUE(program.lines[1].starts_with("[shell] "));
-    EXPECT_NE(program.lines[1].find("tools\\\\MSINFO32.EXE\""), std::string::npos);
+    EXPECT_THAT(program.lines[1], HasSubstr("tools\\\\MSINFO32.EXE\""));
 }
 
 TEST_F(Information, WithoutAToolABoxSaysSo) {

@@ -1,5 +1,6 @@
 #include "shell/printing.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/program.h"
@@ -7,6 +8,8 @@
 namespace wb::shell {
 namespace {
 
+using testing::HasSubstr;
+using testing::Not;
 using Lines = std::vector<std::string>;
 
 const std::string confirmed = "[dialog] Print -> ok";
@@ -51,9 +54,9 @@ TEST_F(Printing, PrintsTheReportWithoutShowingIt) {
     program.platform.setClock({.year = 2003, .month = 4, .day = 5, .hour = 6, .minute = 7, .second = 8});
     print();
     ASSERT_EQ(printed().size(), 1U);
-    EXPECT_NE(printed()[0].find("Time:  06:07:08"), std::string::npos);
-    EXPECT_NE(printed()[0].find("128 BYTES OF EDID CODE:"), std::string::npos);
-    EXPECT_EQ(printed()[0].find("END REPORT"), std::string::npos);
+    EXPECT_THAT(printed()[0], HasSubstr("Time:  06:07:08"));
+    EXPECT_THAT(printed()[0], HasSubstr("128 BYTES OF EDID CODE:"));
+    EXPECT_THAT(printed()[0], Not(HasSubstr("END REPORT")));
     EXPECT_EQ(program.takeLines(),
               (Lines{confirmed, "[print] " + std::to_string(printed()[0].size()) + " characters"}));
     EXPECT_EQ(workbench.loaded(ScreenId::Document), nullptr);
