@@ -14,8 +14,9 @@ namespace wb::test {
 
 namespace {
 
-/// The services of the headless platform, with other boxes if there are any.
-platform::Services withBoxes(const platform::Services& base, platform::MessageBoxes* boxes) {
+/// The services of the headless platform, with another arranger, and other boxes if there are any.
+platform::Services with(const platform::Services& base, platform::MessageBoxes* boxes,
+                        platform::WindowArranger& arranger) {
     return {boxes != nullptr ? *boxes : base.messageBoxes,
             base.dialogs,
             base.printer,
@@ -26,7 +27,7 @@ platform::Services withBoxes(const platform::Services& base, platform::MessageBo
             base.shell,
             base.clock,
             base.eventLoop,
-            base.arranger,
+            arranger,
             base.programFolder};
 }
 
@@ -34,9 +35,10 @@ platform::Services withBoxes(const platform::Services& base, platform::MessageBo
 
 DesktopProgram::DesktopProgram(bool startNow, Boxes kind)
     : realBoxes_(kind == Boxes::Real ? std::make_unique<desktop::QtMessageBoxes>(gate) : nullptr),
-      services_(withBoxes(platform.services(), realBoxes_.get())),
+      services_(with(platform.services(), realBoxes_.get(), arranger_)),
       workbench(services_, shell::wiring()),
       view(workbench, gate) {
+    arranger_.area = [this] { return view.mainView() != nullptr ? &frame().area() : nullptr; };
     platform.onBox = [this](const std::string& text) { boxes.push_back(text); };
     if (startNow) {
         start();

@@ -6,12 +6,13 @@
 #include <vector>
 
 #include "desktop/binder/desktop_view.h"
+#include "desktop/services/window_arranger.h"
 #include "platform/headless/headless_platform.h"
 
 namespace wb::test {
 
-/// A wired program with the desktop view: real widgets, and boxes and dialogs that are answered from the queues of the
-/// headless platform.
+/// A wired program with the desktop view: real widgets, really arranged, and boxes and dialogs that are answered from
+/// the queues of the headless platform.
 class DesktopProgram {
 public:
     enum class Boxes { FromQueue, Real };
@@ -46,6 +47,7 @@ public:
 
 private:
     std::unique_ptr<platform::MessageBoxes> realBoxes_;
+    desktop::MdiArranger arranger_{gate};
     platform::Services services_;
 
 public:

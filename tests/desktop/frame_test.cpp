@@ -121,21 +121,30 @@ TEST_F(Frame, HasAStatusBarWithAClock) {
 }
 
 TEST_F(Frame, StandsWhereTheModelSays) {
-    // 1000 and 6500 twips at 96 dots an inch.
-    EXPECT_EQ(window().pos(), QPoint(67, 67));
-    EXPECT_EQ(window().size(), QSize(433, 433));
-    EXPECT_EQ(frame().Left, 1000) << "what the model asked for is not rounded to pixels";
-    EXPECT_EQ(frame().Height, 6500);
+    program.act([&] { frame().setPosition(150, 300, 3250, 4875); });
+    EXPECT_EQ(window().pos(), QPoint(10, 20)); // 15 twips are a pixel at 96 dots an inch
+    const QSize first = window().size();
+    program.act([&] { frame().setPosition(150, 300, 4875, 3250); });
+    EXPECT_NEAR(first.width() * 1.5, window().width(), 1);
+    EXPECT_NEAR(first.height() / 1.5, window().height(), 1);
+    EXPECT_EQ(frame().Left, 150) << "what the model asked for is not rounded to pixels";
+    EXPECT_EQ(frame().Height, 3250);
 }
 
-TEST_F(Frame, TellsTheModelWhereTheUserPutsIt) {
+TEST_F(Frame, StandsWhereTheUserPutsIt) {
     window().move(100, 40);
-    window().resize(800, 600);
+    window().resize(400, 300);
     DesktopProgram::settle();
     EXPECT_EQ(frame().Left, 1500);
     EXPECT_EQ(frame().Top, 600);
-    EXPECT_EQ(frame().Width, 12000);
-    EXPECT_EQ(frame().Height, 9000);
+    const float width = frame().Width;
+    const float height = frame().Height;
+    window().resize(600, 600);
+    DesktopProgram::settle();
+    EXPECT_FLOAT_EQ(frame().Width, width * 1.5F);
+    EXPECT_FLOAT_EQ(frame().Height, height * 2);
+    program.act([&] { frame().setPosition(1500, 600, width, height); });
+    EXPECT_EQ(window().size(), QSize(400, 300)) << "what is stored gives the same window again";
 }
 
 TEST_F(Frame, TellsTheModelThatItIsMinimised) {
@@ -158,13 +167,16 @@ TEST_F(Frame, StaysOnAScreenThatThereIs) {
 TEST_F(Frame, ScrollsWhereAChildIsLarger) {
     program.newImage();
     const QMdiArea& area = program.frame().area();
-    ASSERT_GT(program.window(edid()).width(), area.viewport()->width());
+    program.window(edid()).resize(area.viewport()->size() + QSize(1, 1));
+    DesktopProgram::settle();
     EXPECT_TRUE(area.horizontalScrollBar()->isVisible());
     EXPECT_TRUE(area.verticalScrollBar()->isVisible());
 }
 
 TEST_F(Frame, WrapsItsButtonsWhereItIsNarrow) {
     const QWidget& last = *program.widget(frame().Command5);
+    window().resize(433, 433);
+    DesktopProgram::settle();
     EXPECT_GT(last.y(), program.widget(frame().Command1)->y());
     EXPECT_LE(last.geometry().right(), last.parentWidget()->width());
     window().resize(1000, 433);

@@ -20,6 +20,8 @@ enum class Look : std::uint8_t {
     Group,   ///< no control: room for the places of the area of that name
     Filler,  ///< no control: a black field of the size of a cell
     Picture, ///< a label that shows the picture of the program
+    Key,     ///< a button that may be as narrow as its caption
+    Words,   ///< no control: the words of `spoken`, beside what they name
 };
 
 /// The place of a control, or of consecutive members of an array, in the area it is listed in. The members of an array
@@ -106,6 +108,11 @@ constexpr Place members(std::string_view name, int first, int last) {
 }
 constexpr Place group(std::string_view name) {
     return {.name = name, .look = Look::Group};
+}
+
+/// A text that names what stands beside it.
+constexpr Place words(std::string_view text) {
+    return {.name = {}, .look = Look::Words, .spoken = text};
 }
 
 enum class Spacing : std::uint8_t {

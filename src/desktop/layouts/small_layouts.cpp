@@ -20,28 +20,34 @@ constexpr Place document[] = {one("rtftext").called("Report")};
 constexpr Area documentAreas[] = {{"", noIndex, document}};
 
 constexpr Place calculator[] = {
-    one("Display").at(0, 0, 1, 6).as(Look::Value).called("Display"),
-    one("ResultsCell").at(1, 0, 1, 3).as(Look::Value).wide(12).called("Left operand"),
-    one("CurrentCell").at(1, 3, 1, 3).as(Look::Value).wide(12).called("Current number"),
-    one("Mode").at(2, 0, 1, 6),
-    members("Command1", 10, 15).at(3, 0).rowsOf(6),
-    members("Command1", 7, 9).at(4, 0).rowsOf(3),
-    members("Command1", 4, 6).at(5, 0).rowsOf(3),
-    members("Command1", 1, 3).at(6, 0).rowsOf(3),
-    member("Command1", 0).at(7, 0),
-    member("Command1", 24).at(7, 1),
-    member("Command1", 23).at(7, 2),
-    member("Command1", 19).at(4, 3).called("Divide"),
-    member("Command1", 18).at(5, 3).called("Multiply"),
-    member("Command1", 17).at(6, 3).called("Subtract"),
-    member("Command1", 16).at(7, 3).called("Add"),
-    member("Command1", 21).at(4, 4, 1, 2),
-    member("Command1", 22).at(5, 4, 1, 2).called("Clear the current number"),
-    member("Command1", 25).at(6, 4, 1, 2).called("One step back"),
-    member("Command1", 20).at(7, 4, 1, 2),
+    words("Display").at(0, 0, 1, 2),
+    one("Display").at(0, 2, 1, 4).as(Look::Value).wide(8).called("Display"),
+    words("Left operand").at(1, 0, 1, 2),
+    one("ResultsCell").at(1, 2, 1, 4).as(Look::Value).wide(8).called("Left operand"),
+    words("Current number").at(2, 0, 1, 2),
+    one("CurrentCell").at(2, 2, 1, 4).as(Look::Value).wide(8).called("Current number"),
+    one("Mode").at(3, 0, 1, 6),
+    group("#keys").at(4, 0, 1, 6),
+};
+constexpr Place keys[] = {
+    members("Command1", 10, 15).at(0, 0).rowsOf(6).as(Look::Key),
+    members("Command1", 7, 9).at(1, 0).rowsOf(3).as(Look::Key),
+    members("Command1", 4, 6).at(2, 0).rowsOf(3).as(Look::Key),
+    members("Command1", 1, 3).at(3, 0).rowsOf(3).as(Look::Key),
+    member("Command1", 0).at(4, 0).as(Look::Key),
+    member("Command1", 24).at(4, 1).as(Look::Key),
+    member("Command1", 23).at(4, 2).as(Look::Key),
+    member("Command1", 19).at(1, 3).as(Look::Key).called("Divide"),
+    member("Command1", 18).at(2, 3).as(Look::Key).called("Multiply"),
+    member("Command1", 17).at(3, 3).as(Look::Key).called("Subtract"),
+    member("Command1", 16).at(4, 3).as(Look::Key).called("Add"),
+    member("Command1", 21).at(1, 4, 1, 2).as(Look::Key),
+    member("Command1", 22).at(2, 4, 1, 2).as(Look::Key).called("Clear the current number"),
+    member("Command1", 25).at(3, 4, 1, 2).as(Look::Key).called("One step back"),
+    member("Command1", 20).at(4, 4, 1, 2).as(Look::Key),
 };
 constexpr Place mode[] = {members("Option1", 0, 2).rowsOf(3)};
-constexpr Area calculatorAreas[] = {{"", noIndex, calculator}, {"Mode", noIndex, mode}};
+constexpr Area calculatorAreas[] = {{"", noIndex, calculator}, {"Mode", noIndex, mode}, {"#keys", noIndex, keys}};
 
 constexpr Place help[] = {
     one("Label1").at(0, 0).as(Look::Prose).wide(60),

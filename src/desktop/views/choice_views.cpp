@@ -51,6 +51,16 @@ void OptionButton::step(int direction) {
     }
 }
 
+KeyButton::KeyButton(ControlView& view) : PassiveButton(view) {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize KeyButton::minimumSizeHint() const {
+    const QFontMetrics metrics(font());
+    // As much room at the sides as above and below.
+    return {metrics.horizontalAdvance(text()) + sizeHint().height() - metrics.height(), sizeHint().height()};
+}
+
 ButtonView::ButtonView(Control& control, const Place& place, UserActions& actions)
     : ControlView(control, place, actions), button_(make()) {
     QObject::connect(button_, &QAbstractButton::clicked, this, [this] {
@@ -70,7 +80,7 @@ QAbstractButton* ButtonView::make() {
         default:
             break;
     }
-    auto* button = new PassiveButton<QPushButton>(*this);
+    auto* button = place().look == Look::Key ? new KeyButton(*this) : new PassiveButton<QPushButton>(*this);
     button->setAutoDefault(false);
     return button;
 }

@@ -27,6 +27,13 @@ private:
     ControlView& view_;
 };
 
+/// A key among others, which may be as narrow as its caption.
+class KeyButton : public PassiveButton<QPushButton> {
+public:
+    explicit KeyButton(ControlView& view);
+    QSize minimumSizeHint() const override;
+};
+
 class OptionButton : public PassiveButton<QRadioButton> {
 public:
     explicit OptionButton(ControlView& view) : PassiveButton(view) {

@@ -6,12 +6,16 @@
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
+#include <algorithm>
 
 #include "core/input.h"
 #include "core/workbench.h"
 #include "desktop/base/titles.h"
 #include "desktop/drawing/pictures.h"
+#include "desktop/windows/child_placing.h"
 #include "desktop/windows/document_page.h"
+#include "desktop/windows/frame_size.h"
 #include "desktop/windows/screen_page.h"
 
 namespace wb::desktop {
@@ -65,8 +69,6 @@ ChildView::ChildView(Screen& screen, UserActions& actions, QMdiArea& area)
     addPage(*page_);
     window_->setWidget(new PageScroller(*page_));
     area.addSubWindow(window_);
-    fitting_ = window_->sizeHint();
-    window_->resize(fitting_); // the area scrolls where that is too large
     window_->hide();
     QObject::connect(window_, &QMdiSubWindow::windowStateChanged, this, [this] { this->actions().windowsSettled(); });
     auto* shortcut = new QShortcut(QKeySequence(Qt::Key_F6), window_);
@@ -77,19 +79,60 @@ ChildView::~ChildView() {
     delete window_;
 }
 
+void ChildView::detach() {
+    ScreenView::detach();
+    lentRoom_.giveBack();
+}
+
 void ChildView::refresh() {
     setTitle(*window_, screen()->caption());
     if (window_->isHidden() == screen()->shown()) {
+        if (screen()->shown()) {
+            takePlace();
+        }
         window_->setVisible(screen()->shown());
+    } else if (screen()->shown()) {
+        lentRoom_.noteArrangement();
+    }
+}
+
+QList<QMdiSubWindow*> ChildView::neighbours() const {
+    QList<QMdiSubWindow*> windows = window_->mdiArea()->subWindowList(QMdiArea::StackingOrder);
+    std::reverse(windows.begin(), windows.end());
+    windows.removeIf([this](const QMdiSubWindow* window) {
+        return window == window_ || window->isHidden() || window->isMinimized() || window->isMaximized();
+    });
+    return windows;
+}
+
+void ChildView::takePlace() {
+    const QSize area = window_->mdiArea()->viewport()->size();
+    if (chosen_.isValid()) { // it comes back to where it was
+        window_->setGeometry(movedInside(window_->geometry(), QRect(QPoint(0, 0), area)));
+        return;
+    }
+    const QList<QMdiSubWindow*> others = neighbours();
+    QList<QRect> taken;
+    for (const QMdiSubWindow* other : others) {
+        taken.append(other->geometry());
+    }
+    const int step = window_->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window_);
+    window_->setGeometry(openingPlace(area, window_->sizeHint(), taken, step));
+    chosen_ = window_->size();
+    if (screen()->id() == ScreenId::HexCalculator) {
+        lentRoom_.open(others);
     }
 }
 
 void ChildView::fit() {
-    const QSize before = fitting_;
-    fitting_ = window_->sizeHint();
-    if (window_->size() == before) { // the user has left the size alone
-        window_->resize(fitting_);
+    if (window_->size() != chosen_) {
+        return;
     }
+    const QSize wanted = window_->sizeHint();
+    const QSize area = window_->mdiArea()->viewport()->size();
+    const QSize room = area - QSize(window_->x(), window_->y());
+    chosen_ = wanted.boundedTo(room.expandedTo(area / 2));
+    window_->resize(chosen_);
 }
 
 void ChildView::activate() {

@@ -3,6 +3,7 @@
 #include <QMdiSubWindow>
 #include <QPointer>
 
+#include "desktop/windows/lent_room.h"
 #include "desktop/windows/screen_view.h"
 
 class QMdiArea;
@@ -36,14 +37,21 @@ public:
     /// A press on the title bar.
     void activate();
     void refresh() override;
+    void detach() override;
+    /// A window whose size is still the program's own choice gets the room that its page asks for, as far as the area
+    /// has it.
     void fit() override;
 
 private:
     void changeSide();
+    void takePlace();
+    /// The shown windows beside this one, the active one first; without those that fill the area or are icons.
+    QList<QMdiSubWindow*> neighbours() const;
 
     QPointer<ChildWindow> window_; ///< belongs to the area too
     ScreenPage* page_;
-    QSize fitting_;
+    QSize chosen_; ///< the last size that the user has not chosen; none before the window has opened
+    LentRoom lentRoom_;
 };
 
 } // namespace wb::desktop

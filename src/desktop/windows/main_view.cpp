@@ -53,10 +53,18 @@ void giveStandardKey(QAction& action, std::string_view entry) {
     }
 }
 
-bool isOnSomeScreen(const QRect& geometry) {
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(),
-                       [&](const QScreen* screen) { return screen->availableGeometry().intersects(geometry); });
+/// The screen that most of the rectangle is on, or null.
+const QScreen* screenOf(const QRect& rectangle) {
+    const QScreen* found = nullptr;
+    int most = 0;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect shared = screen->availableGeometry().intersected(rectangle);
+        if (shared.width() * shared.height() > most) {
+            most = shared.width() * shared.height();
+            found = screen;
+        }
+    }
+    return found;
 }
 
 } // namespace
@@ -77,6 +85,7 @@ MainView::MainView(Screen& screen, UserActions& actions) : ScreenView(screen, ac
     for (const auto& view : own_) {
         view->refresh();
     }
+    size_ = FrameSize(wholeSize());
 }
 
 MainView::~MainView() {
@@ -153,6 +162,7 @@ void MainView::makeArea(QVBoxLayout& column) {
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setFocusPolicy(Qt::NoFocus);
+    area_->viewport()->installEventFilter(this);
     column.addWidget(area_, 1);
     QObject::connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         auto* child = dynamic_cast<ChildWindow*>(window);
@@ -192,16 +202,44 @@ void MainView::applyPosition() {
         return;
     }
     shownPosition_ = asked;
-    QRect geometry(toPixels(*window_, asked.left), toPixels(*window_, asked.top), toPixels(*window_, asked.width),
-                   toPixels(*window_, asked.height));
-    if (!isOnSomeScreen(geometry)) {
-        geometry.moveTopLeft(window_->screen()->availableGeometry().topLeft());
-    }
+    const QRect geometry = geometryOf(asked);
     placing_ = true;
     window_->move(geometry.topLeft());
     window_->resize(geometry.size());
     placing_ = false;
     shownGeometry_ = QRect(window_->pos(), window_->size());
+}
+
+/// Where the window goes for that position: on a screen, and no larger than the free area there.
+QRect MainView::geometryOf(const Position& asked) const {
+    const QMargins decoration = likelyDecoration(*window_);
+    const QPoint corner(toPixels(*window_, asked.left), toPixels(*window_, asked.top));
+    const QSize size = size_.toPixels(asked.width, asked.height);
+    const QRect outside(corner, size.grownBy(decoration));
+    const QScreen* screen = screenOf(outside);
+    const QRect room = (screen != nullptr ? screen : window_->screen())->availableGeometry();
+    const QRect place = movedInside(outside, room);
+    return {place.topLeft(), place.size().shrunkBy(decoration)};
+}
+
+/// The size in which the whole of block 0 shows.
+QSize MainView::wholeSize() {
+    const std::unique_ptr<Screen> example = screen()->workbench().makeScreen(ScreenId::Edid);
+    const ChildView child(*example, actions(), *area_);
+    const int border = 2 * area_->frameWidth();
+    const QSize inside = child.subWindow().sizeHint() + QSize(border, border);
+    const QSize least = window_->minimumSizeHint();
+    const int around = least.height() - area_->minimumSizeHint().height();
+    return {std::max(inside.width(), least.width()), inside.height() + around};
+}
+
+bool MainView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize && watched == area_->viewport()) {
+        for (QMdiSubWindow* window : area_->subWindowList()) {
+            static_cast<ChildWindow*>(window)->view().fit();
+        }
+    }
+    return ScreenView::eventFilter(watched, event);
 }
 
 void MainView::notePosition() {
@@ -215,8 +253,8 @@ void MainView::notePosition() {
         return;
     }
     shownGeometry_ = now;
-    input::placed(model, toTwips(*window_, now.left()), toTwips(*window_, now.top()), toTwips(*window_, now.width()),
-                  toTwips(*window_, now.height()));
+    input::placed(model, toTwips(*window_, now.left()), toTwips(*window_, now.top()), size_.widthInTwips(now.width()),
+                  size_.heightInTwips(now.height()));
     shownPosition_ = {model.Left, model.Top, model.Width, model.Height};
 }
 

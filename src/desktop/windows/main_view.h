@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/screens/frm_main.h"
+#include "desktop/windows/frame_size.h"
 #include "desktop/windows/screen_view.h"
 
 class QLabel;
@@ -48,6 +49,9 @@ public:
     /// Notes where the window stands; a place that the model asked for is kept as it was asked for.
     void notePosition();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     struct Position {
         float left = 0;
@@ -66,12 +70,15 @@ private:
     void makeClock();
     MenuView& makeEntry(Control& control);
     void applyPosition();
+    QRect geometryOf(const Position& asked) const;
+    QSize wholeSize();
 
     MainWindow* window_;
     QMdiArea* area_ = nullptr;
     QMenu* windowMenu_ = nullptr;
     std::vector<QAction*> childEntries_;
     std::vector<std::unique_ptr<ControlView>> own_;
+    FrameSize size_;
     Position shownPosition_;
     QRect shownGeometry_;
     bool placing_ = false; ///< the window moves because the model says so

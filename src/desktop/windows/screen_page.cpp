@@ -120,7 +120,7 @@ void ScreenPage::fill(QWidget& parent, const Area& area) {
 }
 
 void ScreenPage::placeControls(QWidget& parent, QGridLayout& grid, const Place& place) {
-    if (place.look == Look::Group || place.look == Look::Filler) {
+    if (place.look == Look::Group || place.look == Look::Filler || place.look == Look::Words) {
         grid.addWidget(makeGroup(parent, place), place.row, place.column, place.rowSpan, place.columnSpan,
                        alignmentIn(place));
         return;
@@ -141,6 +141,9 @@ void ScreenPage::placeControls(QWidget& parent, QGridLayout& grid, const Place& 
 QWidget* ScreenPage::makeGroup(QWidget& parent, const Place& place) {
     if (place.look == Look::Filler) {
         return makeFiller();
+    }
+    if (place.look == Look::Words) {
+        return new QLabel(QString::fromLatin1(place.spoken.data(), static_cast<qsizetype>(place.spoken.size())));
     }
     auto* inside = new QWidget(&parent);
     fill(*inside, layout_.at(place.name));

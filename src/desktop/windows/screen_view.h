@@ -28,7 +28,7 @@ public:
     /// Brings the changed controls in line.
     void refreshControls();
     /// The screen goes: the window is hidden, and calls that wait are dropped.
-    void detach();
+    virtual void detach();
 
     ControlView* viewOf(const Control& control) const;
     void markStale(const Control& control);
