@@ -1,9 +1,20 @@
 #pragma once
 
+#include <string>
+
 namespace wb {
 
 class Control;
 class Screen;
+
+/// A file that a command has written to its end.
+struct WrittenFile {
+    enum class Kind { DataFile, HexadecimalFile };
+
+    std::string name;
+    Kind kind = Kind::DataFile;
+    int blocks = 0; ///< of the image, 1 or 2
+};
 
 /// What a view learns of the model. All calls come from inside the statement that causes them; none may call back into
 /// the model.
@@ -20,6 +31,7 @@ public:
     /// The order of the child windows, the modal screens, the end of the program.
     virtual void windowsChanged() = 0;
     virtual void focusChanged() = 0;
+    virtual void fileWritten(const WrittenFile& file) = 0;
 };
 
 } // namespace wb

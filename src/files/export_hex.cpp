@@ -4,6 +4,7 @@
 
 #include "core/edid_image.h"
 #include "core/statements.h"
+#include "core/view.h"
 #include "files/common_dialog.h"
 #include "files/save.h"
 #include "files/text_file.h"
@@ -23,15 +24,19 @@ std::string askExportName(Workbench& workbench) {
     return askSaveName(workbench, "Save As", hexFilter);
 }
 
-void writeCells(const Statements& statement, BlockScreen& screen, std::optional<Writer>& file) {
+/// How many cells could be written.
+int writeCells(const Statements& statement, BlockScreen& screen, std::optional<Writer>& file) {
+    int written = 0;
     for (int i = 0; i < BlockScreen::cellCount; ++i) {
         statement([&] {
             if (!file) {
                 throw Failure(FailureKind::PathFileAccess);
             }
             file->write(screen.txtEdit(i).text() + ' ');
+            ++written;
         });
     }
+    return written;
 }
 
 void writeImage(Workbench& workbench, const std::string& name) {
@@ -39,13 +44,21 @@ void writeImage(Workbench& workbench, const std::string& name) {
     std::optional<Writer> file;
     // Without a buffer, so that a full device is told for each cell.
     statement([&] { file.emplace(name, Writer::Buffering::EachWrite); });
-    writeCells(statement, workbench.frmEDID(), file);
+    int blocks = 1;
+    int written = writeCells(statement, workbench.frmEDID(), file);
     if (hasExtensionByDecimalText(workbench)) {
-        writeCells(statement, workbench.frmCEA_EXT(), file);
+        blocks = 2;
+        written += writeCells(statement, workbench.frmCEA_EXT(), file);
     }
-    if (file) {
-        statement([&] { file->close(); });
+    if (!file) {
+        return;
     }
+    statement([&] {
+        file->close();
+        if (workbench.view != nullptr && written == blocks * BlockScreen::cellCount) {
+            workbench.view->fileWritten({.name = name, .kind = WrittenFile::Kind::HexadecimalFile, .blocks = blocks});
+        }
+    });
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "core/base/text.h"
 #include "core/edid_image.h"
+#include "core/view.h"
 #include "files/common_dialog.h"
 #include "files/data_file.h"
 #include "files/text_file.h"
@@ -61,6 +62,14 @@ bool savePass(Workbench& workbench) {
     return named;
 }
 
+void tellWritten(Workbench& workbench) {
+    if (workbench.view != nullptr && workbench.EDIDLoaded != flagFalse) {
+        workbench.view->fileWritten({.name = workbench.CurrentFileName,
+                                     .kind = WrittenFile::Kind::DataFile,
+                                     .blocks = hasExtensionByDecimalText(workbench) ? 2 : 1});
+    }
+}
+
 } // namespace
 
 void FileSave(Workbench& workbench) {
@@ -70,6 +79,7 @@ void FileSave(Workbench& workbench) {
                 return;
             }
         }
+        tellWritten(workbench);
     });
 }
 

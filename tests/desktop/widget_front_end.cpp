@@ -176,9 +176,11 @@ bool WidgetFrontEnd::chooseMenu(Control& entry) {
     program_.sync();
     auto* view = dynamic_cast<desktop::MenuView*>(program_.view.viewOf(entry));
     QWidget& window = program_.frame().window();
-    if (view == nullptr || !window.isVisible() || isBlocked(window) || !view->action().isEnabled() ||
-        !view->action().isVisible()) {
+    if (view == nullptr || !window.isVisible() || isBlocked(window) || !view->action().isVisible()) {
         return false;
+    }
+    if (!view->action().isEnabled()) {
+        return chooseGrey(entry);
     }
     for (QObject* owner : view->action().associatedObjects()) {
         if (auto* menu = qobject_cast<QMenu*>(owner)) {
@@ -191,14 +193,22 @@ bool WidgetFrontEnd::chooseMenu(Control& entry) {
     return true;
 }
 
+bool WidgetFrontEnd::chooseGrey(Control& entry) {
+    bool reached = false;
+    program_.act([&] { reached = input::choose(entry); });
+    return reached;
+}
+
 bool WidgetFrontEnd::pressToolBar(const std::string& key) {
     program_.sync();
     auto* bar = program_.frame().window().findChild<QToolBar*>("tbToolBar");
+    int place = 0;
     for (QAction* action : bar->actions()) {
+        ++place;
         QWidget* button = bar->widgetForAction(action);
         if (action->text().toStdString() == key) {
             if (!isReachable(*button)) {
-                return false;
+                return chooseGrey(*program_.workbench.frmMain().find("tbToolBar", place));
             }
             QTest::mouseClick(button, Qt::LeftButton);
             DesktopProgram::settle();

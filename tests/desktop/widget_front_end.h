@@ -26,6 +26,9 @@ public:
 private:
     /// The widget of the control where the user can reach it, else null.
     QWidget* reach(const Control& control);
+    /// An entry that is grey because its command would do nothing: the model runs it, and the trace tells whether that
+    /// is true.
+    bool chooseGrey(Control& entry);
     bool pressKey(int key, const QString& text, Qt::KeyboardModifiers modifiers);
 
     DesktopProgram& program_;

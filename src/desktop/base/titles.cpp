@@ -4,8 +4,11 @@
 
 namespace wb::desktop {
 
-void setTitle(QWidget& window, std::string_view title) {
-    const QString text = titleText(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+void setTitle(QWidget& window, std::string_view title, ChangeMark mark) {
+    QString text = titleText(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    if (mark == ChangeMark::WhenModified) {
+        text += QLatin1String("[*]");
+    }
     if (window.windowTitle() != text) {
         window.setWindowTitle(text);
     }

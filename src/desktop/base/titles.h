@@ -5,7 +5,10 @@
 
 namespace wb::desktop {
 
-/// Sets the title of a window. A "[*]" in it is no mark for changes but part of the text, such as a file name.
-void setTitle(QWidget& window, std::string_view title);
+enum class ChangeMark { Never, WhenModified };
+
+/// Sets the title of a window. A "[*]" in it is no mark for changes but part of the text, such as a file name. The
+/// platform's own mark for changes stands behind the title while the window is modified, if it is asked for.
+void setTitle(QWidget& window, std::string_view title, ChangeMark mark = ChangeMark::Never);
 
 } // namespace wb::desktop

@@ -79,6 +79,12 @@ void DesktopView::focusChanged() {
     focusMoved_ = true;
 }
 
+void DesktopView::fileWritten(const WrittenFile& file) {
+    if (main_ != nullptr) {
+        main_->tellWritten(file);
+    }
+}
+
 void DesktopView::callReturned() {
     showChanges();
     if (std::exchange(focusMoved_, false)) {
@@ -100,6 +106,9 @@ void DesktopView::showChanges() {
     makeMissing();
     for (const auto& [screen, view] : screens_) {
         view->refreshControls();
+    }
+    for (const auto& [screen, view] : screens_) {
+        view->refreshStates();
     }
     if (windowsStale_) {
         windowsStale_ = false;

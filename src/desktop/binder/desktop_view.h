@@ -34,6 +34,7 @@ public:
     void screenUnloaded(Screen& screen) override;
     void windowsChanged() override;
     void focusChanged() override;
+    void fileWritten(const WrittenFile& file) override;
 
 private:
     void callReturned() override;

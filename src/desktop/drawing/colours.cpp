@@ -1,5 +1,7 @@
 #include "desktop/drawing/colours.h"
 
+#include <utility>
+
 namespace wb::desktop {
 
 namespace {
@@ -11,6 +13,23 @@ int mixed(int first, int second, double share) {
 QColor mixed(const QColor& first, const QColor& second, double share) {
     return {mixed(first.red(), second.red(), share), mixed(first.green(), second.green(), share),
             mixed(first.blue(), second.blue(), share)};
+}
+
+/// The palette with a text of what is disabled that stands out from its ground by that share of the usual.
+QPalette withDisabledText(QPalette palette, double strength) {
+    struct Pair {
+        QPalette::ColorRole text;
+        QPalette::ColorRole background;
+    };
+    constexpr Pair pairs[] = {{QPalette::WindowText, QPalette::Window},
+                              {QPalette::Text, QPalette::Base},
+                              {QPalette::ButtonText, QPalette::Button}};
+    for (const Pair& pair : pairs) {
+        palette.setColor(QPalette::Disabled, pair.text,
+                         mixed(palette.color(QPalette::Active, pair.text),
+                               palette.color(QPalette::Active, pair.background), strength));
+    }
+    return palette;
 }
 
 } // namespace
@@ -33,20 +52,12 @@ CellColours cellColours(CellColour colour, const QPalette& palette) {
 }
 
 QPalette withReadableDisabledText(QPalette palette) {
-    constexpr double strength = 0.7;
-    struct Pair {
-        QPalette::ColorRole text;
-        QPalette::ColorRole background;
-    };
-    constexpr Pair pairs[] = {{QPalette::WindowText, QPalette::Window},
-                              {QPalette::Text, QPalette::Base},
-                              {QPalette::ButtonText, QPalette::Button}};
-    for (const Pair& pair : pairs) {
-        palette.setColor(QPalette::Disabled, pair.text,
-                         mixed(palette.color(QPalette::Active, pair.text),
-                               palette.color(QPalette::Active, pair.background), strength));
-    }
-    return palette;
+    constexpr double strength = 0.58;
+    return withDisabledText(std::move(palette), strength);
+}
+
+QPalette withLiveDisabledText(QPalette palette) {
+    return withDisabledText(std::move(palette), 1);
 }
 
 } // namespace wb::desktop

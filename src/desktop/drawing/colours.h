@@ -18,8 +18,9 @@ struct CellColours {
 /// The colours of a cell. The two highlight colours are fixed and carry dark text with any palette.
 CellColours cellColours(CellColour colour, const QPalette& palette);
 
-/// The palette with a stronger colour for the text of what is disabled: while editing is off all panels are disabled,
-/// and they are there to be read.
+/// The palette with a stronger colour for the text of what is disabled, which is there to be read all the same.
 QPalette withReadableDisabledText(QPalette palette);
+/// The palette of a panel: while editing is off all panels are disabled, but what they show is true and looks so.
+QPalette withLiveDisabledText(QPalette palette);
 
 } // namespace wb::desktop

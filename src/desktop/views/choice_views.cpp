@@ -89,7 +89,7 @@ void ButtonView::refresh() {
     ControlView::refresh();
     const Control& model = *control();
     button_->setText(toUnicode(model.caption()));
-    if (button_->isCheckable()) {
+    if (model.kind() != ControlKind::Button) {
         button_->setChecked(model.selected());
     }
     keepWidth(*button_, place().characters);

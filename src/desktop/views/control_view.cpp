@@ -1,11 +1,13 @@
 #include "desktop/views/control_view.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QShortcut>
 
 #include "core/input.h"
 #include "core/screen.h"
 #include "desktop/base/text_codec.h"
+#include "desktop/drawing/colours.h"
 #include "desktop/views/keys.h"
 
 namespace wb::desktop {
@@ -28,6 +30,15 @@ void pressByKey(Control& control) {
     } else {
         input::click(control);
     }
+}
+
+bool isPanel(const Control& control) {
+    return control.name() == "Hints";
+}
+
+bool isInPanel(const Control& control) {
+    const Control* container = control.container();
+    return container != nullptr && (isPanel(*container) || isInPanel(*container));
 }
 
 QString captionAsName(const Control& control) {
@@ -68,8 +79,18 @@ void ControlView::refresh() {
     if (hasCaption(model.kind())) {
         target.setAccessibleName(captionAsName(model));
     }
+    refreshPalette();
     target.setEnabled(model.enabled());
     target.setVisible(model.ownVisible());
+}
+
+void ControlView::refreshPalette() {
+    const Control& model = *control();
+    if (isPanel(model)) {
+        widget()->setPalette(withLiveDisabledText(QApplication::palette()));
+    } else if (isInPanel(model)) {
+        widget()->setPalette(model.enabled() ? QPalette() : withReadableDisabledText(QApplication::palette()));
+    }
 }
 
 void ControlView::act(std::function<void(Control&)> action) {

@@ -42,6 +42,9 @@ public:
 
     /// Brings the widget in line with the control.
     virtual void refresh();
+    /// In a panel only what is disabled by itself, or with its group, is grey: that does not apply to the image. What
+    /// is disabled with the whole panel, as while editing is off, looks as it does otherwise.
+    void refreshPalette();
     /// The widget shows the control that has the focus of the program.
     virtual void focusShown() {}
     /// The screen of the control goes; calls that wait are dropped.

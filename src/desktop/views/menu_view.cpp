@@ -28,8 +28,13 @@ MenuView::MenuView(Control& control, UserActions& actions)
 void MenuView::refresh() {
     const Control& model = *control();
     action_->setText(toUnicode(model.caption()));
-    action_->setEnabled(model.enabled());
+    action_->setEnabled(model.enabled() && !idle_);
     action_->setVisible(model.ownVisible());
+}
+
+void MenuView::setIdle(bool idle) {
+    idle_ = idle;
+    action_->setEnabled(control()->enabled() && !idle_);
 }
 
 } // namespace wb::desktop

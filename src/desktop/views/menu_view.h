@@ -13,10 +13,13 @@ public:
 
     QWidget* widget() const override { return nullptr; }
     void refresh() override;
+    /// Shows the entry grey, as its command would do nothing now, or as the model has it.
+    void setIdle(bool idle);
     QAction& action() const { return *action_; }
 
 private:
     QAction* action_;
+    bool idle_ = false;
 };
 
 } // namespace wb::desktop

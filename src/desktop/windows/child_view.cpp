@@ -85,7 +85,7 @@ void ChildView::detach() {
 }
 
 void ChildView::refresh() {
-    setTitle(*window_, screen()->caption());
+    setTitle(*window_, screen()->caption(), ChangeMark::WhenModified);
     if (window_->isHidden() == screen()->shown()) {
         if (screen()->shown()) {
             takePlace();
@@ -94,6 +94,11 @@ void ChildView::refresh() {
     } else if (screen()->shown()) {
         lentRoom_.noteArrangement();
     }
+}
+
+void ChildView::refreshStates() {
+    const bool showsImage = screen()->id() == ScreenId::Edid || screen()->id() == ScreenId::CeaExt;
+    window_->setWindowModified(showsImage && screen()->workbench().EDIDModified != flagFalse);
 }
 
 QList<QMdiSubWindow*> ChildView::neighbours() const {

@@ -37,6 +37,7 @@ public:
     /// A press on the title bar.
     void activate();
     void refresh() override;
+    void refreshStates() override;
     void detach() override;
     /// A window whose size is still the program's own choice gets the room that its page asks for, as far as the area
     /// has it.

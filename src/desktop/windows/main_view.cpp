@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTime>
@@ -27,6 +29,7 @@
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/flow_layout.h"
+#include "desktop/windows/idle_entries.h"
 #include "desktop/windows/screen_page.h"
 #include "desktop/windows/visibility.h"
 
@@ -81,6 +84,7 @@ MainView::MainView(Screen& screen, UserActions& actions) : ScreenView(screen, ac
     makeToolBar();
     makeButtons(*column);
     makeArea(*column);
+    makeNotice();
     makeClock();
     for (const auto& view : own_) {
         view->refresh();
@@ -125,6 +129,12 @@ void MainView::makeMenus() {
         }
     }
     windowMenu_ = menus.at(&frame().mnuWindow);
+    // Minimised windows are the view's alone, and no call tells of them.
+    QObject::connect(windowMenu_, &QMenu::aboutToShow, this, [this] {
+        if (screen() != nullptr) {
+            refreshStates();
+        }
+    });
 }
 
 void MainView::makeToolBar() {
@@ -173,6 +183,23 @@ void MainView::makeArea(QVBoxLayout& column) {
     });
 }
 
+void MainView::makeNotice() {
+    notice_ = new QLabel;
+    notice_->setTextFormat(Qt::PlainText);
+    notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name must not widen the frame
+    window_->statusBar()->addWidget(notice_, 2);
+}
+
+void MainView::tellWritten(const WrittenFile& file) {
+    const QString name = fromFileNameBytes(file.name);
+    const bool isData = file.kind == WrittenFile::Kind::DataFile;
+    notice_->setText(QString(isData ? "Saved %1 (%2 bytes) at %3" : "Exported %1 (%2 bytes) at %3")
+                         .arg(QFileInfo(name).fileName())
+                         .arg(file.blocks * BlockScreen::cellCount)
+                         .arg(QLocale::system().toString(QTime::currentTime(), QLocale::ShortFormat)));
+    notice_->setToolTip(name.toHtmlEscaped());
+}
+
 void MainView::makeClock() {
     auto* clock = new QLabel;
     clock->setAccessibleName("Clock");
@@ -188,10 +215,32 @@ void MainView::makeClock() {
 }
 
 void MainView::refresh() {
-    setTitle(*window_, screen()->caption());
+    setTitle(*window_, screen()->caption(), ChangeMark::WhenModified);
     applyPosition();
     if (window_->isHidden() == screen()->shown()) {
         window_->setVisible(screen()->shown());
+    }
+}
+
+void MainView::showPressed(const Control& button, bool pressed) {
+    auto* widget = static_cast<QPushButton*>(viewOf(button)->widget());
+    widget->setCheckable(true);
+    widget->setChecked(pressed);
+}
+
+void MainView::refreshStates() {
+    const Workbench& workbench = screen()->workbench();
+    window_->setWindowModified(workbench.EDIDModified != flagFalse);
+    showPressed(frame().Command2, workbench.ModifyEDIDOn != flagFalse);
+    showPressed(frame().Command3, workbench.AutoCellSeekOn != flagFalse);
+    const QList<QMdiSubWindow*> children = area_->subWindowList();
+    const bool icons = std::any_of(children.begin(), children.end(), [](const QMdiSubWindow* child) {
+        return child->isMinimized() && !child->isHidden();
+    });
+    for (const auto& view : own_) {
+        if (auto* entry = dynamic_cast<MenuView*>(view.get())) {
+            entry->setIdle(isIdle(*entry->control(), icons));
+        }
     }
 }
 
@@ -268,7 +317,7 @@ void MainView::listChildren(const std::vector<ScreenView*>& children) {
     }
     int number = 1;
     for (ScreenView* child : children) {
-        const QString title = child->window().windowTitle().replace('&', QLatin1String("&&"));
+        const QString title = titleText(child->screen()->caption()).replace('&', QLatin1String("&&"));
         QAction* entry = windowMenu_->addAction(QString("&%1 %2").arg(number++).arg(title));
         entry->setCheckable(true);
         entry->setChecked(child == children.front());

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/screens/frm_main.h"
+#include "core/view.h"
 #include "desktop/windows/frame_size.h"
 #include "desktop/windows/screen_view.h"
 
@@ -44,6 +45,9 @@ public:
     QMainWindow& window() override { return *window_; }
     QMdiArea& area() const { return *area_; }
     void refresh() override;
+    void refreshStates() override;
+    /// Tells in the status bar what has been written, and when.
+    void tellWritten(const WrittenFile& file);
     /// Lists the shown children, the active one first, in the Window menu.
     void listChildren(const std::vector<ScreenView*>& children);
     /// Notes where the window stands; a place that the model asked for is kept as it was asked for.
@@ -67,7 +71,9 @@ private:
     void makeToolBar();
     void makeButtons(QVBoxLayout& column);
     void makeArea(QVBoxLayout& column);
+    void makeNotice();
     void makeClock();
+    void showPressed(const Control& button, bool pressed);
     MenuView& makeEntry(Control& control);
     void applyPosition();
     QRect geometryOf(const Position& asked) const;
@@ -76,6 +82,7 @@ private:
     MainWindow* window_;
     QMdiArea* area_ = nullptr;
     QMenu* windowMenu_ = nullptr;
+    QLabel* notice_ = nullptr;
     std::vector<QAction*> childEntries_;
     std::vector<std::unique_ptr<ControlView>> own_;
     FrameSize size_;

@@ -222,6 +222,9 @@ void ScreenPage::refreshPalette() {
     const QPalette wanted = withReadableDisabledText(QApplication::palette());
     if (palette() != wanted) {
         setPalette(wanted);
+        for (const auto& view : views_) {
+            view->refreshPalette();
+        }
     }
 }
 

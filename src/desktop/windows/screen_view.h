@@ -23,6 +23,8 @@ public:
     virtual QWidget& window() = 0;
     /// Brings title and visibility in line with the screen.
     virtual void refresh() = 0;
+    /// Brings in line what follows the program's variables, which tell of no change.
+    virtual void refreshStates() {}
     /// Makes room for what the controls show now.
     virtual void fit() {}
     /// Brings the changed controls in line.
