@@ -31,10 +31,8 @@ struct BareKey {
     Qt::KeyboardModifier modifier = Qt::NoModifier;
 };
 
-/// Keys that do not type into a text: those of the number pad's operators, and commands.
-constexpr std::array<BareKey, 8> bareKeys = {{{8, Qt::Key_Backspace, ""},
-                                              {37, Qt::Key_Left, ""},
-                                              {39, Qt::Key_Right, ""},
+/// Keys that do not type into a text: those of the number pad's operators, and commands that do not move the focus.
+constexpr std::array<BareKey, 6> bareKeys = {{{8, Qt::Key_Backspace, ""},
                                               {106, Qt::Key_Asterisk, "*", Qt::KeypadModifier},
                                               {107, Qt::Key_Plus, "+", Qt::KeypadModifier},
                                               {109, Qt::Key_Minus, "-", Qt::KeypadModifier},

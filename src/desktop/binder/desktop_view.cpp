@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QMdiArea>
+#include <QShortcut>
 #include <utility>
 
+#include "core/input.h"
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/modal_view.h"
 #include "desktop/windows/splash_view.h"
@@ -59,6 +61,7 @@ void DesktopView::screenLoaded(Screen&) {
 }
 
 void DesktopView::screenUnloaded(Screen& screen) {
+    wayBack_.forget(screen);
     const auto found = screens_.find(&screen);
     if (found != screens_.end()) {
         found->second->detach();
@@ -77,6 +80,7 @@ void DesktopView::windowsChanged() {
 
 void DesktopView::focusChanged() {
     focusMoved_ = true;
+    wayBack_.focusMoved(workbench_.focus.current());
 }
 
 void DesktopView::fileWritten(const WrittenFile& file) {
@@ -139,6 +143,8 @@ std::unique_ptr<ScreenView> DesktopView::makeView(Screen& screen) {
     if (screen.id() == ScreenId::Main) {
         auto view = std::make_unique<MainView>(screen, *this);
         main_ = view.get();
+        auto* back = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_0), &view->window());
+        QObject::connect(back, &QShortcut::activated, this, [this] { goBack(); });
         return view;
     }
     if (screen.id() == ScreenId::Splash) {
@@ -148,6 +154,15 @@ std::unique_ptr<ScreenView> DesktopView::makeView(Screen& screen) {
         return std::make_unique<ChildView>(screen, *this, main_->area());
     }
     return std::make_unique<ModalView>(screen, *this, main_ != nullptr ? &main_->window() : nullptr);
+}
+
+void DesktopView::goBack() {
+    focus_.settle();
+    gate_.run([this] {
+        if (Control* cell = wayBack_.cell()) {
+            input::moveFocus(*cell);
+        }
+    });
 }
 
 /// Puts the child windows in the model's order and activates the first.

@@ -8,6 +8,7 @@
 #include "core/workbench.h"
 #include "desktop/base/model_gate.h"
 #include "desktop/binder/focus_keeper.h"
+#include "desktop/binder/way_back.h"
 #include "desktop/windows/main_view.h"
 
 namespace wb::desktop {
@@ -51,10 +52,12 @@ private:
     void makeMissing();
     std::unique_ptr<ScreenView> makeView(Screen& screen);
     void arrangeChildren();
+    void goBack();
 
     Workbench& workbench_;
     ModelGate& gate_;
     FocusKeeper focus_;
+    WayBack wayBack_;
     std::unordered_map<const Screen*, std::unique_ptr<ScreenView>> screens_;
     std::vector<std::unique_ptr<ScreenView>> gone_;
     MainView* main_ = nullptr;

@@ -11,6 +11,7 @@
 #include "desktop/base/text_codec.h"
 #include "desktop/drawing/colours.h"
 #include "desktop/drawing/fonts.h"
+#include "desktop/views/cell_steps.h"
 #include "desktop/views/keys.h"
 #include "desktop/views/sizes.h"
 
@@ -19,7 +20,6 @@ namespace wb::desktop {
 namespace {
 
 constexpr int cellCharacters = 2;
-constexpr int gridColumns = 10;
 
 struct Selection {
     int start;
@@ -31,9 +31,12 @@ Selection selectionOf(const QLineEdit& box) {
                                  : Selection{box.cursorPosition(), 0};
 }
 
-bool isVerticalKey(const QKeyEvent& event) {
-    return (event.key() == Qt::Key_Up || event.key() == Qt::Key_Down) &&
-           (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+/// Whether the cursor stands at that edge of the text; a text that is selected as a whole touches both.
+bool isAtEdge(const QLineEdit& box, TextEdge edge) {
+    if (edge == TextEdge::Any || box.selectedText() == box.text()) {
+        return true;
+    }
+    return !box.hasSelectedText() && box.cursorPosition() == (edge == TextEdge::Start ? 0 : box.text().size());
 }
 
 } // namespace
@@ -171,15 +174,17 @@ void TextView::enter(const QKeyEvent& event) {
     }
 }
 
-bool TextView::moveVertically(int rows) {
+bool TextView::stepToCell(const QKeyEvent& event) {
     if (place().look != Look::Cell || control() == nullptr) {
         return false;
     }
     const Control& from = *control();
-    Control* to = from.screen().find(from.name(), from.index() + rows * gridColumns);
-    if (to != nullptr) {
-        act([to](Control&) { input::moveFocus(*to); });
+    const auto step = cellStep(event, from.index());
+    if (!step || (!from.locked() && !isAtEdge(*box_, step->from))) {
+        return isRowKey(event);
     }
+    Control& to = *from.screen().find(from.name(), step->cell);
+    act([&to](Control&) { input::moveFocus(to); });
     return true;
 }
 
@@ -194,7 +199,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
-    if (isVerticalKey(*event) && view_.moveVertically(event->key() == Qt::Key_Up ? -1 : 1)) {
+    if (view_.stepToCell(*event)) {
         return;
     }
     const int code = commandKeyCode(*event);

@@ -50,7 +50,8 @@ private:
     void editByWidget(Editing&& editing, int code, bool alwaysTell);
     void tellSelection();
     bool sameAsModel() const;
-    bool moveVertically(int rows);
+    /// Moves to the cell that the key leads to; false where the key is the box's own.
+    bool stepToCell(const QKeyEvent& event);
 
     TextBox* box_;
     bool editing_ = false;     ///< the widget is editing and its signals need not be told

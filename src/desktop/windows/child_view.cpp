@@ -57,6 +57,13 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
     view_.askToClose();
 }
 
+void ChildWindow::keyPressEvent(QKeyEvent* event) {
+    QMdiSubWindow::keyPressEvent(event); // has a use for it while the window is moved by the keyboard
+    if (!event->isAccepted() && event->key() == Qt::Key_Escape) {
+        view_.leavePanel();
+    }
+}
+
 void ChildWindow::mousePressEvent(QMouseEvent* event) {
     QMdiSubWindow::mousePressEvent(event);
     if (!widget()->geometry().contains(event->pos())) {
@@ -112,6 +119,9 @@ QList<QMdiSubWindow*> ChildView::neighbours() const {
 
 void ChildView::takePlace() {
     const QSize area = window_->mdiArea()->viewport()->size();
+    if (window_->isMaximized() || window_->isMinimized()) {
+        return;
+    }
     if (chosen_.isValid()) { // it comes back to where it was
         window_->setGeometry(movedInside(window_->geometry(), QRect(QPoint(0, 0), area)));
         return;
@@ -146,6 +156,15 @@ void ChildView::activate() {
     if (screen() != nullptr && (holder == nullptr || &holder->screen() != screen())) {
         actions().activationArrived(*this, Qt::MouseFocusReason);
     }
+}
+
+void ChildView::leavePanel() {
+    act([this](Screen& target) {
+        Control* control = page_->otherSide(target.workbench().focus.current());
+        if (control != nullptr && control->backColor() == CellColour::Field) {
+            input::moveFocus(*control);
+        }
+    });
 }
 
 void ChildView::changeSide() {

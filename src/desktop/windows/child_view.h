@@ -21,6 +21,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
@@ -34,6 +35,8 @@ public:
 
     QWidget& window() override { return *window_; }
     QMdiSubWindow& subWindow() const { return *window_; }
+    /// From inside the panel, gives the focus back to the cell of the field shown.
+    void leavePanel();
     /// A press on the title bar.
     void activate();
     void refresh() override;
