@@ -23,7 +23,7 @@ double Value(Workbench& workbench, std::string_view text);
 /// converted gives the helper's box and is an InvalidCall failure of the caller.
 int byteOf(Workbench& workbench, std::string_view cellText);
 
-/// The value of cell `index` of a block screen; an index outside the grid is a ControlElementMissing failure.
+/// byteOf of cell `index` of a block screen, box and all; an index outside the grid is a ControlElementMissing failure.
 int byteAt(BlockScreen& screen, int index);
 
 /// The number that the binary form of hexadecimal digits gives, as decimal text.
