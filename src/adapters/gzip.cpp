@@ -1,0 +1,65 @@
+#include "adapters/gzip.h"
+
+#include <zlib.h>
+
+#include <array>
+#include <limits>
+
+namespace wb::adapters {
+
+namespace {
+
+/// An open stream, which is closed when it goes out of scope.
+class InflateStream {
+public:
+    explicit InflateStream(std::string_view bytes) {
+        constexpr int gzipOnly = 16;
+        // The library does not change its input, but declares it so.
+        stream_.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(bytes.data()));
+        stream_.avail_in = static_cast<uInt>(bytes.size());
+        good_ = inflateInit2(&stream_, MAX_WBITS + gzipOnly) == Z_OK;
+    }
+    InflateStream(const InflateStream&) = delete;
+    InflateStream& operator=(const InflateStream&) = delete;
+    ~InflateStream() { inflateEnd(&stream_); }
+
+    /// The next piece of the content; nothing where the data is damaged or ends early.
+    std::optional<std::string> next() {
+        std::array<char, 1U << 14U> buffer{};
+        stream_.next_out = reinterpret_cast<Bytef*>(buffer.data());
+        stream_.avail_out = static_cast<uInt>(buffer.size());
+        const int result = good_ ? inflate(&stream_, Z_NO_FLUSH) : Z_DATA_ERROR;
+        ended_ = result == Z_STREAM_END;
+        if (result != Z_OK && !ended_) {
+            return std::nullopt;
+        }
+        return std::string(buffer.data(), buffer.size() - stream_.avail_out);
+    }
+
+    bool ended() const { return ended_; }
+
+private:
+    z_stream stream_{};
+    bool good_ = false;
+    bool ended_ = false;
+};
+
+} // namespace
+
+std::optional<std::string> uncompressGzip(std::string_view bytes, std::size_t most) {
+    if (bytes.size() > std::numeric_limits<uInt>::max()) {
+        return std::nullopt;
+    }
+    InflateStream stream(bytes);
+    std::string content;
+    while (!stream.ended()) {
+        const std::optional<std::string> piece = stream.next();
+        if (!piece || content.size() + piece->size() > most) {
+            return std::nullopt;
+        }
+        content += *piece;
+    }
+    return content;
+}
+
+} // namespace wb::adapters

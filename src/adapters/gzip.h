@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What the programs ask of libraries that the logic does without.
+namespace wb::adapters {
+
+/// The content of a gzip file (RFC 1952) by zlib, up to `most` bytes of it. Nothing where it is none, is damaged, ends
+/// early or holds more.
+std::optional<std::string> uncompressGzip(std::string_view bytes, std::size_t most = std::size_t{1} << 24U);
+
+} // namespace wb::adapters
