@@ -6,6 +6,7 @@ namespace wb::test {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 using CheckTest = Edidwb;
 
 TEST_F(CheckTest, TellsAboutEachFile) {
@@ -63,13 +64,11 @@ TEST_F(CheckTest, TellsFindingsBelowTheirFile) {
     write("a.bin", image);
     const Outcome outcome = shell("edidwb check a.bin");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(contains(outcome.output,
-                         "\n  error, byte 56 (38h), base.detailed[1].h_active: The timing has no active pixels"))
-        << outcome.output;
-    EXPECT_TRUE(contains(outcome.output, "[timing.nothing_active; ")) << outcome.output;
+    EXPECT_THAT(outcome.output,
+                HasSubstr("\n  error, byte 56 (38h), base.detailed[1].h_active: The timing has no active pixels"));
+    EXPECT_THAT(outcome.output, HasSubstr("[timing.nothing_active; "));
     const Outcome rows = shell("edidwb check --format tsv a.bin");
-    EXPECT_TRUE(contains(rows.output, "\na.bin\terror\ttiming.nothing_active\t0\t56\tbase.detailed[1].h_active\t"))
-        << rows.output;
+    EXPECT_THAT(rows.output, HasSubstr("\na.bin\terror\ttiming.nothing_active\t0\t56\tbase.detailed[1].h_active\t"));
 }
 
 TEST_F(CheckTest, TheLevelChoosesWhatIsToldAndTheOtherWhatFails) {
@@ -77,11 +76,11 @@ TEST_F(CheckTest, TheLevelChoosesWhatIsToldAndTheOtherWhatFails) {
     const std::string code = "[basic.no_preferred_timing; ";
     const std::string check = "edidwb check $SAMPLES/halvorine-hv19.bin ";
     EXPECT_EQ(shell(check).status, 0);
-    EXPECT_TRUE(contains(shell(check).output, code));
-    EXPECT_FALSE(contains(shell(check + "--level error").output, code));
+    EXPECT_THAT(shell(check).output, HasSubstr(code));
+    EXPECT_THAT(shell(check + "--level error").output, Not(HasSubstr(code)));
     const Outcome failed = shell(check + "--level error --fail-on warning");
     EXPECT_EQ(failed.status, 1);
-    EXPECT_FALSE(contains(failed.output, code));
+    EXPECT_THAT(failed.output, Not(HasSubstr(code)));
 }
 
 TEST_F(CheckTest, QuietTellsOnlyOfFilesWithFindings) {
@@ -91,8 +90,8 @@ TEST_F(CheckTest, QuietTellsOnlyOfFilesWithFindings) {
     const Outcome outcome =
         shell("cd $SAMPLES; edidwb check --quiet --level error halvorine-hv19.bin \"$OLDPWD/sum.bin\"");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_FALSE(contains(outcome.output, "halvorine-hv19.bin")) << outcome.output;
-    EXPECT_TRUE(contains(outcome.output, "sum.bin: header ok, length 128 ok, check sum of block 0 F3 should be F4\n"));
+    EXPECT_THAT(outcome.output, Not(HasSubstr("halvorine-hv19.bin")));
+    EXPECT_THAT(outcome.output, HasSubstr("sum.bin: header ok, length 128 ok, check sum of block 0 F3 should be F4\n"));
 }
 
 } // namespace

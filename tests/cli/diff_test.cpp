@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include <algorithm>
 
 #include "cli/edidwb.h"
@@ -5,6 +7,7 @@
 namespace wb::test {
 namespace {
 
+using testing::HasSubstr;
 using DiffTest = Edidwb;
 
 TEST_F(DiffTest, TellsTheFieldsThatDiffer) {
@@ -16,7 +19,7 @@ TEST_F(DiffTest, TellsTheFieldsThatDiffer) {
     const Outcome outcome = shell("edidwb diff a.bin b.bin");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.output.substr(0, 37), "base.detailed[1].pixel_clock: 157.50 "); // 3D86 hexadecimal
-    EXPECT_TRUE(contains(outcome.output, "157.50 MHz -> 157.51 MHz\nbase.checksum: ")) << outcome.output;
+    EXPECT_THAT(outcome.output, HasSubstr("157.50 MHz -> 157.51 MHz\nbase.checksum: "));
     EXPECT_EQ(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 2) << outcome.output;
 }
 
@@ -32,10 +35,10 @@ TEST_F(DiffTest, TellsFieldsThatOnlyOneHas) {
     write("short.bin", image.substr(0, 128));
     const Outcome longer = shell("edidwb diff short.bin $SAMPLES/zarqo-z40.bin");
     EXPECT_EQ(longer.status, 1);
-    EXPECT_TRUE(contains(longer.output, ": (none) -> ")) << longer.output;
+    EXPECT_THAT(longer.output, HasSubstr(": (none) -> "));
     const Outcome json = shell("edidwb diff --format json $SAMPLES/zarqo-z40.bin short.bin");
     EXPECT_EQ(json.status, 1);
-    EXPECT_TRUE(contains(json.output, "\"b\":null}")) << json.output;
+    EXPECT_THAT(json.output, HasSubstr("\"b\":null}"));
 }
 
 TEST_F(DiffTest, TroubleHasStatus2) {

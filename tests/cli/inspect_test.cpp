@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include <algorithm>
 
 #include "cli/edidwb.h"
@@ -5,6 +7,8 @@
 namespace wb::test {
 namespace {
 
+using testing::HasSubstr;
+using testing::Not;
 using InspectTest = Edidwb;
 
 TEST_F(InspectTest, TellsEveryBlockAsATable) {
@@ -12,21 +16,18 @@ TEST_F(InspectTest, TellsEveryBlockAsATable) {
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_EQ(outcome.output.substr(0, outcome.output.find("  base")),
               "zarqo-z40.bin: 256 bytes\n\nBlock 0: base EDID, check sum ok\n");
-    EXPECT_TRUE(contains(outcome.output,
-                         "\n  base.detailed[1]\n"
-                         "    37+36           Pixel clock                        148.50 MHz\n"
-                         "    3A[7:4]+38      Horizontal active                  1920 px\n"))
-        << outcome.output;
-    EXPECT_TRUE(contains(outcome.output, "\n\nBlock 1: CTA-861 extension, check sum ok\n")) << outcome.output;
+    EXPECT_THAT(outcome.output, HasSubstr("\n  base.detailed[1]\n"
+                                          "    37+36           Pixel clock                        148.50 MHz\n"
+                                          "    3A[7:4]+38      Horizontal active                  1920 px\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("\n\nBlock 1: CTA-861 extension, check sum ok\n"));
 }
 
 TEST_F(InspectTest, TellsRowsForPrograms) {
     const Outcome outcome = shell("cd $SAMPLES; edidwb inspect --format tsv zarqo-z40.bin");
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_EQ(outcome.output.substr(0, outcome.output.find('\n')), "file\tpath\twhere\traw\tvalue\tunit\ttext\tclause");
-    EXPECT_TRUE(
-        contains(outcome.output, "\nzarqo-z40.bin\tbase.detailed[1].h_active\t3A[7:4]+38\t780\t1920\tpx\t1920 px\t"))
-        << outcome.output;
+    EXPECT_THAT(outcome.output,
+                HasSubstr("\nzarqo-z40.bin\tbase.detailed[1].h_active\t3A[7:4]+38\t780\t1920\tpx\t1920 px\t"));
 }
 
 TEST_F(InspectTest, TellsOneJsonObjectAFile) {
@@ -34,17 +35,16 @@ TEST_F(InspectTest, TellsOneJsonObjectAFile) {
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_EQ(std::count(outcome.output.begin(), outcome.output.end(), '\n'), 2);
     EXPECT_EQ(outcome.output.substr(0, 50), "{\"schema\":1,\"file\":\"zarqo-z40.bin\",\"bytes\":256,\"bl");
-    EXPECT_TRUE(contains(outcome.output,
-                         "{\"path\":\"base.detailed[1].h_active\",\"label\":\"Horizontal active\","
-                         "\"where\":[{\"byte\":58,\"high\":7,\"low\":4},{\"byte\":56,\"high\":7,\"low\":0}],"
-                         "\"raw\":\"780\",\"value\":1920,\"unit\":\"px\",\"text\":\"1920 px\","))
-        << outcome.output;
+    EXPECT_THAT(outcome.output,
+                HasSubstr("{\"path\":\"base.detailed[1].h_active\",\"label\":\"Horizontal active\","
+                          "\"where\":[{\"byte\":58,\"high\":7,\"low\":4},{\"byte\":56,\"high\":7,\"low\":0}],"
+                          "\"raw\":\"780\",\"value\":1920,\"unit\":\"px\",\"text\":\"1920 px\","));
 }
 
 TEST_F(InspectTest, ReadsDataFilesAndHexadecimalText) {
     shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; edidwb convert --to hex $SAMPLES/zarqo-z40.bin z.hex");
     const Outcome raw = shell("edidwb inspect --format tsv $SAMPLES/zarqo-z40.bin | cut -f 2-");
-    EXPECT_TRUE(contains(raw.output, "base.detailed[2].v_active\t"));
+    EXPECT_THAT(raw.output, HasSubstr("base.detailed[2].v_active\t"));
     EXPECT_EQ(shell("edidwb inspect --format tsv z.DAT | cut -f 2-").output, raw.output);
     EXPECT_EQ(shell("edidwb inspect --format tsv - <z.hex | cut -f 2-").output, raw.output);
 }
@@ -53,17 +53,17 @@ TEST_F(InspectTest, GoesOnAfterAFileThatIsNoImage) {
     write("notes", "no image");
     const Outcome outcome = shell("edidwb inspect notes missing $SAMPLES/halvorine-hv19.bin");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(contains(outcome.errors, "edidwb: notes: is no EDID image")) << outcome.errors;
-    EXPECT_TRUE(contains(outcome.errors, "edidwb: missing: No such file or directory\n")) << outcome.errors;
-    EXPECT_TRUE(contains(outcome.output, "Block 0: base EDID")) << outcome.output;
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: notes: is no EDID image"));
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: missing: No such file or directory\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("Block 0: base EDID"));
 }
 
 TEST_F(InspectTest, UsesColourOnATerminalOnly) {
-    EXPECT_FALSE(contains(shell("edidwb inspect $SAMPLES/halvorine-hv19.bin").output, "\x1B"));
+    EXPECT_THAT(shell("edidwb inspect $SAMPLES/halvorine-hv19.bin").output, Not(HasSubstr("\x1B")));
     const std::string program = EDIDWB;
     const std::string run = "script -qec \"" + program + " inspect $SAMPLES/halvorine-hv19.bin\" /dev/null";
-    EXPECT_TRUE(contains(shell("unset NO_COLOR; " + run).output, "\x1B[1m"));
-    EXPECT_FALSE(contains(shell("export NO_COLOR=1; " + run).output, "\x1B"));
+    EXPECT_THAT(shell("unset NO_COLOR; " + run).output, HasSubstr("\x1B[1m"));
+    EXPECT_THAT(shell("export NO_COLOR=1; " + run).output, Not(HasSubstr("\x1B")));
 }
 
 TEST_F(InspectTest, WritesJsonAsItsSchemaSays) {
