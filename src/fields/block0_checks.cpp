@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -24,13 +25,6 @@ bool isTold(const Size& size) {
     return size.width > 0 && size.height > 0;
 }
 
-/// The size in the timing, nothing where there is an aspect ratio in its place.
-Size sizeOf(const DetailedTiming& timing) {
-    constexpr int smallest = 20;
-    const Size size = {timing.widthMillimetres, timing.heightMillimetres};
-    return size.width > smallest || size.height > smallest ? size : Size();
-}
-
 Size basicSize(const Scope& base) {
     const Size size = {base.byte(sizeBytes) * millimetresPerCentimetre,
                        base.byte(sizeBytes + 1) * millimetresPerCentimetre};
@@ -39,6 +33,22 @@ Size basicSize(const Scope& base) {
 
 bool areClose(const Size& a, const Size& b) {
     return std::abs(a.width - b.width) <= centimetreError && std::abs(a.height - b.height) <= centimetreError;
+}
+
+/// Pairs of numbers that timings have in place of a size: the aspect ratio of the picture.
+constexpr std::array<Size, 5> ratios = {{{4, 3}, {16, 9}, {16, 10}, {160, 90}, {160, 100}}};
+
+/// A size as small as that is believed where the basic parameters tell it too.
+bool tellsRatio(const Scope& base, const DetailedTiming& timing) {
+    const bool isRatio = std::any_of(ratios.begin(), ratios.end(), [&](const Size& ratio) {
+        return ratio.width == timing.widthMillimetres && ratio.height == timing.heightMillimetres;
+    });
+    return isRatio && !areClose(basicSize(base), {timing.widthMillimetres, timing.heightMillimetres});
+}
+
+/// The size in the timing, nothing where there is an aspect ratio in its place.
+Size sizeOf(const Scope& base, const DetailedTiming& timing) {
+    return tellsRatio(base, timing) ? Size() : Size{timing.widthMillimetres, timing.heightMillimetres};
 }
 
 bool isLarger(const Size& a, const Size& b) {
@@ -57,7 +67,7 @@ std::optional<DetailedTiming> timingIn(const Scope& base, std::size_t slot) {
 void summarizeSize(const Scope& base) {
     const Size basic = basicSize(base);
     const std::optional<DetailedTiming> first = timingIn(base, 0);
-    const Size exact = first ? sizeOf(*first) : Size();
+    const Size exact = first ? sizeOf(base, *first) : Size();
     const Size size = isTold(exact) && (!isTold(basic) || areClose(basic, exact)) ? exact : basic;
     if (!isTold(size)) {
         return;
@@ -74,8 +84,15 @@ std::string sizeText(const Size& size) {
 
 /// The preferred timing fills the screen; others may show less than all of it.
 void checkSize(const Scope& base, std::size_t slot, const DetailedTiming& timing) {
+    if (tellsRatio(base, timing)) {
+        slotScope(base, slot)
+            .tell(Severity::Note, "timing.size_is_ratio", 12, "h_image_size",
+                  "The size of the picture, " + sizeText({timing.widthMillimetres, timing.heightMillimetres}) +
+                      ", is its aspect ratio, which software takes for a tiny screen; enter millimetres, or 0 for a "
+                      "size that is not known.");
+    }
     const Size screen = basicSize(base);
-    const Size picture = sizeOf(timing);
+    const Size picture = sizeOf(base, timing);
     if (!isTold(screen) || !isTold(picture)) {
         return;
     }

@@ -28,21 +28,29 @@ constexpr std::array<ModeFlag, 17> modes = {{
     {"1152x870_75", "1152 x 870 at 75 Hz", 1152, 870, 75},
 }};
 
-constexpr std::array<std::string_view, 7> manufacturersNames = {"manufacturer_1", "manufacturer_2", "manufacturer_3",
-                                                                "manufacturer_4", "manufacturer_5", "manufacturer_6",
-                                                                "manufacturer_7"};
+struct ManufacturersFlag {
+    std::string_view name;
+    std::string_view label;
+};
+
+/// The other bits of byte 37, from bit 6 down.
+constexpr std::array<ManufacturersFlag, 7> manufacturersFlags = {{{"manufacturer_6", "Manufacturer's timing, bit 6"},
+                                                                  {"manufacturer_5", "Manufacturer's timing, bit 5"},
+                                                                  {"manufacturer_4", "Manufacturer's timing, bit 4"},
+                                                                  {"manufacturer_3", "Manufacturer's timing, bit 3"},
+                                                                  {"manufacturer_2", "Manufacturer's timing, bit 2"},
+                                                                  {"manufacturer_1", "Manufacturer's timing, bit 1"},
+                                                                  {"manufacturer_0", "Manufacturer's timing, bit 0"}}};
 
 } // namespace
 
 void readEstablishedTimings(const Scope& base) {
     const Scope scope = base.inner(35, "established", "E-EDID 1.4, 3.8");
     readModeFlags(scope, modes);
-    for (std::size_t i = 0; i < manufacturersNames.size(); ++i) {
+    for (std::size_t i = 0; i < manufacturersFlags.size(); ++i) {
+        const auto& [name, label] = manufacturersFlags[i];
         const auto bit = static_cast<std::uint8_t>(6 - i);
-        scope.add({.name = manufacturersNames[i],
-                   .label = "Manufacturer's timing",
-                   .parts = {{2, bit, bit}},
-                   .kind = Kind::Flag});
+        scope.add({.name = name, .label = label, .parts = {{2, bit, bit}}, .kind = Kind::Flag});
     }
 }
 

@@ -7,8 +7,8 @@ namespace wb::fields {
 namespace {
 
 constexpr int firstYear = 1990;
-constexpr unsigned lastWeek = 54;
-constexpr unsigned modelYearMark = 255;
+constexpr int lastWeek = 54;
+constexpr int modelYearMark = 255;
 
 /// Three letters of five bits each, 1 for A.
 std::string makerOf(std::uint64_t raw) {
@@ -91,7 +91,7 @@ void checkSerialNumber(const Scope& vendor, std::uint32_t number) {
 constexpr std::array<int, 5> yearsOfRevisions = {1994, 1996, 1997, 1999, 2006};
 
 void checkDate(const Scope& vendor, int revision) {
-    const unsigned week = vendor.byte(8);
+    const int week = vendor.byte(8);
     if (week > lastWeek && !(revision >= 4 && week == modelYearMark)) {
         vendor.tell(Severity::Warning, "vendor.week", 8, "week",
                     "No year has a week " + std::to_string(week) +
@@ -122,7 +122,7 @@ void summarize(const Scope& vendor, std::uint32_t serialNumber, bool isModelYear
         return;
     }
     summary.year = year;
-    if (const int week = vendor.byte(8); week != 0) {
+    if (const int week = vendor.byte(8); week != 0 && week <= lastWeek) {
         summary.week = week;
     }
 }

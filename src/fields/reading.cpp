@@ -28,6 +28,28 @@ void listBlocks(Reading& reading) {
     }
 }
 
+/// A read that ended early leaves the rest of the image as memory or a bus without an answer has it: all 00 or all FF.
+/// So few bytes may end a sound block, and a sound block of which all are the same is empty and no more.
+void tellOfEarlyEnd(Reading& reading) {
+    constexpr std::size_t fewBytes = 16;
+    const auto bytes = reading.image.bytes();
+    const std::uint8_t last = bytes.back();
+    if (last != 0x00 && last != 0xFF) {
+        return;
+    }
+    const auto other = std::find_if(bytes.rbegin(), bytes.rend(), [&](std::uint8_t byte) { return byte != last; });
+    const auto run = static_cast<std::size_t>(other - bytes.rbegin());
+    const bool lastSumFits = reading.blocks[reading.image.blockCount() - 1].sum == Sum::Ok;
+    if (run < fewBytes || (lastSumFits && run < Image::blockSize)) {
+        return;
+    }
+    const std::size_t first = bytes.size() - run;
+    const Scope scope(reading, first, "", "E-EDID 1.4, 3.11");
+    scope.tell(Severity::Error, "image.ended_early", 0, "",
+               "From byte " + std::to_string(first) + " on all is " + (last == 0 ? "00" : "FF") +
+                   ", as where a read ended early, so that what stood there is lost; read the monitor again.");
+}
+
 void tellOfBlocks(Reading& reading) {
     const std::size_t there = reading.image.blockCount() - 1;
     const std::size_t announced = reading.image.announcedExtensions();
@@ -74,6 +96,7 @@ Reading read(const Image& image) {
     Reading reading{.image = image};
     listBlocks(reading);
     tellOfBlocks(reading);
+    tellOfEarlyEnd(reading);
     readBlock0(reading);
     for (std::size_t i = 1; i < image.blockCount(); ++i) {
         readExtension(reading, i);

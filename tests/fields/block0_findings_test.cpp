@@ -1,0 +1,313 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ostream>
+
+#include "good_image.h"
+#include "invariants.h"
+
+namespace wb::fields {
+namespace {
+
+/// A change of goodImage that leads to a finding, and a smaller one that does not.
+struct Case {
+    std::string_view code;
+    Severity severity;
+    std::size_t byte;
+    ImageOf (*has)();
+    ImageOf (*nearly)();
+};
+
+std::ostream& operator<<(std::ostream& out, const Case& tried) {
+    return out << tried.code;
+}
+
+class Block0Findings : public testing::TestWithParam<Case> {};
+
+TEST_P(Block0Findings, AreToldWhereTheyApplyAndNowhereElse) {
+    const Case& tried = GetParam();
+    const Reading reading = tried.has().withSums().reading();
+    EXPECT_EQ(countOf(reading, tried.code), 1U);
+    const auto found = std::find_if(reading.findings.begin(), reading.findings.end(),
+                                    [&](const Finding& finding) { return finding.code == tried.code; });
+    ASSERT_NE(found, reading.findings.end());
+    EXPECT_EQ(found->severity, tried.severity);
+    EXPECT_EQ(found->byte, tried.byte);
+    EXPECT_EQ(countOf(tried.nearly().withSums().reading(), tried.code), 0U);
+    expectInvariants(reading);
+}
+
+using enum Severity;
+
+constexpr std::array identityCases = {
+    Case{"base.header", Error, 0, [] { return goodImage().set(7, {1}); }, [] { return goodImage().set(8, {0x5D}); }},
+    Case{"base.version_unknown", Error, 18, [] { return goodImage().set(18, {2}); },
+         [] {
+             return goodImage().set(18, {1, 0});
+         }},
+    Case{"base.revision_unknown", Warning, 19, [] { return goodImage().set(19, {5}); }, goodImage},
+    // A letter of 27, and the letters A, Z, A.
+    Case{"vendor.maker_letters", Warning, 8,
+         [] {
+             return goodImage().set(8, {0x6C, 0x54});
+         },
+         [] {
+             return goodImage().set(8, {0x07, 0x41});
+         }},
+    Case{"vendor.serial_placeholder", Note, 12,
+         [] {
+             return goodImage().set(12, {1, 1, 1, 1});
+         },
+         [] {
+             return goodImage().set(12, {1, 1, 1, 0});
+         }},
+    Case{"vendor.no_serial", Note, 12,
+         [] {
+             return goodImage().set(12, {0, 0, 0, 0}).set(111, {0xFE});
+         },
+         [] {
+             return goodImage().set(12, {0, 0, 0, 0});
+         }},
+    Case{"vendor.week", Warning, 16, [] { return goodImage().set(16, {55}); },
+         [] { return goodImage().set(16, {54}); }},
+    Case{"vendor.week", Warning, 16, [] { return goodImage13().set(16, {255}); },
+         [] { return goodImage().set(16, {255}); }},
+    Case{"vendor.year", Warning, 17, [] { return goodImage().set(17, {15}); },
+         [] { return goodImage().set(17, {16}); }},
+    Case{"vendor.year", Warning, 17, [] { return goodImage13().set(17, {8}); },
+         [] { return goodImage13().set(17, {9}); }},
+    Case{"field.reserved_bits", Warning, 8, [] { return goodImage().set(8, {0xDC}); }, goodImage},
+    // Bytes that a dummy has behind its tag.
+    Case{"field.reserved_bits", Warning, 113, [] { return goodImage().set(111, {0x10}); },
+         [] {
+             return goodImage().set(108, {0, 0, 0, 0x10, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+         }},
+};
+
+constexpr std::array displayCases = {
+    Case{"field.reserved_value", Warning, 20, [] { return goodImage().set(20, {0xA6}); }, goodImage},
+    Case{"field.reserved_value", Warning, 20, [] { return goodImage().set(20, {0xF5}); },
+         [] { return goodImage().set(20, {0xE5}); }},
+    Case{"basic.size_half", Warning, 21, [] { return goodImage13().set(22, {0}); },
+         [] { return goodImage().set(22, {0}); }},
+    Case{"basic.no_preferred_timing", Warning, 24, [] { return goodImage13().set(24, {0x08}); },
+         [] { return goodImage().set(24, {0x00}); }},
+    Case{"chromaticity.none", Warning, 25,
+         [] {
+             return goodImage().set(25, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+         },
+         // Analog and monochrome.
+         [] {
+             return goodImage().set(20, {0x0F}).set(25, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+         }},
+    // Red x is 0.64; y is 0.376, then 0.345.
+    Case{"chromaticity.impossible", Warning, 27, [] { return goodImage().set(28, {0x60}); },
+         [] { return goodImage().set(28, {0x58}); }},
+    Case{"chromaticity.impossible", Warning, 31, [] { return goodImage().set(26, {0x81}).set(32, {0}); },
+         [] { return goodImage().set(32, {0}); }},
+    // White x is 0.449, where the line from red to green has y 0.48; its y is 0.5, then 0.449.
+    Case{"chromaticity.white_outside", Warning, 33,
+         [] {
+             return goodImage().set(33, {0x73, 0x80});
+         },
+         [] {
+             return goodImage().set(33, {0x73, 0x73});
+         }},
+    // Red x of sRGB is 655/1024: 659, then 654.
+    Case{"chromaticity.not_srgb", Warning, 25, [] { return goodImage().set(24, {0x06}).set(27, {0xA4}); },
+         [] { return goodImage().set(24, {0x06}).set(25, {0xAE}); }},
+    Case{"chromaticity.of_monochrome", Note, 25, [] { return goodImage().set(20, {0x0F}); },
+         [] { return goodImage().set(20, {0x0F}).set(24, {0x0A}); }},
+};
+
+constexpr std::array timingCases = {
+    Case{"standard.reserved", Warning, 40,
+         [] {
+             return goodImage().set(40, {0, 1});
+         },
+         [] {
+             return goodImage().set(40, {1, 0});
+         }},
+    Case{"standard.duplicate", Note, 40,
+         [] {
+             return goodImage().set(40, {0xD1, 0xC0});
+         },
+         [] {
+             return goodImage().set(40, {0xD1, 0xC1});
+         }},
+    Case{"timing.nothing_active", Error, 56, [] { return goodImage().set(56, {0}).set(58, {0x01}); },
+         [] { return goodImage().set(56, {1}).set(58, {0x01}); }},
+    Case{"timing.nothing_active", Error, 59, [] { return goodImage().set(59, {0}).set(61, {0}); },
+         [] { return goodImage().set(59, {1}).set(61, {0}); }},
+    // The front porch has 88 of 280 pixels: the sync 193, then 192.
+    Case{"timing.h_sync_beyond_blanking", Error, 62, [] { return goodImage().set(63, {193}); },
+         [] { return goodImage().set(63, {192}); }},
+    // 45 lines: 40 and 6, then 40 and 5.
+    Case{"timing.v_sync_beyond_blanking", Error, 64, [] { return goodImage().set(64, {0x86}).set(65, {0x08}); },
+         [] { return goodImage().set(64, {0x85}).set(65, {0x08}); }},
+    // 2200 x 1125 pixels at 24.7 MHz are 9.98 pictures a second, at 24.8 MHz 10.02.
+    Case{"timing.rate", Warning, 54,
+         [] {
+             return goodImage().set(54, {0xA6, 0x09});
+         },
+         [] {
+             return goodImage().set(54, {0xB0, 0x09});
+         }},
+    Case{"timing.size_is_ratio", Note, 66,
+         [] {
+             return goodImage().set(66, {160, 90, 0});
+         },
+         [] {
+             return goodImage().set(66, {160, 91, 0});
+         }},
+    // The screen has 520 x 290 mm: 531, then 530.
+    Case{"timing.size_disagrees", Warning, 66, [] { return goodImage().set(66, {0x13}); },
+         [] { return goodImage().set(66, {0x12}); }},
+    // Another timing may show less, and not more.
+    Case{"timing.size_disagrees", Warning, 84,
+         [] {
+             ImageOf image = goodImage();
+             setTiming(image, 72);
+             return image.set(84, {0x13});
+         },
+         [] {
+             ImageOf image = goodImage();
+             setTiming(image, 72);
+             return image.set(84, {0x00, 0x00, 0x11});
+         }},
+    // 60 Hz, 67.5 kHz, 148.5 MHz.
+    Case{"timing.outside_limits", Warning, 54, [] { return goodImage().set(96, {59}); },
+         [] {
+             return goodImage().set(95, {60, 60});
+         }},
+    Case{"timing.outside_limits", Warning, 54, [] { return goodImage().set(97, {69}); },
+         [] { return goodImage().set(97, {68}); }},
+    Case{"timing.outside_limits", Warning, 54, [] { return goodImage().set(99, {14}); },
+         [] { return goodImage().set(99, {15}); }},
+    Case{"base.no_preferred_timing", Warning, 54,
+         [] {
+             return goodImage().set(54, {0, 0});
+         },
+         [] {
+             return goodImage().set(54, {1, 0});
+         }},
+};
+
+constexpr std::array descriptorCases = {
+    Case{"base.no_name", Warning, 72, [] { return goodImage13().set(75, {0xFE}); },
+         [] { return goodImage().set(75, {0xFE}); }},
+    Case{"base.no_range_limits", Warning, 72, [] { return goodImage13().set(93, {0x0F}); },
+         [] { return goodImage().set(93, {0x0F}); }},
+    Case{"base.no_range_limits", Warning, 72, [] { return goodImage().set(24, {0x03}).set(93, {0x0F}); },
+         [] { return goodImage().set(24, {0x03}); }},
+    Case{"descriptor.order", Warning, 108,
+         [] {
+             ImageOf image = goodImage();
+             setTiming(image, 108);
+             return image;
+         },
+         [] {
+             ImageOf image = goodImage();
+             setTiming(image, 72);
+             return image;
+         }},
+    Case{"descriptor.all_zero", Warning, 108,
+         [] {
+             return goodImage().set(108, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+         },
+         [] {
+             return goodImage().set(108, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1});
+         }},
+    Case{"descriptor.unused", Note, 108, [] { return goodImage().set(111, {0x10}); },
+         [] { return goodImage().set(111, {0x0F}); }},
+    Case{"descriptor.tag_reserved", Warning, 111, [] { return goodImage().set(111, {0x11}); },
+         [] { return goodImage().set(111, {0x0F}); }},
+    Case{"descriptor.tag_of_later_revision", Warning, 111, [] { return goodImage13().set(111, {0xF7}); },
+         [] { return goodImage().set(111, {0xF7}); }},
+    Case{"descriptor.duplicate", Warning, 111, [] { return goodImage().set(111, {0xFC}); },
+         [] { return goodImage().set(75, {0xFE}).set(111, {0xFE}); }},
+    Case{"text.control_character", Warning, 78, [] { return goodImage().set(78, {0x1F}); },
+         [] { return goodImage().set(78, {0x20}); }},
+    Case{"text.control_character", Warning, 78, [] { return goodImage().set(78, {0x7F}); },
+         [] { return goodImage().set(78, {0x7E}); }},
+    Case{"text.not_ascii", Warning, 78, [] { return goodImage().set(78, {0x80}); },
+         [] { return goodImage().set(78, {0x7F}); }},
+    Case{"text.empty", Note, 77,
+         [] {
+             return goodImage().set(77, {10, 32, 32, 32, 32, 32});
+         },
+         [] {
+             return goodImage().set(77, {'A', 10, 32, 32, 32, 32});
+         }},
+    Case{"text.no_end_mark", Warning, 89, [] { return goodImage().set(82, {' '}); },
+         // Thirteen characters have no end mark.
+         [] {
+             return goodImage().set(82, {'t', 'e', 'x', 't', 'o', 'f', '1', '3'});
+         }},
+    Case{"text.bad_padding", Warning, 84, [] { return goodImage().set(84, {0}); }, goodImage},
+};
+
+/// Range limits by CVT 1.2, of all aspect ratios, preferred 16:9 at 60 Hz.
+ImageOf cvtImage() {
+    return goodImage().set(24, {0x03}).set(100, {4, 0x12, 0, 240, 0xF8, 0x28, 0, 60});
+}
+
+constexpr std::array rangeCases = {
+    Case{"range.min_above_max", Error, 95,
+         [] {
+             return goodImage().set(95, {76, 75});
+         },
+         [] {
+             return goodImage().set(95, {75, 75});
+         }},
+    Case{"range.min_above_max", Error, 97,
+         [] {
+             return goodImage().set(97, {84, 83});
+         },
+         [] {
+             return goodImage().set(97, {83, 83});
+         }},
+    // The same bytes with 255 added to the highest rate.
+    Case{"range.min_above_max", Error, 97,
+         [] {
+             return goodImage().set(97, {84, 10});
+         },
+         [] {
+             return goodImage().set(94, {0x08}).set(97, {84, 10});
+         }},
+    Case{"range.zero", Warning, 95, [] { return goodImage().set(95, {0}); }, [] { return goodImage().set(95, {1}); }},
+    Case{"range.zero", Warning, 97, [] { return goodImage().set(97, {0}); }, [] { return goodImage().set(97, {1}); }},
+    Case{"range.clock_zero", Warning, 99, [] { return goodImage().set(99, {0}); },
+         [] { return goodImage().set(99, {1}); }},
+    Case{"range.bad_padding", Warning, 101, [] { return goodImage().set(107, {0}); }, goodImage},
+    Case{"range.formula_without_continuous", Warning, 100, [] { return goodImage().set(100, {0}); },
+         [] { return goodImage().set(24, {0x03}).set(100, {0}); }},
+    Case{"range.preferred_aspect_unsupported", Warning, 105, [] { return cvtImage().set(104, {0xB8}); },
+         [] { return cvtImage().set(104, {0x40}); }},
+    Case{"range.preferred_rate_zero", Warning, 107, [] { return cvtImage().set(107, {0}); }, cvtImage},
+    Case{"field.reserved_value", Warning, 100, [] { return goodImage().set(24, {0x03}).set(100, {3}); }, cvtImage},
+};
+
+std::string caseName(const testing::TestParamInfo<Case>& tried) {
+    std::string name(tried.param.code);
+    std::replace(name.begin(), name.end(), '.', '_');
+    return name + '_' + std::to_string(tried.index);
+}
+
+INSTANTIATE_TEST_SUITE_P(Identity, Block0Findings, testing::ValuesIn(identityCases), caseName);
+INSTANTIATE_TEST_SUITE_P(Display, Block0Findings, testing::ValuesIn(displayCases), caseName);
+INSTANTIATE_TEST_SUITE_P(Timings, Block0Findings, testing::ValuesIn(timingCases), caseName);
+INSTANTIATE_TEST_SUITE_P(Descriptors, Block0Findings, testing::ValuesIn(descriptorCases), caseName);
+INSTANTIATE_TEST_SUITE_P(Range, Block0Findings, testing::ValuesIn(rangeCases), caseName);
+
+TEST(Findings, AreNoneOfImagesInOrder) {
+    for (ImageOf image : {goodImage(), goodImage13(), cvtImage()}) {
+        const Reading reading = image.withSums().reading();
+        for (const Finding& finding : reading.findings) {
+            ADD_FAILURE() << finding.code << ": " << finding.text;
+        }
+    }
+}
+
+} // namespace
+} // namespace wb::fields
