@@ -11,7 +11,7 @@ void checkTag(const Scope& slot, std::uint8_t tag, int revision) {
     const std::optional<int> first = firstRevisionOf(tag);
     if (!first) {
         slot.tell(Severity::Warning, "descriptor.tag_reserved", 3, "tag",
-                  "No standard gives descriptors the tag " + hexNumber(tag, 8) +
+                  "No standard gives the tag " + hexNumber(tag, 8) +
                       "h a meaning, so that software passes over it; correct the tag, or make the descriptor a dummy "
                       "(10h).");
     } else if (revision < *first) {
@@ -63,6 +63,24 @@ void checkOrder(const Scope& base, std::size_t number) {
     }
 }
 
+bool areSame(const Image& image, std::size_t a, std::size_t b) {
+    const auto first = image.bytes().subspan(slotStart(a), 18);
+    const auto second = image.bytes().subspan(slotStart(b), 18);
+    return std::equal(first.begin(), first.end(), second.begin());
+}
+
+void checkDuplicateTiming(const Scope& base, std::size_t number) {
+    for (std::size_t before = 0; before < number; ++before) {
+        if (areSame(base.reading().image, before, number)) {
+            slotScope(base, number)
+                .tell(Severity::Note, "timing.duplicate", 0, "",
+                      "The timing is the same as that in slot " + std::to_string(before + 1) +
+                          " and tells nothing new; enter the timing that was meant, or make it a dummy (tag 10h).");
+            return;
+        }
+    }
+}
+
 } // namespace
 
 void checkSlots(const Scope& base, int revision) {
@@ -70,6 +88,7 @@ void checkSlots(const Scope& base, int revision) {
         const std::optional<std::uint8_t> tag = descriptorTag(base.reading().image, i);
         if (!tag) {
             checkOrder(base, i);
+            checkDuplicateTiming(base, i);
             continue;
         }
         const Scope slot = slotScope(base, i);

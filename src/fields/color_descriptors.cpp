@@ -28,8 +28,7 @@ constexpr Row coefficient(std::string_view name, std::string_view label, std::si
 }
 
 /// VESA E-EDID Standard, Release A, section 3.10.3.7, and the Display Color Management Standard.
-constexpr std::array<Row, 7> managementRows = {{
-    {.name = "version", .label = "Version of the data", .parts = {{5}}},
+constexpr std::array<Row, 6> managementRows = {{
     coefficient("red_a3", "Red a3", 6),
     coefficient("red_a2", "Red a2", 8),
     coefficient("green_a3", "Green a3", 10),
@@ -43,11 +42,13 @@ constexpr std::array<Row, 7> managementRows = {{
 void readWhitePoints(const Scope& slot, int /*revision*/) {
     slot.inner(5, "white_point[1]").add(whitePointRows);
     slot.inner(10, "white_point[2]").add(whitePointRows);
-    slot.addBytes(15, 18, "padding", "Padding");
+    readDescriptorPadding(slot, 15);
 }
 
 void readColorManagement(const Scope& slot, int /*revision*/) {
-    slot.inner(0, "color_management").add(managementRows);
+    const Scope management = slot.inner(0, "color_management");
+    readDescriptorVersion(management, 3);
+    management.add(managementRows);
 }
 
 } // namespace wb::fields

@@ -65,6 +65,7 @@ constexpr std::array<Row, 3> headRows = {{
     {.name = "reserved", .label = "Reserved", .parts = {{2}}, .kind = Kind::Reserved},
     {.name = "tag", .label = "Kind of descriptor", .parts = {{3}}, .read = readTag},
 }};
+constexpr Row versionRow = {.name = "version", .label = "Version of the data", .parts = {{contentStart}}};
 constexpr Row reservedRow = {.name = "reserved_4", .label = "Reserved", .parts = {{4}}, .kind = Kind::Reserved};
 
 } // namespace
@@ -76,6 +77,30 @@ std::optional<int> firstRevisionOf(std::uint8_t tag) {
 
 std::string_view descriptorName(std::uint8_t tag) {
     return kindOf(tag).name;
+}
+
+void readDescriptorVersion(const Scope& slot, int expected) {
+    slot.add(versionRow);
+    if (const int version = slot.byte(contentStart); version != expected) {
+        slot.tell(Severity::Warning, "descriptor.version_unknown", contentStart, versionRow.name,
+                  "The data have version " + std::to_string(version) + ", where the standard knows " +
+                      std::to_string(expected) +
+                      " alone, so that software passes over them; set byte 5 of the descriptor to " +
+                      std::to_string(expected) + '.');
+    }
+}
+
+void readDescriptorPadding(const Scope& slot, std::size_t offset) {
+    constexpr unsigned endMark = 0x0A;
+    constexpr unsigned blank = 0x20;
+    slot.addBytes(offset, slotEnd, "padding", "Padding");
+    const auto padding = slot.bytes(offset, slotEnd - offset);
+    if (padding.front() != endMark ||
+        std::any_of(padding.begin() + 1, padding.end(), [](unsigned byte) { return byte != blank; })) {
+        slot.tell(Severity::Warning, "descriptor.bad_padding", offset, "padding",
+                  "The bytes behind the data are not 0A and blanks, by which old software finds the end of a "
+                  "descriptor; set the first of them to 0A and the others to 20.");
+    }
 }
 
 void readDescriptor(const Scope& slot, int revision) {

@@ -23,6 +23,11 @@ std::string_view descriptorName(std::uint8_t tag);
 /// Any descriptor, by its tag.
 void readDescriptor(const Scope& slot, int revision);
 
+/// Byte 5 as the version of a descriptor's data, which must be `expected`.
+void readDescriptorVersion(const Scope& slot, int expected);
+/// The bytes from `offset` on to the end as padding, which must be 0A and blanks.
+void readDescriptorPadding(const Scope& slot, std::size_t offset);
+
 void readTextDescriptor(const Scope& slot, int revision);
 void readRangeLimits(const Scope& slot, int revision);
 void readWhitePoints(const Scope& slot, int revision);

@@ -23,6 +23,24 @@ constexpr std::array<Choice, 8> stereoModes = {{{0, "none"},
                                                 {6, "4-way interleaved"},
                                                 {7, "side by side interleaved"}}};
 
+/// The rows of the table that a DetailedTiming is read from, by their place in it.
+enum TimingRow : std::size_t {
+    PixelClock,
+    HActive,
+    HBlank,
+    VActive,
+    VBlank,
+    HFrontPorch,
+    HSync,
+    VFrontPorch,
+    VSync,
+    Width,
+    Height,
+    HBorder,
+    VBorder,
+    Interlaced,
+};
+
 /// VESA E-EDID Standard, Release A, table 3.21 (EDID 1.3: table 3.16).
 constexpr std::array<Row, 15> timingRows = {{
     {.name = "pixel_clock", .label = "Pixel clock", .parts = {{1}, {0}}, .unit = "MHz", .scale = 0.01, .decimals = 2},
@@ -73,8 +91,6 @@ constexpr std::array<Row, 2> separateRows = {{
      .choices = polarities},
 }};
 
-constexpr std::uint8_t interlacedBit = 0x80;
-
 std::span<const Row> syncRowsOf(SyncKind kind) {
     switch (kind) {
         case SyncKind::Composite:
@@ -86,42 +102,6 @@ std::span<const Row> syncRowsOf(SyncKind kind) {
             break;
     }
     return analogRows;
-}
-
-/// Rates that no monitor has; what makes them is a wrong clock or a wrong total.
-void checkRate(const Scope& scope, const DetailedTiming& timing) {
-    constexpr double lowest = 10;
-    constexpr double highest = 1000;
-    const std::optional<double> rate = verticalHertz(timing);
-    if (rate && (*rate < lowest || *rate > highest)) {
-        scope.tell(Severity::Warning, "timing.rate", 0, "pixel_clock",
-                   "The timing has " + decimalText(*rate, 2) +
-                       " pictures a second, which no monitor shows; correct its pixel clock or its lengths.");
-    }
-}
-
-void checkTiming(const Scope& scope, const DetailedTiming& timing) {
-    if (timing.hActive == 0 || timing.vActive == 0) {
-        scope.tell(
-            Severity::Error, "timing.nothing_active", timing.hActive == 0 ? 2 : 5,
-            timing.hActive == 0 ? "h_active" : "v_active",
-            "The timing has no active pixels, so that no picture can be made of it; enter the real size or blank "
-            "the descriptor.");
-        return;
-    }
-    if (timing.hSyncEnd > timing.hBlank) {
-        scope.tell(Severity::Error, "timing.h_sync_beyond_blanking", 8, "h_sync_width",
-                   "Horizontal front porch and sync take " + std::to_string(timing.hSyncEnd) + " of " +
-                       std::to_string(timing.hBlank) +
-                       " blanking pixels, so that the sync pulse would reach into the picture; lengthen the blanking.");
-    }
-    if (timing.vSyncEnd > timing.vBlank) {
-        scope.tell(Severity::Error, "timing.v_sync_beyond_blanking", 10, "v_sync_width",
-                   "Vertical front porch and sync take " + std::to_string(timing.vSyncEnd) + " of " +
-                       std::to_string(timing.vBlank) +
-                       " blanking lines, so that the sync pulse would reach into the picture; lengthen the blanking.");
-    }
-    checkRate(scope, timing);
 }
 
 /// Lines of a whole picture: an interlaced one has one more than its two fields together tell, half of it in each.
@@ -147,17 +127,19 @@ Mode modeOf(const DetailedTiming& timing, bool native) {
 } // namespace
 
 DetailedTiming detailedTimingOf(const Scope& scope) {
-    const auto number = [&](const Parts& parts) { return static_cast<int>(scope.raw(parts)); };
-    return {.clockKilohertz = std::int64_t{scope.word(0)} * 10,
-            .hActive = number({{4, 7, 4}, {2}}),
-            .hBlank = number({{4, 3, 0}, {3}}),
-            .vActive = number({{7, 7, 4}, {5}}),
-            .vBlank = number({{7, 3, 0}, {6}}),
-            .hSyncEnd = number({{11, 7, 6}, {8}}) + number({{11, 5, 4}, {9}}),
-            .vSyncEnd = number({{11, 3, 2}, {10, 7, 4}}) + number({{11, 1, 0}, {10, 3, 0}}),
-            .widthMillimetres = number({{14, 7, 4}, {12}}),
-            .heightMillimetres = number({{14, 3, 0}, {13}}),
-            .interlaced = (scope.byte(17) & interlacedBit) != 0};
+    const auto number = [&](TimingRow row) { return static_cast<int>(scope.raw(timingRows[row].parts)); };
+    return {.clockKilohertz = std::int64_t{number(PixelClock)} * 10,
+            .hActive = number(HActive),
+            .hBlank = number(HBlank),
+            .hFrontPorch = number(HFrontPorch),
+            .hSync = number(HSync),
+            .vActive = number(VActive),
+            .vBlank = number(VBlank),
+            .vFrontPorch = number(VFrontPorch),
+            .vSync = number(VSync),
+            .widthMillimetres = number(Width),
+            .heightMillimetres = number(Height),
+            .interlaced = number(Interlaced) != 0};
 }
 
 std::optional<double> horizontalKilohertz(const DetailedTiming& timing) {
@@ -176,7 +158,7 @@ void readDetailedTiming(const Scope& scope, bool native) {
     const DetailedTiming timing = detailedTimingOf(scope);
     scope.add(syncKindRow);
     scope.add(syncRowsOf(static_cast<SyncKind>(scope.raw(syncKindRow.parts))));
-    checkTiming(scope, timing);
+    checkDetailedTiming(scope, timing);
     if (timing.hActive > 0 && timing.vActive > 0) {
         scope.summary().modes.push_back(modeOf(timing, native));
     }

@@ -13,11 +13,13 @@ inline constexpr std::size_t detailedTimingSize = 18;
 struct DetailedTiming {
     std::int64_t clockKilohertz;
     int hActive;
-    int hBlank;
+    int hBlank; ///< begins with front porch and sync
+    int hFrontPorch;
+    int hSync;
     int vActive;
     int vBlank;
-    int hSyncEnd; ///< front porch and sync, the part of the blanking that they take
-    int vSyncEnd;
+    int vFrontPorch;
+    int vSync;
     int widthMillimetres;
     int heightMillimetres;
     bool interlaced;
@@ -29,6 +31,9 @@ DetailedTiming detailedTimingOf(const Scope& scope);
 /// Fields a second, and lines a second in kilohertz; nothing where the timing has no pixels.
 std::optional<double> verticalHertz(const DetailedTiming& timing);
 std::optional<double> horizontalKilohertz(const DetailedTiming& timing);
+
+/// Tells what is wrong with the numbers of the timing that `scope` begins with.
+void checkDetailedTiming(const Scope& scope, const DetailedTiming& timing);
 
 /// The fields of a detailed timing descriptor, which `scope` begins with; its mode goes into the summary. The same 18
 /// bytes stand in block 0, in CTA-861 extensions and elsewhere.

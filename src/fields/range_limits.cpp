@@ -108,11 +108,6 @@ constexpr std::array<Row, 19> cvtRows = {{
 constexpr Row preferredRateRow = {
     .name = "preferred_rate", .label = "Preferred vertical rate", .parts = {{17}}, .unit = "Hz"};
 
-/// What stands in place of a formula's data.
-constexpr std::array<std::uint8_t, 7> noData = {0x0A, 0x20, 0x20, 0x20, 0x20, 0x20, 0x20};
-constexpr Row noDataRow = {
-    .name = "padding", .label = "No data of a formula", .parts = {{11}}, .kind = Kind::Bytes, .length = noData.size()};
-
 int readRate(const Scope& range, Row row, bool hasOffset) {
     if (hasOffset) {
         row.bias = rateOffset;
@@ -131,16 +126,6 @@ RangeLimits readRates(const Scope& range, unsigned offsetByte) {
     return limits;
 }
 
-void checkPadding(const Scope& range) {
-    const auto padding = range.bytes(11, noData.size());
-    if (!std::equal(padding.begin(), padding.end(), noData.begin())) {
-        range.tell(
-            Severity::Warning, "range.bad_padding", 11, noDataRow.name,
-            "Where no formula has data, 0A and six blanks must stand, by which old software finds the end of the "
-            "descriptor; set bytes 11 to 17 of the descriptor to 0A 20 20 20 20 20 20.");
-    }
-}
-
 void checkCvt(const Scope& range) {
     constexpr std::array<std::uint8_t, 5> aspectBits = {7, 6, 5, 4, 3};
     const std::uint64_t preferred = range.raw({{15, 7, 5}});
@@ -156,8 +141,7 @@ void checkCvt(const Scope& range) {
 }
 
 void readFormula(const Scope& range, int revision) {
-    const Row& row = revision >= 4 ? formulaRow : oldFormulaRow;
-    range.add(row);
+    range.add(revision >= 4 ? formulaRow : oldFormulaRow);
     const auto formula = static_cast<Formula>(range.byte(10));
     if (formula == Formula::SecondaryGtf) {
         range.add(secondaryGtfRows);
@@ -166,10 +150,7 @@ void readFormula(const Scope& range, int revision) {
         range.add(preferredRateRow);
         checkCvt(range);
     } else {
-        range.add(noDataRow);
-        if (!choiceText(row.choices, range.byte(10)).empty()) {
-            checkPadding(range);
-        }
+        readDescriptorPadding(range, 11);
     }
 }
 

@@ -79,21 +79,35 @@ void tellOfBlocks(Reading& reading) {
     }
 }
 
-/// Fields by their first bits: by byte, in a byte from the highest bit down.
+/// Where a field begins, counted in bits from the highest of the first byte.
+std::size_t firstBit(const Field& field) {
+    const BitRange* first = std::min_element(field.where.begin(), field.where.end(),
+                                             [](const BitRange& a, const BitRange& b) { return a.byte < b.byte; });
+    return first->byte * 8 + (7U - first->high);
+}
+
+/// Fields by their first bits. Fields are large: their places are sorted, and each of them is moved once.
 void sortByPlace(std::vector<Field>& fields) {
-    const auto firstBit = [](const Field& field) {
-        const BitRange* first = std::min_element(field.where.begin(), field.where.end(),
-                                                 [](const BitRange& a, const BitRange& b) { return a.byte < b.byte; });
-        return first->byte * 8 + (7U - first->high);
-    };
-    std::stable_sort(fields.begin(), fields.end(),
-                     [&](const Field& a, const Field& b) { return firstBit(a) < firstBit(b); });
+    std::vector<std::pair<std::size_t, std::size_t>> order;
+    order.reserve(fields.size());
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        order.emplace_back(firstBit(fields[i]), i);
+    }
+    std::sort(order.begin(), order.end());
+    std::vector<Field> sorted;
+    sorted.reserve(fields.size());
+    for (const auto& [bit, index] : order) {
+        sorted.push_back(std::move(fields[index]));
+    }
+    fields = std::move(sorted);
 }
 
 } // namespace
 
 Reading read(const Image& image) {
+    constexpr std::size_t usualFieldsOfBlock = 128;
     Reading reading{.image = image};
+    reading.fields.reserve(usualFieldsOfBlock * image.blockCount());
     listBlocks(reading);
     tellOfBlocks(reading);
     tellOfEarlyEnd(reading);

@@ -110,6 +110,16 @@ void readRates(const Scope& code, int width, int height) {
     }
 }
 
+/// The preferred rate counts from 0 for 50 Hz; of 60 Hz either form will do.
+void checkPreferredRate(const Scope& code) {
+    constexpr std::array<unsigned, 4> bits = {0x10, 0x09, 0x04, 0x02};
+    if ((code.byte(2) & bits[code.raw(codeRows[2].parts)]) == 0) {
+        code.tell(Severity::Warning, "cvt.preferred_rate_unsupported", 2, "preferred_rate",
+                  "The preferred vertical rate is not among those that are supported, so that software takes a rate "
+                  "that the monitor disclaims or passes over the code; set the bit of the rate too.");
+    }
+}
+
 void readCvtCode(const Scope& code) {
     const auto bytes = code.bytes(0, codeSize);
     if (std::all_of(bytes.begin(), bytes.end(), [](unsigned byte) { return byte == 0; })) {
@@ -125,6 +135,7 @@ void readCvtCode(const Scope& code) {
     aspect.text += ", " + std::to_string(width) + " pixels a line";
     code.add(codeRows);
     readRates(code, width, height);
+    checkPreferredRate(code);
 }
 
 } // namespace
@@ -134,18 +145,18 @@ void readMoreStandardTimings(const Scope& slot, int revision) {
     for (std::size_t i = 0; i < timings; ++i) {
         readStandardTiming(slot.inner(5 + 2 * i, "standard[" + std::to_string(i + 1) + ']'), revision);
     }
-    slot.addBytes(17, 18, "padding", "Padding");
+    readDescriptorPadding(slot, 17);
 }
 
 void readCvtCodes(const Scope& slot, int /*revision*/) {
-    slot.add({.name = "version", .label = "Version of the codes", .parts = {{5}}});
+    readDescriptorVersion(slot, 1);
     for (std::size_t i = 0; i < codeCount; ++i) {
         readCvtCode(slot.inner(6 + codeSize * i, "cvt[" + std::to_string(i + 1) + ']'));
     }
 }
 
 void readMoreEstablishedTimings(const Scope& slot, int /*revision*/) {
-    slot.add({.name = "version", .label = "Revision of the list", .parts = {{5}}});
+    readDescriptorVersion(slot, 10);
     readModeFlags(slot.inner(6, "established"), moreModes);
     slot.add({.name = "reserved_11", .label = "Reserved", .parts = {{11, 3, 0}}, .kind = Kind::Reserved});
     slot.addBytes(12, 18, "reserved_12", "Reserved", Kind::Reserved);

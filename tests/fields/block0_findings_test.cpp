@@ -5,6 +5,7 @@
 
 #include "good_image.h"
 #include "invariants.h"
+#include "support/temporary_folder.h"
 
 namespace wb::fields {
 namespace {
@@ -145,6 +146,21 @@ constexpr std::array timingCases = {
     // 45 lines: 40 and 6, then 40 and 5.
     Case{"timing.v_sync_beyond_blanking", Error, 64, [] { return goodImage().set(64, {0x86}).set(65, {0x08}); },
          [] { return goodImage().set(64, {0x85}).set(65, {0x08}); }},
+    Case{"timing.no_sync", Warning, 62, [] { return goodImage().set(63, {0}); },
+         [] { return goodImage().set(63, {1}); }},
+    Case{"timing.no_sync", Warning, 64, [] { return goodImage().set(64, {0x40}); },
+         [] { return goodImage().set(64, {0x41}); }},
+    Case{"timing.duplicate", Note, 72,
+         [] {
+             ImageOf image = goodImage();
+             setTiming(image, 72);
+             return image;
+         },
+         [] {
+             ImageOf image = goodImage();
+             setTiming(image, 72);
+             return image.set(89, {0x1C});
+         }},
     // 2200 x 1125 pixels at 24.7 MHz are 9.98 pictures a second, at 24.8 MHz 10.02.
     Case{"timing.rate", Warning, 54,
          [] {
@@ -247,6 +263,40 @@ constexpr std::array descriptorCases = {
     Case{"text.bad_padding", Warning, 84, [] { return goodImage().set(84, {0}); }, goodImage},
 };
 
+/// A CVT code of 1080 lines, 16:9, with 60 Hz in both forms, the preferred rate.
+ImageOf codeImage() {
+    return goodImage().set(108, {0, 0, 0, 0xF8, 0, 1, 0x1B, 0x24, 0x29, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+}
+
+ImageOf whitePointImage() {
+    return goodImage().set(108, {0, 0, 0, 0xFB, 0, 1, 0, 0x50, 0x54, 120, 0, 0, 0, 0, 0, 10, 32, 32});
+}
+
+constexpr std::array contentCases = {
+    Case{"descriptor.version_unknown", Warning, 113, [] { return codeImage().set(113, {2}); }, codeImage},
+    Case{"descriptor.version_unknown", Warning, 113,
+         [] {
+             return goodImage().set(111, {0xF7, 0, 1});
+         },
+         [] {
+             return goodImage().set(111, {0xF7, 0, 10});
+         }},
+    Case{"descriptor.version_unknown", Warning, 113,
+         [] {
+             return goodImage().set(111, {0xF9, 0, 1});
+         },
+         [] {
+             return goodImage().set(111, {0xF9, 0, 3});
+         }},
+    Case{"descriptor.bad_padding", Warning, 123, [] { return whitePointImage().set(125, {0}); }, whitePointImage},
+    Case{"descriptor.bad_padding", Warning, 125, [] { return goodImage().set(111, {0xFA}).set(125, {0}); },
+         [] { return goodImage().set(111, {0xFA}).set(125, {10}); }},
+    // 50 Hz, then 60 Hz with reduced blanking alone.
+    Case{"cvt.preferred_rate_unsupported", Warning, 116, [] { return codeImage().set(116, {0x09}); },
+         [] { return codeImage().set(116, {0x21}); }},
+    Case{"field.reserved_bits", Warning, 115, [] { return codeImage().set(115, {0x25}); }, codeImage},
+};
+
 /// Range limits by CVT 1.2, of all aspect ratios, preferred 16:9 at 60 Hz.
 ImageOf cvtImage() {
     return goodImage().set(24, {0x03}).set(100, {4, 0x12, 0, 240, 0xF8, 0x28, 0, 60});
@@ -279,7 +329,8 @@ constexpr std::array rangeCases = {
     Case{"range.zero", Warning, 97, [] { return goodImage().set(97, {0}); }, [] { return goodImage().set(97, {1}); }},
     Case{"range.clock_zero", Warning, 99, [] { return goodImage().set(99, {0}); },
          [] { return goodImage().set(99, {1}); }},
-    Case{"range.bad_padding", Warning, 101, [] { return goodImage().set(107, {0}); }, goodImage},
+    Case{"descriptor.bad_padding", Warning, 101, [] { return goodImage().set(107, {0}); }, goodImage},
+    Case{"descriptor.bad_padding", Warning, 101, [] { return goodImage().set(101, {0}); }, cvtImage},
     Case{"range.formula_without_continuous", Warning, 100, [] { return goodImage().set(100, {0}); },
          [] { return goodImage().set(24, {0x03}).set(100, {0}); }},
     Case{"range.preferred_aspect_unsupported", Warning, 105, [] { return cvtImage().set(104, {0xB8}); },
@@ -298,10 +349,19 @@ INSTANTIATE_TEST_SUITE_P(Identity, Block0Findings, testing::ValuesIn(identityCas
 INSTANTIATE_TEST_SUITE_P(Display, Block0Findings, testing::ValuesIn(displayCases), caseName);
 INSTANTIATE_TEST_SUITE_P(Timings, Block0Findings, testing::ValuesIn(timingCases), caseName);
 INSTANTIATE_TEST_SUITE_P(Descriptors, Block0Findings, testing::ValuesIn(descriptorCases), caseName);
+INSTANTIATE_TEST_SUITE_P(Contents, Block0Findings, testing::ValuesIn(contentCases), caseName);
 INSTANTIATE_TEST_SUITE_P(Range, Block0Findings, testing::ValuesIn(rangeCases), caseName);
 
+TEST_P(Block0Findings, AreListedInTheDocuments) {
+    const std::string row =
+        '`' + std::string(GetParam().code) + "` | " + std::string(severityName(GetParam().severity));
+    EXPECT_NE(test::TemporaryFolder::read(WORKBENCH_SOURCE_DIR "/docs/findings.md").find("| " + row + " |"),
+              std::string::npos)
+        << row;
+}
+
 TEST(Findings, AreNoneOfImagesInOrder) {
-    for (ImageOf image : {goodImage(), goodImage13(), cvtImage()}) {
+    for (ImageOf image : {goodImage(), goodImage13(), cvtImage(), codeImage(), whitePointImage()}) {
         const Reading reading = image.withSums().reading();
         for (const Finding& finding : reading.findings) {
             ADD_FAILURE() << finding.code << ": " << finding.text;
