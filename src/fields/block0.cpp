@@ -5,7 +5,6 @@
 
 #include "fields/block0_parts.h"
 #include "fields/descriptors.h"
-#include "fields/detailed_timing.h"
 
 namespace wb::fields {
 
@@ -14,7 +13,6 @@ namespace {
 constexpr int newestRevision = 4;
 constexpr std::size_t versionByte = 18;
 constexpr std::size_t inputByte = 20;
-constexpr std::size_t featuresByte = 24;
 
 constexpr Row headerRow = {
     .name = "header", .label = "Header", .parts = {{0}}, .kind = Kind::Bytes, .length = 8, .clause = "E-EDID 1.4, 3.3"};
@@ -58,8 +56,7 @@ void readVersion(const Scope& base) {
 
 /// In 1.3 and later the first slot has the preferred timing, before that where a bit says so.
 void readSlots(const Scope& base, int revision) {
-    constexpr std::uint8_t firstIsPreferred = 0x02;
-    const bool told = (base.byte(featuresByte) & firstIsPreferred) != 0;
+    const bool told = hasFeature(base.reading().image, Feature::PreferredTiming);
     for (std::size_t i = 0; i < slotCount; ++i) {
         const Scope slot = slotScope(base, i);
         if (!isTimingSlot(base.reading().image, i)) {
@@ -78,6 +75,11 @@ void readSlots(const Scope& base, int revision) {
 
 int revisionOf(const Image& image) {
     return image.byte(versionByte) == 1 ? std::min<int>(image.byte(versionByte + 1), newestRevision) : newestRevision;
+}
+
+bool hasFeature(const Image& image, Feature feature) {
+    constexpr std::size_t featuresByte = 24;
+    return (image.byte(featuresByte) & static_cast<unsigned>(feature)) != 0;
 }
 
 bool isDigital(const Image& image) {
@@ -103,6 +105,11 @@ Scope slotScope(const Scope& base, std::size_t number) {
                : base.inner(slotStart(number), "descriptor" + place, "E-EDID 1.4, 3.10.3");
 }
 
+std::optional<DetailedTiming> timingInSlot(const Scope& base, std::size_t number) {
+    return isTimingSlot(base.reading().image, number) ? std::optional(detailedTimingOf(slotScope(base, number)))
+                                                      : std::nullopt;
+}
+
 void readBlock0(Reading& reading) {
     const Scope base(reading, 0, "base", "E-EDID 1.4, 3");
     const int revision = revisionOf(reading.image);
@@ -115,6 +122,7 @@ void readBlock0(Reading& reading) {
     readStandardTimings(base, revision);
     readSlots(base, revision);
     base.add(endRows);
+    checkSizes(base);
     checkSlots(base, revision);
     checkBlock0(base, revision);
 }

@@ -1,5 +1,4 @@
 #include <array>
-#include <cmath>
 
 #include "fields/block0_parts.h"
 
@@ -194,7 +193,7 @@ void readFeatures(const Scope& base, int revision) {
     features.add(revision >= 4 && isDigital(base.reading().image) ? colorEncodingsRow : displayTypeRow);
     features.add(standardColorRow);
     features.add(revision >= 4 ? timingRows : gtfRows);
-    if (revision == 3 && features.raw(gtfRows[0].parts) == 0) {
+    if (revision == 3 && !hasFeature(base.reading().image, Feature::PreferredTiming)) {
         features.tell(Severity::Warning, "basic.no_preferred_timing", 0, "preferred_timing",
                       "The bit that declares the first detailed timing the preferred one is not set, which 1.3 "
                       "demands, so that software may choose another mode; set bit 1 of byte 24.",

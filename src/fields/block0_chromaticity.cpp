@@ -114,7 +114,6 @@ bool isMonochromeDisplay(const Scope& base) {
 } // namespace
 
 void readChromaticity(const Scope& base) {
-    constexpr unsigned standardColorBit = 0x04;
     const Scope scope = base.inner(25, "chromaticity", "E-EDID 1.4, 3.7");
     scope.add(coordinateRows);
     const auto bytes = scope.bytes(0, 10);
@@ -132,7 +131,7 @@ void readChromaticity(const Scope& base) {
     if (isMonochrome) {
         checkMonochrome(scope, points);
     } else {
-        checkColors(scope, points, (base.byte(24) & standardColorBit) != 0);
+        checkColors(scope, points, hasFeature(base.reading().image, Feature::StandardColor));
     }
 }
 

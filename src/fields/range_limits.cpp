@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "fields/block0_parts.h"
 #include "fields/descriptors.h"
 
 namespace wb::fields {
@@ -155,9 +156,7 @@ void readFormula(const Scope& range, int revision) {
 }
 
 void checkFormula(const Scope& range) {
-    constexpr std::size_t featuresByte = 24;
-    constexpr unsigned continuousBit = 1;
-    const bool isContinuous = (range.reading().image.byte(featuresByte) & continuousBit) != 0;
+    const bool isContinuous = hasFeature(range.reading().image, Feature::ContinuousFrequency);
     if (!isContinuous && static_cast<Formula>(range.byte(10)) != Formula::None) {
         range.tell(
             Severity::Warning, "range.formula_without_continuous", 10, "timing_support",
