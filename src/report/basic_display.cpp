@@ -4,9 +4,12 @@
 #include <limits>
 #include <span>
 
+#include "core/base/image_layout.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
-#include "core/edid_image.h"
+#include "core/cells.h"
+#include "report/basic_display_layout.h"
+#include "report/decoder.h"
 #include "report/report_lines.h"
 
 namespace wb::report {
@@ -15,7 +18,7 @@ namespace {
 
 // The tables: VESA E-EDID Standard, Release A, section 3.6.
 
-/// By bits 6 and 5 of the video input byte.
+/// By signal level.
 constexpr std::array<std::string_view, 4> levels = {
     "0.700, 0.300 (1.000 Vp-p)",
     "0.714, 0.286 (1.000 Vp-p)",
@@ -25,32 +28,31 @@ constexpr std::array<std::string_view, 4> levels = {
 
 constexpr std::size_t neverWraps = std::numeric_limits<std::size_t>::max();
 
-/// A feature of one bit; its item starts a new line where the text before it is longer than `wrapAbove`.
+/// What a check says; its item starts a new line where the text before it is longer than `wrapAbove`.
 struct BitItem {
-    int bit;
-    int control;
+    int check;
     std::string_view words;
     std::size_t wrapAbove;
 };
 
-constexpr std::array<BitItem, 5> syncItems = {{
-    {4, 4, "Blank-to-Black Setup", neverWraps},
-    {3, 3, "Separate Syncs", neverWraps},
-    {2, 2, "Composite Sync", neverWraps},
-    {1, 1, "Sync on Green", 40},
-    {0, 0, "Serration of the Vsync", 40},
+constexpr std::array<BitItem, syncBits.size()> syncItems = {{
+    {4, "Blank-to-Black Setup", neverWraps},
+    {3, "Separate Syncs", neverWraps},
+    {2, "Composite Sync", neverWraps},
+    {1, "Sync on Green", 40},
+    {0, "Serration of the Vsync", 40},
 }};
 
-constexpr std::array<BitItem, 6> featureItems = {{
-    {7, 0, "Stand-By", neverWraps},
-    {6, 1, "Suspend", neverWraps},
-    {5, 2, "Active Off/Very Low Power", neverWraps},
-    {2, 3, "Standard Default Color Space", 40},
-    {1, 4, "Preferred Timing Mode", 40},
-    {0, 5, "Default GTF Supported", 80},
+constexpr std::array<BitItem, featureBits.size()> featureItems = {{
+    {0, "Stand-By", neverWraps},
+    {1, "Suspend", neverWraps},
+    {2, "Active Off/Very Low Power", neverWraps},
+    {3, "Standard Default Color Space", 40},
+    {4, "Preferred Timing Mode", 40},
+    {5, "Default GTF Supported", 80},
 }};
 
-/// By bits 4 and 3 of the feature byte.
+/// By display type.
 constexpr std::array<std::string_view, 4> displayTypes = {
     "Monochrome / grayscale",
     "R/G/B Color",
@@ -61,13 +63,14 @@ constexpr std::array<std::string_view, 4> displayTypes = {
 enum class Wraps { Once, WhereLong };
 
 /// Sets the checks of the bits that are set and appends their items to the text.
-void listItems(int byte, std::span<const BitItem> items, Wraps wraps, ControlArray& checks, std::string& text) {
+void listItems(int byte, std::span<const int> places, std::span<const BitItem> items, Wraps wraps, ControlArray& checks,
+               std::string& text) {
     bool wrapped = false;
     for (const BitItem& item : items) {
-        if ((byte & (1 << item.bit)) == 0) {
+        if (!bit(byte, places[static_cast<std::size_t>(item.check)])) {
             continue;
         }
-        checks(item.control).setValue(1);
+        checks(item.check).setValue(1);
         if (!text.empty()) {
             text += ", ";
         }
@@ -80,10 +83,10 @@ void listItems(int byte, std::span<const BitItem> items, Wraps wraps, ControlArr
 }
 
 void convertSize(Workbench& workbench, int cell, int option, std::string_view words, std::string& text) {
-    FrmEdid& screen = workbench.frmEDID();
-    text = formatNumber(byteAt(screen, cell) * 10, "###") + " mm";
-    screen.Basic(option).setCaption(std::string(words) + text);
-    RecalcBlock0Checksum(workbench);
+    decoder(workbench, [&](FrmEdid& screen) {
+        text = formatNumber(byteAt(screen, cell) * 10, "###") + " mm";
+        screen.Basic(option).setCaption(std::string(words) + text);
+    });
 }
 
 void showDigital(FrmEdid& screen, std::string& text, bool compatible) {
@@ -113,63 +116,53 @@ std::string gammaText(int byte) {
 }
 
 void ConvertVideoInput(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        screen.InFocusDispatch = flagTrue;
+    controlDecoder(workbench, [&](FrmEdid& screen) {
         screen.Sync.deselect();
-        const int byte = byteAt(screen, 20);
+        const int byte = byteAt(screen, cells::videoInput);
         std::string level;
         std::string setup;
-        if ((byte & 128) != 0) {
+        if (bit(byte, digitalBit)) {
             showDigital(screen, workbench.VideoInputText, false);
-            if ((byte & 1) != 0) {
+            if (bit(byte, dfpBit)) {
                 showDigital(screen, workbench.VideoInputText, true);
             }
         } else {
             showAnalog(screen, workbench.VideoInputText);
-            const int signal = (byte & 96) / 32;
+            const int signal = bits(byte, signalLevelBits);
             screen.Signal(signal).setValue(1);
             level = levels[static_cast<std::size_t>(signal)];
-            listItems(byte, syncItems, Wraps::Once, screen.Sync, setup);
+            listItems(byte, syncBits, syncItems, Wraps::Once, screen.Sync, setup);
         }
         workbench.VideoInputText +=
             line(IndentText(PadLeft(level, 15), reportIndent)) + IndentText(PadLeft(setup, 15), reportIndent);
-        RecalcBlock0Checksum(workbench);
-        screen.InFocusDispatch = flagFalse;
     });
 }
 
 void ConvertMaxHorizontalSize(Workbench& workbench) {
-    trapped(workbench, [&] { convertSize(workbench, 21, 0, "Max Horiz Size ", workbench.MaxHImageSizeText); });
+    convertSize(workbench, cells::maxHorizontalSize, 0, "Max Horiz Size ", workbench.MaxHImageSizeText);
 }
 
 void ConvertMaxVerticalSize(Workbench& workbench) {
-    trapped(workbench, [&] { convertSize(workbench, 22, 1, "Max Vert Size ", workbench.MaxVImageSizeText); });
+    convertSize(workbench, cells::maxVerticalSize, 1, "Max Vert Size ", workbench.MaxVImageSizeText);
 }
 
 void ConvertGamma(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        workbench.DisplayGammaText = gammaText(byteAt(screen, 23));
+    decoder(workbench, [&](FrmEdid& screen) {
+        workbench.DisplayGammaText = gammaText(byteAt(screen, cells::gamma));
         screen.Basic(2).setCaption("Gamma  " + workbench.DisplayGammaText);
-        RecalcBlock0Checksum(workbench);
     });
 }
 
 void ConvertFeatureSupport(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    controlDecoder(workbench, [&](FrmEdid& screen) {
         workbench.PowerFeatureText.clear();
         workbench.DisplayTypeText.clear();
-        screen.InFocusDispatch = flagTrue;
         screen.FSupport.deselect();
-        const int byte = byteAt(screen, 24);
-        const int type = (byte & 24) / 8;
+        const int byte = byteAt(screen, cells::features);
+        const int type = bits(byte, displayTypeBits);
         screen.DisplayType(type).setValue(1);
         workbench.DisplayTypeText = displayTypes[static_cast<std::size_t>(type)];
-        listItems(byte, featureItems, Wraps::WhereLong, screen.FSupport, workbench.PowerFeatureText);
-        RecalcBlock0Checksum(workbench);
-        screen.InFocusDispatch = flagFalse;
+        listItems(byte, featureBits, featureItems, Wraps::WhereLong, screen.FSupport, workbench.PowerFeatureText);
     });
 }
 

@@ -18,7 +18,7 @@ std::int16_t ComputeCheckSum(Workbench& workbench) {
 
 void ConvertExtCheckSum(Workbench& workbench) {
     FrmEdid& screen = workbench.frmEDID();
-    const int extensions = byteAt(screen, 126);
+    const int extensions = byteAt(screen, extensionCountCell);
     const std::string count = formatNumber(extensions, "0");
     screen.lbEDID(6).setCaption("Extended Flag = " + count);
     screen.lbEDID(7).setCaption(ComputeCheckSum(workbench) != 0 ? "CheckSum Is Invalid" : "CheckSum OK");

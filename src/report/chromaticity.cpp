@@ -4,34 +4,22 @@
 
 #include "core/base/numbers.h"
 #include "core/base/text.h"
-#include "core/edid_image.h"
+#include "core/cells.h"
+#include "report/chromaticity_layout.h"
+#include "report/decoder.h"
 
 namespace wb::report {
 
 namespace {
 
-/// A coordinate of ten bits: its two low ones share a cell with those of three others.
-struct Coordinate {
-    std::string_view words;
-    int lowCell, lowMask, lowDivisor;
-    int highCell;
+/// By coordinate.
+constexpr std::array<std::string_view, chromaticityFields.size()> coordinateWords = {
+    "Red X - ", "Red Y - ", "Green X - ", "Green Y - ", "Blue X - ", "Blue Y - ", "White X - ", "White Y - ",
 };
-
-/// VESA E-EDID Standard, Release A, section 3.7.
-constexpr std::array<Coordinate, 8> coordinates = {{
-    {"Red X - ", 25, 192, 64, 27},
-    {"Red Y - ", 25, 48, 16, 28},
-    {"Green X - ", 25, 12, 4, 29},
-    {"Green Y - ", 25, 3, 1, 30},
-    {"Blue X - ", 26, 192, 64, 31},
-    {"Blue Y - ", 26, 48, 16, 32},
-    {"White X - ", 26, 12, 4, 33},
-    {"White Y - ", 26, 3, 1, 34},
-}};
 
 constexpr std::size_t bitCount = 10;
 
-using Texts = std::array<std::string, coordinates.size()>;
+using Texts = std::array<std::string, chromaticityFields.size()>;
 
 /// The last ten binary digits of a number.
 std::string tenBits(std::int16_t number) {
@@ -41,20 +29,20 @@ std::string tenBits(std::int16_t number) {
 /// The coordinates of one axis, from `first` on, in one line of the report.
 std::string axisLine(const Texts& texts, std::size_t first) {
     std::string result;
-    for (std::size_t k = first; k < coordinates.size(); k += 2) {
-        result += (k == first ? "" : " ") + std::string(coordinates[k].words) + texts[k];
+    for (std::size_t k = first; k < coordinateWords.size(); k += 2) {
+        result += (k == first ? "" : " ") + std::string(coordinateWords[k]) + texts[k];
     }
     return result;
 }
 
 Texts showCoordinates(Workbench& workbench, FrmEdid& screen) {
     Texts texts;
-    for (std::size_t k = 0; k < coordinates.size(); ++k) {
-        const Coordinate& coordinate = coordinates[k];
-        const int low = (byteAt(screen, coordinate.lowCell) & coordinate.lowMask) / coordinate.lowDivisor;
-        const int high = byteAt(screen, coordinate.highCell);
+    for (std::size_t k = 0; k < coordinateWords.size(); ++k) {
+        const SplitField& field = chromaticityFields[k];
+        const int low = bits(byteAt(screen, field.lower.cell), field.lower.range);
+        const int high = byteAt(screen, field.upper.cell);
         texts[k] = chromaText(ChromaBitsToFraction(workbench, high, low));
-        screen.chkChroma(static_cast<int>(k)).setCaption(std::string(coordinate.words) + texts[k]);
+        screen.chkChroma(static_cast<int>(k)).setCaption(std::string(coordinateWords[k]) + texts[k]);
     }
     return texts;
 }
@@ -67,11 +55,10 @@ std::string chromaText(double coordinate) {
 
 double ChromaBitsToFraction(Workbench& workbench, int high, int low) {
     return trappedOr(workbench, 0.0, [&] {
-        const std::string bits = tenBits(int16From(high * 4 + low));
         double result = 0;
         double weight = 0.5;
-        for (const char bit : bits) {
-            result += bit == '1' ? weight : 0;
+        for (const char digit : tenBits(int16From(high * 4 + low))) {
+            result += digit == '1' ? weight : 0;
             weight /= 2;
         }
         return result;
@@ -82,24 +69,23 @@ std::string FractionToChromaBits(Workbench& workbench, double value) {
     return trappedOr(workbench, std::string(), [&] {
         double rest = value;
         double weight = 0.5;
-        std::string bits;
+        std::string digits;
         for (std::size_t i = 0; i < bitCount; ++i) {
             // Strictly less: an exact power of two takes the lower bits and comes back by the rounding below.
             const bool set = weight < rest;
-            bits += set ? '1' : '0';
+            digits += set ? '1' : '0';
             rest -= set ? weight : 0;
             weight /= 2;
         }
         if (rest * 10000 >= 5) {
-            bits = tenBits(roundToInt16(strictNumber(BinaryTextToDecimal(workbench, bits)) + 1));
+            digits = tenBits(roundToInt16(strictNumber(BinaryTextToDecimal(workbench, digits)) + 1));
         }
-        return bits;
+        return digits;
     });
 }
 
 void ConvertChromaticity(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    decoder(workbench, [&](FrmEdid& screen) {
         const Texts texts = showCoordinates(workbench, screen);
         workbench.ChromaText1 = axisLine(texts, 0);
         workbench.ChromaText2 = axisLine(texts, 1);
@@ -107,7 +93,6 @@ void ConvertChromaticity(Workbench& workbench) {
         if (selected >= 0) {
             screen.ChromaValue.setText(texts[static_cast<std::size_t>(selected)]);
         }
-        RecalcBlock0Checksum(workbench);
     });
 }
 

@@ -2,43 +2,40 @@
 
 #include "report/basic_display.h"
 #include "report/chromaticity.h"
+#include "report/color_point_layout.h"
 
 namespace wb::report {
 
 namespace {
 
-constexpr int optionCount = 6;
-
-std::string coordinateText(const DescriptorBlock& block, int highCell, int low) {
-    return chromaText(ChromaBitsToFraction(block.workbench, block.cellValue(highCell), low));
+std::string coordinateText(const DescriptorBlock& block, int first, const SplitField& field) {
+    const int low = bits(block.cellValue(first + field.lower.cell), field.lower.range);
+    return chromaText(ChromaBitsToFraction(block.workbench, block.cellValue(first + field.upper.cell), low));
 }
 
 void showWhite(const DescriptorBlock& block, int option, const std::string& words) {
     block.showAndReport(block.screen.DtaOptWhite(option), words, 20);
 }
 
-/// The cells of a point from `first` on: index, low bits, X, Y, gamma (VESA E-EDID Standard, Release A,
-/// section 3.10.3).
+/// `first` is the index cell of the point, `option` its first one.
 void showUsedPoint(const DescriptorBlock& block, int first, int option) {
-    const int lowX = (block.cellValue(first + 1) & 12) / 4;
-    showWhite(block, option, "White X - " + coordinateText(block, first + 2, lowX));
-    const int lowY = block.cellValue(first + 1) & 3;
-    showWhite(block, option + 1, "White Y - " + coordinateText(block, first + 3, lowY));
-    showWhite(block, option + 2, "Gamma  - " + gammaText(block.cellValue(first + 4)));
+    showWhite(block, option, "White X - " + coordinateText(block, first, whiteX));
+    showWhite(block, option + 1, "White Y - " + coordinateText(block, first, whiteY));
+    showWhite(block, option + gammaOption, "Gamma  - " + gammaText(block.cellValue(first + whiteGammaCell)));
 }
 
 void blankUnusedPoint(const DescriptorBlock& block, int first, int option) {
-    for (int i = 1; i <= 4; ++i) {
+    for (int i = 1; i < whitePointSize; ++i) {
         block.cell(first + i).setText("00");
     }
-    for (int i = 0; i <= 2; ++i) {
+    for (int i = 0; i < optionsOfPoint; ++i) {
         block.screen.DtaOptWhite(option + i).setEnabled(false);
     }
 }
 
 void convertWhitePoint(const DescriptorBlock& block, int point) {
-    const int first = 5 + 5 * point;
-    const int option = 3 * point;
+    const int first = whitePointCell(point);
+    const int option = optionsOfPoint * point;
     block.report("White Point #" + std::to_string(point + 1), 15);
     if (block.cellValue(first) > 0) {
         showUsedPoint(block, first, option);
@@ -51,7 +48,7 @@ void convertWhitePoint(const DescriptorBlock& block, int point) {
 
 /// DTaInput gets the value of the selected option, which is what follows the dash of its caption.
 void showSelectedValue(FrmEdid& screen) {
-    for (int i = 0; i < optionCount; ++i) {
+    for (int i = 0; i < whiteOptionCount; ++i) {
         const std::string& caption = screen.DtaOptWhite(i).caption();
         const auto dash = caption.find('-');
         if (!screen.DtaOptWhite(i).selected() || dash == std::string::npos) {
@@ -70,7 +67,7 @@ void convertColorPoint(const DescriptorBlock& block) {
     screen.DTAFrame(1).setEnabled(true);
     screen.Windex(0).setEnabled(true);
     screen.Windex(1).setEnabled(true);
-    for (int i = 0; i < optionCount; ++i) {
+    for (int i = 0; i < whiteOptionCount; ++i) {
         screen.DtaOptWhite(i).setEnabled(true);
         block.workbench.focus.moveTo(screen.DTaInput);
     }
@@ -78,10 +75,11 @@ void convertColorPoint(const DescriptorBlock& block) {
     screen.NotUsed(1).setEnabled(false);
     convertWhitePoint(block, 0);
     convertWhitePoint(block, 1);
-    if (block.cellValue(5) != 0 && block.cellValue(10) != 0) {
-        block.cell(15).setText("0A");
-        block.cell(16).setText("20");
-        block.cell(17).setText("20");
+    if (block.cellValue(whitePointCell(0)) != 0 && block.cellValue(whitePointCell(1)) != 0) {
+        block.cell(colorPointPadding.first).setText("0A");
+        for (int i = colorPointPadding.first + 1; i <= colorPointPadding.last; ++i) {
+            block.cell(i).setText("20");
+        }
     }
     showSelectedValue(screen);
 }

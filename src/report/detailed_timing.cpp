@@ -1,11 +1,13 @@
 #include "report/detailed_timing.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
 #include "report/detailed_timing_layout.h"
+#include "report/detailed_timing_report.h"
 #include "report/monitor_descriptor.h"
 #include "report/report_lines.h"
 
@@ -13,39 +15,32 @@ namespace wb::report {
 
 namespace {
 
-/// One number of a timing: (high cell and mask) x factor + (low cell and mask) / divisor. Cells count from the first of
-/// the block; a number without a high cell has a high mask of 0.
-struct Field {
-    int highCell, highMask, highFactor;
-    int lowCell, lowMask, lowDivisor;
+struct FieldWords {
     std::string_view words;
     std::string_view unit;
 };
 
-/// VESA E-EDID Standard, Release A, section 3.10.2, as are the tables of the flags below.
-constexpr std::array<Field, fieldCount> fields = {{
-    {1, 255, 256, 0, 255, 1, "Pixel Clock", " MHz"},
-    {4, 240, 16, 2, 255, 1, "Active Time", " pixels"},
-    {4, 15, 256, 3, 255, 1, "Blanking Time", " pixels"},
-    {7, 240, 16, 5, 255, 1, "Active Time", " lines"},
-    {7, 15, 256, 6, 255, 1, "Blanking Time", " lines"},
-    {11, 192, 4, 8, 255, 1, "Sync Offset", " pixels"},
-    {11, 48, 16, 9, 255, 1, "Sync Pulse Width", " pixels"},
-    {11, 12, 4, 10, 240, 16, "Sync Offset", " lines"},
-    {11, 3, 16, 10, 15, 1, "Sync Pulse Width", " lines"},
-    {0, 0, 0, 15, 255, 1, "Border", " pixels"},
-    {0, 0, 0, 16, 255, 1, "Border", " lines"},
-    {14, 240, 16, 12, 255, 1, "Image Size", " mm"},
-    {14, 15, 256, 13, 255, 1, "Image Size", " mm"},
+/// By TimingField.
+constexpr std::array<FieldWords, fieldCount> fieldWords = {{
+    {"Pixel Clock", " MHz"},
+    {"Active Time", " pixels"},
+    {"Blanking Time", " pixels"},
+    {"Active Time", " lines"},
+    {"Blanking Time", " lines"},
+    {"Sync Offset", " pixels"},
+    {"Sync Pulse Width", " pixels"},
+    {"Sync Offset", " lines"},
+    {"Sync Pulse Width", " lines"},
+    {"Border", " pixels"},
+    {"Border", " lines"},
+    {"Image Size", " mm"},
+    {"Image Size", " mm"},
 }};
 
-constexpr int flagCell = 17;
 constexpr std::string_view normalDisplay = "Normal Display - No Stereo";
 constexpr std::string_view stereoDisplay = "Stereo";
 
-/// The option of the stereo kind by bits 6, 5 and 0 of the flags; -1 selects none.
-constexpr std::array<int, 8> stereoOptions = {6, -1, 0, 2, 1, 3, 4, 5};
-constexpr int lastStereo = 5; ///< the option behind it means no stereo
+constexpr int lastStereo = noStereoOption - 1;
 
 struct SyncWords {
     std::string_view line;
@@ -62,7 +57,7 @@ constexpr std::array<SyncWords, 4> analogSync = {{
     {"Sync on RGB", "", 1},
 }};
 
-/// By bits 4 and 3 of the flags, then by bits 2 and 1.
+/// By kind of the sync, then by its two bits. Tables of the flags: VESA E-EDID Standard, Release A, section 3.10.2.
 constexpr std::array<std::array<SyncWords, 4>, 4> syncWords = {{
     analogSync,
     analogSync,
@@ -138,15 +133,15 @@ private:
         }
     }
 
-    int fieldValue(const Field& field) {
-        const int high = field.highMask == 0 ? 0 : (cellValue(field.highCell) & field.highMask) * field.highFactor;
-        return high + (cellValue(field.lowCell) & field.lowMask) / field.lowDivisor;
+    int fieldValue(const SplitField& field) {
+        const int upper = field.upper.range.width() == 0 ? 0 : cellValue(field.upper.cell);
+        return field.join(upper, cellValue(field.lower.cell));
     }
 
     void convertField(int i) {
-        const Field& field = fields[static_cast<std::size_t>(i)];
-        const int value = fieldValue(field);
+        const int value = fieldValue(timingFields[static_cast<std::size_t>(i)]);
         const std::string number = i == PixelClock ? formatNumber(value / 100.0, "0.00") : formatNumber(value, "0");
+        const FieldWords& field = fieldWords[static_cast<std::size_t>(i)];
         const std::string words(field.words);
         const std::string amount = number + std::string(field.unit);
         screen_.DT(i).setCaption(words + " - " + amount);
@@ -181,8 +176,8 @@ private:
     }
 
     void convertInterlace() {
-        flags_ = cellValue(flagCell);
-        const bool interlaced = (flags_ & 128) == 128;
+        flags_ = cellValue(timingFlagCell);
+        const bool interlaced = bit(flags_, interlacedBit);
         screen_.DT1.setValue(interlaced ? 1 : 0);
         texts_.refresh = interlaced ? "Refreshed Mode: Interlaced" : "Refreshed Mode: Non-Interlaced";
         if (rules_.titleTellsScan) {
@@ -200,29 +195,30 @@ private:
         screen_.frmStereo.setCaption(std::string(stereoDisplay));
         texts_.stereo = stereoDisplay;
         if (rules_.testsStereoDigit) {
-            const std::string digit = leftPart(screen_.txtEdit(base_ + flagCell).text(), 1);
+            const std::string digit = leftPart(screen_.txtEdit(base_ + timingFlagCell).text(), 1);
             if (middlePart(HexToBinaryText(digit), 2, 2) == "00") {
                 showNormalDisplay();
             }
         }
-        const int kind = (flags_ & 96) / 16 + (flags_ & 1);
-        const int option = stereoOptions[static_cast<std::size_t>(kind)];
-        if (option < 0) {
+        const auto code = std::find(stereoCodes.begin(), stereoCodes.end(), stereoCode(flags_));
+        if (code == stereoCodes.end()) {
             return;
         }
+        const int option = static_cast<int>(code - stereoCodes.begin());
         screen_.DTStereo(option).setValue(1);
-        if (kind == 0) {
+        if (option == noStereoOption) {
             showNormalDisplay();
         }
     }
 
     void convertSync() {
         screen_.DTSync.deselect();
-        const int kind = (flags_ & 24) / 8;
+        const int kind = bits(flags_, syncKindBits);
         screen_.DTSync(kind).setValue(1);
         screen_.VSyncLine.setVisible(false);
         screen_.SyncSerrate.setVisible(true);
-        const SyncWords& words = syncWords[static_cast<std::size_t>(kind)][static_cast<std::size_t>((flags_ & 6) / 2)];
+        const int detail = bits(flags_, syncDetailBits);
+        const SyncWords& words = syncWords[static_cast<std::size_t>(kind)][static_cast<std::size_t>(detail)];
         screen_.SyncLine.setCaption(std::string(words.line));
         if (!words.vertical.empty()) {
             screen_.VSyncLine.setCaption(std::string(words.vertical));

@@ -2,15 +2,18 @@
 
 #include <array>
 
+#include "core/base/bits.h"
+#include "core/base/image_layout.h"
 #include "core/base/text.h"
-#include "core/edid_image.h"
+#include "core/cells.h"
+#include "report/decoder.h"
 #include "report/report_lines.h"
 
 namespace wb::report {
 
 namespace {
 
-/// From bit 7 down to bit 0 (VESA E-EDID Standard, Release A, section 3.8).
+/// By check (VESA E-EDID Standard, Release A, section 3.8).
 using TimingWords = std::array<std::string_view, 8>;
 
 constexpr TimingWords timings1 = {
@@ -28,52 +31,44 @@ constexpr TimingWords timings2 = {
 
 constexpr std::string_view reservedTiming = "1152 X 870 @ 75Hz (Apple,Mac II)";
 
-void convertTimings(Workbench& workbench, int cell, const TimingWords& words, ControlArray& checks, std::string& text) {
-    FrmEdid& screen = workbench.frmEDID();
-    text.clear();
-    screen.InFocusDispatch = flagTrue;
-    checks.deselect();
-    const int byte = byteAt(screen, cell);
-    for (int i = 0; i < 8; ++i) {
-        if ((byte & (128 >> i)) == 0) {
-            continue;
+void convertTimings(Workbench& workbench, int cell, const TimingWords& words, ControlArray FrmEdid::*checksOf,
+                    std::string& text) {
+    controlDecoder(workbench, [&](FrmEdid& screen) {
+        ControlArray& checks = screen.*checksOf;
+        text.clear();
+        checks.deselect();
+        const int byte = byteAt(screen, cell);
+        for (int i = 0; i < static_cast<int>(words.size()); ++i) {
+            if (!bit(byte, establishedTimingBit(i))) {
+                continue;
+            }
+            checks(i).setValue(1);
+            if (!text.empty()) {
+                text += crLf;
+            }
+            text += IndentText(words[static_cast<std::size_t>(i)], reportIndent);
         }
-        checks(i).setValue(1);
-        if (!text.empty()) {
-            text += crLf;
-        }
-        text += IndentText(words[static_cast<std::size_t>(i)], reportIndent);
-    }
-    RecalcBlock0Checksum(workbench);
-    screen.InFocusDispatch = flagFalse;
+    });
 }
 
 } // namespace
 
 void ConvertEstablishedTiming1(Workbench& workbench) {
-    trapped(workbench, [&] {
-        convertTimings(workbench, 35, timings1, workbench.frmEDID().ET1, workbench.EstablishedTiming1Text);
-    });
+    convertTimings(workbench, cells::establishedTimings1, timings1, &FrmEdid::ET1, workbench.EstablishedTiming1Text);
 }
 
 void ConvertEstablishedTiming2(Workbench& workbench) {
-    trapped(workbench, [&] {
-        convertTimings(workbench, 36, timings2, workbench.frmEDID().ET2, workbench.EstablishedTiming2Text);
-    });
+    convertTimings(workbench, cells::establishedTimings2, timings2, &FrmEdid::ET2, workbench.EstablishedTiming2Text);
 }
 
 void ConvertReservedTiming(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    controlDecoder(workbench, [&](FrmEdid& screen) {
         workbench.ReservedTimingText.clear();
-        screen.InFocusDispatch = flagTrue;
         screen.ET3(7).setValue(0);
-        if ((byteAt(screen, 37) & 128) != 0) {
+        if (bit(byteAt(screen, cells::reservedTimings), reservedTimingBit)) {
             screen.ET3(7).setValue(1);
             workbench.ReservedTimingText = IndentText(reservedTiming, reportIndent);
         }
-        RecalcBlock0Checksum(workbench);
-        screen.InFocusDispatch = flagFalse;
     });
 }
 

@@ -2,16 +2,18 @@
 
 #include <array>
 
+#include "core/base/image_layout.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
-#include "core/edid_image.h"
+#include "core/cells.h"
+#include "report/decoder.h"
+#include "report/identity_layout.h"
 
 namespace wb::report {
 
 namespace {
 
 constexpr std::string_view unusedSerial = "Not Used";
-constexpr int firstYear = 1990; ///< VESA E-EDID Standard, Release A, section 3.4
 
 struct Brand {
     std::string_view manufacturer;
@@ -26,7 +28,7 @@ constexpr std::array<Brand, 4> brands = {{
 }};
 
 char letterOf(int fiveBits) {
-    return static_cast<char>(fiveBits + 64);
+    return static_cast<char>(letterBase + fiveBits);
 }
 
 std::string brandOf(const std::string& manufacturer) {
@@ -38,14 +40,15 @@ std::string brandOf(const std::string& manufacturer) {
     return manufacturer;
 }
 
-/// The characters of the product code. Where that of cell 10 does not lie above the blank, cell 11 is not looked at.
+/// The characters of the product code. Where that of the first cell does not lie above the blank, the second is not
+/// looked at.
 std::string productLetters(FrmEdid& screen) {
-    const int first = byteAt(screen, 10);
+    const int first = byteAt(screen, cells::productCode.first);
     if (first <= ' ') {
         return {};
     }
     std::string letters(1, static_cast<char>(first));
-    const int second = byteAt(screen, 11);
+    const int second = byteAt(screen, cells::productCode.last);
     if (second > ' ') {
         letters += static_cast<char>(second);
     }
@@ -57,19 +60,18 @@ std::string productLetters(FrmEdid& screen) {
 std::string GetManufacturer(Workbench& workbench) {
     return trappedOr(workbench, std::string(), [&] {
         FrmEdid& screen = workbench.frmEDID();
-        const int a = byteAt(screen, 8);
-        const int b = byteAt(screen, 9);
-        return std::string{letterOf((a & 124) / 4), letterOf((a & 3) * 8 + (b & 224) / 32), letterOf(b & 31)};
+        const int first = byteAt(screen, cells::manufacturer.first);
+        const int second = byteAt(screen, cells::manufacturer.last);
+        return std::string{letterOf(bits(first, firstLetterBits)), letterOf(secondLetter.join(first, second)),
+                           letterOf(bits(second, thirdLetterBits))};
     });
 }
 
 void ConvertManufacturer(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    decoder(workbench, [&](FrmEdid& screen) {
         workbench.IDManufacturerName = GetManufacturer(workbench);
         screen.VendorInfo.setText(workbench.IDManufacturerName);
         screen.lbVendor(0).setCaption("Manufacturer - " + workbench.IDManufacturerName);
-        RecalcBlock0Checksum(workbench);
     });
 }
 
@@ -77,7 +79,8 @@ std::string GetProductCode(Workbench& workbench) {
     return trappedOr(workbench, std::string(), [&] {
         FrmEdid& screen = workbench.frmEDID();
         const std::string letters = productLetters(screen);
-        const std::string digits = screen.txtEdit(11).text() + screen.txtEdit(10).text();
+        const std::string digits =
+            screen.txtEdit(cells::productCode.last).text() + screen.txtEdit(cells::productCode.first).text();
         workbench.ProductCodeHex = digits;
         workbench.ProductHardwareCode = digits;
         workbench.EDIDProductCodeRaw = digits == "0000" ? "00" : letters;
@@ -87,20 +90,17 @@ std::string GetProductCode(Workbench& workbench) {
 }
 
 void ConvertProductCode(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    decoder(workbench, [&](FrmEdid& screen) {
         screen.lbVendor(1).setCaption("Product Code - " + GetProductCode(workbench));
         screen.VendorInfo.setText(workbench.EDIDProductCodeRaw);
         CompleteSerialNumber(workbench);
-        RecalcBlock0Checksum(workbench);
     });
 }
 
 void ConvertSerialNumber(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
+    decoder(workbench, [&](FrmEdid& screen) {
         std::string digits;
-        for (int cell = 15; cell >= 12; --cell) {
+        for (int cell = cells::serialNumber.last; cell >= cells::serialNumber.first; --cell) {
             digits += screen.txtEdit(cell).text();
         }
         workbench.SerialLast5 = formatNumber(hexToDecimalText(workbench, digits), "00000");
@@ -110,29 +110,24 @@ void ConvertSerialNumber(Workbench& workbench) {
         screen.lbVendor(2).setCaption("Serial Number - " + workbench.SerialLast5);
         screen.VendorInfo.setText(workbench.SerialLast5);
         CompleteSerialNumber(workbench);
-        RecalcBlock0Checksum(workbench);
     });
 }
 
 void ConvertWeek(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        workbench.ManufactureWeek = formatNumber(byteAt(screen, 16), "00");
+    decoder(workbench, [&](FrmEdid& screen) {
+        workbench.ManufactureWeek = formatNumber(byteAt(screen, cells::week), "00");
         screen.lbVendor(3).setCaption("Week Manufacture - " + workbench.ManufactureWeek);
         screen.VendorInfo.setText(workbench.ManufactureWeek);
         CompleteSerialNumber(workbench);
-        RecalcBlock0Checksum(workbench);
     });
 }
 
 void ConvertYear(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        workbench.ManufactureYear = formatNumber(byteAt(screen, 17) + firstYear, "0");
+    decoder(workbench, [&](FrmEdid& screen) {
+        workbench.ManufactureYear = formatNumber(byteAt(screen, cells::year) + firstYear, "0");
         screen.VendorInfo.setText(workbench.ManufactureYear);
         screen.lbVendor(4).setCaption("Year Manufacture - " + workbench.ManufactureYear);
         CompleteSerialNumber(workbench);
-        RecalcBlock0Checksum(workbench);
     });
 }
 
@@ -147,26 +142,22 @@ void CompleteSerialNumber(Workbench& workbench) {
 }
 
 void ConvertVersion(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        workbench.EDIDVersionText = formatNumber(byteAt(screen, 18), "0");
+    decoder(workbench, [&](FrmEdid& screen) {
+        workbench.EDIDVersionText = formatNumber(byteAt(screen, cells::version), "0");
         screen.lbEDID(0).setCaption("Version Number - " + workbench.EDIDVersionText);
         screen.txtVersion.setText(workbench.EDIDVersionText);
         screen.VerRev.setText(workbench.EDIDVersionText);
         screen.txtBrand.setText(brandOf(workbench.IDManufacturerName));
         ShowCompleteVersion(workbench);
-        RecalcBlock0Checksum(workbench);
     });
 }
 
 void ConvertRevision(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        workbench.EDIDRevisionText = formatNumber(byteAt(screen, 19), "0");
+    decoder(workbench, [&](FrmEdid& screen) {
+        workbench.EDIDRevisionText = formatNumber(byteAt(screen, cells::revision), "0");
         screen.lbEDID(1).setCaption("Revision Number - " + workbench.EDIDRevisionText);
         screen.txtRevision.setText(workbench.EDIDRevisionText);
         ShowCompleteVersion(workbench);
-        RecalcBlock0Checksum(workbench);
     });
 }
 

@@ -1,60 +1,40 @@
 #include "report/monitor_descriptor.h"
 
-#include <algorithm>
 #include <array>
 
 #include "core/edid_image.h"
 #include "report/color_point.h"
+#include "report/decoder.h"
 #include "report/descriptor_block.h"
+#include "report/descriptor_layout.h"
 #include "report/range_limits.h"
 #include "report/standard_timings.h"
+#include "report/standard_timings_layout.h"
 
 namespace wb::report {
 
 namespace {
 
 constexpr int lineFeed = 10;
-constexpr int firstTextCell = 5; ///< of the block
 
-struct Family {
-    std::string_view tag;
-    std::string_view heading;
+/// By family.
+constexpr std::array<std::string_view, familyCount> headings = {
+    "Monitor Serial Number:", "ASCII Data:",  "Monitor Range Limits:",
+    "Monitor Name:",          "Color Point:", "Standard Timing Identifiers:",
 };
-
-enum FamilyNumber { SerialNumber, AsciiData, RangeLimits, MonitorName, ColorPoint, StandardTimings };
-
-/// By number of the family, which is that of its option (VESA E-EDID Standard, Release A, section 3.10.3).
-constexpr std::array<Family, 6> families = {{
-    {"FF", "Monitor Serial Number:"},
-    {"FE", "ASCII Data:"},
-    {"FD", "Monitor Range Limits:"},
-    {"FC", "Monitor Name:"},
-    {"FB", "Color Point:"},
-    {"FA", "Standard Timing Identifiers:"},
-}};
-
-constexpr int noFamily = static_cast<int>(families.size());
 
 constexpr int inputHeight = 1200;          ///< twips
 constexpr int inputHeightAtColours = 1095; ///< twips, beside the colour point panel
-constexpr int timingCount = 6;
-
-/// The number of the family of a tag, or that of none.
-int familyOf(std::string_view tag) {
-    const auto family =
-        std::find_if(families.begin(), families.end(), [&](const Family& row) { return row.tag == tag; });
-    return static_cast<int>(family - families.begin());
-}
 
 /// The family of a tag of the table, whose heading it puts into the report, or else the value of the tag.
 int readTag(const DescriptorBlock& block) {
-    const int value = block.cellValue(3);
-    const int family = familyOf(upperCase(block.cell(3).text()));
-    if (family == noFamily) {
+    const int value = block.cellValue(descriptorTagCell);
+    const int family = descriptorFamily(upperCase(block.cell(descriptorTagCell).text()));
+    if (family == familyCount) {
         return value;
     }
     block.text() = line();
-    block.report(families[static_cast<std::size_t>(family)].heading);
+    block.report(headings[static_cast<std::size_t>(family)]);
     block.screen.DTAGTF.setVisible(family == RangeLimits);
     return family;
 }
@@ -72,7 +52,7 @@ void clearPanel(FrmEdid& screen) {
 /// Only a line feed ends the text; it may fill all 13 cells.
 void convertText(const DescriptorBlock& block) {
     Control& input = block.screen.DTaInput;
-    for (int i = firstTextCell; i < detailedBlockSize; ++i) {
+    for (int i = descriptorTextCells.first; i <= descriptorTextCells.last; ++i) {
         const int code = block.cellValue(i);
         if (code == lineFeed) {
             break;
@@ -96,16 +76,16 @@ void convertStandardTimings(const DescriptorBlock& block) {
     FrmEdid& screen = block.screen;
     screen.Hints(FrmEdid::descriptorPanel).setVisible(false);
     screen.Hints(FrmEdid::timingDescriptorPanel).setVisible(true);
-    for (int i = 0; i < timingCount; ++i) {
+    for (int i = 0; i < descriptorTimingCount; ++i) {
         screen.ExtSTOpt(i).setCaption({});
     }
-    for (int i = 0; i < timingCount; ++i) {
-        const int sizeByte = block.cellValue(5 + 2 * i);
-        const int rateByte = block.cellValue(6 + 2 * i);
+    for (int i = 0; i < descriptorTimingCount; ++i) {
+        const int sizeByte = block.cellValue(descriptorTimingCell(i));
+        const int rateByte = block.cellValue(descriptorTimingCell(i) + 1);
         block.showAndReport(screen.ExtSTOpt(i), standardTimingText(sizeByte, rateByte));
     }
-    const int shown = screen.ExtSTOpt.firstSelected(0, timingCount - 1, 0);
-    screen.ExtSTAOptb(aspectCode(block.cellValue(6 + 2 * shown))).setValue(1);
+    const int shown = screen.ExtSTOpt.firstSelected(0, descriptorTimingCount - 1, 0);
+    screen.ExtSTAOptb(aspectCode(block.cellValue(descriptorTimingCell(shown) + 1))).setValue(1);
     if (screen.ExtSTOpt(6).selected()) {
         screen.ExtSTOpt(6).setValue(0);
     }
@@ -138,7 +118,6 @@ void convertFamily(const DescriptorBlock& block, int family) {
 
 void finish(const DescriptorBlock& block) {
     FrmEdid& screen = block.screen;
-    screen.InFocusDispatch = flagFalse;
     RecalcBlock0Checksum(block.workbench);
     screen.DTaInput.setHeight(screen.DTAFrame(1).enabled() ? inputHeightAtColours : inputHeight);
     if (screen.ExtStaInput.visible() && seeks(block.workbench)) {
@@ -148,17 +127,25 @@ void finish(const DescriptorBlock& block) {
 
 } // namespace
 
+int descriptorFamily(std::string_view tag) {
+    int family = 0;
+    while (family < familyCount && ByteToHex2(descriptorTag(family)) != tag) {
+        ++family;
+    }
+    return family;
+}
+
 std::string_view descriptorHeading(std::string_view tag) {
-    const int family = familyOf(tag);
-    return family == noFamily ? std::string_view() : families[static_cast<std::size_t>(family)].heading;
+    const int family = descriptorFamily(tag);
+    return family == familyCount ? std::string_view() : headings[static_cast<std::size_t>(family)];
 }
 
 bool appendMonitorName(FrmEdid& screen, int block, std::string& name) {
     const int base = detailedBlockBase(block);
-    if (screen.txtEdit(base + 3).text() != families[MonitorName].tag) {
+    if (descriptorFamily(screen.txtEdit(base + descriptorTagCell).text()) != MonitorName) {
         return false;
     }
-    for (int i = firstTextCell; i < detailedBlockSize; ++i) {
+    for (int i = descriptorTextCells.first; i <= descriptorTextCells.last; ++i) {
         const int code = byteAt(screen, base + i);
         if (code == lineFeed) {
             return true;
@@ -172,12 +159,13 @@ void ConvertDetailedTiminga(Workbench& workbench) {
     trapped(workbench, [&] {
         const DescriptorBlock block(workbench);
         block.text() = line();
-        block.screen.InFocusDispatch = flagTrue;
-        block.screen.DTAGTF.setVisible(false);
-        const int family = readTag(block);
-        block.screen.DTa(family).setValue(1);
-        clearPanel(block.screen);
-        convertFamily(block, family);
+        settingControls(block.screen, [&] {
+            block.screen.DTAGTF.setVisible(false);
+            const int family = readTag(block);
+            block.screen.DTa(family).setValue(1);
+            clearPanel(block.screen);
+            convertFamily(block, family);
+        });
         finish(block);
     });
 }

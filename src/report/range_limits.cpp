@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "report/range_limits_layout.h"
+
 namespace wb::report {
 
 namespace {
@@ -12,21 +14,19 @@ struct RangeField {
     int factor;
 };
 
-/// Cells 5 to 9 of the block (VESA E-EDID Standard, Release A, section 3.10.3).
-constexpr std::array<RangeField, 5> rangeFields = {{
+/// By limit.
+constexpr std::array<RangeField, limitCount> rangeFields = {{
     {"Min Vertical Freq - ", " Hz", 1},
     {"Max Vertical Freq - ", " Hz", 1},
     {"Min Horiz. Freq - ", " KHz", 1},
     {"Max Horiz. Freq - ", " KHz", 1},
-    {"Pixel Clock  - ", " MHz", 10},
+    {"Pixel Clock  - ", " MHz", clockUnit},
 }};
-constexpr int clockField = 4;
-constexpr int unspecifiedClock = 255;
 constexpr int inputTop = 120; ///< twips
 
 std::string rangeText(int i, int value) {
     const RangeField& field = rangeFields[static_cast<std::size_t>(i)];
-    if (i == clockField && value == unspecifiedClock) {
+    if (i == clockLimit && value == unspecifiedLimit) {
         return "Pixel Clock - Not Specified";
     }
     return std::string(field.words) + std::to_string(value * field.factor) + std::string(field.unit);
@@ -36,14 +36,14 @@ void showCurveField(const DescriptorBlock& block, int i, const std::string& word
     block.showAndReport(block.screen.S_GTF(i), words, 12);
 }
 
-/// Cells 12 to 17 of the block; C and J are stored doubled.
 void showCurve(const DescriptorBlock& block) {
-    showCurveField(block, 0, "Start Hor Freq - " + std::to_string(block.cellValue(12) * 2) + " KHz");
-    showCurveField(block, 1, "C - " + formatNumber(block.cellValue(13) / 2.0, "0"));
-    const std::string m = hexToDecimalText(block.workbench, block.cell(15).text() + block.cell(14).text());
+    showCurveField(block, 0, "Start Hor Freq - " + std::to_string(block.cellValue(curveStartCell) * 2) + " KHz");
+    showCurveField(block, 1, "C - " + formatNumber(block.cellValue(curveCCell) / 2.0, "0"));
+    const std::string m =
+        hexToDecimalText(block.workbench, block.cell(curveMHighCell).text() + block.cell(curveMLowCell).text());
     showCurveField(block, 2, "M - " + formatNumber(m, "0"));
-    showCurveField(block, 3, "K - " + std::to_string(block.cellValue(16)));
-    showCurveField(block, 4, "J - " + formatNumber(block.cellValue(17) / 2.0, "0"));
+    showCurveField(block, 3, "K - " + std::to_string(block.cellValue(curveKCell)));
+    showCurveField(block, 4, "J - " + formatNumber(block.cellValue(curveJCell) / 2.0, "0"));
 }
 
 void convertSecondaryGtf(const DescriptorBlock& block) {
@@ -58,7 +58,7 @@ void convertSecondaryGtf(const DescriptorBlock& block) {
         block.workbench.focus.moveTo(screen.DTaInput);
     }
     if (block.workbench.ModifyEDIDOn == flagFalse) {
-        for (int i = 10; i <= 17; ++i) {
+        for (int i = formulaCells.first; i <= formulaCells.last; ++i) {
             block.cell(i).setLocked(true);
         }
     }
@@ -69,16 +69,16 @@ void convertSecondaryGtf(const DescriptorBlock& block) {
 void convertRangeLimits(const DescriptorBlock& block) {
     FrmEdid& screen = block.screen;
     screen.DTAFrame(0).setEnabled(true);
-    for (int i = 0; i < static_cast<int>(rangeFields.size()); ++i) {
-        block.showAndReport(screen.DtaOpt(i), rangeText(i, block.cellValue(5 + i)));
+    for (int i = 0; i < limitCount; ++i) {
+        block.showAndReport(screen.DtaOpt(i), rangeText(i, block.cellValue(limitCells.first + i)));
     }
     screen.DTaInput.setTop(inputTop);
     screen.DTAGTF.setEnabled(true);
-    const std::string support = block.cell(10).text();
-    if (support == "00") {
+    const std::string formula = block.cell(formulaCell).text();
+    if (formula == noFormula) {
         block.report("Secondary GTF - Not Supported");
         screen.DTAGTF.setValue(0);
-    } else if (support == "04") {
+    } else if (formula == reservedFormula) {
         block.report("Reserved for EDID 1.4 Timings");
         screen.DTAGTF.setValue(0);
         screen.frmS_GTF(0).setEnabled(false);

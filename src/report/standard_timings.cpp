@@ -3,13 +3,14 @@
 #include <array>
 
 #include "core/base/numbers.h"
-#include "core/edid_image.h"
+#include "core/cells.h"
+#include "report/decoder.h"
+#include "report/standard_timings_layout.h"
 
 namespace wb::report {
 
 namespace {
 
-constexpr int timingCount = 8;
 constexpr int unusedSize = 256; ///< pixels; what the size byte of an unused pair, 1, stands for
 
 /// The height of a picture: width x factor / divisor.
@@ -22,9 +23,9 @@ struct Aspect {
 constexpr std::array<Aspect, 4> aspects = {{{10, 16}, {3, 4}, {4, 5}, {9, 16}}};
 
 void convertPairs(Workbench& workbench, FrmEdid& screen) {
-    for (int i = 0; i < timingCount; ++i) {
-        const int sizeByte = byteAt(screen, 38 + 2 * i);
-        const int rateByte = byteAt(screen, 39 + 2 * i);
+    for (int i = 0; i < standardTimingCount; ++i) {
+        const int sizeByte = byteAt(screen, standardTimingCell(i));
+        const int rateByte = byteAt(screen, standardTimingCell(i) + 1);
         workbench.StandardTimingText(i) = standardTimingText(sizeByte, rateByte);
         screen.STOpt(i).setCaption(workbench.StandardTimingText(i));
     }
@@ -33,32 +34,30 @@ void convertPairs(Workbench& workbench, FrmEdid& screen) {
 } // namespace
 
 int aspectCode(int rateByte) {
-    return (rateByte & 192) / 64;
+    return bits(rateByte, aspectBits);
 }
 
 std::string standardTimingText(int sizeByte, int rateByte) {
-    const int width = (sizeByte + 31) * 8;
+    const int width = (sizeByte + widthOffset) * widthUnit;
     if (width == unusedSize) {
         return "Not Used";
     }
     const Aspect& aspect = aspects[static_cast<std::size_t>(aspectCode(rateByte))];
     const int height = roundToInt16(int16From(std::int64_t{width} * aspect.factor) / aspect.divisor);
-    const int rate = (rateByte & 63) + 60;
+    const int rate = bits(rateByte, rateBits) + lowestRate;
     return formatNumber(width, "####") + " X " + formatNumber(height, "####") + " @" + formatNumber(rate, "##") + "Hz";
 }
 
 void ConvertStandardTimings(Workbench& workbench) {
-    trapped(workbench, [&] {
-        FrmEdid& screen = workbench.frmEDID();
-        workbench.StandardTimingText.create(timingCount);
-        for (int i = 0; i < timingCount; ++i) {
+    const auto decode = [&](FrmEdid& screen) {
+        workbench.StandardTimingText.create(standardTimingCount);
+        for (int i = 0; i < standardTimingCount; ++i) {
             screen.STOpt(i).setCaption({});
         }
-        screen.InFocusDispatch = flagTrue;
         convertPairs(workbench, screen);
         screen.STAOptb(aspectCode(byteAt(screen, screen.CurrentBlockBase))).setValue(1);
-        RecalcBlock0Checksum(workbench);
-        screen.InFocusDispatch = flagFalse;
+    };
+    controlDecoder(workbench, decode, [&](FrmEdid& screen) {
         if (screen.STAInput.visible() && seeks(workbench)) {
             workbench.focus.moveTo(screen.STAInput);
         }

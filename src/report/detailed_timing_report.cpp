@@ -1,4 +1,4 @@
-#include "report/detailed_timing_layout.h"
+#include "report/detailed_timing_report.h"
 
 #include "core/base/text.h"
 #include "report/report_lines.h"

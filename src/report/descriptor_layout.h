@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/base/image_layout.h"
+
+/// Monitor descriptors (VESA E-EDID Standard, Release A, section 3.10.3), for decoder, panel and dispatch. Cells are
+/// counted from the first of the block.
+namespace wb::report {
+
+inline constexpr int descriptorTagCell = 3;
+inline constexpr int descriptorReservedCell = 4;
+
+/// The text of a descriptor: it ends with a line feed, blanks fill up; one of full length has neither.
+inline constexpr CellRange descriptorTextCells{5, detailedBlockSize - 1};
+
+/// The families with a meaning, by their options on the panel.
+enum DescriptorFamily { SerialNumber, AsciiData, RangeLimits, MonitorName, ColorPoint, StandardTimings, familyCount };
+
+/// The tag of an option: from FF hexadecimal down, also behind the families.
+constexpr int descriptorTag(int option) {
+    return 0xFF - option;
+}
+
+} // namespace wb::report
