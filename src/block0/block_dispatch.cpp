@@ -4,13 +4,19 @@
 #include "block0/panel_detailed_timing.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
+#include "report/color_point_layout.h"
+#include "report/descriptor_layout.h"
 #include "report/detailed_timing.h"
+#include "report/detailed_timing_layout.h"
+#include "report/monitor_descriptor.h"
+#include "report/range_limits_layout.h"
+#include "report/standard_timings_layout.h"
 
 namespace wb::block0 {
 
 namespace {
 
-constexpr int lastStereo = 5;
+constexpr int lastStereo = report::noStereoOption - 1;
 
 void captionPanels(FrmEdid& screen) {
     const std::string caption = detailedTimingCaption(screen.CurrentBlockBase);
@@ -24,19 +30,19 @@ void captionPanels(FrmEdid& screen) {
 /// The cell at `offset` of the block in the field colour; the first two are one field.
 void colourDescriptorCell(FrmEdid& screen, int offset) {
     const int base = screen.CurrentBlockBase;
-    colourField(screen, noCells, offset <= 1 ? CellRange{base, base + 1} : CellRange{base + offset, base + offset});
+    colourField(screen, noCells, offset <= 1 ? CellRange{base, base + 1} : oneCell(base + offset));
 }
 
 void openRangeLimits(FrmEdid& screen, int offset) {
     const int base = screen.CurrentBlockBase;
-    if (screen.txtEdit(base + 10).text() != "00") {
-        for (int i = base + 10; i <= base + 17; ++i) {
-            screen.txtEdit(i).setLocked(false);
+    if (screen.txtEdit(base + report::formulaCell).text() != report::noFormula) {
+        for (int i = report::formulaCells.first; i <= report::formulaCells.last; ++i) {
+            screen.txtEdit(base + i).setLocked(false);
         }
     }
     screen.DtaOpt.deselect();
-    if (offset >= 5 && offset <= 9) {
-        screen.DtaOpt(offset - 5).setValue(-1);
+    if (report::limitCells.contains(offset)) {
+        screen.DtaOpt(offset - report::limitCells.first).setValue(-1);
     }
 }
 
@@ -44,21 +50,21 @@ void openColourPoint(FrmEdid& screen, int offset) {
     screen.Windex(0).setVisible(true);
     screen.Windex(1).setVisible(true);
     screen.DtaOptWhite.deselect();
-    if (offset >= 7 && offset <= 9) {
-        screen.DtaOptWhite(offset - 7).setValue(-1);
-    } else if (offset >= 12 && offset <= 14) {
-        screen.DtaOptWhite(offset - 9).setValue(-1);
+    for (int option = 0; option < report::whiteOptionCount; ++option) {
+        if (report::whiteOptionCell(option) == offset) {
+            screen.DtaOptWhite(option).setValue(-1);
+        }
     }
 }
 
 void openStandardTimings(FrmEdid& screen, int offset) {
     screen.Hints(FrmEdid::descriptorPanel).setVisible(false);
     screen.Hints(FrmEdid::timingDescriptorPanel).setVisible(true);
-    screen.ExtSTOpt.deselect(5);
-    const bool isPair = offset >= 5 && offset <= 16;
+    screen.ExtSTOpt.deselect(report::descriptorTimingCount - 1);
+    const bool isPair = report::descriptorTimingCells.contains(offset);
     screen.ExtStaFrame.setEnabled(isPair);
     if (isPair) {
-        screen.ExtSTOpt((offset - 5) / 2).setValue(-1);
+        screen.ExtSTOpt((offset - report::descriptorTimingCells.first) / 2).setValue(-1);
     } else if (offset <= 1) {
         screen.DT(0).setValue(-1); // though this option lies on a hidden panel
     }
@@ -69,13 +75,19 @@ void openDescriptor(FrmEdid& screen, int offset) {
     screen.CurrentBlockIsDescriptor = flagTrue;
     screen.DTInput.setVisible(true);
     colourDescriptorCell(screen, offset);
-    const std::string tag = upperCase(screen.txtEdit(screen.CurrentBlockBase + 3).text());
-    if (tag == "FD") {
-        openRangeLimits(screen, offset);
-    } else if (tag == "FB") {
-        openColourPoint(screen, offset);
-    } else if (tag == "FA") {
-        openStandardTimings(screen, offset);
+    const std::string tag = upperCase(screen.txtEdit(screen.CurrentBlockBase + report::descriptorTagCell).text());
+    switch (report::descriptorFamily(tag)) {
+        case report::RangeLimits:
+            openRangeLimits(screen, offset);
+            break;
+        case report::ColorPoint:
+            openColourPoint(screen, offset);
+            break;
+        case report::StandardTimings:
+            openStandardTimings(screen, offset);
+            break;
+        default:
+            break;
     }
 }
 

@@ -12,8 +12,12 @@ void writeByte(BlockScreen& screen, int cell, int value) {
     screen.txtEdit(cell).setText(ByteToHex2(value));
 }
 
-void replaceBits(BlockScreen& screen, int cell, int keep, int bits) {
-    writeByte(screen, cell, (byteAt(screen, cell) & keep) | bits);
+void writeBits(BlockScreen& screen, int cell, BitRange range, int number) {
+    writeByte(screen, cell, withBits(byteAt(screen, cell), range, number));
+}
+
+void mixBits(BlockScreen& screen, int cell, int kept, int number) {
+    writeByte(screen, cell, (byteAt(screen, cell) & kept) | number);
 }
 
 std::string zeroFilled(std::string_view digits, std::size_t count) {

@@ -9,6 +9,9 @@
 #include "core/base/text.h"
 #include "core/cells.h"
 #include "report/chromaticity.h"
+#include "report/color_point_layout.h"
+#include "report/descriptor_layout.h"
+#include "report/range_limits_layout.h"
 
 namespace wb::block0 {
 
@@ -16,10 +19,11 @@ namespace {
 
 /// Writes a text: its end is a line feed, and blanks fill up; a text of 13 characters has neither.
 void writeText(FrmEdid& screen) {
-    constexpr std::size_t longest = 13;
+    const CellRange range = report::descriptorTextCells;
     const std::string& text = screen.DTaInput.text();
-    for (std::size_t i = 0; i < longest; ++i) {
-        Control& cell = screen.txtEdit(screen.CurrentBlockBase + 5 + static_cast<int>(i));
+    for (int offset = range.first; offset <= range.last; ++offset) {
+        Control& cell = screen.txtEdit(screen.CurrentBlockBase + offset);
+        const auto i = static_cast<std::size_t>(offset - range.first);
         if (i < text.size()) {
             cell.setText(ByteToHex2(static_cast<unsigned char>(text[i])));
         } else {
@@ -34,23 +38,22 @@ double enteredNumber(FrmEdid& screen) {
 
 /// A limit that cannot be 0: such an entry stores 255. The pixel clock comes in MHz and has no upper limit.
 bool writeRangeLimit(FrmEdid& screen) {
-    constexpr int pixelClock = 4;
-    constexpr double highest = 255;
+    constexpr double highest = report::unspecifiedLimit;
     const int limit = screen.DtaOpt.firstSelected();
     if (limit < 0) {
         return true;
     }
     double entry = enteredNumber(screen);
-    if (entry > highest && limit != pixelClock) {
+    if (entry > highest && limit != report::clockLimit) {
         screen.workbench().showMessage("Value entered must be between 0 - 255");
         return false;
     }
     if (entry <= 0) {
         entry = highest;
-    } else if (limit == pixelClock) {
-        entry /= 10;
+    } else if (limit == report::clockLimit) {
+        entry /= report::clockUnit;
     }
-    writeByte(screen, screen.CurrentBlockBase + 5 + limit, patternInt16(entry));
+    writeByte(screen, screen.CurrentBlockBase + report::limitCells.first + limit, patternInt16(entry));
     return true;
 }
 
@@ -64,11 +67,11 @@ struct CurveField {
 
 constexpr int curveM = 2;
 constexpr std::array<CurveField, 5> curveFields = {{
-    {12, 0.5, 0, "Value entered must be integer"}, // tests the sign alone
-    {13, 2, 127, "Value entered must be from 0 - 127"},
-    {14, 1, 65535, "Value entered must be from 0 - 65535"},
-    {16, 1, 255, "Value entered must be from 0 - 255"},
-    {17, 2, 127, "Value entered must be from 0 - 127"},
+    {report::curveStartCell, 0.5, 0, "Value entered must be integer"}, // tests the sign alone
+    {report::curveCCell, 2, 127, "Value entered must be from 0 - 127"},
+    {report::curveMLowCell, 1, 65535, "Value entered must be from 0 - 65535"},
+    {report::curveKCell, 1, 255, "Value entered must be from 0 - 255"},
+    {report::curveJCell, 2, 127, "Value entered must be from 0 - 127"},
 }};
 
 /// The cell of the lower index gets the higher digits, though the decoder reads them the other way round.
@@ -106,20 +109,20 @@ bool writeWhitePoint(FrmEdid& screen) {
         return true;
     }
     const double entry = enteredNumber(screen);
-    const int field = option % 3;
-    const bool isGamma = field == 2;
+    const int field = option % report::optionsOfPoint;
+    const bool isGamma = field == report::gammaOption;
     if (isGamma ? !isGammaEntry(workbench, entry) : !isCoordinate(workbench, entry)) {
         return false;
     }
-    const std::string bits = isGamma ? std::string() : report::FractionToChromaBits(workbench, entry);
-    const int indexCell = screen.CurrentBlockBase + (option < 3 ? 5 : 10);
+    const std::string digits = isGamma ? std::string() : report::FractionToChromaBits(workbench, entry);
+    const int indexCell = screen.CurrentBlockBase + report::whitePointCell(option / report::optionsOfPoint);
     if (byteAt(screen, indexCell) == 0) {
         return false; // a white point that is switched off takes no values
     }
     if (isGamma) {
-        writeByte(screen, indexCell + 4, gammaByte(entry));
+        writeByte(screen, indexCell + report::whiteGammaCell, gammaByte(entry));
     } else {
-        writeCoordinate(screen, bits, indexCell + 1, field == 0 ? 2 : 0, indexCell + 2 + field);
+        writeCoordinate(screen, digits, field == 0 ? report::whiteX : report::whiteY, indexCell);
     }
     return true;
 }
@@ -127,17 +130,15 @@ bool writeWhitePoint(FrmEdid& screen) {
 } // namespace
 
 bool writeDescriptorEntry(FrmEdid& screen) {
-    constexpr int rangeLimits = 2;
-    constexpr int colourPoint = 4;
     switch (screen.DTa.firstSelected()) {
-        case 0: // serial number
-        case 1: // ASCII string
-        case 3: // monitor name
+        case report::SerialNumber:
+        case report::AsciiData:
+        case report::MonitorName:
             writeText(screen);
             return true;
-        case rangeLimits:
+        case report::RangeLimits:
             return screen.DTAGTF.value() != 0 ? writeCurveField(screen) : writeRangeLimit(screen);
-        case colourPoint:
+        case report::ColorPoint:
             return writeWhitePoint(screen);
         default:
             return true;

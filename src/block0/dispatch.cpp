@@ -2,13 +2,16 @@
 
 #include "block0/block_dispatch.h"
 #include "block0/field_decoders.h"
+#include "block0/grid.h"
 #include "block0/panel_basic.h"
 #include "block0/panel_chromaticity.h"
 #include "block0/panel_detailed_timing.h"
 #include "block0/panel_standard.h"
 #include "block0/panel_vendor.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
 #include "report/checksum.h"
+#include "report/descriptor_layout.h"
 #include "report/detailed_timing.h"
 
 namespace wb::block0 {
@@ -22,11 +25,11 @@ BlockScreen& edidScreen(Workbench& workbench) {
 }
 
 CellRange headerCells(int) {
-    return {0, 7};
+    return cells::header;
 }
 
 CellRange theCell(int index) {
-    return {index, index};
+    return oneCell(index);
 }
 
 CellRange evenPair(int index) {
@@ -59,14 +62,24 @@ struct Branch {
 /// The further steps show the panel too.
 constexpr int ownPanel = -1;
 
+/// Where neighbours share a panel.
+constexpr CellRange vendorCells{cells::manufacturer.first, cells::year};
+constexpr CellRange basicCells{cells::videoInput, cells::features};
+
 constexpr Branch branches[] = {
-    {{0, 7}, 0, noCells, &headerCells, nullptr},           {{8, 17}, 1, {8, 17}, &identityField, &openVendorPanel},
-    {{18, 18}, 2, {19, 19}, &theCell, &openVersionPanel},  {{19, 19}, 2, {18, 18}, &theCell, &openVersionPanel},
-    {{20, 24}, 3, noCells, nullptr, &openBasicPanel},      {{25, 34}, 4, noCells, nullptr, &openChromaticityPanel},
-    {{35, 35}, 5, noCells, &theCell, &decodeFieldOf},      {{36, 36}, 6, noCells, &theCell, &decodeFieldOf},
-    {{37, 37}, 7, noCells, &theCell, &decodeFieldOf},      {{38, 53}, 8, {38, 53}, &evenPair, &openStandardTimingPanel},
-    {{54, 125}, ownPanel, noCells, nullptr, &openBlock},   {{126, 126}, 13, {127, 127}, &theCell, &openExtensionFlag},
-    {{127, 127}, 13, {126, 126}, &theCell, &openChecksum},
+    {cells::header, 0, noCells, &headerCells, nullptr},
+    {vendorCells, 1, vendorCells, &identityField, &openVendorPanel},
+    {oneCell(cells::version), 2, oneCell(cells::revision), &theCell, &openVersionPanel},
+    {oneCell(cells::revision), 2, oneCell(cells::version), &theCell, &openVersionPanel},
+    {basicCells, 3, noCells, nullptr, &openBasicPanel},
+    {cells::chromaticity, 4, noCells, nullptr, &openChromaticityPanel},
+    {oneCell(cells::establishedTimings1), 5, noCells, &theCell, &decodeFieldOf},
+    {oneCell(cells::establishedTimings2), 6, noCells, &theCell, &decodeFieldOf},
+    {oneCell(cells::reservedTimings), 7, noCells, &theCell, &decodeFieldOf},
+    {cells::standardTimings, 8, cells::standardTimings, &evenPair, &openStandardTimingPanel},
+    {cells::detailedBlocks, ownPanel, noCells, nullptr, &openBlock},
+    {oneCell(extensionCountCell), 13, oneCell(checksumCell), &theCell, &openExtensionFlag},
+    {oneCell(checksumCell), 13, oneCell(extensionCountCell), &theCell, &openChecksum},
 };
 
 void runBranch(Workbench& workbench, const Branch& branch, int index) {
@@ -124,8 +137,9 @@ void Hints_DblClick(Workbench& workbench, int index) {
         for (int i = base; i < base + detailedBlockSize; ++i) {
             screen.txtEdit(i).setText("00");
         }
-        screen.txtEdit(base + 3).setText("FF");
-        workbench.focus.moveTo(screen.txtEdit(base + 3));
+        Control& tag = screen.txtEdit(base + report::descriptorTagCell);
+        tag.setText(ByteToHex2(report::descriptorTag(report::SerialNumber)));
+        workbench.focus.moveTo(tag);
     });
 }
 

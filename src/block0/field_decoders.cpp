@@ -1,6 +1,6 @@
 #include "block0/field_decoders.h"
 
-#include "block0/grid.h"
+#include "core/base/image_layout.h"
 #include "report/basic_display.h"
 #include "report/chromaticity.h"
 #include "report/detailed_timing.h"
@@ -18,24 +18,24 @@ struct FieldDecoder {
 };
 
 constexpr FieldDecoder decoders[] = {
-    {{8, 9}, &report::ConvertManufacturer},
-    {{10, 11}, &report::ConvertProductCode},
-    {{12, 15}, &report::ConvertSerialNumber},
-    {{16, 16}, &report::ConvertWeek},
-    {{17, 17}, &report::ConvertYear},
-    {{18, 18}, &report::ConvertVersion},
-    {{19, 19}, &report::ConvertRevision},
-    {{20, 20}, &report::ConvertVideoInput},
-    {{21, 21}, &report::ConvertMaxHorizontalSize},
-    {{22, 22}, &report::ConvertMaxVerticalSize},
-    {{23, 23}, &report::ConvertGamma},
-    {{24, 24}, &report::ConvertFeatureSupport},
-    {{25, 34}, &report::ConvertChromaticity},
-    {{35, 35}, &report::ConvertEstablishedTiming1},
-    {{36, 36}, &report::ConvertEstablishedTiming2},
-    {{37, 37}, &report::ConvertReservedTiming},
-    {{38, 53}, &report::ConvertStandardTimings},
-    {{54, 125}, &report::ConvertDetailedTiming},
+    {cells::manufacturer, &report::ConvertManufacturer},
+    {cells::productCode, &report::ConvertProductCode},
+    {cells::serialNumber, &report::ConvertSerialNumber},
+    {oneCell(cells::week), &report::ConvertWeek},
+    {oneCell(cells::year), &report::ConvertYear},
+    {oneCell(cells::version), &report::ConvertVersion},
+    {oneCell(cells::revision), &report::ConvertRevision},
+    {oneCell(cells::videoInput), &report::ConvertVideoInput},
+    {oneCell(cells::maxHorizontalSize), &report::ConvertMaxHorizontalSize},
+    {oneCell(cells::maxVerticalSize), &report::ConvertMaxVerticalSize},
+    {oneCell(cells::gamma), &report::ConvertGamma},
+    {oneCell(cells::features), &report::ConvertFeatureSupport},
+    {cells::chromaticity, &report::ConvertChromaticity},
+    {oneCell(cells::establishedTimings1), &report::ConvertEstablishedTiming1},
+    {oneCell(cells::establishedTimings2), &report::ConvertEstablishedTiming2},
+    {oneCell(cells::reservedTimings), &report::ConvertReservedTiming},
+    {cells::standardTimings, &report::ConvertStandardTimings},
+    {cells::detailedBlocks, &report::ConvertDetailedTiming},
 };
 
 } // namespace

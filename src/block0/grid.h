@@ -1,18 +1,10 @@
 #pragma once
 
 #include "block0/screen_rules.h"
+#include "core/base/image_layout.h"
 
 /// The grid of cells that both block screens have: the gate, the colours, and the common ends of a focus dispatch.
 namespace wb::block0 {
-
-/// Cells `first` to `last`.
-struct CellRange {
-    int first;
-    int last;
-
-    constexpr bool contains(int cell) const { return cell >= first && cell <= last; }
-};
-inline constexpr CellRange noCells{0, -1};
 
 /// Gives cells a background colour, each as a statement of its own.
 void colourCells(const Statements& run, BlockScreen& screen, CellRange cells, CellColour colour);

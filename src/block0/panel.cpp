@@ -6,14 +6,14 @@
 
 namespace wb::block0 {
 
-void changeBits(Workbench& workbench, int cell, int keep, int bits) {
-    replaceBits(workbench.frmEDID(), cell, keep, bits);
+void changeBits(Workbench& workbench, int cell, BitRange range, int number) {
+    writeBits(workbench.frmEDID(), cell, range, number);
     decodeFieldOf(workbench, cell);
     RecalcBlock0Checksum(workbench);
 }
 
-void changeBit(Workbench& workbench, int cell, int bit, const Control& check) {
-    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, cell, 255 - bit, check.value() == 1 ? bit : 0); });
+void changeBit(Workbench& workbench, int cell, int place, const Control& check) {
+    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, cell, {place, place}, check.value() == 1 ? 1 : 0); });
 }
 
 } // namespace wb::block0

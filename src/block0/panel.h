@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/base/bits.h"
 #include "core/keys.h"
 #include "core/workbench.h"
 
@@ -27,10 +28,10 @@ void whenUserActs(Workbench& workbench, Body&& body) {
     });
 }
 
-/// In a cell of block 0, leaves the bits of `keep` and adds `bits`, then decodes the field of the cell.
-void changeBits(Workbench& workbench, int cell, int keep, int bits);
+/// Puts a number into bits of a cell of block 0, then decodes the field of the cell.
+void changeBits(Workbench& workbench, int cell, BitRange range, int number);
 
 /// A click on a check by the user: puts its bit into the cell and decodes the field.
-void changeBit(Workbench& workbench, int cell, int bit, const Control& check);
+void changeBit(Workbench& workbench, int cell, int place, const Control& check);
 
 } // namespace wb::block0

@@ -9,28 +9,27 @@
 #include "core/cells.h"
 #include "core/edid_image.h"
 #include "report/basic_display.h"
+#include "report/basic_display_layout.h"
 
 namespace wb::block0 {
 
 namespace {
 
-constexpr int videoCell = 20;
-constexpr int firstValueCell = 21;
-constexpr int gammaCell = 23;
-constexpr int featureCell = 24;
+/// Both sizes and gamma are entered as numbers.
+constexpr CellRange valueCells{cells::maxHorizontalSize, cells::gamma};
 
 void openValue(Workbench& workbench, int index) {
     FrmEdid& screen = workbench.frmEDID();
-    screen.Basic(index - firstValueCell).setValue(-1);
+    screen.Basic(index - valueCells.first).setValue(-1);
     for (int i = 0; i <= 2; ++i) {
         screen.Basic(i).setVisible(true);
     }
     decodeFieldOf(workbench, index);
     const std::array<const std::string*, 3> decoded = {&workbench.MaxHImageSizeText, &workbench.MaxVImageSizeText,
                                                        &workbench.DisplayGammaText};
-    const std::string& text = *decoded[static_cast<std::size_t>(index - firstValueCell)];
+    const std::string& text = *decoded[static_cast<std::size_t>(index - valueCells.first)];
     const std::size_t blank = text.find(' ');
-    if (index == gammaCell) {
+    if (index == cells::gamma) {
         screen.BasicInput.setText(text);
     } else if (blank != std::string::npos) {
         screen.BasicInput.setText(text.substr(0, blank));
@@ -52,7 +51,7 @@ void writeImageSize(Workbench& workbench, int cell, double entry) {
 
 void writeGamma(Workbench& workbench, double entry) {
     if (isGammaEntry(workbench, entry)) {
-        writeByte(workbench.frmEDID(), gammaCell, gammaByte(entry));
+        writeByte(workbench.frmEDID(), cells::gamma, gammaByte(entry));
         report::ConvertGamma(workbench);
     }
 }
@@ -64,21 +63,21 @@ void openBasicPanel(Workbench& workbench, int index) {
     screen.VideoInput.setVisible(false);
     screen.DPMS.setVisible(false);
     screen.BasicInput.setText("");
-    screen.BasicInput.setVisible(index >= firstValueCell && index <= gammaCell);
+    screen.BasicInput.setVisible(valueCells.contains(index));
     report::ConvertMaxHorizontalSize(workbench);
     report::ConvertMaxVerticalSize(workbench);
     report::ConvertGamma(workbench);
     screen.lbBasic(0).setFontBold(false);
     screen.lbBasic(1).setFontBold(false);
-    colourField(screen, {videoCell, featureCell}, {index, index});
+    colourField(screen, {cells::videoInput, cells::features}, {index, index});
     for (int i = 0; i <= 2; ++i) {
         screen.Basic(i).setVisible(false);
     }
-    if (index == videoCell) {
+    if (index == cells::videoInput) {
         screen.lbBasic(0).setFontBold(true);
         report::ConvertVideoInput(workbench);
         screen.VideoInput.setVisible(true);
-    } else if (index == featureCell) {
+    } else if (index == cells::features) {
         report::ConvertFeatureSupport(workbench);
         screen.DPMS.setVisible(true);
     } else {
@@ -89,7 +88,7 @@ void openBasicPanel(Workbench& workbench, int index) {
 void Basic_Click(Workbench& workbench, int index) {
     whenUserActs(workbench, [&](FrmEdid& screen) {
         if (screen.Basic.firstSelected() >= 0) {
-            workbench.focus.moveTo(screen.txtEdit(index + firstValueCell));
+            workbench.focus.moveTo(screen.txtEdit(index + valueCells.first));
         }
     });
 }
@@ -105,8 +104,8 @@ void BasicInput_KeyUp(Workbench& workbench, int, int keyCode) {
             return;
         }
         const double entry = Value(workbench, screen.BasicInput.text());
-        const int cell = firstValueCell + field;
-        if (cell == gammaCell) {
+        const int cell = valueCells.first + field;
+        if (cell == cells::gamma) {
             writeGamma(workbench, entry);
         } else {
             writeImageSize(workbench, cell, entry);
@@ -116,37 +115,39 @@ void BasicInput_KeyUp(Workbench& workbench, int, int keyCode) {
 
 void VideoMode_Click(Workbench& workbench, int index) {
     whenUserActs(workbench, [&](FrmEdid& screen) {
-        screen.txtEdit(videoCell).setText(index == 1 ? "80" : "00"); // whatever the cell held
-        decodeFieldOf(workbench, videoCell);
+        writeByte(screen, cells::videoInput, withBit(0, report::digitalBit, index == 1)); // whatever the cell held
+        decodeFieldOf(workbench, cells::videoInput);
         RecalcBlock0Checksum(workbench);
     });
 }
 
 void Signal_Click(Workbench& workbench, int index) {
-    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, videoCell, 159, index * 32); });
+    whenUserActs(workbench,
+                 [&](FrmEdid&) { changeBits(workbench, cells::videoInput, report::signalLevelBits, index); });
 }
 
 void Sync_Click(Workbench& workbench, int index) {
-    changeBit(workbench, videoCell, 1 << index, workbench.frmEDID().Sync(index));
+    changeBit(workbench, cells::videoInput, report::syncBits[static_cast<std::size_t>(index)],
+              workbench.frmEDID().Sync(index));
 }
 
 void DFP_1_Click(Workbench& workbench, int index) {
     whenUserActs(workbench, [&](FrmEdid& screen) {
         if (screen.DFP_1(index).value() == 1) {
-            changeBits(workbench, videoCell, 255, 1);
+            changeBits(workbench, cells::videoInput, {report::dfpBit, report::dfpBit}, 1);
         } else {
-            changeBits(workbench, videoCell, 128, 0);
+            changeBits(workbench, cells::videoInput, {report::digitalBit - 1, 0}, 0); // all below it
         }
     });
 }
 
 void DisplayType_Click(Workbench& workbench, int index) {
-    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, featureCell, 231, index * 8); });
+    whenUserActs(workbench, [&](FrmEdid&) { changeBits(workbench, cells::features, report::displayTypeBits, index); });
 }
 
 void FSupport_Click(Workbench& workbench, int index) {
-    constexpr std::array<int, 6> bits = {128, 64, 32, 4, 2, 1};
-    changeBit(workbench, featureCell, bits[static_cast<std::size_t>(index)], workbench.frmEDID().FSupport(index));
+    changeBit(workbench, cells::features, report::featureBits[static_cast<std::size_t>(index)],
+              workbench.frmEDID().FSupport(index));
 }
 
 bool isGammaEntry(Workbench& workbench, double entry) {

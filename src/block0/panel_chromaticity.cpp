@@ -7,15 +7,16 @@
 #include "core/base/text.h"
 #include "core/cells.h"
 #include "report/chromaticity.h"
+#include "report/chromaticity_layout.h"
 
 namespace wb::block0 {
 
 namespace {
 
-constexpr int firstHighCell = 27;
+constexpr int firstHighCell = report::chromaticityFields.front().upper.cell;
 
-int numberOfBits(Workbench& workbench, const std::string& bits) {
-    return roundToInt16(strictNumber(BinaryTextToDecimal(workbench, bits)));
+int numberOf(Workbench& workbench, const std::string& digits) {
+    return roundToInt16(strictNumber(BinaryTextToDecimal(workbench, digits)));
 }
 
 } // namespace
@@ -30,7 +31,7 @@ void openChromaticityPanel(Workbench& workbench, int index) {
     if (isValue) {
         screen.chkChroma(index - firstHighCell).setValue(-1);
     }
-    colourField(screen, {25, 34}, {index, index});
+    colourField(screen, cells::chromaticity, {index, index});
     report::ConvertChromaticity(workbench);
     if (isValue && seeks(workbench)) {
         workbench.focus.moveTo(screen.ChromaValue);
@@ -51,10 +52,10 @@ void ChromaValue_KeyUp(Workbench& workbench, int, int keyCode) {
         if (!isCoordinate(workbench, entry)) {
             return;
         }
-        const std::string bits = report::FractionToChromaBits(workbench, entry);
+        const std::string digits = report::FractionToChromaBits(workbench, entry);
         const int coordinate = screen.chkChroma.firstSelected();
         if (coordinate >= 0) {
-            writeCoordinate(screen, bits, coordinate < 4 ? 25 : 26, 6 - coordinate % 4 * 2, firstHighCell + coordinate);
+            writeCoordinate(screen, digits, report::chromaticityFields[static_cast<std::size_t>(coordinate)]);
         }
         report::ConvertChromaticity(workbench);
     });
@@ -68,10 +69,10 @@ bool isCoordinate(Workbench& workbench, double entry) {
     return true;
 }
 
-void writeCoordinate(BlockScreen& screen, const std::string& bits, int lowCell, int shift, int highCell) {
+void writeCoordinate(BlockScreen& screen, const std::string& digits, const SplitField& field, int firstCell) {
     Workbench& workbench = screen.workbench();
-    replaceBits(screen, lowCell, 255 - (3 << shift), numberOfBits(workbench, rightPart(bits, 2)) << shift);
-    writeByte(screen, highCell, numberOfBits(workbench, leftPart(bits, 8)));
+    writeBits(screen, firstCell + field.lower.cell, field.lower.range, numberOf(workbench, rightPart(digits, 2)));
+    writeByte(screen, firstCell + field.upper.cell, numberOf(workbench, leftPart(digits, 8)));
 }
 
 } // namespace wb::block0

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/base/bits.h"
 #include "core/workbench.h"
 
 /// The panel Hints(4) of the chromaticity coordinates, cells 25 to 34 (VESA E-EDID Standard, Release A, section 3.7).
@@ -18,8 +19,8 @@ void ChromaValue_KeyUp(Workbench& workbench, int index, int keyCode);
 
 /// Whether an entry can be a coordinate; otherwise tells the user.
 bool isCoordinate(Workbench& workbench, double entry);
-/// Writes the ten bits of a coordinate: the last two to `lowCell`, shifted by `shift` bits, whose other bits stay, the
-/// first eight to `highCell`.
-void writeCoordinate(BlockScreen& screen, const std::string& bits, int lowCell, int shift, int highCell);
+/// Writes the ten binary digits of a coordinate into its cells, which are counted from `firstCell`. The other bits of
+/// the lower cell stay.
+void writeCoordinate(BlockScreen& screen, const std::string& digits, const SplitField& field, int firstCell = 0);
 
 } // namespace wb::block0

@@ -1,27 +1,34 @@
 #include "block0/panel_descriptor.h"
 
+#include <array>
+#include <string>
+#include <string_view>
+
 #include "block0/cell_writing.h"
 #include "block0/descriptor_entry.h"
 #include "block0/panel.h"
 #include "core/edid_image.h"
+#include "report/color_point_layout.h"
+#include "report/descriptor_layout.h"
 #include "report/detailed_timing.h"
+#include "report/range_limits_layout.h"
+#include "report/standard_timings_layout.h"
 
 namespace wb::block0 {
 
 namespace {
 
-constexpr int rangeFields = 5;      ///< of the block: first cell of the limits
-constexpr int curveSupport = 10;    ///< of a range limits block: kind of the secondary timing formula
-constexpr int firstIndexByte = 5;   ///< of a colour point block
-constexpr int whitePointLength = 5; ///< index, low bits, two high bytes, gamma
+/// By option of `S_GTF`; that of M leads to the cell with its upper digits.
+constexpr std::array<int, 5> curveFocus = {report::curveStartCell, report::curveCCell, report::curveMHighCell,
+                                           report::curveKCell, report::curveJCell};
 
 void focusOn(Workbench& workbench, int offset) {
     whenUserActs(workbench,
                  [&](FrmEdid& screen) { workbench.focus.moveTo(screen.txtEdit(screen.CurrentBlockBase + offset)); });
 }
 
-void setCell(FrmEdid& screen, int offset, const char* text) {
-    screen.txtEdit(screen.CurrentBlockBase + offset).setText(text);
+void setCell(FrmEdid& screen, int offset, std::string_view text) {
+    screen.txtEdit(screen.CurrentBlockBase + offset).setText(std::string(text));
 }
 
 void showCurve(FrmEdid& screen, bool curve) {
@@ -32,17 +39,16 @@ void showCurve(FrmEdid& screen, bool curve) {
 } // namespace
 
 void DTa_Click(Workbench& workbench, int index) {
-    constexpr int standardTimings = 5;
     constexpr int definedByManufacturer = 7;
     whenUserActs(workbench, [&](FrmEdid& screen) {
         if (index == definedByManufacturer) {
-            setCell(screen, 3, "00");
+            setCell(screen, report::descriptorTagCell, "00");
         } else {
-            writeByte(screen, screen.CurrentBlockBase + 3, 255 - index);
-            if (index == standardTimings) {
-                setCell(screen, 17, "0A");
+            writeByte(screen, screen.CurrentBlockBase + report::descriptorTagCell, report::descriptorTag(index));
+            if (index == report::StandardTimings) {
+                setCell(screen, report::descriptorTimingCells.last + 1, "0A");
             }
-            setCell(screen, 4, "00");
+            setCell(screen, report::descriptorReservedCell, "00");
         }
         report::ConvertDetailedTiming(workbench);
     });
@@ -55,12 +61,12 @@ void DTAGTF_Click(Workbench& workbench, int) {
             const bool curve = screen.DTAGTF.value() != 0;
             showCurve(screen, curve);
             if (curve) {
-                setCell(screen, curveSupport, "02");
-                setCell(screen, curveSupport + 1, "00");
+                setCell(screen, report::formulaCell, report::secondaryGtf);
+                setCell(screen, report::formulaReservedCell, "00");
             } else {
-                setCell(screen, curveSupport, "00");
-                setCell(screen, curveSupport + 1, "0A");
-                for (int i = curveSupport + 2; i <= curveSupport + 7; ++i) {
+                setCell(screen, report::formulaCell, report::noFormula);
+                setCell(screen, report::formulaReservedCell, "0A");
+                for (int i = report::curveCells.first; i <= report::curveCells.last; ++i) {
                     setCell(screen, i, "20");
                 }
             }
@@ -70,26 +76,26 @@ void DTAGTF_Click(Workbench& workbench, int) {
 }
 
 void DtaOpt_Click(Workbench& workbench, int index) {
-    focusOn(workbench, rangeFields + index);
+    focusOn(workbench, report::limitCells.first + index);
 }
 
 void DtaOptWhite_Click(Workbench& workbench, int index) {
-    focusOn(workbench, index <= 2 ? 7 + index : 9 + index);
+    focusOn(workbench, report::whiteOptionCell(index));
 }
 
 void S_GTF_Click(Workbench& workbench, int index) {
-    focusOn(workbench, index <= 1 ? 12 + index : 13 + index);
+    focusOn(workbench, curveFocus[static_cast<std::size_t>(index)]);
 }
 
 void Windex_Click(Workbench& workbench, int index) {
     trapped(workbench, [&] {
         FrmEdid& screen = workbench.frmEDID();
-        const int indexByte = firstIndexByte + whitePointLength * index;
+        const int indexByte = report::whitePointCell(index);
         if (screen.Windex(index).value() == 0) {
             setCell(screen, indexByte, "00");
         } else {
             setCell(screen, indexByte, index == 0 ? "01" : "02");
-            screen.DtaOptWhite(3 * index).setValue(-1);
+            screen.DtaOptWhite(report::optionsOfPoint * index).setValue(-1);
         }
         report::ConvertDetailedTiming(workbench);
     });

@@ -1,6 +1,5 @@
 #include "block0/panel_detailed_timing.h"
 
-#include <algorithm>
 #include <array>
 
 #include "block0/cell_writing.h"
@@ -9,48 +8,69 @@
 #include "core/base/text.h"
 #include "core/edid_image.h"
 #include "core/keys.h"
+#include "report/detailed_timing_layout.h"
 
 namespace wb::block0 {
 
 namespace {
 
-constexpr int flagOffset = 17;
 constexpr double largestEntry = 65534;
 
 /// How the upper digits of an entry reach their cell. A decimal reading is that of the hexadecimal digits as they
 /// stand: "0A" gives 0 and "10" gives 10, so that entries of 2560 and more lose or spill their high digits.
-enum class Upper { None, WholeCell, LastDigit, DecimalReading, VerticalOffset, VerticalWidth };
+enum class Upper { None, WholeCell, LastDigit, DecimalReading, Bits };
 
-/// One field of a detailed timing, in the order of the options DT. Offsets are from the first cell of the block (VESA
-/// E-EDID Standard, Release A, section 3.10.2).
-struct TimingField {
-    int cell;
-    Upper upper;
-    int upperCell;
-    int factor; ///< of the upper digits
-    int keep;   ///< what stays of the upper cell; not always the complement of the field
+constexpr std::array<Upper, report::timingFieldCount> uppers = {
+    Upper::WholeCell,      // pixel clock
+    Upper::LastDigit,      // horizontal active
+    Upper::DecimalReading, // horizontal blanking
+    Upper::LastDigit,      // vertical active
+    Upper::DecimalReading, // vertical blanking
+    Upper::DecimalReading, // horizontal sync offset
+    Upper::DecimalReading, // horizontal pulse width
+    Upper::Bits,           // vertical sync offset
+    Upper::Bits,           // vertical pulse width
+    Upper::None,           // horizontal border
+    Upper::None,           // vertical border
+    Upper::DecimalReading, // horizontal image size
+    Upper::DecimalReading, // vertical image size
 };
 
-constexpr std::array<TimingField, 13> fields = {{
-    {0, Upper::WholeCell, 1, 0, 0},          // pixel clock
-    {2, Upper::LastDigit, 4, 16, 15},        // horizontal active
-    {3, Upper::DecimalReading, 4, 1, 240},   // horizontal blanking
-    {5, Upper::LastDigit, 7, 16, 15},        // vertical active
-    {6, Upper::DecimalReading, 7, 1, 240},   // vertical blanking
-    {8, Upper::DecimalReading, 11, 64, 192}, // horizontal sync offset: keeps its own old bits, wipes the others
-    {9, Upper::DecimalReading, 11, 16, 48},  // horizontal pulse width: likewise
-    {10, Upper::VerticalOffset, 11, 0, 0},   // vertical sync offset
-    {11, Upper::VerticalWidth, 11, 0, 0},    // vertical pulse width; cell 10 takes its low bits
-    {15, Upper::None, 0, 0, 0},              // horizontal border
-    {16, Upper::None, 0, 0, 0},              // vertical border
-    {12, Upper::DecimalReading, 14, 16, 15}, // horizontal image size
-    {13, Upper::DecimalReading, 14, 1, 240}, // vertical image size
-}};
-constexpr int pixelClock = 0;
+/// What stays of the upper cell where that is not all but the bits of the field: these two keep their own old bits and
+/// wipe the others.
+struct OddMask {
+    report::TimingField field;
+    int kept;
+};
+constexpr std::array<OddMask, 2> oddMasks = {{{report::HSyncOffset, 0xC0}, {report::HSyncWidth, 0x30}}};
 
-/// Bits 6, 5 and 0 of the flag byte, by the options DTStereo.
-constexpr std::array<int, 7> stereoBits = {0x20, 0x40, 0x21, 0x41, 0x60, 0x61, 0};
-constexpr int noStereo = 6;
+const SplitField& layoutOf(int field) {
+    return report::timingFields[static_cast<std::size_t>(field)];
+}
+
+/// The cell that stands for a field in the dispatch. Both vertical sync fields have their lower bits in one cell, which
+/// is that of the offset.
+int cellOfField(int field) {
+    return field == report::VSyncWidth ? layoutOf(field).upper.cell : layoutOf(field).lower.cell;
+}
+
+/// The field of a cell, or timingFieldCount.
+int fieldOfCell(int cell) {
+    int field = 0;
+    while (field < report::timingFieldCount && cellOfField(field) != cell) {
+        ++field;
+    }
+    return field;
+}
+
+int keptOf(int field) {
+    for (const OddMask& odd : oddMasks) {
+        if (odd.field == field) {
+            return odd.kept;
+        }
+    }
+    return ~maskOf(layoutOf(field).upper.range);
+}
 
 /// The entry in hexadecimal, at least four digits; eight for a negative one.
 std::string hexDigits(double entry) {
@@ -66,39 +86,41 @@ bool isEntry(Workbench& workbench, double entry) {
     return true;
 }
 
-/// The vertical sync fields have four low bits in one cell and two upper ones in the next.
-void writeVerticalSync(BlockScreen& screen, bool isOffset, const std::string& low) {
+/// All bits of the last two digits go where they belong.
+void writeSplit(BlockScreen& screen, const SplitField& layout, const std::string& low) {
     const int base = screen.CurrentBlockBase;
     const int entry = byteOf(screen.workbench(), low);
-    replaceBits(screen, base + 10, isOffset ? 15 : 240, isOffset ? (entry & 15) * 16 : entry & 15);
-    replaceBits(screen, base + 11, isOffset ? 243 : 252, (entry & 48) / (isOffset ? 4 : 16));
+    writeBits(screen, base + layout.lower.cell, layout.lower.range, entry);
+    writeBits(screen, base + layout.upper.cell, layout.upper.range, entry >> layout.lower.range.width());
 }
 
-void writeField(BlockScreen& screen, const TimingField& field, const std::string& digits) {
+void writeField(BlockScreen& screen, int field, const std::string& digits) {
+    const SplitField& layout = layoutOf(field);
+    const Upper upper = uppers[static_cast<std::size_t>(field)];
     const std::string low = rightPart(digits, 2);
     const std::string high = leftPart(digits, 2);
-    if (field.upper == Upper::VerticalOffset || field.upper == Upper::VerticalWidth) {
-        writeVerticalSync(screen, field.upper == Upper::VerticalOffset, low);
+    if (upper == Upper::Bits) {
+        writeSplit(screen, layout, low);
         return;
     }
-    screen.txtEdit(screen.CurrentBlockBase + field.cell).setText(low);
-    const int upperCell = screen.CurrentBlockBase + field.upperCell;
-    if (field.upper == Upper::WholeCell) {
+    screen.txtEdit(screen.CurrentBlockBase + layout.lower.cell).setText(low);
+    const int upperCell = screen.CurrentBlockBase + layout.upper.cell;
+    if (upper == Upper::WholeCell) {
         screen.txtEdit(upperCell).setText(high);
-    } else if (field.upper == Upper::LastDigit) {
-        replaceBits(screen, upperCell, field.keep, HexDigitValue(rightPart(high, 1)) * field.factor);
-    } else if (field.upper == Upper::DecimalReading) {
+    } else if (upper == Upper::LastDigit) {
+        writeBits(screen, upperCell, layout.upper.range, HexDigitValue(rightPart(high, 1)));
+    } else if (upper == Upper::DecimalReading) {
         const int reading = roundToInt16(Value(screen.workbench(), high));
-        replaceBits(screen, upperCell, field.keep, reading * field.factor);
+        mixBits(screen, upperCell, keptOf(field), reading << layout.upper.range.low);
     }
 }
 
 /// A handler of the flag byte: changes its bits and decodes the block.
-template <class Bits>
-void changeFlags(const BlockScreenRules& rules, Workbench& workbench, Bits&& bits) {
+template <class Change>
+void changeFlags(const BlockScreenRules& rules, Workbench& workbench, Change&& changed) {
     procedure(rules, workbench, [&](BlockScreen& screen, const Statements& run) {
-        const int cell = screen.CurrentBlockBase + flagOffset;
-        run([&] { writeByte(screen, cell, bits(screen, byteAt(screen, cell))); });
+        const int cell = screen.CurrentBlockBase + report::timingFlagCell;
+        run([&] { writeByte(screen, cell, changed(screen, byteAt(screen, cell))); });
         run([&] { rules.convertDetailedTiming(workbench); });
     });
 }
@@ -119,7 +141,8 @@ void resetDetailedTiming(BlockScreen& screen, int lastStereo) {
 
 void showDetailedTimingField(const Statements& run, BlockScreen& screen, int offset) {
     const int cell = screen.CurrentBlockBase + offset;
-    screen.Hints(offset == flagOffset ? BlockScreen::timingFlagPanel : BlockScreen::timingValuePanel).setVisible(true);
+    screen.Hints(offset == report::timingFlagCell ? BlockScreen::timingFlagPanel : BlockScreen::timingValuePanel)
+        .setVisible(true);
     screen.DTInput.setVisible(true);
     if (offset <= 1) {
         colourCells(run, screen, {screen.CurrentBlockBase, screen.CurrentBlockBase + 1}, CellColour::Field);
@@ -127,10 +150,10 @@ void showDetailedTimingField(const Statements& run, BlockScreen& screen, int off
     } else {
         colourCells(run, screen, {cell, cell}, CellColour::Field);
     }
-    const auto field = std::find_if(fields.begin(), fields.end(), [&](const auto& row) { return row.cell == offset; });
-    if (field != fields.end()) {
-        screen.DT(static_cast<int>(field - fields.begin())).setValue(-1);
-    } else if (offset != flagOffset) {
+    const int field = fieldOfCell(offset);
+    if (field < report::timingFieldCount) {
+        screen.DT(field).setValue(-1);
+    } else if (offset != report::timingFlagCell) {
         screen.DTInput.setVisible(false);
     }
 }
@@ -138,7 +161,7 @@ void showDetailedTimingField(const Statements& run, BlockScreen& screen, int off
 void DT_Click(const BlockScreenRules& rules, Workbench& workbench, int index) {
     procedure(rules, workbench, [&](BlockScreen& screen, const Statements& run) {
         if (screen.InFocusDispatch == flagFalse) {
-            const int cell = screen.CurrentBlockBase + fields[static_cast<std::size_t>(index)].cell;
+            const int cell = screen.CurrentBlockBase + cellOfField(index);
             run([&] { workbench.focus.moveTo(screen.txtEdit(cell)); });
         }
     });
@@ -160,14 +183,14 @@ void DTInput_KeyUp(const BlockScreenRules& rules, Workbench& workbench, int keyC
         const int field = screen.DT.firstSelected();
         if (field >= 0) {
             std::string digits = run.read([&] { return hexDigits(entry); });
-            if (field == pixelClock) { // reads the box again, so that what cannot be read is told twice
+            if (field == report::PixelClock) { // reads the box again, so that what cannot be read is told twice
                 const double clock = Value(workbench, screen.DTInput.text()) * 100;
                 if (!isEntry(workbench, clock)) {
                     return;
                 }
                 digits = run.read([&] { return hexDigits(clock); });
             }
-            run([&] { writeField(screen, fields[static_cast<std::size_t>(field)], digits); });
+            run([&] { writeField(screen, field, digits); });
         }
         run([&] { rules.convertDetailedTiming(workbench); });
     });
@@ -177,7 +200,8 @@ void DT1_Click(const BlockScreenRules& rules, Workbench& workbench) {
     procedure(rules, workbench, [](BlockScreen& screen, const Statements& run) {
         if (screen.InFocusDispatch == flagFalse) {
             run([&] {
-                replaceBits(screen, screen.CurrentBlockBase + flagOffset, 127, screen.DT1.value() == 1 ? 128 : 0);
+                const int cell = screen.CurrentBlockBase + report::timingFlagCell;
+                writeByte(screen, cell, withBit(byteAt(screen, cell), report::interlacedBit, screen.DT1.value() == 1));
             });
         }
     });
@@ -191,9 +215,10 @@ void DTStereo_Click(const BlockScreenRules& rules, Workbench& workbench) {
             return;
         }
         run([&] {
-            replaceBits(screen, screen.CurrentBlockBase + flagOffset, 255 - 0x61,
-                        stereoBits[static_cast<std::size_t>(choice)]);
-            if (choice == noStereo) {
+            const int cell = screen.CurrentBlockBase + report::timingFlagCell;
+            const int code = report::stereoCodes[static_cast<std::size_t>(choice)];
+            writeByte(screen, cell, report::withStereoCode(byteAt(screen, cell), code));
+            if (choice == report::noStereoOption) {
                 screen.frmStereo.setCaption("Normal Display - No Stereo");
             }
         });
@@ -202,22 +227,24 @@ void DTStereo_Click(const BlockScreenRules& rules, Workbench& workbench) {
 
 void DTSync_Click(const BlockScreenRules& rules, Workbench& workbench) {
     if (rules.screen(workbench).InFocusDispatch == flagFalse) {
-        changeFlags(rules, workbench,
-                    [](BlockScreen& screen, int old) { return (old & 231) | screen.DTSync.firstSelected(0) * 8; });
+        changeFlags(rules, workbench, [](BlockScreen& screen, int old) {
+            return withBits(old, report::syncKindBits, screen.DTSync.firstSelected(0));
+        });
     }
 }
 
 void SyncLine_Click(const BlockScreenRules& rules, Workbench& workbench) {
-    changeFlags(rules, workbench, [](BlockScreen&, int old) { return old ^ 2; });
+    changeFlags(rules, workbench, [](BlockScreen&, int old) { return old ^ (1 << report::polarityBit); });
 }
 
 void VSyncLine_Click(const BlockScreenRules& rules, Workbench& workbench) {
-    changeFlags(rules, workbench, [](BlockScreen&, int old) { return old ^ 4; });
+    changeFlags(rules, workbench, [](BlockScreen&, int old) { return old ^ (1 << report::serrateBit); });
 }
 
 void SyncSerrate_Click(const BlockScreenRules& rules, Workbench& workbench) {
-    changeFlags(rules, workbench,
-                [](BlockScreen& screen, int old) { return screen.SyncSerrate.value() == 1 ? old | 4 : old & 251; });
+    changeFlags(rules, workbench, [](BlockScreen& screen, int old) {
+        return withBit(old, report::serrateBit, screen.SyncSerrate.value() == 1);
+    });
 }
 
 } // namespace wb::block0

@@ -5,23 +5,20 @@
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/cells.h"
+#include "report/descriptor_layout.h"
 #include "report/detailed_timing.h"
 #include "report/standard_timings.h"
+#include "report/standard_timings_layout.h"
 
 namespace wb::block0 {
 
 namespace {
 
-constexpr int firstCell = 38;
-constexpr int disablingOption = 6;
+constexpr int disablingOption = report::descriptorTimingCount; ///< of `ExtSTOpt`
 
 /// First cell of a pair of the descriptor in hand.
 int descriptorPair(const FrmEdid& screen, int pair) {
-    return screen.CurrentBlockBase + 5 + 2 * pair;
-}
-
-void writeAspect(BlockScreen& screen, int cell, int aspect) {
-    replaceBits(screen, cell, 63, aspect * 64);
+    return screen.CurrentBlockBase + report::descriptorTimingCell(pair);
 }
 
 /// Writes an entry to the pair that begins at `first`. False when it was refused.
@@ -30,16 +27,17 @@ bool writeEntry(FrmEdid& screen, int first, const Control& adjustHorizontal, con
     Workbench& workbench = screen.workbench();
     int entry = roundToInt16(Value(workbench, text));
     if (adjustHorizontal.selected()) {
-        entry = entry > 0 ? roundToInt16(entry / 8.0 - 31) : entry;
+        entry = entry > 0 ? roundToInt16(static_cast<double>(entry) / report::widthUnit - report::widthOffset) : entry;
     } else {
-        entry = int16From(entry - 60);
+        entry = int16From(entry - report::lowestRate);
     }
     if (entry > largest) {
         workbench.showMessage("Invalid Value");
         return false;
     }
     if (!adjustHorizontal.selected()) {
-        replaceBits(screen, first + 1, 192, entry);
+        // A rate that is too high spills into the aspect.
+        mixBits(screen, first + 1, maskOf(report::aspectBits), entry);
     } else if (entry == 0) { // the mark of an unused pair
         screen.txtEdit(first).setText("01");
         screen.txtEdit(first + 1).setText("01");
@@ -53,14 +51,15 @@ bool writeEntry(FrmEdid& screen, int first, const Control& adjustHorizontal, con
 
 void openStandardTimingPanel(Workbench& workbench, int index) {
     FrmEdid& screen = workbench.frmEDID();
-    const int pair = (index - firstCell) / 2;
+    const int pair = (index - report::standardTimingCell(0)) / 2;
     screen.STOpt(pair).setValue(-1);
-    screen.CurrentBlockBase = static_cast<std::int16_t>(firstCell + 1 + 2 * pair);
+    screen.CurrentBlockBase = static_cast<std::int16_t>(report::standardTimingCell(pair) + 1);
     report::ConvertStandardTimings(workbench);
 }
 
 void STOpt_Click(Workbench& workbench, int index) {
-    whenUserActs(workbench, [&](FrmEdid& screen) { workbench.focus.moveTo(screen.txtEdit(firstCell + 2 * index)); });
+    whenUserActs(workbench,
+                 [&](FrmEdid& screen) { workbench.focus.moveTo(screen.txtEdit(report::standardTimingCell(index))); });
 }
 
 void ExtSTOpt_Click(Workbench& workbench, int index) {
@@ -71,8 +70,8 @@ void ExtSTOpt_Click(Workbench& workbench, int index) {
         }
         screen.Hints(FrmEdid::descriptorPanel).setVisible(true);
         screen.Hints(FrmEdid::timingDescriptorPanel).setVisible(false);
-        Control& tag = screen.txtEdit(screen.CurrentBlockBase + 3);
-        tag.setText("FF");
+        Control& tag = screen.txtEdit(screen.CurrentBlockBase + report::descriptorTagCell);
+        tag.setText(ByteToHex2(report::descriptorTag(report::SerialNumber)));
         workbench.focus.moveTo(tag);
     });
 }
@@ -81,7 +80,7 @@ void STAOptb_Click(Workbench& workbench, int index) {
     whenUserActs(workbench, [&](FrmEdid& screen) {
         const int pair = screen.STOpt.firstSelected();
         if (pair >= 0) {
-            writeAspect(screen, firstCell + 2 * pair + 1, index);
+            writeBits(screen, report::standardTimingCell(pair) + 1, report::aspectBits, index);
             report::ConvertStandardTimings(workbench);
         }
     });
@@ -91,7 +90,7 @@ void ExtSTAOptb_Click(Workbench& workbench, int index) {
     whenUserActs(workbench, [&](FrmEdid& screen) {
         const int pair = screen.ExtSTOpt.firstSelected(0, disablingOption - 1);
         if (pair >= 0) {
-            writeAspect(screen, descriptorPair(screen, pair) + 1, index);
+            writeBits(screen, descriptorPair(screen, pair) + 1, report::aspectBits, index);
             report::ConvertDetailedTiming(workbench);
         }
     });

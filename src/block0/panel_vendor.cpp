@@ -8,6 +8,7 @@
 #include "core/base/text.h"
 #include "core/cells.h"
 #include "report/identity.h"
+#include "report/identity_layout.h"
 
 namespace wb::block0 {
 
@@ -25,11 +26,15 @@ void encodeManufacturer(Workbench& workbench, const std::string& entry) {
     // Missing letters count as 0; a character before "@" as a negative number, which then takes four digits.
     std::array<int, 3> letters{};
     for (std::size_t i = 0; i < letters.size() && i < entry.size(); ++i) {
-        letters[i] = static_cast<unsigned char>(entry[i]) - 64;
+        letters[i] = static_cast<unsigned char>(entry[i]) - report::letterBase;
     }
     FrmEdid& screen = workbench.frmEDID();
-    writeByte(screen, 8, letters[0] * 4 + (letters[1] & 24) / 8);
-    writeByte(screen, 9, (letters[1] & 7) * 32 + letters[2]);
+    const BitRange upper = report::secondLetter.upper.range;
+    const BitRange lower = report::secondLetter.lower.range;
+    // The first and the third letter are not cut to their five bits.
+    writeByte(screen, cells::manufacturer.first,
+              (letters[0] << report::firstLetterBits.low) + withBits(0, upper, letters[1] >> lower.width()));
+    writeByte(screen, cells::manufacturer.last, withBits(0, lower, letters[1]) + letters[2]);
     report::ConvertManufacturer(workbench);
 }
 
@@ -37,8 +42,8 @@ void encodeManufacturer(Workbench& workbench, const std::string& entry) {
 void encodeProductCode(Workbench& workbench, const std::string& entry) {
     FrmEdid& screen = workbench.frmEDID();
     if (!entry.empty() && entry.size() <= 4) {
-        screen.txtEdit(10).setText(leftPart(zeroFilled(entry, 4), 2));
-        screen.txtEdit(11).setText(rightPart(entry, 2));
+        screen.txtEdit(cells::productCode.first).setText(leftPart(zeroFilled(entry, 4), 2));
+        screen.txtEdit(cells::productCode.last).setText(rightPart(entry, 2));
     }
     report::ConvertProductCode(workbench);
 }
@@ -46,7 +51,7 @@ void encodeProductCode(Workbench& workbench, const std::string& entry) {
 void encodeSerialNumber(Workbench& workbench, const std::string& entry) {
     FrmEdid& screen = workbench.frmEDID();
     const std::string digits = zeroFilled(hexadecimal32(roundToInt32(Value(workbench, entry))), 8);
-    int cell = 15; // the first digits are the highest and stand in the last cell
+    int cell = cells::serialNumber.last; // the first digits are the highest and stand in the last cell
     for (std::size_t position = 0; position < digits.size(); position += 2) {
         screen.txtEdit(cell--).setText(digits.substr(position, 2));
     }
@@ -59,31 +64,30 @@ void encodeWeek(Workbench& workbench, const std::string& entry) {
         workbench.showMessage("Max value is 52");
         return;
     }
-    writeByte(workbench.frmEDID(), 16, week);
+    writeByte(workbench.frmEDID(), cells::week, week);
     report::ConvertWeek(workbench);
 }
 
 void encodeYear(Workbench& workbench, const std::string& entry) {
-    constexpr int firstYear = 1990;
     if (entry.size() < 4) {
         workbench.showMessage("Please enter in the full year (1999)");
         return;
     }
     const int year = roundToInt16(Value(workbench, entry));
-    if (year < firstYear) {
+    if (year < report::firstYear) {
         workbench.showMessage("The Range is 1990-2155"); // the upper end is told but not tested
         return;
     }
-    writeByte(workbench.frmEDID(), 17, year - firstYear);
+    writeByte(workbench.frmEDID(), cells::year, year - report::firstYear);
     report::ConvertYear(workbench);
 }
 
 constexpr std::array<IdentityField, 5> identityFields = {{
-    {{8, 9}, 3, &report::ConvertManufacturer, &encodeManufacturer},
-    {{10, 11}, 4, &report::ConvertProductCode, &encodeProductCode},
-    {{12, 15}, 20, &report::ConvertSerialNumber, &encodeSerialNumber},
-    {{16, 16}, 2, &report::ConvertWeek, &encodeWeek},
-    {{17, 17}, 4, &report::ConvertYear, &encodeYear},
+    {cells::manufacturer, 3, &report::ConvertManufacturer, &encodeManufacturer},
+    {cells::productCode, 4, &report::ConvertProductCode, &encodeProductCode},
+    {cells::serialNumber, 20, &report::ConvertSerialNumber, &encodeSerialNumber},
+    {oneCell(cells::week), 2, &report::ConvertWeek, &encodeWeek},
+    {oneCell(cells::year), 4, &report::ConvertYear, &encodeYear},
 }};
 constexpr int manufacturer = 0;
 constexpr int productCode = 1;
@@ -144,12 +148,11 @@ void openVendorPanel(Workbench& workbench, int index) {
 }
 
 void openVersionPanel(Workbench& workbench, int index) {
-    constexpr int versionCell = 18;
     FrmEdid& screen = workbench.frmEDID();
     report::ConvertVersion(workbench);
     report::ConvertRevision(workbench);
-    screen.lbEDID(0).setFontBold(index == versionCell);
-    screen.lbEDID(1).setFontBold(index != versionCell);
+    screen.lbEDID(0).setFontBold(index == cells::version);
+    screen.lbEDID(1).setFontBold(index != cells::version);
     screen.VerRev.setText(formatNumber(byteAt(screen, index), "0"));
     if (seeks(workbench)) {
         workbench.focus.moveTo(screen.VerRev);
@@ -201,7 +204,7 @@ void VerRev_KeyUp(Workbench& workbench, int, int keyCode) {
             workbench.showMessage("This value must value between 0 and 255");
             return;
         }
-        writeByte(screen, screen.lbEDID(0).fontBold() ? 18 : 19, patternInt16(entry));
+        writeByte(screen, screen.lbEDID(0).fontBold() ? cells::version : cells::revision, patternInt16(entry));
         report::ConvertVersion(workbench);
         report::ConvertRevision(workbench);
     });

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "block0/grid.h"
+#include "core/base/image_layout.h"
+#include "core/workbench.h"
 
 /// The panels of the identity fields: Hints(1) for vendor and product, cells 8 to 17 (VESA E-EDID Standard, Release A,
 /// section 3.4), Hints(2) for version and revision, cells 18 and 19 (section 3.5).

@@ -15,8 +15,6 @@ namespace wb::cea {
 
 namespace {
 
-using block0::CellRange;
-
 CellRange at(int cell) {
     return {cell, cell};
 }

@@ -13,7 +13,15 @@ inline constexpr int descriptorReservedCell = 4;
 inline constexpr CellRange descriptorTextCells{5, detailedBlockSize - 1};
 
 /// The families with a meaning, by their options on the panel.
-enum DescriptorFamily { SerialNumber, AsciiData, RangeLimits, MonitorName, ColorPoint, StandardTimings, familyCount };
+enum DescriptorFamily {
+    SerialNumber,
+    AsciiData,
+    RangeLimits,
+    MonitorName,
+    ColorPoint,
+    StandardTimings,
+    descriptorFamilyCount
+};
 
 /// The tag of an option: from FF hexadecimal down, also behind the families.
 constexpr int descriptorTag(int option) {

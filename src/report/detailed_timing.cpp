@@ -21,7 +21,7 @@ struct FieldWords {
 };
 
 /// By TimingField.
-constexpr std::array<FieldWords, fieldCount> fieldWords = {{
+constexpr std::array<FieldWords, timingFieldCount> fieldWords = {{
     {"Pixel Clock", " MHz"},
     {"Active Time", " pixels"},
     {"Blanking Time", " pixels"},
@@ -102,7 +102,7 @@ public:
         if (rules_.titleTellsScan) {
             statement_([&] { convertInterlace(); });
         }
-        for (int i = 0; i < fieldCount; ++i) {
+        for (int i = 0; i < timingFieldCount; ++i) {
             statement_([&] { convertField(i); });
         }
         if (!rules_.titleTellsScan) {

@@ -23,13 +23,13 @@ enum TimingField {
     VBorder,
     HImageSize,
     VImageSize,
-    fieldCount
+    timingFieldCount
 };
 
 /// Of a number that has no upper bits.
 inline constexpr CellBits noUpperBits{-1, {-1, 0}};
 
-inline constexpr std::array<SplitField, fieldCount> timingFields = {{
+inline constexpr std::array<SplitField, timingFieldCount> timingFields = {{
     {{1, wholeByte}, {0, wholeByte}},
     {{4, {7, 4}}, {2, wholeByte}},
     {{4, {3, 0}}, {3, wholeByte}},

@@ -9,8 +9,8 @@ namespace wb::report {
 
 /// What the report of a detailed timing tells, in words.
 struct TimingTexts {
-    std::array<std::string, fieldCount> fields; ///< "Active Time: 1920 pixels"
-    std::string width, height, scan;            ///< of the title, such as "1920", "1080", "i"
+    std::array<std::string, timingFieldCount> fields; ///< "Active Time: 1920 pixels"
+    std::string width, height, scan;                  ///< of the title, such as "1920", "1080", "i"
     std::string refresh, stereo, sync;
     std::string horizontalRate, verticalRate;
 };

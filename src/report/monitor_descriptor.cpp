@@ -18,7 +18,7 @@ namespace {
 constexpr int lineFeed = 10;
 
 /// By family.
-constexpr std::array<std::string_view, familyCount> headings = {
+constexpr std::array<std::string_view, descriptorFamilyCount> headings = {
     "Monitor Serial Number:", "ASCII Data:",  "Monitor Range Limits:",
     "Monitor Name:",          "Color Point:", "Standard Timing Identifiers:",
 };
@@ -30,7 +30,7 @@ constexpr int inputHeightAtColours = 1095; ///< twips, beside the colour point p
 int readTag(const DescriptorBlock& block) {
     const int value = block.cellValue(descriptorTagCell);
     const int family = descriptorFamily(upperCase(block.cell(descriptorTagCell).text()));
-    if (family == familyCount) {
+    if (family == descriptorFamilyCount) {
         return value;
     }
     block.text() = line();
@@ -129,7 +129,7 @@ void finish(const DescriptorBlock& block) {
 
 int descriptorFamily(std::string_view tag) {
     int family = 0;
-    while (family < familyCount && ByteToHex2(descriptorTag(family)) != tag) {
+    while (family < descriptorFamilyCount && ByteToHex2(descriptorTag(family)) != tag) {
         ++family;
     }
     return family;
@@ -137,7 +137,7 @@ int descriptorFamily(std::string_view tag) {
 
 std::string_view descriptorHeading(std::string_view tag) {
     const int family = descriptorFamily(tag);
-    return family == familyCount ? std::string_view() : headings[static_cast<std::size_t>(family)];
+    return family == descriptorFamilyCount ? std::string_view() : headings[static_cast<std::size_t>(family)];
 }
 
 bool appendMonitorName(FrmEdid& screen, int block, std::string& name) {

@@ -14,7 +14,7 @@ namespace wb::report {
 /// in the table nor below 8, and a colour point while its panel is hidden.
 void ConvertDetailedTiminga(Workbench& workbench);
 
-/// The DescriptorFamily of a tag, "FA" to "FF" in upper case; familyCount for any other.
+/// The DescriptorFamily of a tag, "FA" to "FF" in upper case; descriptorFamilyCount for any other.
 int descriptorFamily(std::string_view tag);
 
 /// The heading of the descriptors of a tag, "FA" to "FF" in upper case; empty for any other.
