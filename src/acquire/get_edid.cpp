@@ -5,6 +5,7 @@
 
 #include "acquire/registry_search.h"
 #include "cea/definitions.h"
+#include "core/base/image_layout.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
@@ -16,8 +17,6 @@ namespace wb::acquire {
 
 namespace {
 
-/// Block 0 and one extension block; a longer value loses the rest.
-constexpr std::size_t imageSize = std::size_t{2} * BlockScreen::cellCount;
 constexpr int readerTries = 5;
 
 std::string bootTimeNotes() {
@@ -82,7 +81,7 @@ std::optional<std::string> readStoredEdid(Workbench& workbench) {
 
 void LoadStoredEdid(Workbench& workbench, std::string data) {
     trapped(workbench, [&] {
-        data.resize(std::min(data.size(), imageSize));
+        data.resize(std::min<std::size_t>(data.size(), imageSize));
         openScreen(workbench);
         FrmEdid& screen = workbench.frmEDID();
         for (int i = 0; i < BlockScreen::cellCount; ++i) {

@@ -4,8 +4,13 @@
 
 #include "cea/digits.h"
 #include "cea/flag_list.h"
+#include "cea/handlers.h"
 #include "cea/panels.h"
+#include "cea/procedure.h"
 #include "cea/short_audio.h"
+#include "core/base/bits.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
 
 namespace wb::cea {
@@ -75,8 +80,8 @@ void SampFreq_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
         const bool last = lastInFocus(run.workbench);
         const int cellIndex = audioCell(run.workbench, last, 2);
-        constexpr int withoutReserved = 127;
-        writeFlag(run, cellIndex, withoutReserved, 1 << index, run.screen.SampFreq(index));
+        constexpr BitRange withoutReserved{6, 0};
+        writeFlag(run, cellIndex, withoutReserved, index, run.screen.SampFreq(index));
         if (last) {
             BuildLastSampFreq(run.workbench);
         } else {
@@ -89,8 +94,8 @@ void bitrate_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
         const bool last = lastInFocus(run.workbench);
         const int cellIndex = audioCell(run.workbench, last, 3);
-        constexpr int sizeBits = 7;
-        writeFlag(run, cellIndex, sizeBits, 1 << index, run.screen.bitrate(index));
+        constexpr BitRange sizeBits{2, 0};
+        writeFlag(run, cellIndex, sizeBits, index, run.screen.bitrate(index));
         if (last) {
             BuildLastBitRate(run.workbench);
         } else {

@@ -1,27 +1,31 @@
 #include "cea/data_blocks.h"
 
+#include "cea/checksum.h"
 #include "cea/digits.h"
 #include "cea/header.h"
+#include "cea/location.h"
 #include "cea/procedure.h"
+#include "core/base/image_layout.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
+#include "core/cells.h"
 #include "core/edid_image.h"
 
 namespace wb::cea {
 
 namespace {
 
-constexpr int extensionStart = 128; ///< place of the extension block in the transfer buffer
-constexpr int lastDataCell = 126;   ///< the check sum follows
-constexpr int collectionStart = 4;
+constexpr int lastDataCell = checksumCell - 1;
 
 void readOffset(const Procedure& run) {
     Workbench& workbench = run.workbench;
-    if (run.text(0) == "02") {
-        workbench.ExtDtdOffsetText = std::to_string(byteAt(run.screen, 2));
+    if (run.text(extensionCells::tag) == "02") {
+        workbench.ExtDtdOffsetText = std::to_string(byteAt(run.screen, extensionCells::timingOffset));
         run.screen.lbEDID(5).setCaption(offsetCaption(workbench.ExtDtdOffsetText));
         workbench.ExtDtdStart =
-            workbench.ExtDtdOffsetText == "0" ? int16From(collectionStart) : timingOffset(workbench);
+            workbench.ExtDtdOffsetText == "0" ? int16From(extensionCells::dataBlocks) : timingOffset(workbench);
     } else {
-        workbench.ExtDtdStart = int16From(run.text(2) == "00" ? 2 : 3);
+        workbench.ExtDtdStart = int16From(run.text(extensionCells::timingOffset) == "00" ? 2 : 3);
         workbench.ExtDtdOffsetText = std::to_string(workbench.ExtDtdStart);
     }
 }
@@ -32,12 +36,12 @@ void blank(const Procedure& run, int from, int to) {
     }
 }
 
-/// Copies the loaded area to where the new offset has it. The inner run knows no end of the grid, and starts over while
-/// there is room behind it.
+/// Copies the loaded area, which stands in the second half of the transfer buffer, to where the new offset has it. The
+/// inner run knows no end of the grid, and starts over while there is room behind it.
 void copyLoadedArea(const Procedure& run, int offset, int loadedOffset, int lastSource) {
     int i = offset;
     while (i <= lastDataCell) {
-        for (int j = loadedOffset + extensionStart; j <= lastSource; ++j) {
+        for (int j = loadedOffset + blockSize; j <= lastSource; ++j) {
             run.statement([&] { run.cell(i).setText(run.workbench.EDIDCells(j)); });
             ++i;
         }
@@ -50,10 +54,10 @@ void moveTimings(const Procedure& run) {
     const int loadedOffset = run.workbench.CEADtdOffset;
     if (offset > loadedOffset && loadedOffset != 0) {
         blank(run, loadedOffset, offset - 1);
-        copyLoadedArea(run, offset, loadedOffset, 254);
+        copyLoadedArea(run, offset, loadedOffset, blockSize + lastDataCell);
     } else if (offset < loadedOffset) {
-        copyLoadedArea(run, offset, loadedOffset, 255);
-        blank(run, 127 - (loadedOffset - offset), lastDataCell);
+        copyLoadedArea(run, offset, loadedOffset, blockSize + checksumCell);
+        blank(run, checksumCell - (loadedOffset - offset), lastDataCell);
     }
 }
 
@@ -116,18 +120,18 @@ private:
 
 void scanCollection(const Procedure& run) {
     Scan scan(run.workbench);
-    for (int i = collectionStart; i < run.workbench.ExtDtdStart; ++i) {
+    for (int i = extensionCells::dataBlocks; i < run.workbench.ExtDtdStart; ++i) {
         run.statement([&] { scan.look(i, run.text(i)); });
     }
 }
 
 void settleVideoStart(const Procedure& run) {
     run.statement([&] {
-        if (timingOffset(run.workbench) == collectionStart) {
+        if (timingOffset(run.workbench) == extensionCells::dataBlocks) {
             run.workbench.VideoBlockStart = 0;
         } else if (run.workbench.AudioBlockStart == 0 && run.workbench.VendorBlockStart == 0 &&
                    run.workbench.SpeakerBlockStart == 0) {
-            run.workbench.VideoBlockStart = collectionStart;
+            run.workbench.VideoBlockStart = extensionCells::dataBlocks;
         }
     });
 }

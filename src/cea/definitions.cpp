@@ -1,5 +1,6 @@
 #include "cea/definitions.h"
 
+#include "cea/checksum.h"
 #include "cea/data_blocks.h"
 #include "cea/detailed_slots.h"
 #include "cea/dtv_support.h"
@@ -10,6 +11,8 @@
 #include "cea/speaker.h"
 #include "cea/tag_panel.h"
 #include "cea/vendor.h"
+#include "core/base/image_layout.h"
+#include "core/base/numbers.h"
 #include "core/edid_image.h"
 
 namespace wb::cea {
@@ -23,7 +26,7 @@ bool isDecodedSlot(int slot, int base) {
     if (slot <= 4) {
         return true;
     }
-    return slot <= lastSlot && lastTimingCell - base >= detailedBlockSize && base != 90;
+    return slot <= lastSlot && extensionCells::lastTiming - base >= detailedBlockSize && base != 90;
 }
 
 } // namespace

@@ -1,8 +1,15 @@
 #include "cea/detailed_slots.h"
 
 #include "block0/panel_detailed_timing.h"
+#include "cea/checksum.h"
+#include "cea/handlers.h"
+#include "cea/location.h"
 #include "cea/procedure.h"
+#include "core/base/image_layout.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/edid_image.h"
+#include "report/descriptor_layout.h"
 #include "report/detailed_timing.h"
 #include "report/monitor_descriptor.h"
 
@@ -45,7 +52,7 @@ void findSlot(const Procedure& run, int index) {
 } // namespace
 
 std::int16_t lastSlotOf(const Workbench& workbench) {
-    return int16From((lastTimingCell - workbench.ExtDtdStart) / detailedBlockSize);
+    return int16From((extensionCells::lastTiming - workbench.ExtDtdStart) / detailedBlockSize);
 }
 
 void ConvertDetailedTiming(Workbench& workbench) {
@@ -54,7 +61,8 @@ void ConvertDetailedTiming(Workbench& workbench) {
 
 void ConvertDetailedTiminga(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const std::string tag = upperCase(run.readText(location(run.screen.CurrentBlockBase, 3)));
+        const std::string tag =
+            upperCase(run.readText(location(run.screen.CurrentBlockBase, report::descriptorTagCell)));
         run.statement([&] { run.workbench.ExtDetailedBlockText(run.screen.CurrentBlockNumber) = headingOf(tag); });
     });
 }

@@ -6,9 +6,6 @@
 /// panels are those of block 0 under the rules of this screen.
 namespace wb::cea {
 
-/// The last cell that counts to the timings.
-inline constexpr int lastTimingCell = 125;
-
 /// The number of the last slot before the end of the timing area, counted from 0.
 std::int16_t lastSlotOf(const Workbench& workbench);
 

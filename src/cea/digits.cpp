@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/base/bits.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/cells.h"
@@ -22,8 +23,8 @@ int binaryNumber(Workbench& workbench, std::string_view digits) {
 
 std::string binaryDigits(int number, int count) {
     std::string digits;
-    for (int bit = count - 1; bit >= 0; --bit) {
-        digits += ((number >> bit) & 1) != 0 ? '1' : '0';
+    for (int place = count - 1; place >= 0; --place) {
+        digits += bit(number, place) ? '1' : '0';
     }
     return digits;
 }

@@ -6,13 +6,17 @@
 #include "cea/dispatch_steps.h"
 #include "cea/dtv_support.h"
 #include "cea/header.h"
+#include "cea/location.h"
 #include "cea/panels.h"
+#include "cea/procedure.h"
 #include "cea/screen.h"
 #include "cea/short_audio.h"
 #include "cea/short_video.h"
 #include "cea/speaker.h"
 #include "cea/tag_panel.h"
 #include "cea/vendor.h"
+#include "core/base/image_layout.h"
+#include "core/base/numbers.h"
 #include "core/edid_image.h"
 
 namespace wb::cea {
@@ -157,11 +161,11 @@ void openTiming(const Procedure& run, int index) {
 /// has none of that number.
 void openEnd(const Procedure& run, int index) {
     run.screen.Hints(panels::tag).setVisible(false);
-    const int other = index == 126 ? 127 : 126;
+    const int other = index == checksumCell ? checksumCell - 1 : checksumCell;
     run.colour(other, other, CellColour::Group);
     colourField(run, index);
-    run.statement([&] { run.screen.lbEDID(7).setFontBold(index == 127); });
-    run.statement([&] { run.screen.lbEDID(6).setFontBold(index == 126); });
+    run.statement([&] { run.screen.lbEDID(7).setFontBold(index == checksumCell); });
+    run.statement([&] { run.screen.lbEDID(6).setFontBold(index != checksumCell); });
 }
 
 struct Row {
@@ -171,10 +175,10 @@ struct Row {
 
 /// A location of 0, not known, counts like any other.
 constexpr Row rows[] = {
-    {[](const Workbench&, int i) { return i == 0; }, &openPlainCell},
-    {[](const Workbench&, int i) { return i == 1; }, &openVersion},
-    {[](const Workbench&, int i) { return i == 2; }, &openOffset},
-    {[](const Workbench&, int i) { return i == 3; }, &openSupport},
+    {[](const Workbench&, int i) { return i == extensionCells::tag; }, &openPlainCell},
+    {[](const Workbench&, int i) { return i == extensionCells::version; }, &openVersion},
+    {[](const Workbench&, int i) { return i == extensionCells::timingOffset; }, &openOffset},
+    {[](const Workbench&, int i) { return i == extensionCells::support; }, &openSupport},
     {[](const Workbench& workbench, int i) { return i == workbench.VideoBlockStart; }, &openVideoHeader},
     {[](const Workbench& workbench, int i) {
          return isIn(i, workbench.VideoBlockStart, 1, workbench.VideoBlockLength);
@@ -195,8 +199,9 @@ constexpr Row rows[] = {
     {[](const Workbench& workbench, int i) { return isIn(i, workbench.VendorBlockStart, 1, 3); }, &openVendorID},
     {[](const Workbench& workbench, int i) { return isIn(i, workbench.VendorBlockStart, 4, 5); }, &openVendorData},
     {[](const Workbench& workbench, int i) { return isIn(i, workbench.VendorBlockStart, 6, 6); }, &openVendorExtension},
-    {[](const Workbench& workbench, int i) { return i >= workbench.ExtDtdStart && i <= lastTimingCell; }, &openTiming},
-    {[](const Workbench&, int i) { return i >= 126; }, &openEnd},
+    {[](const Workbench& workbench, int i) { return i >= workbench.ExtDtdStart && i <= extensionCells::lastTiming; },
+     &openTiming},
+    {[](const Workbench&, int i) { return i > extensionCells::lastTiming; }, &openEnd},
 };
 
 } // namespace

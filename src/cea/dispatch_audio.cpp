@@ -1,9 +1,12 @@
 #include "cea/dispatch_audio.h"
 
 #include "cea/dispatch_steps.h"
+#include "cea/location.h"
 #include "cea/panels.h"
+#include "cea/procedure.h"
 #include "cea/short_audio.h"
 #include "cea/tag_panel.h"
+#include "core/base/numbers.h"
 
 namespace wb::cea {
 

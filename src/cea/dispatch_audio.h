@@ -1,11 +1,11 @@
 #pragma once
 
-#include "cea/procedure.h"
-
 /// The rows of the focus dispatch for the audio block (CEA-861-D, section 7.5.2): its header, and the bytes of the
 /// first and of the last descriptor. Each shows and captions the panel of the cell `index`, colours block and cell, and
 /// decodes the cell. The rows of the last descriptor raise LastAudioFocus.
 namespace wb::cea {
+
+struct Procedure;
 
 void openAudioHeader(const Procedure& run, int index);
 

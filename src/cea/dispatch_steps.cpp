@@ -1,6 +1,8 @@
 #include "cea/dispatch_steps.h"
 
+#include "cea/location.h"
 #include "cea/panels.h"
+#include "cea/procedure.h"
 
 namespace wb::cea {
 

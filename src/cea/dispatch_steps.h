@@ -2,10 +2,10 @@
 
 #include <string_view>
 
-#include "cea/procedure.h"
-
 /// Steps that the rows of the focus dispatch share.
 namespace wb::cea {
+
+struct Procedure;
 
 /// Shows a panel in place of the tag panel; with `words`, captions it for the cell.
 void showPanel(const Procedure& run, int panel);

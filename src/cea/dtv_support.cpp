@@ -3,13 +3,14 @@
 #include <array>
 
 #include "cea/digits.h"
+#include "cea/handlers.h"
 #include "cea/procedure.h"
+#include "core/base/image_layout.h"
+#include "core/base/text.h"
 
 namespace wb::cea {
 
 namespace {
-
-constexpr int supportCell = 3;
 
 struct SupportFlag {
     std::string_view set;
@@ -53,7 +54,7 @@ void BuildDTVSupport(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
         FrmCeaExt& screen = run.screen;
         screen.NativeChk.deselect();
-        const std::string digits = upperDigits(run.text(supportCell));
+        const std::string digits = upperDigits(run.text(extensionCells::support));
         for (int i = 0; i < static_cast<int>(digits.size()); ++i) {
             screen.NativeChk(i).setValue(digits[static_cast<std::size_t>(i)] == '1' ? 1 : 0);
         }
@@ -63,7 +64,7 @@ void BuildDTVSupport(Workbench& workbench) {
         breakLongLine(text);
         text += ", " + flagText(screen, 2) + ", " + flagText(screen, 3);
         breakLongLine(text);
-        text += decodeNativeFormats(screen, middlePart(run.text(supportCell), 2, 1));
+        text += decodeNativeFormats(screen, middlePart(run.text(extensionCells::support), 2, 1));
     });
 }
 
@@ -74,7 +75,7 @@ void NativeChk_Click(Workbench& workbench, int /*index*/) {
             digits += run.screen.NativeChk(i).selected() ? '1' : '0';
         }
         const auto number = static_cast<std::size_t>(binaryNumber(run.workbench, digits));
-        run.write(supportCell, hexDigits[number] + middlePart(run.text(supportCell), 2, 1));
+        run.write(extensionCells::support, hexDigits[number] + middlePart(run.text(extensionCells::support), 2, 1));
     });
 }
 
@@ -85,7 +86,7 @@ void NativeCBox_Click(Workbench& workbench, int /*index*/) {
         if (row >= 0) {
             digit = hexDigits[static_cast<std::size_t>(row)];
         }
-        run.write(supportCell, leftPart(run.text(supportCell), 1) + digit);
+        run.write(extensionCells::support, leftPart(run.text(extensionCells::support), 1) + digit);
     });
 }
 

@@ -4,14 +4,17 @@
 #include <string>
 #include <string_view>
 
-#include "cea/procedure.h"
+#include "core/base/bits.h"
+#include "core/workbench.h"
 
 /// A byte of flags that stands on a panel as checks and in the report as a list.
 namespace wb::cea {
 
-/// One flag: its value in the byte, and what it appends to the list, separators included.
+struct Procedure;
+
+/// One flag: its place in the byte, and what it appends to the list, separators included.
 struct ListedFlag {
-    int bit;
+    int place;
     std::string_view listed;
 };
 
@@ -20,6 +23,6 @@ void decodeFlags(const Procedure& run, int cellIndex, std::span<const ListedFlag
                  std::string& list);
 
 /// Writes the flag of a check into its cell. Of the old byte's other bits only those of `kept` stay.
-void writeFlag(const Procedure& run, int cellIndex, int kept, int bit, const Control& check);
+void writeFlag(const Procedure& run, int cellIndex, BitRange kept, int place, const Control& check);
 
 } // namespace wb::cea

@@ -1,15 +1,17 @@
 #include "cea/header.h"
 
 #include "cea/data_blocks.h"
+#include "cea/handlers.h"
 #include "cea/panels.h"
 #include "cea/procedure.h"
+#include "core/base/image_layout.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
+#include "core/cells.h"
 
 namespace wb::cea {
 
 namespace {
-
-constexpr int versionCell = 1;
-constexpr int offsetCell = 2;
 
 std::string roundedCellText(double value) {
     return ByteToHex2(roundToInt16(value));
@@ -19,7 +21,7 @@ std::string roundedCellText(double value) {
 
 void BuildVersion(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
-        const std::string version = std::to_string(run.readByte(versionCell));
+        const std::string version = std::to_string(run.readByte(extensionCells::version));
         run.screen.txtVersion.setText(version);
         run.screen.VerRev.setText(version);
         run.screen.Hints(panels::version).setCaption("Version Number (1)");
@@ -31,7 +33,7 @@ void VerRev_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
     onEnter(workbench, keyCode, [](const Procedure& run) {
         const double value = Value(run.workbench, run.screen.VerRev.text());
         if (value >= 1 && value <= 3) {
-            run.write(versionCell, roundedCellText(value));
+            run.write(extensionCells::version, roundedCellText(value));
             BuildVersion(run.workbench);
         } else {
             run.workbench.showMessage("Valid number are 1 - 3");
@@ -43,7 +45,7 @@ void DetailOffset_KeyUp(Workbench& workbench, int /*index*/, int keyCode) {
     onEnter(workbench, keyCode, [](const Procedure& run) {
         const double value = Value(run.workbench, run.screen.DetailOffset.text());
         if ((value >= 4 && value <= 109) || value == 0) {
-            run.write(offsetCell, roundedCellText(value));
+            run.write(extensionCells::timingOffset, roundedCellText(value));
             LocateDataBlocks(run.workbench);
         } else {
             run.workbench.showMessage("Valid number are 4 - 109");

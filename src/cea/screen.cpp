@@ -1,8 +1,10 @@
 #include "cea/screen.h"
 
+#include "cea/checksum.h"
 #include "cea/definitions.h"
 #include "cea/detailed_slots.h"
 #include "cea/procedure.h"
+#include "core/base/image_layout.h"
 
 namespace wb::cea {
 
@@ -13,11 +15,11 @@ BlockScreen& extensionScreen(Workbench& workbench) {
 }
 
 void fillCells(const Procedure& run) {
-    for (int i = 2; i < BlockScreen::cellCount; ++i) {
+    for (int i = extensionCells::timingOffset; i < BlockScreen::cellCount; ++i) {
         run.cell(i).setText("00");
     }
-    run.cell(0).setText("02");
-    run.cell(1).setText("03");
+    run.cell(extensionCells::tag).setText("02");
+    run.cell(extensionCells::version).setText("03");
 }
 
 } // namespace

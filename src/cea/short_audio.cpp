@@ -4,7 +4,13 @@
 
 #include "cea/digits.h"
 #include "cea/flag_list.h"
+#include "cea/handlers.h"
+#include "cea/location.h"
 #include "cea/panels.h"
+#include "cea/procedure.h"
+#include "core/base/bits.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 
 namespace wb::cea {
 
@@ -27,17 +33,17 @@ constexpr std::array<std::string_view, 15> formatNames = {"Reserved",
                                                           "DST",
                                                           "WMA Pro"};
 
-constexpr std::array<ListedFlag, 7> frequencies = {{{1, "32KHz,"},
-                                                    {2, " 44.1KHz,"},
-                                                    {4, " 48KHz,"},
-                                                    {8, " 88.2KHz,"},
-                                                    {16, " 96KHz,"},
-                                                    {32, " 176.4KHz,"},
-                                                    {64, " 192KHz"}}};
+constexpr std::array<ListedFlag, 7> frequencies = {{{0, "32KHz,"},
+                                                    {1, " 44.1KHz,"},
+                                                    {2, " 48KHz,"},
+                                                    {3, " 88.2KHz,"},
+                                                    {4, " 96KHz,"},
+                                                    {5, " 176.4KHz,"},
+                                                    {6, " 192KHz"}}};
 
 /// The prefix stands with the first size only.
 constexpr std::array<ListedFlag, 3> sampleSizes = {
-    {{1, "Sampling bit rate: 16 bit,"}, {2, " 20 bit,"}, {4, " 24 bit,"}}};
+    {{0, "Sampling bit rate: 16 bit,"}, {1, " 20 bit,"}, {2, " 24 bit,"}}};
 
 /// Bits 6 to 3 of a descriptor's first byte as binary digits.
 std::string formatDigits(std::string_view cellText) {
@@ -76,7 +82,7 @@ void decodeSampleSizes(const Procedure& run) {
     const int value = run.readByte(firstAudioCell(run.workbench, 3));
     for (int i = 0; i < static_cast<int>(sampleSizes.size()); ++i) {
         const ListedFlag& size = sampleSizes[static_cast<std::size_t>(i)];
-        if ((value & size.bit) != 0) {
+        if (bit(value, size.place)) {
             run.screen.bitrate(i).setValue(1);
             run.workbench.BitRateText += size.listed;
         }

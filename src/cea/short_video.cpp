@@ -1,8 +1,11 @@
 #include "cea/short_video.h"
 
 #include "cea/digits.h"
+#include "cea/handlers.h"
+#include "cea/location.h"
 #include "cea/procedure.h"
 #include "cea/video_formats.h"
+#include "core/base/text.h"
 
 namespace wb::cea {
 

@@ -3,13 +3,17 @@
 #include <array>
 
 #include "cea/flag_list.h"
+#include "cea/handlers.h"
+#include "cea/location.h"
+#include "cea/procedure.h"
+#include "core/base/bits.h"
 
 namespace wb::cea {
 
 namespace {
 
 constexpr std::array<ListedFlag, 7> positions = {
-    {{1, "FL/FR,"}, {2, " LFE,"}, {4, " FC,"}, {8, " RL/RR,"}, {16, " RC,"}, {32, " FLC/FRC,"}, {64, " RLC/RRC"}}};
+    {{0, "FL/FR,"}, {1, " LFE,"}, {2, " FC,"}, {3, " RL/RR,"}, {4, " RC,"}, {5, " FLC/FRC,"}, {6, " RLC/RRC"}}};
 
 int positionsCell(const Workbench& workbench) {
     return location(workbench.SpeakerBlockStart, 1);
@@ -25,9 +29,9 @@ void BuildSpeaker(Workbench& workbench) {
 
 void speaker_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const int bit = positions[static_cast<std::size_t>(index)].bit;
-        constexpr int withoutReserved = 127;
-        writeFlag(run, positionsCell(run.workbench), withoutReserved, bit, run.screen.speaker(index));
+        const int place = positions[static_cast<std::size_t>(index)].place;
+        constexpr BitRange withoutReserved{6, 0};
+        writeFlag(run, positionsCell(run.workbench), withoutReserved, place, run.screen.speaker(index));
         BuildSpeaker(run.workbench);
     });
 }

@@ -4,9 +4,14 @@
 
 #include "cea/data_blocks.h"
 #include "cea/digits.h"
+#include "cea/handlers.h"
+#include "cea/location.h"
 #include "cea/panels.h"
 #include "cea/procedure.h"
 #include "cea/short_audio.h"
+#include "core/base/image_layout.h"
+#include "core/base/numbers.h"
+#include "core/base/text.h"
 
 namespace wb::cea {
 
@@ -34,7 +39,7 @@ struct Block {
     int colouredFrom;                    ///< counted from the start
     bool colouredByRow;                  ///< as far as R, not as the stored length
     std::int16_t SharedVariables::*next; ///< start that follows where it is not known
-    bool nextFromStart;                  ///< counted from behind the start, not from cell 4
+    bool nextFromStart;                  ///< counted from behind the start, not from where the blocks begin
 };
 
 constexpr Block videoBlock = {.kind = "ShortVideo",
@@ -130,7 +135,7 @@ void followUp(const Procedure& run, const Block& block, int row) {
     const int last = block.colouredByRow ? row : run.workbench.*block.length;
     run.colour(location(start, block.colouredFrom), location(start, last), CellColour::Group);
     if (block.next != nullptr && run.workbench.*block.next == 0) {
-        run.workbench.*block.next = int16From((block.nextFromStart ? start + 1 : 4) + row);
+        run.workbench.*block.next = int16From((block.nextFromStart ? start + 1 : extensionCells::dataBlocks) + row);
     }
 }
 
@@ -180,7 +185,7 @@ void TagCBox_Click(Workbench& workbench, int /*index*/) {
         focusOnHeader(run, *block);
         const int header = run.workbench.*block->start;
         const std::string digits = tagDigits(run.readText(header)) + (row < 0 ? "" : binaryDigits(row, 5));
-        constexpr int videoHeader = 4; // wherever the video block starts
+        constexpr int videoHeader = extensionCells::dataBlocks; // wherever the video block starts
         run.write(block == &videoBlock ? videoHeader : header,
                   hexadecimal16(int16From(binaryNumber(run.workbench, digits))));
         followUp(run, *block, row < 0 ? 0 : row);

@@ -3,18 +3,22 @@
 #include <array>
 
 #include "cea/flag_list.h"
+#include "cea/handlers.h"
+#include "cea/location.h"
+#include "cea/procedure.h"
+#include "core/base/text.h"
 
 namespace wb::cea {
 
 namespace {
 
 /// By the check of the flag.
-constexpr std::array<ListedFlag, 6> extensionFlags = {{{128, "Supports_AI,"},
-                                                       {64, " DC_48bit,"},
-                                                       {32, " DC_36bit,"},
-                                                       {16, " DC_30bit,"},
-                                                       {8, " DC_Y444,"},
-                                                       {1, " DVI_Dual,"}}};
+constexpr std::array<ListedFlag, 6> extensionFlags = {{{7, "Supports_AI,"},
+                                                       {6, " DC_48bit,"},
+                                                       {5, " DC_36bit,"},
+                                                       {4, " DC_30bit,"},
+                                                       {3, " DC_Y444,"},
+                                                       {0, " DVI_Dual,"}}};
 
 /// Cell of the vendor block, counted from its header.
 int vendorCell(const Workbench& workbench, int offset) {
@@ -83,8 +87,8 @@ void txtBoxVendorData_GotFocus(Workbench& workbench, int /*index*/) {
 
 void VSDBExt_Click(Workbench& workbench, int index) {
     panelHandler(workbench, [&](const Procedure& run) {
-        const int bit = extensionFlags[static_cast<std::size_t>(index)].bit;
-        writeFlag(run, vendorCell(run.workbench, 6), 255, bit, run.screen.VSDBExt(index));
+        const int place = extensionFlags[static_cast<std::size_t>(index)].place;
+        writeFlag(run, vendorCell(run.workbench, 6), wholeByte, place, run.screen.VSDBExt(index));
         BuildVSDBExt(run.workbench);
     });
 }

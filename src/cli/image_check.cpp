@@ -3,21 +3,19 @@
 #include <algorithm>
 
 #include "acquire/registry_search.h"
+#include "core/base/image_layout.h"
 #include "core/base/text.h"
 
 namespace wb::cli {
 
 namespace {
 
-constexpr std::size_t blockSize = 128;
-constexpr std::size_t extensionCountPlace = 126;
-
 CheckResult checkLength(std::string_view image, std::size_t mostBlocks) {
     std::string text = "length " + std::to_string(image.size());
-    if (image.size() <= extensionCountPlace) {
+    if (image.size() <= extensionCountCell) {
         return {false, text + " is short of one block"};
     }
-    const std::size_t blocks = 1U + static_cast<unsigned char>(image[extensionCountPlace]);
+    const std::size_t blocks = 1U + static_cast<unsigned char>(image[extensionCountCell]);
     const std::size_t expected = std::min(blocks, mostBlocks) * blockSize;
     if (image.size() != expected) {
         return {false, text + " should be " + std::to_string(expected)};

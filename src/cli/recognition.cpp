@@ -5,14 +5,13 @@
 
 #include "acquire/registry_search.h"
 #include "core/base/digits.h"
+#include "core/base/image_layout.h"
 #include "core/base/text.h"
 #include "files/data_file.h"
 
 namespace wb::cli {
 
 namespace {
-
-constexpr std::size_t blockSize = 128;
 
 bool holdsMarker(std::string_view bytes) {
     const auto sameLetter = [](char a, char b) { return upperCase(a) == b; };

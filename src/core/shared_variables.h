@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/base/failure.h"
+#include "core/base/image_layout.h"
 
 namespace wb {
 
@@ -45,7 +46,7 @@ private:
 /// long as an image: they keep their values until a decoder finds something new.
 struct SharedVariables {
     // The open image.
-    TextArray EDIDCells{256}; ///< transfer buffer: 0 to 127 block 0, 128 to 255 block 1
+    TextArray EDIDCells{imageSize}; ///< transfer buffer: block 0, then block 1
     std::string CurrentFileName;
     Flag EDIDLoaded = flagFalse;
     Flag DocumentOpen = flagFalse;

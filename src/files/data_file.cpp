@@ -1,5 +1,6 @@
 #include "files/data_file.h"
 
+#include "core/base/image_layout.h"
 #include "core/base/text.h"
 #include "files/text_file.h"
 #include "report/report_lines.h"
@@ -8,7 +9,7 @@ namespace wb::files {
 
 bool ReadEDIDDataFile(Workbench& workbench) {
     return trappedOr(workbench, false, [&] {
-        workbench.EDIDCells.create(256);
+        workbench.EDIDCells.create(imageSize);
         bool found = false;
         int nextIndex = 0;
         LineReader reader(workbench.CurrentFileName);

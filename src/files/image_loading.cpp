@@ -1,6 +1,7 @@
 #include "files/image_loading.h"
 
 #include "cea/definitions.h"
+#include "core/base/image_layout.h"
 #include "core/cells.h"
 #include "report/definitions.h"
 
@@ -11,7 +12,7 @@ namespace {
 /// Value of cell 0 of a CEA timing extension.
 constexpr int ceaTag = 2;
 /// Where the buffer holds the offset of the first detailed timing of the extension block.
-constexpr int dtdOffsetCell = 130;
+constexpr int timingOffsetPlace = blockSize + extensionCells::timingOffset;
 
 void fillCells(BlockScreen& screen, std::string_view text) {
     for (int i = 0; i < BlockScreen::cellCount; ++i) {
@@ -36,10 +37,10 @@ void LoadExtensionCells(Workbench& workbench) {
         for (int i = 0; i < BlockScreen::cellCount; ++i) {
             screen.txtEdit(i).setText(workbench.EDIDCells(BlockScreen::cellCount + i));
         }
-        if (byteAt(screen, 0) != ceaTag) {
+        if (byteAt(screen, extensionCells::tag) != ceaTag) {
             return;
         }
-        workbench.CEADtdOffset = static_cast<std::int16_t>(byteOf(workbench, workbench.EDIDCells(dtdOffsetCell)));
+        workbench.CEADtdOffset = static_cast<std::int16_t>(byteOf(workbench, workbench.EDIDCells(timingOffsetPlace)));
         cea::BuildCEA_EXT_Definations(workbench);
         screen.txtModel.setText(workbench.frmEDID().txtModel.text());
     });
@@ -49,14 +50,14 @@ void InitNewImage(Workbench& workbench) {
     FrmEdid& screen = workbench.frmEDID();
     fillCells(screen, "00");
     if (workbench.askYesNo("CEA 861 EDID Timing Extension?")) {
-        screen.txtEdit(126).setText("01");
+        screen.txtEdit(extensionCountCell).setText("01");
         FrmCeaExt& extension = workbench.frmCEA_EXT();
         fillCells(extension, "00");
-        extension.txtEdit(0).setText("02");
+        extension.txtEdit(extensionCells::tag).setText("02");
     } else {
-        screen.txtEdit(126).setText("00");
+        screen.txtEdit(extensionCountCell).setText("00");
     }
-    for (int i = 1; i <= 6; ++i) {
+    for (int i = cells::header.first + 1; i < cells::header.last; ++i) {
         screen.txtEdit(i).setText("FF");
     }
     clearIdentityTexts(workbench);

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/base/image_layout.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
 #include "report/report_lines.h"
@@ -151,8 +152,8 @@ int putDetailedBlocks(Workbench& workbench, TextArray& lines, int entry) {
 
 void putEnd(Workbench& workbench, TextArray& lines, int entry) {
     lines(entry) = line();
-    lines(entry + 1) = placeTag("(126)") + "  " + workbench.ExtensionFlagText;
-    lines(entry + 2) = placeTag("(127)") + "  " + workbench.Block0ChecksumText;
+    lines(entry + 1) = placeTag(extensionCountCell) + "  " + workbench.ExtensionFlagText;
+    lines(entry + 2) = placeTag(checksumCell) + "  " + workbench.Block0ChecksumText;
     lines(entry + 3) = endOfReport;
 }
 

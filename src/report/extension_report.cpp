@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/base/image_layout.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
@@ -125,14 +126,14 @@ void putBlockMap(FrmCeaExt& screen, TextArray& lines) {
 }
 
 void putCeaHead(Workbench& workbench, TextArray& lines) {
-    lines(bodyEntry) = line("(2)" + workbench.frmCEA_EXT().lbEDID(5).caption());
-    lines(bodyEntry + 1) = line("(3)" + workbench.DTVSupportText);
+    lines(bodyEntry) = line(place(extensionCells::timingOffset) + workbench.frmCEA_EXT().lbEDID(5).caption());
+    lines(bodyEntry + 1) = line(place(extensionCells::support) + workbench.DTVSupportText);
     if (workbench.VideoBlockStart == 0) {
         return;
     }
-    lines(bodyEntry + 2) = "(4)" + workbench.VideoTagText;
+    lines(bodyEntry + 2) = place(extensionCells::dataBlocks) + workbench.VideoTagText;
     for (int i = 1; i <= workbench.VideoBlockLength; ++i) {
-        lines(bodyEntry + 3 + i) = line(place(i + 4) + pad(7) + workbench.ShortVideoText(i));
+        lines(bodyEntry + 3 + i) = line(place(extensionCells::dataBlocks + i) + pad(7) + workbench.ShortVideoText(i));
     }
 }
 
@@ -228,8 +229,9 @@ void putEnd(const Workbench& workbench, TextArray& lines) {
     const int entry = workbench.ExtDtdStart;
     lines(entry) = line();
     lines(entry + 1) =
-        line(places(timingOffset(workbench) + workbench.ExtDtdSlotCount * detailedBlockSize, 126) + " No Data:");
-    lines(entry + 2) = placeTag("(127)") + "  " + workbench.Block0ChecksumText;
+        line(places(timingOffset(workbench) + workbench.ExtDtdSlotCount * detailedBlockSize, checksumCell - 1) +
+             " No Data:");
+    lines(entry + 2) = placeTag(checksumCell) + "  " + workbench.Block0ChecksumText;
     lines(entry + 3) = endOfReport;
 }
 
@@ -240,7 +242,7 @@ void BuildExtensionReport(Workbench& workbench) {
         TextArray& lines = workbench.ReportExtLines;
         lines.create(reportEntries);
         FrmCeaExt& screen = workbench.frmCEA_EXT();
-        const std::string tag = screen.txtEdit(0).text();
+        const std::string tag = screen.txtEdit(extensionCells::tag).text();
         putBlockHead(workbench, lines, kindOf(tag));
         if (tag == repeatedBlockTag) {
             return;

@@ -67,6 +67,10 @@ std::string placeTag(std::string_view place) {
     return PadLeft(place, 7);
 }
 
+std::string placeTag(int cell) {
+    return placeTag("(" + std::to_string(cell) + ")");
+}
+
 std::string placeRange(int first, int last) {
     return std::to_string(first) + "-" + std::to_string(last);
 }

@@ -22,6 +22,7 @@ std::string ruleLine();
 std::string centredLine(std::string_view text);
 /// The place of a field in the block, such as "(126)", right-justified in its column of seven.
 std::string placeTag(std::string_view place);
+std::string placeTag(int cell);
 /// "FIRST-LAST" in decimal.
 std::string placeRange(int first, int last);
 

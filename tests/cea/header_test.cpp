@@ -1,9 +1,9 @@
 #include "cea/header.h"
 
+#include "cea/checksum.h"
 #include "cea/data_blocks.h"
 #include "cea/definitions.h"
 #include "cea/extension_fixture.h"
-#include "cea/procedure.h"
 
 namespace wb::cea {
 namespace {

@@ -3,10 +3,11 @@
 namespace wb {
 
 FrmEdid::FrmEdid(Workbench& workbench) : BlockScreen(workbench, ScreenId::Edid, "Edid Decoding Screen", 14) {
-    // The tag of an identity cell is the index of its lbVendor label; cell 18 has one that is never read.
+    // The tag of an identity cell is the index of its lbVendor label; that of the version has one that is never read.
     static constexpr int tags[] = {0, 0, 1, 1, 2, 2, 2, 2, 3, 4, 4};
-    for (int cell = 8; cell <= 18; ++cell) {
-        txtEdit(cell).setTag(tags[cell - 8]);
+    constexpr int first = cells::manufacturer.first;
+    for (int cell = first; cell <= cells::version; ++cell) {
+        txtEdit(cell).setTag(tags[cell - first]);
     }
     Hints(0).setCaption("Header (0 - 7)");
     Hints(1).setCaption("Vendor (8-17)");

@@ -1,3 +1,4 @@
+#include "core/base/image_layout.h"
 #include "desktop/layouts/screens.h"
 
 namespace wb::desktop {
@@ -14,7 +15,7 @@ constexpr Place identity[] = {
 constexpr Place grid[] = {
     members("Label2", 0, 9).at(0, 1).rowsOf(10).as(Look::Heading),
     members("Label2", 10, 22).at(1, 0).as(Look::RowName),
-    members("txtEdit", 0, 127).at(1, 1).rowsOf(10).as(Look::Cell).called("Byte %1"),
+    members("txtEdit", 0, blockSize - 1).at(1, 1).rowsOf(10).as(Look::Cell).called("Byte %1"),
     group("#filler").at(13, 9).as(Look::Filler),
     group("#filler").at(13, 10).as(Look::Filler),
 };

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 
+#include "core/base/image_layout.h"
+
 namespace wb::desktop {
 
 namespace {
 
 constexpr int columns = 10;
-constexpr int lastCell = 127;
+constexpr int lastCell = blockSize - 1;
 
 constexpr int left(int cell) {
     return cell - 1;

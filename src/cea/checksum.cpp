@@ -1,5 +1,7 @@
-#include "cea/procedure.h"
+#include "cea/checksum.h"
 
+#include "cea/procedure.h"
+#include "core/base/image_layout.h"
 #include "core/edid_image.h"
 
 namespace wb::cea {
@@ -9,7 +11,6 @@ void CalcCheckSum(Workbench& workbench) {
         if (run.workbench.ModifyEDIDOn == flagFalse) {
             return;
         }
-        constexpr int checksumCell = 127;
         int sum = 0;
         for (int i = 0; i < checksumCell; ++i) {
             sum += run.readByte(i);
