@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "core/base/numbers.h"
 
 namespace wb::cea {

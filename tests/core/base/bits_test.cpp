@@ -42,6 +42,26 @@ TEST(Bits, SingleBitsAreCountedFromTheLowest) {
     EXPECT_FALSE(bit(0b1000'0001, 1));
 }
 
+TEST(Bits, SingleBitIsSetOrCleared) {
+    EXPECT_EQ(withBit(0b1000'0001, 6, true), 0b1100'0001);
+    EXPECT_EQ(withBit(0b1000'0001, 7, false), 0b0000'0001);
+    EXPECT_EQ(withBit(0b1000'0001, 0, true), 0b1000'0001);
+}
+
+TEST(Bits, NegativeNumberIsItsTwosComplement) {
+    EXPECT_EQ(bits(-2, 4, 0), 0b11110);
+    EXPECT_EQ(withBits(0, 7, 5, -3), 0b1010'0000);
+}
+
+TEST(Bits, NumberIsJoinedFromTwoCells) {
+    constexpr SplitField twoOfEach{{1, {1, 0}}, {0, {7, 6}}};
+    EXPECT_EQ(twoOfEach.join(0b1111'1110, 0b0111'1111), 0b1001);
+    constexpr SplitField wholeBytes{{1, wholeByte}, {0, wholeByte}};
+    EXPECT_EQ(wholeBytes.join(0x12, 0x34), 0x1234);
+    constexpr SplitField nothingAbove{{0, {-1, 0}}, {0, wholeByte}};
+    EXPECT_EQ(nothingAbove.join(0xFF, 0x34), 0x34);
+}
+
 TEST(Bits, RangeOfATableIsThatOfItsPlaces) {
     constexpr BitRange upperHalf{7, 4};
     static_assert(maskOf(upperHalf) == 0b1111'0000);
