@@ -11,7 +11,7 @@ namespace wb::report {
 /// version.
 std::string standardTimingText(int sizeByte, int rateByte);
 
-/// The aspect ratio code, bits 7 and 6: 0 is 16:10, 1 is 4:3, 2 is 5:4, 3 is 16:9.
+/// The aspect ratio code: the bits `aspectBits` of report/standard_timings_layout.h.
 int aspectCode(int rateByte);
 
 /// Decodes the eight pairs of cells 38 to 53. The aspect option follows the cell at CurrentBlockBase, which is the
