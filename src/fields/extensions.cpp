@@ -1,46 +1,83 @@
 #include "fields/extensions.h"
 
+#include <algorithm>
 #include <array>
 
-#include "fields/scope.h"
+#include "fields/displayid.h"
 
 namespace wb::fields {
 
 namespace {
 
+void readBytes(const Scope& block);
+
 struct ExtensionKind {
     std::uint8_t tag;
     std::string_view name;
+    std::string_view path = "extension";
+    std::string_view clause = "E-EDID 1.4, 2.2.1";
+    void (*read)(const Scope& block) = readBytes;
 };
 
 /// VESA E-EDID Standard, Release A, section 2.2.1 and the tags that VESA gave out since.
-constexpr std::array<ExtensionKind, 10> kinds = {{{0x00, "timing extension"},
-                                                  {0x02, "CTA-861 extension"},
-                                                  {0x10, "video timing block extension"},
-                                                  {0x20, "EDID 2.0 extension"},
-                                                  {0x40, "display information extension"},
-                                                  {0x50, "localized string extension"},
-                                                  {0x60, "microdisplay interface extension"},
-                                                  {0x70, "DisplayID extension"},
-                                                  {0xF0, "block map"},
-                                                  {0xFF, "manufacturer's extension"}}};
+constexpr std::array<ExtensionKind, 10> kinds = {{
+    {0x00, "timing extension"},
+    {0x02, "CTA-861 extension", "cta", "CTA-861-H, 7.3.3", readCta},
+    {0x10, "video timing block extension"},
+    {0x20, "EDID 2.0 extension"},
+    {0x40, "display information extension"},
+    {0x50, "localized string extension"},
+    {0x60, "microdisplay interface extension"},
+    {0x70, "DisplayID extension", "displayid", "DisplayID 1.3, 3", readDisplayId},
+    {0xF0, "block map", "map", "E-EDID 1.4, 3.14", readBlockMap},
+    {0xFF, "manufacturer's extension"},
+}};
+constexpr ExtensionKind unknownKind = {0, "unknown extension"};
+
+constexpr Row tagRow = {.name = "tag", .label = "Extension tag", .parts = {{0}}};
+constexpr Row checksumRow = {.name = "checksum", .label = "Check sum", .parts = {{127}}};
+constexpr std::size_t checksumPlace = 127;
+
+void readBytes(const Scope& block) {
+    block.add(tagRow);
+    block.addBytes(1, checksumPlace, "bytes", "Content of the block");
+}
+
+const ExtensionKind& kindOf(std::uint8_t tag) {
+    const auto found =
+        std::find_if(kinds.begin(), kinds.end(), [&](const ExtensionKind& kind) { return kind.tag == tag; });
+    return found == kinds.end() ? unknownKind : *found;
+}
 
 } // namespace
 
 std::string_view extensionName(std::uint8_t tag) {
-    for (const ExtensionKind& kind : kinds) {
-        if (kind.tag == tag) {
-            return kind.name;
-        }
-    }
-    return "unknown extension";
+    return kindOf(tag).name;
 }
 
 void readExtension(Reading& reading, std::size_t index) {
-    const Scope block(reading, index * Image::blockSize, "extension[" + std::to_string(index) + "]", "E-EDID, 2.2.1");
-    block.add({.name = "tag", .label = "Extension tag", .parts = {{0}}});
-    block.addBytes(1, 127, "bytes", "Content of the block");
-    block.add({.name = "checksum", .label = "Check sum", .parts = {{127}}});
+    const ExtensionKind& kind = kindOf(reading.image.block(index)[0]);
+    const Scope block(reading, index * Image::blockSize, numbered(kind.path, index), kind.clause);
+    kind.read(block);
+    block.add(checksumRow);
+    if (&kind == &unknownKind) {
+        block.tell(Severity::Warning, "extension.unknown", 0, "tag",
+                   "No standard gives the tag of this extension block a meaning, so that readers pass over it; a dump "
+                   "that went wrong may be the cause: compare it with the monitor.");
+    }
+}
+
+void readPadding(const Scope& block, std::size_t offset, std::string_view code, std::string_view after) {
+    block.addBytes(offset, checksumPlace, "padding", "Padding");
+    for (std::size_t place = offset; place < checksumPlace; ++place) {
+        if (block.byte(place) != 0) {
+            block.tell(Severity::Warning, code, place, "padding",
+                       "Bytes after " + std::string(after) +
+                           " are not 0, so that readers may take them for more of it; set them to 0 if nothing is "
+                           "meant.");
+            return;
+        }
+    }
 }
 
 } // namespace wb::fields

@@ -87,15 +87,28 @@ std::string printable(std::string_view characters) {
     return text;
 }
 
-std::string hexOf(std::span<const std::uint8_t> bytes) {
-    std::string text;
-    for (const unsigned byte : bytes) {
-        if (!text.empty()) {
-            text += ' ';
+/// Where the rows that stand before `end` stop: no row has bytes on both sides.
+std::size_t cutOf(std::span<const Row> rows, std::size_t end) {
+    std::size_t cut = 0;
+    for (const Row& row : rows) {
+        for (const Part& part : row.parts) {
+            cut = std::max(cut, part.offset + row.length);
         }
-        appendHex(text, byte);
     }
-    return text;
+    cut = std::min(cut, end);
+    for (bool moved = true; moved;) {
+        moved = false;
+        for (const Row& row : rows) {
+            const auto beyond = [&](const Part& part) { return part.offset + row.length > cut; };
+            if (std::any_of(row.parts.begin(), row.parts.end(), beyond)) {
+                for (const Part& part : row.parts) {
+                    moved = moved || part.offset < cut;
+                    cut = std::min(cut, part.offset);
+                }
+            }
+        }
+    }
+    return cut;
 }
 
 bool isRun(const Field& field) {
@@ -160,6 +173,12 @@ void Scope::add(std::span<const Row> rows, std::size_t end) const {
     }
 }
 
+void Scope::fill(std::span<const Row> rows, std::size_t end) const {
+    const std::size_t cut = cutOf(rows, end);
+    add(rows, cut);
+    addBytes(cut, end, "rest", "Further bytes");
+}
+
 Field& Scope::add(const Row& row) const {
     Field field;
     field.path = pathOf(row.name);
@@ -187,7 +206,7 @@ Field& Scope::add(const Row& row) const {
             break;
         case Kind::Bytes:
         case Kind::Reserved:
-            field.text = isRun(field) ? hexOf(bytes(offset, row.length)) : rawText(reading_->image, field);
+            field.text = isRun(field) ? hexText(bytes(offset, row.length)) : rawText(reading_->image, field);
             break;
     }
     if (row.read != nullptr) {
@@ -224,9 +243,7 @@ void Scope::tellReservedValue(const Row& row) const {
 
 void Scope::checkReserved(const Row& row) const {
     const std::size_t offset = row.parts.begin()->offset;
-    const auto run = bytes(offset, row.length);
-    const bool isSet = row.length == 1 ? raw(row.parts) != 0
-                                       : std::any_of(run.begin(), run.end(), [](unsigned byte) { return byte != 0; });
+    const bool isSet = row.length == 1 ? raw(row.parts) != 0 : !allZero(bytes(offset, row.length));
     if (isSet) {
         tell(Severity::Warning, "field.reserved_bits", offset, row.name,
              "Bits are set that are reserved, to which later standards may give a meaning that is not meant here; set "
@@ -275,6 +292,30 @@ std::string withUnit(std::string number, std::string_view unit) {
         number += unit;
     }
     return number;
+}
+
+std::string numbered(std::string_view name, std::size_t number) {
+    std::string text(name);
+    text += '[';
+    text += std::to_string(number);
+    text += ']';
+    return text;
+}
+
+std::string hexText(std::span<const std::uint8_t> bytes) {
+    std::string text;
+    text.reserve(bytes.size() * 3);
+    for (const unsigned byte : bytes) {
+        if (!text.empty()) {
+            text += ' ';
+        }
+        appendHex(text, byte);
+    }
+    return text;
+}
+
+bool allZero(std::span<const std::uint8_t> bytes) {
+    return std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte == 0; });
 }
 
 std::string_view severityName(Severity severity) {

@@ -67,6 +67,16 @@ struct Row {
     void (*read)(const Scope& scope, std::uint64_t raw, Field& field) = nullptr;
 };
 
+/// Bit `bit` of the byte at `offset` as "yes" or "no".
+constexpr Row flagAt(std::size_t offset, std::uint8_t bit, std::string_view name, std::string_view label) {
+    return {.name = name, .label = label, .parts = {{offset, bit, bit}}, .kind = Kind::Flag};
+}
+
+/// Bits that the standard wants to be 0.
+constexpr Row reservedAt(std::size_t offset, std::uint8_t high, std::uint8_t low, std::string_view name) {
+    return {.name = name, .label = "Reserved", .parts = {{offset, high, low}}, .kind = Kind::Reserved};
+}
+
 /// Writes the fields of one structure of the image, in a table or one by one. Paths are put behind the structure's own.
 class Scope {
 public:
@@ -80,10 +90,14 @@ public:
     /// The same structure by another clause.
     Scope withClause(std::string_view clause) const { return {*reading_, start_, path_, clause}; }
 
+    /// The same path, offsets counted from another byte.
+    Scope from(std::size_t offset) const { return {*reading_, start_ + offset, path_, clause_}; }
+
     /// Number in the image of a byte of the structure.
     std::size_t place(std::size_t offset) const { return start_ + offset; }
     std::size_t block() const { return start_ / Image::blockSize; }
     const std::string& path() const { return path_; }
+    std::string_view clause() const { return clause_; }
     std::uint8_t byte(std::size_t offset) const { return reading_->image.byte(start_ + offset); }
     /// Two bytes, the least significant first.
     unsigned word(std::size_t offset) const { return byte(offset) | static_cast<unsigned>(byte(offset + 1)) << 8U; }
@@ -94,6 +108,9 @@ public:
 
     /// Adds a field for every row. Rows whose bytes reach past `end` (an offset) are left out.
     void add(std::span<const Row> rows, std::size_t end = Image::blockSize) const;
+    /// Adds a field for every row that stands before `end`, and the bytes that are then left over before it as one
+    /// named "rest". The rows must cover whole bytes from some offset on without gaps, and there must be one.
+    void fill(std::span<const Row> rows, std::size_t end) const;
     /// Adds one; it may be changed until the next is added.
     Field& add(const Row& row) const;
     /// Bytes from `offset` up to `end` as one field; none where there are none.
@@ -127,5 +144,11 @@ std::string hexNumber(std::uint64_t number, int bits);
 std::string decimalText(double value, int decimals);
 /// "number unit".
 std::string withUnit(std::string number, std::string_view unit);
+/// "name[number]": the place in a list.
+std::string numbered(std::string_view name, std::size_t number);
+/// "A3 0F": bytes in hexadecimal.
+std::string hexText(std::span<const std::uint8_t> bytes);
+/// Whether there are none but zeros.
+bool allZero(std::span<const std::uint8_t> bytes);
 
 } // namespace wb::fields

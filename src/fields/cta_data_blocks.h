@@ -1,0 +1,71 @@
+#pragma once
+
+#include <map>
+
+#include "fields/cta_video_codes.h"
+#include "fields/scope.h"
+
+namespace wb::fields {
+
+/// What a CTA-861 extension told so far. Lists of one kind go on from data block to data block.
+struct CtaState {
+    unsigned flags = 0;      ///< byte 3 of the extension
+    std::size_t timings = 0; ///< detailed timings of block 0 and of the extension
+    std::size_t dataBlocks = 0;
+    std::map<std::string_view, std::size_t> kinds{}; ///< how many of each kind, by the name of the kind
+    std::vector<std::uint8_t> videoCodes{};          ///< of the short video descriptors in their order
+    std::vector<std::uint8_t> videoCodes420{};       ///< of those for YCbCr 4:2:0 alone
+    std::size_t audioDescriptors = 0;
+    int mostChannels = 0; ///< of the audio descriptors
+    std::size_t preferences = 0;
+    std::size_t mapReach = 0; ///< position of the last descriptor that the YCbCr 4:2:0 capability map names
+
+    bool has(std::string_view kind) const { return kinds.count(kind) != 0; }
+};
+
+/// A data block as its reader gets it. Offsets count from its first byte, that of tag and length.
+struct DataBlock {
+    const Scope& extension; ///< the path is that of the extension: for lists that go on
+    const Scope& content;   ///< the path is that of the kind
+    std::size_t begin;      ///< after the tags
+    std::size_t end;        ///< limited to what is inside the collection
+    CtaState& state;
+};
+
+/// The rules that hold between the parts of an extension; `header` is the scope of its header.
+void checkCta(const Scope& extension, const Scope& header, const CtaState& state);
+
+/// Reads the data blocks from `offset` of the extension up to `end`.
+void readDataBlocks(const Scope& extension, std::size_t offset, std::size_t end, CtaState& state);
+
+void describeOui(const Scope& scope, std::uint64_t raw, Field& field);
+/// The IEEE number of an organization in three bytes, the least significant first.
+constexpr Row ouiRow(std::size_t offset) {
+    return {
+        .name = "oui", .label = "Organization", .parts = {{offset + 2}, {offset + 1}, {offset}}, .read = describeOui};
+}
+
+// The readers of the content of each kind.
+void readVideoBlock(const DataBlock& block);
+void readVideo420Block(const DataBlock& block);
+void readCapabilityMap(const DataBlock& block);
+void readFormatPreference(const DataBlock& block);
+void readAudioBlock(const DataBlock& block);
+void readSpeakerAllocation(const DataBlock& block);
+void readRoomConfiguration(const DataBlock& block);
+void readSpeakerLocation(const DataBlock& block);
+void readHdmi(const DataBlock& block);
+void readHdmiForum(const DataBlock& block);
+void readHdmiForumSinkCapability(const DataBlock& block);
+void readExtensionOverride(const DataBlock& block);
+void readVendor(const DataBlock& block);
+void readTransferCharacteristic(const DataBlock& block);
+void readDisplayDevice(const DataBlock& block);
+void readVideoCapability(const DataBlock& block);
+void readColorimetry(const DataBlock& block);
+void readHdrStatic(const DataBlock& block);
+void readHdrDynamic(const DataBlock& block);
+void readTypeVIIBlock(const DataBlock& block);
+void readUnknownBlock(const DataBlock& block);
+
+} // namespace wb::fields

@@ -1,0 +1,119 @@
+#include "fields/cta_data_blocks.h"
+#include "fields/detailed_timing.h"
+#include "fields/extensions.h"
+
+namespace wb::fields {
+
+namespace {
+
+constexpr std::size_t firstByte = 4;
+/// Of data blocks, timings and padding; the check sum stands there.
+constexpr std::size_t lastEnd = 127;
+/// The first revision with flags, and with data blocks.
+constexpr unsigned flagRevision = 2;
+constexpr unsigned dataBlockRevision = 3;
+
+constexpr std::array<Choice, 3> revisions = {{{1, "1 (CEA-861)"}, {2, "2 (CEA-861-A)"}, {3, "3 (CEA-861-B on)"}}};
+
+void describeRevision(const Scope&, std::uint64_t raw, Field& field) {
+    if (const std::string_view words = choiceText(revisions, raw); !words.empty()) {
+        field.text = words;
+    }
+}
+
+constexpr std::array<Row, 3> headRows = {{
+    {.name = "tag", .label = "Extension tag", .parts = {{0}}},
+    {.name = "revision", .label = "Revision", .parts = {{1}}, .read = describeRevision},
+    {.name = "timing_offset", .label = "Offset of the first detailed timing", .parts = {{2}}},
+}};
+/// CTA-861-H, table 59.
+constexpr Row nativeCountRow = {.name = "native_count", .label = "Native detailed timings", .parts = {{3, 3, 0}}};
+constexpr Row audioRow = flagAt(3, 6, "basic_audio", "Basic audio");
+constexpr Row ycc444Row = flagAt(3, 5, "ycbcr_444", "YCbCr 4:4:4");
+constexpr Row ycc422Row = flagAt(3, 4, "ycbcr_422", "YCbCr 4:2:2");
+constexpr std::array<Row, 5> flagRows = {
+    {flagAt(3, 7, "underscan", "Underscans IT formats"), audioRow, ycc444Row, ycc422Row, nativeCountRow}};
+constexpr Row noFlagsRow = reservedAt(3, 7, 0, "reserved");
+
+void checkHead(const Scope& header, unsigned revision, unsigned offset) {
+    if (revision == 0 || revision > dataBlockRevision) {
+        header.tell(Severity::Warning, "cta.revision", 1, "revision",
+                    "The revision of the CTA-861 extension is " + std::to_string(revision) +
+                        " where 1 to 3 are in use, so that readers may pass over the block; set it to 3.");
+    }
+    if (offset > 0 && offset < firstByte) {
+        header.tell(Severity::Error, "cta.timing_offset_low", 2, "timing_offset",
+                    "The timing offset " + std::to_string(offset) +
+                        " points into the header, so that readers refuse the block; let it point behind the last data "
+                        "block, or set it to 0 if neither data blocks nor timings follow.");
+    } else if (offset > lastEnd) {
+        header.tell(Severity::Error, "cta.timing_offset_high", 2, "timing_offset",
+                    "The timing offset " + std::to_string(offset) +
+                        " points past the end of the block, so that readers refuse it; let it point behind the last "
+                        "data block, at most to 127.");
+    }
+}
+
+/// The timings from `offset` on, and what follows them. Tells how many there are.
+std::size_t readTimings(const Scope& block, std::size_t offset, std::size_t native) {
+    std::size_t count = 0;
+    for (; offset + detailedTimingSize <= lastEnd && block.word(offset) != 0; offset += detailedTimingSize) {
+        ++count;
+        readDetailedTiming(block.inner(offset, numbered("detailed", count), "CTA-861-H, 7.3.3"), count <= native);
+    }
+    readPadding(block, offset, "cta.padding_not_zero", "the last detailed timing");
+    return count;
+}
+
+/// Timings in block 0: those of its four descriptors that have a pixel clock.
+std::size_t timingsOfBlock0(const Image& image) {
+    constexpr std::size_t first = 54;
+    constexpr std::size_t end = 126;
+    std::size_t count = 0;
+    for (std::size_t offset = first; offset < end; offset += detailedTimingSize) {
+        count += image.byte(offset) != 0 || image.byte(offset + 1) != 0 ? 1U : 0U;
+    }
+    return count;
+}
+
+void readBody(const Scope& block, const Scope& header, unsigned revision, unsigned offset) {
+    CtaState state;
+    state.flags = revision >= flagRevision ? block.byte(3) : 0;
+    if (offset > 0 && offset < firstByte) {
+        block.addBytes(firstByte, lastEnd, "bytes", "Bytes without a place for timings");
+        return;
+    }
+    const std::size_t dataEnd = offset == 0 ? firstByte : std::min<std::size_t>(offset, lastEnd);
+    if (revision < dataBlockRevision) {
+        block.addBytes(firstByte, dataEnd, "reserved", "Reserved", Kind::Reserved);
+    } else {
+        readDataBlocks(block, firstByte, dataEnd, state);
+    }
+    const std::size_t timingsBefore = timingsOfBlock0(block.reading().image);
+    const std::size_t native = revision >= flagRevision ? header.raw(nativeCountRow.parts) : 0;
+    state.timings = timingsBefore;
+    if (offset == 0) {
+        readPadding(block, firstByte, "cta.padding_not_zero", "the header, with no offset of timings,");
+    } else {
+        state.timings += readTimings(block, dataEnd, native > timingsBefore ? native - timingsBefore : 0);
+    }
+    checkCta(block, header, state);
+}
+
+} // namespace
+
+void readCta(const Scope& block) {
+    const Scope header = block.inner(0, "header");
+    const unsigned revision = block.byte(1);
+    const unsigned offset = block.byte(2);
+    header.add(headRows);
+    if (revision >= flagRevision) {
+        header.add(flagRows);
+    } else {
+        header.add(noFlagsRow);
+    }
+    checkHead(header, revision, offset);
+    readBody(block, header, revision, offset);
+}
+
+} // namespace wb::fields

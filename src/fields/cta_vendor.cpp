@@ -1,0 +1,19 @@
+#include "fields/cta_data_blocks.h"
+
+namespace wb::fields {
+
+void describeOui(const Scope&, std::uint64_t raw, Field& field) {
+    const std::array<std::uint8_t, 3> bytes = {static_cast<std::uint8_t>(raw >> 16U),
+                                               static_cast<std::uint8_t>(raw >> 8U), static_cast<std::uint8_t>(raw)};
+    field.text = hexText(bytes);
+    field.text[2] = field.text[5] = '-';
+}
+
+void readVendor(const DataBlock& block) {
+    const std::size_t payload = std::min(block.begin + 3, block.end);
+    const std::array<Row, 1> rows = {{ouiRow(block.begin)}};
+    block.content.fill(rows, payload);
+    block.content.addBytes(payload, block.end, "payload", "What the organization defines");
+}
+
+} // namespace wb::fields
