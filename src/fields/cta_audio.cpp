@@ -194,7 +194,9 @@ void readDescriptor(const Scope& scope, CtaState& state) {
         }
     }
     check(scope, audio);
-    state.mostChannels = std::max(state.mostChannels, descriptor.channels);
+    if (descriptor.format == linearPcm) {
+        state.mostPcmChannels = std::max(state.mostPcmChannels, descriptor.channels);
+    }
     if (!audio.format.empty()) {
         scope.summary().audio.push_back(std::move(audio));
     }

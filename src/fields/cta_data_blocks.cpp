@@ -137,9 +137,9 @@ std::size_t readDataBlock(const Scope& scope, std::size_t limit, CtaState& state
         header.tell(Severity::Error, "cta.data_block_over", 0, "length",
                     "The " + nameOf(scope, kind) + " takes " + std::to_string(declaredEnd) + " bytes and runs " +
                         std::to_string(declaredEnd - limit) + " over the end of the data blocks at byte " +
-                        std::to_string(scope.place(limit)) +
-                        ", which the timing offset sets, so that readers misread it or the timings; correct its "
-                        "length or the offset.");
+                        std::to_string(scope.place(limit)) + ", which " + std::string(state.limit) +
+                        " sets, so that readers misread it or what follows; correct its length or " +
+                        std::string(state.limit) + ".");
     } else {
         checkKind(header, kind, begin, declaredEnd, state);
     }

@@ -7,8 +7,10 @@
 
 namespace wb::fields {
 
-/// What a CTA-861 extension told so far. Lists of one kind go on from data block to data block.
+/// What a CTA-861 extension, or another collection of data blocks, told so far. Lists of one kind go on from data block
+/// to data block.
 struct CtaState {
+    std::string_view limit;  ///< what sets the end of the data blocks
     unsigned flags = 0;      ///< byte 3 of the extension
     std::size_t timings = 0; ///< detailed timings of block 0 and of the extension
     std::size_t dataBlocks = 0;
@@ -16,7 +18,7 @@ struct CtaState {
     std::vector<std::uint8_t> videoCodes{};          ///< of the short video descriptors in their order
     std::vector<std::uint8_t> videoCodes420{};       ///< of those for YCbCr 4:2:0 alone
     std::size_t audioDescriptors = 0;
-    int mostChannels = 0; ///< of the audio descriptors
+    int mostPcmChannels = 0; ///< of the descriptors of L-PCM
     std::size_t preferences = 0;
     std::size_t mapReach = 0; ///< position of the last descriptor that the YCbCr 4:2:0 capability map names
 

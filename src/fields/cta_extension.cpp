@@ -77,7 +77,7 @@ std::size_t timingsOfBlock0(const Image& image) {
 }
 
 void readBody(const Scope& block, const Scope& header, unsigned revision, unsigned offset) {
-    CtaState state;
+    CtaState state{.limit = "the timing offset"};
     state.flags = revision >= flagRevision ? block.byte(3) : 0;
     if (offset > 0 && offset < firstByte) {
         block.addBytes(firstByte, lastEnd, "bytes", "Bytes without a place for timings");

@@ -13,9 +13,9 @@ constexpr unsigned nativeMask = 0x0F;
 
 void checkAudio(const Scope& extension, const Scope& header, const CtaState& state) {
     const bool flag = (state.flags & basicAudio) != 0;
-    if (state.audioDescriptors > 0 && !flag) {
+    if ((state.audioDescriptors > 0 || state.has("speakers")) && !flag) {
         header.tell(Severity::Warning, "cta.basic_audio_missing", 3, "",
-                    "Audio data blocks stand here, yet basic audio, which every display with audio takes, is not "
+                    "Data blocks about audio stand here, yet basic audio, which every display with audio takes, is not "
                     "told, so that sources may send no sound; set bit 6.");
     }
     if (flag && state.audioDescriptors == 0) {
@@ -23,9 +23,9 @@ void checkAudio(const Scope& extension, const Scope& header, const CtaState& sta
                     "Basic audio is told and no audio data block stands here, so that some sources send no sound; add "
                     "one with L-PCM of 2 channels.");
     }
-    if (state.mostChannels > 2 && !state.has("speakers")) {
+    if (state.mostPcmChannels > 2 && !state.has("speakers")) {
         extension.tell(Severity::Warning, "cta.speakers_missing", 0, "",
-                       "Audio of more than 2 channels is told and no speaker allocation data block, which has to go "
+                       "L-PCM of more than 2 channels is told and no speaker allocation data block, which has to go "
                        "with it, so that sources keep to 2 channels; add one.",
                        "CTA-861-H, 7.5.3");
     }

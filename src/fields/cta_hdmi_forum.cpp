@@ -142,6 +142,12 @@ void readExtensionOverride(const DataBlock& block) {
                                            .parts = {{2}},
                                            .read = describeBlockCount}}};
     block.content.fill(rows, block.end);
+    constexpr std::size_t wantedPlace = Image::blockSize + 4;
+    if (block.content.place(0) != wantedPlace) {
+        block.content.tell(Severity::Warning, "cta.override_place", 0, "",
+                           "The number of extension blocks is told elsewhere than in the first data block of block 1, "
+                           "so that readers do not find it; move it there.");
+    }
 }
 
 } // namespace wb::fields

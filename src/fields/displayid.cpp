@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "fields/cta_data_blocks.h"
 #include "fields/extensions.h"
 
 namespace wb::fields {
@@ -139,6 +140,11 @@ void readTypeVII(const Entry& entry) {
     readTimings(entry, 1);
 }
 
+void readCtaBlocks(const Entry& entry) {
+    CtaState state{.limit = "the length of the DisplayID data block"};
+    readDataBlocks(entry.content, dataBlockHead, entry.end, state);
+}
+
 void readBytes(const Entry& entry) {
     entry.content.addBytes(dataBlockHead, entry.end, "bytes", "Content of the data block");
 }
@@ -187,7 +193,7 @@ constexpr std::array<EntryKind, 35> kinds = {{
     {0x2B, "adaptive_sync", "adaptive sync"},
     {0x7E, "vendor", "vendor-specific data"},
     {0x7F, "vendor", "vendor-specific data"},
-    {0x81, "cta", "CTA-861 data blocks"},
+    {0x81, "cta", "CTA-861 data blocks", readCtaBlocks},
 }};
 constexpr EntryKind unknownKind = {0, "reserved", "data block with a reserved tag"};
 
@@ -236,6 +242,12 @@ private:
 
     static void check(const Scope& header, const EntryKind& kind, std::size_t declared, std::size_t room) {
         const std::string name = std::string(kind.label) + " at byte " + std::to_string(header.place(0));
+        if (&kind == &unknownKind) {
+            header.tell(Severity::Note, "displayid.data_block_reserved", 0, "tag",
+                        "The tag of the data block at byte " + std::to_string(header.place(0)) +
+                            " is reserved, so that readers pass over what it tells; take it out unless a later "
+                            "standard gives it a meaning.");
+        }
         if (declared > room) {
             header.tell(Severity::Error, "displayid.data_block_over", 2, "length",
                         "The data block of " + name + " takes " + std::to_string(declared) + " bytes and runs " +

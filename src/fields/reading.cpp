@@ -23,7 +23,8 @@ void listBlocks(Reading& reading) {
     for (std::size_t i = 0; i < image.blockCount(); ++i) {
         reading.blocks.push_back(infoOf(image, i));
     }
-    for (std::size_t i = image.blockCount(); i <= image.announcedExtensions(); ++i) {
+    const std::size_t announced = announcedExtensions(image);
+    for (std::size_t i = image.blockCount(); i <= announced; ++i) {
         reading.blocks.push_back({.index = i, .name = "missing extension"});
     }
 }
@@ -52,16 +53,18 @@ void tellOfEarlyEnd(Reading& reading) {
 
 void tellOfBlocks(Reading& reading) {
     const std::size_t there = reading.image.blockCount() - 1;
-    const std::size_t announced = reading.image.announcedExtensions();
+    const std::size_t announced = announcedExtensions(reading.image);
     const Scope base(reading, 0, "base", "E-EDID 1.4, 3.11");
     if (there < announced) {
         base.tell(Severity::Error, "image.blocks_missing", 126, "extension_count",
-                  "Byte 126 announces " + std::to_string(announced) + " extension blocks and " + std::to_string(there) +
+                  "The image announces " + std::to_string(announced) + " extension blocks and " +
+                      std::to_string(there) +
                       " are there, so that readers miss what the others tell; dump the whole image anew.");
     } else if (there > announced) {
         base.tell(Severity::Warning, "image.blocks_extra", 126, "extension_count",
-                  "Byte 126 announces " + std::to_string(announced) + " extension blocks and " + std::to_string(there) +
-                      " are there, so that readers pass over the last ones; set byte 126 or cut the image.");
+                  "The image announces " + std::to_string(announced) + " extension blocks and " +
+                      std::to_string(there) +
+                      " are there, so that readers pass over the last ones; correct the count or cut the image.");
     }
     if (reading.image.leftOver() != 0) {
         base.tell(Severity::Warning, "image.left_over", 0, "",

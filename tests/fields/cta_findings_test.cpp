@@ -1,0 +1,200 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "extension_image.h"
+
+namespace wb::fields {
+namespace {
+
+using testing::HasSubstr;
+
+std::size_t countIn(const ImageOf& image, std::string_view code) {
+    return countOf(image.reading(), code);
+}
+
+constexpr int basicAudio = 0x40;
+constexpr int ycbcr444 = 0x20;
+constexpr int ycbcr422 = 0x10;
+
+TEST(CtaFindings, TellOfAnUnknownRevision) {
+    EXPECT_EQ(countIn(ctaWith({}).set(129, {4}), "cta.revision"), 1U);
+    EXPECT_EQ(countIn(ctaWith({}).set(129, {0}), "cta.revision"), 1U);
+    EXPECT_EQ(countIn(ctaWith({}).set(129, {3}), "cta.revision"), 0U);
+    EXPECT_EQ(countIn(ctaWith({}).set(129, {1}), "cta.revision"), 0U);
+}
+
+TEST(CtaFindings, TellOfATimingOffsetInTheHeader) {
+    const Reading low = ctaWith({0x41, 16}).set(130, {3}).reading();
+    EXPECT_EQ(findingOf(low, "cta.timing_offset_low").byte, 130U);
+    EXPECT_EQ(findingOf(low, "cta.timing_offset_low").severity, Severity::Error);
+    EXPECT_FALSE(hasField(low, "cta[1].video[1].code"));
+    EXPECT_EQ(countIn(ctaWith({}).set(130, {4}), "cta.timing_offset_low"), 0U);
+    EXPECT_EQ(countIn(ctaWith({}).set(130, {0}), "cta.timing_offset_low"), 0U);
+}
+
+TEST(CtaFindings, TellOfATimingOffsetPastTheEnd) {
+    const Reading high = ctaWith({0x41, 16}).set(130, {128}).reading();
+    EXPECT_EQ(countOf(high, "cta.timing_offset_high"), 1U);
+    EXPECT_TRUE(hasField(high, "cta[1].video[1].code"));
+    EXPECT_EQ(countIn(ctaWith({0x41, 16}).set(130, {127}), "cta.timing_offset_high"), 0U);
+}
+
+TEST(CtaFindings, TellOfADataBlockThatRunsOver) {
+    const Reading over = ctaWith({0x44, 16, 31}).reading();
+    const Finding& finding = findingOf(over, "cta.data_block_over");
+    EXPECT_EQ(finding.byte, 132U);
+    EXPECT_EQ(finding.path, "cta[1].data_block[1].length");
+    EXPECT_THAT(finding.text, HasSubstr("video data block at byte 132 takes 5 bytes and runs 2 over"));
+    EXPECT_THAT(finding.text, HasSubstr("byte 135"));
+    EXPECT_EQ(countIn(ctaWith({0x42, 16, 31}), "cta.data_block_over"), 0U);
+}
+
+TEST(CtaFindings, TellOfBytesAfterTheLastTiming) {
+    const Reading reading = ctaWith({0x41, 16}).set(200, {7}).reading();
+    EXPECT_EQ(findingOf(reading, "cta.padding_not_zero").byte, 200U);
+    EXPECT_EQ(countIn(ctaWith({0x41, 16}).set(255, {7}), "cta.padding_not_zero"), 0U);
+}
+
+TEST(CtaFindings, TellOfDataBlocksTooShortForTheirKind) {
+    const Reading reading = ctaWith({0xE2, 0x06, 0x01}).reading();
+    EXPECT_THAT(findingOf(reading, "cta.data_block_short").text, HasSubstr("HDR static metadata data block"));
+    EXPECT_EQ(countIn(ctaWith({0xE3, 0x06, 0x01, 0x01}), "cta.data_block_short"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x82, 0x01, 0x00}), "cta.data_block_short"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x83, 0x01, 0x00, 0x00}), "cta.data_block_short"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x64, 0x03, 0x0C, 0x00, 0x10}), "cta.data_block_short"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00}), "cta.data_block_short"), 0U);
+}
+
+TEST(CtaFindings, TellOfASecondDataBlockOfAKindThatStandsOnce) {
+    const Reading two = ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x65, 0x03, 0x0C, 0x00, 0x20, 0x00}).reading();
+    EXPECT_EQ(findingOf(two, "cta.data_block_repeated").byte, 138U);
+    EXPECT_EQ(countIn(ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x65, 0x1A, 0x00, 0x00, 0x20, 0x00}),
+                      "cta.data_block_repeated"),
+              0U);
+    EXPECT_EQ(countIn(ctaWith({0x41, 16, 0x41, 31}), "cta.data_block_repeated"), 0U);
+}
+
+TEST(CtaFindings, TellOfReservedTags) {
+    EXPECT_EQ(countIn(ctaWith({0x01, 0x05}), "cta.data_block_reserved"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0xE1, 0x09}), "cta.data_block_reserved"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0xE2, 0x00, 0x00}), "cta.data_block_reserved"), 0U);
+}
+
+TEST(CtaFindings, TellOfZerosBeforeTheTimings) {
+    EXPECT_EQ(countIn(ctaWith({0x41, 16, 0, 0}), "cta.data_block_padding"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x41, 16}), "cta.data_block_padding"), 0U);
+}
+
+TEST(CtaFindings, TellOfAudioWithoutBasicAudio) {
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x07, 0x07}), "cta.basic_audio_missing"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x83, 0x01, 0x00, 0x00}), "cta.basic_audio_missing"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x07, 0x07}, basicAudio), "cta.basic_audio_missing"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x41, 16}), "cta.basic_audio_missing"), 0U);
+}
+
+TEST(CtaFindings, TellOfBasicAudioWithoutAudioDataBlocks) {
+    EXPECT_EQ(countIn(ctaWith({0x41, 16}, basicAudio), "cta.audio_block_missing"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x07, 0x07}, basicAudio), "cta.audio_block_missing"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x41, 16}), "cta.audio_block_missing"), 0U);
+}
+
+TEST(CtaFindings, TellOfMoreThanTwoChannelsOfPcmWithoutSpeakers) {
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x0A, 0x07, 0x07}), "cta.speakers_missing"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x07, 0x07}), "cta.speakers_missing"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x15, 0x07, 0x50}), "cta.speakers_missing"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x0A, 0x07, 0x07, 0x83, 0x07, 0, 0}), "cta.speakers_missing"), 0U);
+}
+
+TEST(CtaFindings, TellOfAudioDescriptorsThatCannotBe) {
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x00, 0x07}), "cta.audio_no_rate"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x01, 0x07}), "cta.audio_no_rate"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x24, 0x09, 0x07, 0x07, 0x15}), "cta.audio_incomplete"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x26, 0x09, 0x07, 0x07, 0x15, 0x07, 0x50}), "cta.audio_incomplete"), 0U);
+    EXPECT_EQ(findingOf(ctaWith({0x23, 0x01, 0x07, 0x07}).reading(), "field.reserved_value").path,
+              "cta[1].audio[1].format");
+    EXPECT_EQ(findingOf(ctaWith({0x23, 0x09, 0x87, 0x07}).reading(), "field.reserved_bits").path,
+              "cta[1].audio[1].reserved_2");
+    EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x7F, 0x07}), "field.reserved_bits"), 0U);
+}
+
+TEST(CtaFindings, TellOfMoreNativeTimingsThanThereAre) {
+    EXPECT_EQ(countIn(ctaWith({}, 1), "cta.native_count"), 1U);
+    EXPECT_EQ(countIn(ctaWith({}, 1).set(54, {1, 0x1D}), "cta.native_count"), 0U);
+    EXPECT_EQ(countIn(ctaWith({}, 2).set(54, {1, 0x1D}).set(132, {1, 0x1D}), "cta.native_count"), 0U);
+    EXPECT_EQ(countIn(ctaWith({}, 3).set(54, {1, 0x1D}).set(132, {1, 0x1D}), "cta.native_count"), 1U);
+}
+
+TEST(CtaFindings, TellOfOneYcbcrFlagWithoutTheOtherOnHdmi) {
+    EXPECT_EQ(countIn(ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00}, ycbcr444), "cta.ycbcr_flags"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00}, ycbcr444 | ycbcr422), "cta.ycbcr_flags"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x41, 16}, ycbcr444), "cta.ycbcr_flags"), 0U);
+}
+
+TEST(CtaFindings, TellOfOddPhysicalAddresses) {
+    const auto withAddress = [](int first, int second) { return ctaWith({0x65, 0x03, 0x0C, 0x00, first, second}); };
+    EXPECT_EQ(countIn(withAddress(0x00, 0x00), "cta.physical_address_zero"), 1U);
+    EXPECT_EQ(countIn(withAddress(0x10, 0x00), "cta.physical_address_zero"), 0U);
+    EXPECT_EQ(countIn(withAddress(0x10, 0x10), "cta.physical_address_gap"), 1U);
+    EXPECT_EQ(countIn(withAddress(0x11, 0x00), "cta.physical_address_gap"), 0U);
+}
+
+TEST(CtaFindings, TellOfDeepColourWithoutAClock) {
+    EXPECT_EQ(countIn(ctaWith({0x66, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x20}), "cta.deep_color_without_clock"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x67, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x20, 0x00}), "cta.deep_color_without_clock"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x67, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x20, 0x2D}), "cta.deep_color_without_clock"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x66, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x80}), "cta.deep_color_without_clock"), 0U);
+}
+
+TEST(CtaFindings, TellOfLatenciesOfInterlacedFormatsAlone) {
+    EXPECT_EQ(countIn(ctaWith({0x6A, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x40, 1, 1}), "cta.latency_flags"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x6C, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0xC0, 1, 1, 1, 1}), "cta.latency_flags"), 0U);
+}
+
+TEST(CtaFindings, TellOfAnHdmiBlockThatEndsBeforeWhatItAnnounces) {
+    EXPECT_EQ(countIn(ctaWith({0x69, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x80, 1}), "cta.hdmi_short"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x6A, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x80, 1, 1}), "cta.hdmi_short"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x6B, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x20, 0, 0x40, 1}), "cta.hdmi_short"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x6C, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x20, 0, 0x40, 1, 2}), "cta.hdmi_short"), 0U);
+}
+
+TEST(CtaFindings, TellOfTheHdmiForumWithoutHdmi) {
+    EXPECT_EQ(countIn(ctaWith({0x67, 0xD8, 0x5D, 0xC4, 1, 0, 0x80, 0}), "cta.hdmi_missing"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x67, 0xD8, 0x5D, 0xC4, 1, 0, 0x80, 0}),
+                      "cta.hdmi_missing"),
+              0U);
+}
+
+TEST(CtaFindings, TellOfRatesOfTheHdmiForumThatCannotBe) {
+    const auto withRate = [](int rate) { return ctaWith({0x67, 0xD8, 0x5D, 0xC4, 1, rate, 0x80, 0}); };
+    EXPECT_EQ(countIn(withRate(68), "cta.hdmi_forum_rate"), 1U);
+    EXPECT_EQ(countIn(withRate(69), "cta.hdmi_forum_rate"), 0U);
+    EXPECT_EQ(countIn(withRate(0), "cta.hdmi_forum_rate"), 0U);
+    const auto withVariableRates = [](int least, int most) {
+        return ctaWith({0x6A, 0xD8, 0x5D, 0xC4, 1, 0, 0x80, 0, 0, least, most});
+    };
+    EXPECT_EQ(countIn(withVariableRates(48, 40), "cta.variable_rates"), 1U);
+    EXPECT_EQ(countIn(withVariableRates(48, 48), "cta.variable_rates"), 0U);
+    EXPECT_EQ(countIn(withVariableRates(48, 0), "cta.variable_rates"), 0U);
+}
+
+TEST(CtaFindings, TellOfHighDynamicRangeWithoutTheStandardOne) {
+    EXPECT_EQ(countIn(ctaWith({0xE3, 0x06, 0x04, 0x01}), "cta.hdr_without_sdr"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0xE3, 0x06, 0x05, 0x01}), "cta.hdr_without_sdr"), 0U);
+}
+
+TEST(CtaFindings, CountBlocksByTheOverrideOfTheHdmiForum) {
+    ImageOf image(3);
+    image.set(126, {1}).set(128, {0x02, 0x03, 7, 0, 0xE2, 0x78, 2}).set(256, {0x02, 0x03, 4, 0});
+    EXPECT_EQ(countIn(image, "image.blocks_extra"), 0U);
+    EXPECT_EQ(textOf(image.reading(), "cta[1].eeodb.extension_count"), "2 blocks");
+    EXPECT_EQ(countIn(image.set(134, {3}), "image.blocks_missing"), 1U);
+    EXPECT_EQ(countIn(image.set(133, {0x00}), "image.blocks_extra"), 1U);
+}
+
+TEST(CtaFindings, TellOfAnOverrideThatIsNotTheFirstDataBlock) {
+    EXPECT_EQ(countIn(ctaWith({0x41, 16, 0xE2, 0x78, 1}), "cta.override_place"), 1U);
+    EXPECT_EQ(countIn(ctaWith({0xE2, 0x78, 1, 0x41, 16}), "cta.override_place"), 0U);
+}
+
+} // namespace
+} // namespace wb::fields

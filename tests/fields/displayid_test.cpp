@@ -1,0 +1,108 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "extension_image.h"
+
+namespace wb::fields {
+namespace {
+
+using testing::HasSubstr;
+
+/// 1920 x 1080 at 148.5 MHz of 2200 x 1125, in units of 10 kHz: 14850 - 1 = 0x3A01.
+constexpr std::initializer_list<int> typeI = {0x03, 0x00, 20,   0x01, 0x3A, 0x00, 0x84, 0x7F, 0x07, 0x17, 0x01, 0x57,
+                                              0x80, 0x2B, 0x00, 0x37, 0x04, 0x2C, 0x00, 0x03, 0x80, 0x04, 0x00};
+
+TEST(DisplayId, ReadsHeaderAndSection) {
+    const Reading reading = displayIdWith(0x12, typeI).reading();
+    EXPECT_EQ(textOf(reading, "displayid[1].header.version"), "1.2");
+    EXPECT_EQ(textOf(reading, "displayid[1].header.length"), "23");
+    EXPECT_EQ(textOf(reading, "displayid[1].header.product_type"), "standalone display");
+    EXPECT_EQ(textOf(displayIdWith(0x20, typeI).reading(), "displayid[1].header.primary_use"), "television");
+    EXPECT_EQ(fieldOf(reading, "displayid[1].section_checksum").where.front().byte, 156U);
+    EXPECT_EQ(fieldOf(reading, "displayid[1].padding").where.front().byte, 157U);
+    EXPECT_EQ(textOf(reading, "displayid[1].data_block[1].tag"), "3 (type I detailed timings)");
+}
+
+TEST(DisplayId, ReadsTimings) {
+    const Reading reading = displayIdWith(0x12, typeI).reading();
+    const std::string timing = "displayid[1].type_i.timing[1].";
+    EXPECT_EQ(textOf(reading, timing + "pixel_clock"), "148.500 MHz");
+    EXPECT_EQ(textOf(reading, timing + "preferred"), "yes");
+    EXPECT_EQ(textOf(reading, timing + "aspect_ratio"), "16:9");
+    EXPECT_EQ(textOf(reading, timing + "h_blank"), "280 px");
+    EXPECT_EQ(textOf(reading, timing + "v_sync_width"), "5 px");
+    EXPECT_EQ(textOf(reading, timing + "h_sync_polarity"), "positive");
+    ASSERT_EQ(reading.summary.modes.size(), 1U);
+    EXPECT_EQ(reading.summary.modes[0].height, 1080);
+    EXPECT_EQ(reading.summary.modes[0].refreshMilliHertz, 60000);
+    EXPECT_EQ(reading.summary.modes[0].pixelClockKilohertz, 148500);
+    EXPECT_TRUE(reading.summary.modes[0].native);
+}
+
+TEST(DisplayId, ReadsProducts) {
+    const Reading first =
+        displayIdWith(0x12, {0x00, 0, 15, 'A', 'B', 'C', 0x34, 0x12, 0x01, 0x02, 0x00, 0x00, 12, 20, 3, 'X', 'y', '1'})
+            .reading();
+    EXPECT_EQ(textOf(first, "displayid[1].product.vendor"), "ABC");
+    EXPECT_EQ(textOf(first, "displayid[1].product.code"), "4660");
+    EXPECT_EQ(textOf(first, "displayid[1].product.serial"), "513");
+    EXPECT_EQ(textOf(first, "displayid[1].product.week"), "12");
+    EXPECT_EQ(textOf(first, "displayid[1].product.year"), "2020");
+    EXPECT_EQ(textOf(first, "displayid[1].product.name"), "Xy1");
+    const Reading second =
+        displayIdWith(0x20, {0x20, 0, 13, 0x00, 0x0C, 0x03, 1, 0, 0, 0, 0, 0, 0xFF, 21, 1, 'Q'}).reading();
+    EXPECT_EQ(textOf(second, "displayid[1].product.vendor"), "00-0C-03");
+    EXPECT_EQ(textOf(second, "displayid[1].product.week"), "none, the year is that of the model");
+    EXPECT_EQ(textOf(second, "displayid[1].product.name"), "Q");
+}
+
+TEST(DisplayId, ReadsDataBlocksOfCta861) {
+    const Reading reading = displayIdWith(0x13, {0x81, 0, 4, 0x23, 0x09, 0x07, 0x07}).reading();
+    EXPECT_EQ(textOf(reading, "displayid[1].cta.audio[1].format"), "L-PCM");
+    ASSERT_EQ(reading.summary.audio.size(), 1U);
+}
+
+TEST(DisplayId, KeepsOtherDataBlocksInRawBytes) {
+    const Reading reading = displayIdWith(0x20, {0x29, 0, 2, 0xAB, 0xCD, 0x29, 0, 1, 0xEF}).reading();
+    EXPECT_EQ(textOf(reading, "displayid[1].data_block[1].tag"), "41 (container identification)");
+    EXPECT_EQ(textOf(reading, "displayid[1].container.bytes"), "AB CD");
+    EXPECT_EQ(textOf(reading, "displayid[1].container[2].bytes"), "EF");
+}
+
+TEST(DisplayIdFindings, TellOfTheSection) {
+    const auto section = [] { return displayIdWith(0x12, typeI); };
+    EXPECT_EQ(countOf(section().reading(), "displayid.section_checksum"), 0U);
+    EXPECT_EQ(findingOf(section().set(140, {0x55}).reading(), "displayid.section_checksum").byte, 156U);
+    EXPECT_EQ(countOf(section().set(129, {0x30}).reading(), "displayid.version"), 1U);
+    EXPECT_EQ(countOf(section().set(129, {0x20}).reading(), "displayid.version"), 0U);
+    EXPECT_EQ(countOf(section().set(130, {122}).reading(), "displayid.section_length"), 1U);
+    EXPECT_EQ(countOf(section().set(130, {121}).reading(), "displayid.section_length"), 0U);
+    EXPECT_EQ(findingOf(section().set(254, {1}).reading(), "displayid.padding_not_zero").byte, 254U);
+    EXPECT_EQ(countOf(section().set(255, {1}).reading(), "displayid.padding_not_zero"), 0U);
+}
+
+TEST(DisplayIdFindings, TellOfDataBlocks) {
+    const Reading over = displayIdWith(0x12, {0x29, 0, 4, 1, 2}).reading();
+    EXPECT_THAT(findingOf(over, "displayid.data_block_over").text,
+                HasSubstr("container identification at byte 133 takes 7 bytes and runs 2 over"));
+    EXPECT_EQ(countOf(displayIdWith(0x12, {0x29, 0, 2, 1, 2}).reading(), "displayid.data_block_over"), 0U);
+    EXPECT_EQ(countOf(displayIdWith(0x12, {0x03, 0, 2, 1, 2}).reading(), "displayid.data_block_short"), 1U);
+    EXPECT_EQ(countOf(displayIdWith(0x12, typeI).reading(), "displayid.data_block_short"), 0U);
+    EXPECT_EQ(countOf(displayIdWith(0x12, {0x03, 0, 2, 1, 2}).reading(), "displayid.timing_incomplete"), 1U);
+    EXPECT_EQ(countOf(displayIdWith(0x12, typeI).reading(), "displayid.timing_incomplete"), 0U);
+    EXPECT_EQ(countOf(displayIdWith(0x12, {0x60, 0, 0}).reading(), "displayid.data_block_reserved"), 1U);
+    EXPECT_EQ(countOf(displayIdWith(0x12, {0x29, 0, 0}).reading(), "displayid.data_block_reserved"), 0U);
+}
+
+TEST(DisplayIdFindings, TellOfSyncBeyondTheBlanking) {
+    EXPECT_EQ(countOf(displayIdWith(0x12, typeI).reading(), "timing.h_sync_beyond_blanking"), 0U);
+    // Front porch 88 and sync 193 of 280, then 192.
+    EXPECT_EQ(countOf(displayIdWith(0x12, typeI).set(146, {0xC0}).reading(), "timing.h_sync_beyond_blanking"), 1U);
+    EXPECT_EQ(countOf(displayIdWith(0x12, typeI).set(146, {0xBF}).reading(), "timing.h_sync_beyond_blanking"), 0U);
+    // Front porch 4 and sync 42 of 45, then 41.
+    EXPECT_EQ(countOf(displayIdWith(0x12, typeI).set(154, {41}).reading(), "timing.v_sync_beyond_blanking"), 1U);
+    EXPECT_EQ(countOf(displayIdWith(0x12, typeI).set(154, {40}).reading(), "timing.v_sync_beyond_blanking"), 0U);
+}
+
+} // namespace
+} // namespace wb::fields
