@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t timingCount = 8;
 
 unsigned codeAt(const Scope& timings, std::size_t index) {
-    return static_cast<unsigned>(timings.raw({{2 * index}, {2 * index + 1}}));
+    return static_cast<unsigned>(timings.raw({{standardTimingSize * index}, {standardTimingSize * index + 1}}));
 }
 
 void checkDuplicate(const Scope& timings, std::size_t index) {
@@ -21,7 +21,7 @@ void checkDuplicate(const Scope& timings, std::size_t index) {
     }
     for (std::size_t before = 0; before < index; ++before) {
         if (codeAt(timings, before) == code) {
-            timings.tell(Severity::Note, "standard.duplicate", 2 * index, "",
+            timings.tell(Severity::Note, "standard.duplicate", standardTimingSize * index, "",
                          "Standard timing " + std::to_string(index + 1) + " is the same as number " +
                              std::to_string(before + 1) +
                              " and tells nothing new; enter 01 01, or the timing that was meant.");
@@ -35,7 +35,7 @@ void checkDuplicate(const Scope& timings, std::size_t index) {
 void readStandardTimings(const Scope& base, int revision) {
     const Scope timings = base.inner(38, "standard", "E-EDID 1.4, 3.9");
     for (std::size_t i = 0; i < timingCount; ++i) {
-        readStandardTiming(timings.inner(2 * i, '[' + std::to_string(i + 1) + ']'), revision);
+        readStandardTiming(timings.inner(standardTimingSize * i, '[' + std::to_string(i + 1) + ']'), revision);
         checkDuplicate(timings, i);
     }
 }

@@ -1,6 +1,6 @@
-#include <algorithm>
 #include <array>
 
+#include "fields/cvt_code.h"
 #include "fields/descriptors.h"
 #include "fields/mode_flags.h"
 #include "fields/standard_timing.h"
@@ -57,101 +57,21 @@ constexpr std::array<ModeFlag, 44> moreModes = {{
     {"1920x1440_75", "1920 x 1440 at 75 Hz", 1920, 1440, 75},
 }};
 
-/// Section 3.10.3.8: codes of three bytes each from byte 6 of the descriptor on.
-constexpr std::size_t codeCount = 4;
-constexpr std::size_t codeSize = 3;
-constexpr std::array<Choice, 4> aspectChoices = {{{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "15:9"}}};
-constexpr std::array<std::array<int, 2>, 4> aspects = {{{4, 3}, {16, 9}, {16, 10}, {15, 9}}};
-constexpr std::array<Choice, 4> rateChoices = {{{0, "50 Hz"}, {1, "60 Hz"}, {2, "75 Hz"}, {3, "85 Hz"}}};
-
-constexpr Row linesRow = {
-    .name = "lines", .label = "Active lines", .parts = {{1, 7, 4}, {0}}, .unit = "px", .scale = 2, .bias = 2};
-constexpr Row aspectRow = {.name = "aspect_ratio",
-                           .label = "Aspect ratio",
-                           .parts = {{1, 3, 2}},
-                           .kind = Kind::Choice,
-                           .choices = aspectChoices};
-constexpr std::array<Row, 3> codeRows = {{
-    {.name = "reserved_1", .label = "Reserved", .parts = {{1, 1, 0}}, .kind = Kind::Reserved},
-    {.name = "reserved_2", .label = "Reserved", .parts = {{2, 7, 7}}, .kind = Kind::Reserved},
-    {.name = "preferred_rate",
-     .label = "Preferred vertical rate",
-     .parts = {{2, 6, 5}},
-     .kind = Kind::Choice,
-     .choices = rateChoices},
-}};
-constexpr Row unusedCodeRow = {
-    .name = "unused", .label = "Unused code", .parts = {{0}}, .kind = Kind::Bytes, .length = codeSize};
-
-struct Rate {
-    std::string_view name;
-    std::string_view label;
-    int hertz;
-};
-
-/// From bit 4 of the last byte of a code down.
-constexpr std::array<Rate, 5> rates = {{{"rate_50", "50 Hz supported", 50},
-                                        {"rate_60", "60 Hz supported", 60},
-                                        {"rate_75", "75 Hz supported", 75},
-                                        {"rate_85", "85 Hz supported", 85},
-                                        {"rate_60_rb", "60 Hz with reduced blanking supported", 60}}};
-
-void readRates(const Scope& code, int width, int height) {
-    for (std::size_t i = 0; i < rates.size(); ++i) {
-        const auto bit = static_cast<std::uint8_t>(4 - i);
-        const Parts parts = {{2, bit, bit}};
-        code.add({.name = rates[i].name, .label = rates[i].label, .parts = parts, .kind = Kind::Flag});
-        if (code.raw(parts) != 0) {
-            Mode mode{.source = ModeSource::Standard, .width = width, .height = height};
-            mode.interlaced = false;
-            mode.refreshMilliHertz = std::int64_t{rates[i].hertz} * 1000;
-            code.summary().modes.push_back(mode);
-        }
-    }
-}
-
-/// The preferred rate counts from 0 for 50 Hz; of 60 Hz either form will do.
-void checkPreferredRate(const Scope& code) {
-    constexpr std::array<unsigned, 4> bits = {0x10, 0x09, 0x04, 0x02};
-    if ((code.byte(2) & bits[code.raw(codeRows[2].parts)]) == 0) {
-        code.tell(Severity::Warning, "cvt.preferred_rate_unsupported", 2, "preferred_rate",
-                  "The preferred vertical rate is not among those that are supported, so that software takes a rate "
-                  "that the monitor disclaims or passes over the code; set the bit of the rate too.");
-    }
-}
-
-void readCvtCode(const Scope& code) {
-    const auto bytes = code.bytes(0, codeSize);
-    if (std::all_of(bytes.begin(), bytes.end(), [](unsigned byte) { return byte == 0; })) {
-        code.add(unusedCodeRow);
-        return;
-    }
-    const int height = static_cast<int>(code.raw(linesRow.parts) + 1) * 2;
-    const auto [across, down] = aspects[code.raw(aspectRow.parts)];
-    // The width is a multiple of 8 pixels (VESA CVT Standard, section 3.4).
-    const int width = height * across / down / 8 * 8;
-    code.add(linesRow);
-    Field& aspect = code.add(aspectRow);
-    aspect.text += ", " + std::to_string(width) + " pixels a line";
-    code.add(codeRows);
-    readRates(code, width, height);
-    checkPreferredRate(code);
-}
-
 } // namespace
 
 void readMoreStandardTimings(const Scope& slot, int revision) {
     constexpr std::size_t timings = 6;
     for (std::size_t i = 0; i < timings; ++i) {
-        readStandardTiming(slot.inner(5 + 2 * i, "standard[" + std::to_string(i + 1) + ']'), revision);
+        readStandardTiming(slot.inner(5 + standardTimingSize * i, "standard[" + std::to_string(i + 1) + ']'), revision);
     }
     readDescriptorPadding(slot, 17);
 }
 
 void readCvtCodes(const Scope& slot, int /*revision*/) {
     readDescriptorVersion(slot, 1);
-    for (std::size_t i = 0; i < codeCount; ++i) {
-        readCvtCode(slot.inner(6 + codeSize * i, "cvt[" + std::to_string(i + 1) + ']'));
+    constexpr std::size_t codes = 4;
+    for (std::size_t i = 0; i < codes; ++i) {
+        readCvtCode(slot.inner(6 + cvtCodeSize * i, "cvt[" + std::to_string(i + 1) + ']'));
     }
 }
 
