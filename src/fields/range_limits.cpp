@@ -61,10 +61,10 @@ constexpr Row oldFormulaRow = {.name = "timing_support",
 constexpr std::array<Row, 6> secondaryGtfRows = {{
     {.name = "gtf_reserved", .label = "Reserved", .parts = {{11}}, .kind = Kind::Reserved},
     {.name = "gtf_start", .label = "Start of the secondary curve", .parts = {{12}}, .unit = "kHz", .scale = 2},
-    {.name = "gtf_c", .label = "C of the secondary curve", .parts = {{13}}, .scale = 0.5, .decimals = 1},
+    {.name = "gtf_c", .label = "C of the secondary curve", .parts = {{13}}, .unit = "%", .scale = 0.5, .decimals = 1},
     {.name = "gtf_m", .label = "M of the secondary curve", .parts = {{15}, {14}}},
     {.name = "gtf_k", .label = "K of the secondary curve", .parts = {{16}}},
-    {.name = "gtf_j", .label = "J of the secondary curve", .parts = {{17}}, .scale = 0.5, .decimals = 1},
+    {.name = "gtf_j", .label = "J of the secondary curve", .parts = {{17}}, .unit = "%", .scale = 0.5, .decimals = 1},
 }};
 
 constexpr std::array<Choice, 5> aspects = {{{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "5:4"}, {4, "15:9"}}};

@@ -30,18 +30,6 @@ bool isEmpty(const Value& value) {
     return std::holds_alternative<std::monostate>(value);
 }
 
-/// "1920x1080@60000" of each mode, in order.
-std::vector<std::string> modesOf(const Reading& reading) {
-    std::vector<std::string> modes;
-    for (const Mode& mode : reading.summary.modes) {
-        modes.push_back(std::to_string(mode.width) + 'x' + std::to_string(mode.height) +
-                        (mode.interlaced == true ? "i@" : "@") + std::to_string(mode.refreshMilliHertz.value_or(0)));
-    }
-    return modes;
-}
-
-using Modes = std::vector<std::string>;
-
 /// The four slots without any mode or name.
 ImageOf withoutModes() {
     ImageOf image = goodImage();
@@ -216,7 +204,7 @@ TEST(Block0, KeepsTheNumbersOfTheSlots) {
 }
 
 TEST(Block0, TakesTheSizeFromTheFirstTimingWhereItIsMoreExact) {
-    const auto sizeOf = [](ImageOf image) {
+    const auto sizeOf = [](const ImageOf& image) {
         const Summary summary = image.reading().summary;
         return std::pair(summary.widthMillimetres.value_or(0), summary.heightMillimetres.value_or(0));
     };

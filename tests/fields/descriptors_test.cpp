@@ -110,17 +110,11 @@ TEST(Descriptors, TellCoefficientsWithTheirSign) {
 }
 
 /// Those that stand behind the modes of goodImage.
-std::vector<std::string> addedModes(const Reading& reading) {
-    std::vector<std::string> modes;
-    for (const Mode& mode : reading.summary.modes) {
-        modes.push_back(std::to_string(mode.width) + 'x' + std::to_string(mode.height) + '@' +
-                        std::to_string(mode.refreshMilliHertz.value_or(0) / 1000));
-    }
+Modes addedModes(const Reading& reading) {
+    Modes modes = modesOf(reading);
     modes.erase(modes.begin(), modes.begin() + 2);
     return modes;
 }
-
-using Modes = std::vector<std::string>;
 
 TEST(Descriptors, TellCvtCodes) {
     // 1050 lines, 16:9 (1866.7 pixels, of which 1864 are a multiple of 8), 60 Hz preferred and reduced, and 50 Hz.
@@ -134,14 +128,14 @@ TEST(Descriptors, TellCvtCodes) {
     EXPECT_EQ(valueOf(reading, code + "rate_60"), Value(false));
     EXPECT_EQ(valueOf(reading, code + "rate_60_rb"), Value(true));
     EXPECT_EQ(fieldOf(reading, "base.descriptor[4].cvt[2].unused").label, "Unused code");
-    EXPECT_EQ(addedModes(reading), (Modes{"1864x1050@50", "1864x1050@60"}));
+    EXPECT_EQ(addedModes(reading), (Modes{"1864x1050@50000", "1864x1050@60000"}));
 }
 
 TEST(Descriptors, TellMoreStandardTimings) {
     const Reading reading =
         withDescriptor({0, 0, 0, 0xFA, 0, 129, 0x19, 1, 1, 1, 1, 1, 1, 1, 1, 0xD1, 0xC0, 10}).reading();
     EXPECT_EQ(valueOf(reading, "base.descriptor[4].standard[1].width"), whole(1280));
-    EXPECT_EQ(addedModes(reading), (Modes{"1280x800@85", "1920x1080@60"}));
+    EXPECT_EQ(addedModes(reading), (Modes{"1280x800@85000", "1920x1080@60000"}));
 }
 
 TEST(Descriptors, TellMoreEstablishedTimings) {
@@ -150,8 +144,8 @@ TEST(Descriptors, TellMoreEstablishedTimings) {
         withDescriptor({0, 0, 0, 0xF7, 0, 10, 0x80, 0x01, 0x40, 0x04, 0x02, 0x10, 0, 0, 0, 0, 0, 0}).reading();
     EXPECT_EQ(valueOf(reading, "base.descriptor[4].established.1440x900_60_rb"), Value(true));
     EXPECT_EQ(valueOf(reading, "base.descriptor[4].established.1440x900_60"), Value(false));
-    EXPECT_EQ(addedModes(reading),
-              (Modes{"640x350@85", "1280x1024@85", "1440x900@60", "1600x1200@60", "1920x1200@60", "1920x1440@75"}));
+    EXPECT_EQ(addedModes(reading), (Modes{"640x350@85000", "1280x1024@85000", "1440x900@60000", "1600x1200@60000",
+                                          "1920x1200@60000", "1920x1440@75000"}));
 }
 
 TEST(Descriptors, KeepTheDataOfOthers) {

@@ -66,4 +66,16 @@ inline std::size_t countOf(const Reading& reading, std::string_view code) {
     return count;
 }
 
+using Modes = std::vector<std::string>;
+
+/// The modes of the summary with their refresh in thousandths of a hertz, such as "1920x1080i@60000".
+inline Modes modesOf(const Reading& reading) {
+    Modes modes;
+    for (const Mode& mode : reading.summary.modes) {
+        modes.push_back(std::to_string(mode.width) + 'x' + std::to_string(mode.height) +
+                        (mode.interlaced == true ? "i@" : "@") + std::to_string(mode.refreshMilliHertz.value_or(0)));
+    }
+    return modes;
+}
+
 } // namespace wb::fields
