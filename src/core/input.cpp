@@ -212,15 +212,7 @@ bool close(Screen& screen) {
         return false;
     }
     Workbench& workbench = screen.workbench();
-    workbench.runAction([&] {
-        if (screen.id() == ScreenId::CeaExt) {
-            // Unloading this screen would lose its cells, so its close button returns to the other screen.
-            Control& back = static_cast<FrmCeaExt&>(screen).Cmd_Return;
-            back.raiseClick();
-        } else {
-            workbench.windows.unload(screen.id());
-        }
-    });
+    workbench.runAction([&] { workbench.close(screen); });
     return true;
 }
 

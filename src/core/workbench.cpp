@@ -41,7 +41,7 @@ Screen& Workbench::touch(ScreenId id) {
         slot = makeScreen(id);
         Screen& screen = *slot;
         creationOrder_.push_back(&screen);
-        const ScreenLife& life = (*wiring_)[static_cast<std::size_t>(id)];
+        const ScreenLife& life = lifeOf(id);
         if (life.connect != nullptr) {
             life.connect(screen);
         }
@@ -57,12 +57,20 @@ Screen& Workbench::touch(ScreenId id) {
 }
 
 bool Workbench::runUnload(Screen& screen) {
-    const ScreenLife& life = (*wiring_)[static_cast<std::size_t>(screen.id())];
+    const ScreenLife& life = lifeOf(screen.id());
     bool cancel = false;
     if (life.unload != nullptr) {
         life.unload(*this, cancel);
     }
     return !cancel;
+}
+
+void Workbench::close(Screen& screen) {
+    if (const ScreenLife& life = lifeOf(screen.id()); life.close != nullptr) {
+        life.close(*this);
+    } else {
+        windows.unload(screen.id());
+    }
 }
 
 void Workbench::discard(ScreenId id) {

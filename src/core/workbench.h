@@ -23,6 +23,7 @@ struct ScreenLife {
     void (*connect)(Screen&) = nullptr;                 ///< connects the handlers of a new screen's controls
     void (*load)(Workbench&) = nullptr;                 ///< the load step
     void (*unload)(Workbench&, bool& cancel) = nullptr; ///< the unload step; may refuse
+    void (*close)(Workbench&) = nullptr;                ///< what the window's close button does instead of unloading
 };
 
 using Wiring = std::array<ScreenLife, screenCount>;
@@ -57,6 +58,8 @@ struct Workbench : SharedVariables {
     std::vector<Screen*> loadedInOrder() const { return creationOrder_; }
     /// Runs the unload step; false when it refused.
     bool runUnload(Screen& screen);
+    /// Does what the window's own close button does: unloads the screen, unless its wiring has a close step.
+    void close(Screen& screen);
     /// Takes the screen out of the program. The object itself lives until the outermost action has returned.
     void discard(ScreenId id);
 
@@ -105,6 +108,8 @@ private:
     ScreenType& touchAs(ScreenId id) {
         return static_cast<ScreenType&>(touch(id));
     }
+
+    const ScreenLife& lifeOf(ScreenId id) const { return (*wiring_)[static_cast<std::size_t>(id)]; }
 
     const Wiring* wiring_;
     std::array<std::unique_ptr<Screen>, screenCount> screens_;

@@ -25,6 +25,7 @@ Wiring makeWiring() {
         steps->emplace_back("unload");
         cancel = refuse;
     };
+    made[static_cast<std::size_t>(ScreenId::Document)].close = [](Workbench&) { steps->emplace_back("close"); };
     made[static_cast<std::size_t>(ScreenId::CeaExt)].load = [](Workbench&) { throw Failure(FailureKind::Overflow); };
     return made;
 }
@@ -90,6 +91,15 @@ TEST_F(WorkbenchTest, TheUnloadStepMayRefuse) {
     EXPECT_FALSE(workbench.runUnload(screen));
     EXPECT_TRUE(workbench.runUnload(workbench.frmHelp())) << "it has none";
     EXPECT_EQ(workbench.loaded(ScreenId::Edid), &screen) << "the step takes nothing away";
+}
+
+TEST_F(WorkbenchTest, ACloseStepTakesThePlaceOfUnloading) {
+    workbench.close(workbench.frmDocument());
+    EXPECT_EQ(steps_, Lines{"close"});
+    EXPECT_NE(workbench.loaded(ScreenId::Document), nullptr);
+    workbench.close(workbench.frmEDID());
+    EXPECT_EQ(steps_.back(), "unload");
+    EXPECT_EQ(workbench.loaded(ScreenId::Edid), nullptr) << "it has no close step";
 }
 
 TEST_F(WorkbenchTest, ADiscardedScreenLivesUntilTheOutermostActionIsOver) {
