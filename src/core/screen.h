@@ -43,9 +43,8 @@ public:
     /// Hosted by the frame as a child window; the others are the frame, the splash and the modal screens.
     bool isChild() const;
 
-    /// Whether the screen is on view; `Windows` alone changes it.
+    /// Whether the screen is on view.
     bool shown() const { return shown_; }
-    void setShown(bool shown);
 
     /// All controls in order of creation, which is the tab order.
     const std::vector<Control*>& controls() const { return controls_; }
@@ -69,6 +68,10 @@ protected:
     void setFirstInTabOrder(Control& control) { firstInTabOrder_ = &control; }
 
 private:
+    friend class Windows; // which alone puts screens on view and takes them off
+
+    void setShown(bool shown);
+
     Workbench* workbench_;
     ScreenId id_;
     bool shown_ = false;
