@@ -41,19 +41,9 @@ void Command4_Click(Workbench& workbench) {
 
 void tbToolBar_ButtonClick(Workbench& workbench, int index) {
     FrmMain& frame = workbench.frmMain();
-    struct Key {
-        std::string_view key;
-        Control* entry;
-    };
-    const Key keys[] = {{"New", &frame.mnuFileNew},     {"Open", &frame.mnuFileOpen},
-                        {"Save", &frame.mnuFileSave},   {"Print Preview", &frame.mnuFilePrintPreview},
-                        {"Print", &frame.mnuFilePrint}, {"Calculator", &frame.HexCalculator},
-                        {"GetEDID", &frame.GetEDIDData}};
-    for (const Key& key : keys) {
-        if (key.key == frame.tbToolBar(index).caption()) {
-            key.entry->raiseClick();
-        }
-    }
+    const auto place = static_cast<std::size_t>(index - frame.tbToolBar.first());
+    Control& entry = frame.*FrmMain::toolBarKeys.at(place).entry;
+    entry.raiseClick();
 }
 
 } // namespace wb::shell

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "core/screen.h"
@@ -11,19 +12,6 @@ namespace wb {
 /// The multi-document frame: its menu, tool bar, command buttons and status bar.
 class FrmMain : public Screen {
 public:
-    struct ToolBarKey {
-        std::string_view key;
-        std::string_view toolTip;
-    };
-    /// The buttons of the tool bar in their order; tbToolBar(1) is the first.
-    static constexpr std::array<ToolBarKey, 7> toolBarKeys = {{{"New", "New"},
-                                                               {"Open", "Open"},
-                                                               {"Save", "Save"},
-                                                               {"Print Preview", "Print Preview"},
-                                                               {"Print", "Print"},
-                                                               {"Calculator", "Displays Calculator"},
-                                                               {"GetEDID", "Retrieve EDID Data"}}};
-
     explicit FrmMain(Workbench& workbench);
 
     SingleControl mnuFile{*this, "mnuFile", ControlKind::Menu, nullptr, "&File"};
@@ -56,6 +44,23 @@ public:
     SingleControl Info{*this, "Info", ControlKind::Menu, &mnuHelp, "&Information"};
     SingleControl mnuHelpAbout{*this, "mnuHelpAbout", ControlKind::Menu, &mnuHelp, "&About "};
 
+    /// What the icon of a tool bar button shows.
+    enum class Picture : std::uint8_t { Sheet, Folder, Disk, Magnifier, Printer, Calculator, Monitor };
+    struct ToolBarKey {
+        std::string_view key;
+        std::string_view toolTip;
+        Picture picture;
+        SingleControl FrmMain::*entry; ///< the menu entry that does the same
+    };
+    /// The buttons of the tool bar in their order; tbToolBar(1) is the first.
+    static constexpr std::array<ToolBarKey, 7> toolBarKeys = {
+        {{"New", "New", Picture::Sheet, &FrmMain::mnuFileNew},
+         {"Open", "Open", Picture::Folder, &FrmMain::mnuFileOpen},
+         {"Save", "Save", Picture::Disk, &FrmMain::mnuFileSave},
+         {"Print Preview", "Print Preview", Picture::Magnifier, &FrmMain::mnuFilePrintPreview},
+         {"Print", "Print", Picture::Printer, &FrmMain::mnuFilePrint},
+         {"Calculator", "Displays Calculator", Picture::Calculator, &FrmMain::HexCalculator},
+         {"GetEDID", "Retrieve EDID Data", Picture::Monitor, &FrmMain::GetEDIDData}}};
     ControlArray tbToolBar{*this, "tbToolBar", ControlKind::Menu, 1, static_cast<int>(toolBarKeys.size())};
 
     SingleControl Command1{*this, "Command1", ControlKind::Button, nullptr, "Translate EDID"};

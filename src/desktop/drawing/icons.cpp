@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <array>
 
 namespace wb::desktop {
 
@@ -28,18 +29,18 @@ void paintSheet(QPainter& painter) {
     painter.drawPolyline(QPolygonF({{14, 3}, {14, 7}, {18, 7}}));
 }
 
-void paintOpen(QPainter& painter) {
+void paintFolder(QPainter& painter) {
     painter.drawPolyline(QPolygonF({{3, 19}, {3, 5}, {9, 5}, {11, 8}, {19, 8}, {19, 11}}));
     painter.drawPolygon(QPolygonF({{3, 19}, {6.5, 11}, {22, 11}, {18.5, 19}}));
 }
 
-void paintSave(QPainter& painter) {
+void paintDisk(QPainter& painter) {
     painter.drawPolygon(QPolygonF({{4, 4}, {17, 4}, {20, 7}, {20, 20}, {4, 20}}));
     painter.drawRect(QRectF(8, 4, 7, 5));
     painter.drawRect(QRectF(7, 13, 10, 7));
 }
 
-void paintPreview(QPainter& painter) {
+void paintMagnifier(QPainter& painter) {
     painter.drawPolyline(QPolygonF({{11, 21}, {5, 21}, {5, 3}, {13, 3}, {17, 7}, {17, 9}}));
     painter.drawPolyline(QPolygonF({{13, 3}, {13, 7}, {17, 7}}));
     painter.drawEllipse(QPointF(15, 14), 4, 4);
@@ -68,17 +69,9 @@ void paintMonitor(QPainter& painter) {
     painter.drawPolyline(QPolygonF({{8.5, 17}, {12, 20.5}, {15.5, 17}}));
 }
 
-struct KeyedDrawing {
-    std::string_view key;
-    Drawing paint;
-};
-
-constexpr KeyedDrawing drawings[] = {
-    {"New", paintSheet},       {"Open", paintOpen},
-    {"Save", paintSave},       {"Print Preview", paintPreview},
-    {"Print", paintPrinter},   {"Calculator", paintCalculator},
-    {"GetEDID", paintMonitor},
-};
+/// In the order of the pictures.
+constexpr std::array<Drawing, 7> drawings = {paintSheet,   paintFolder,     paintDisk,   paintMagnifier,
+                                             paintPrinter, paintCalculator, paintMonitor};
 
 class LineIcon : public QIconEngine {
 public:
@@ -114,13 +107,8 @@ private:
 
 } // namespace
 
-QIcon toolBarIcon(std::string_view key) {
-    for (const KeyedDrawing& drawing : drawings) {
-        if (drawing.key == key) {
-            return QIcon(new LineIcon(drawing.paint));
-        }
-    }
-    return {};
+QIcon toolBarIcon(FrmMain::Picture picture) {
+    return QIcon(new LineIcon(drawings.at(static_cast<std::size_t>(picture))));
 }
 
 } // namespace wb::desktop

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QIcon>
-#include <string_view>
+
+#include "core/screens/frm_main.h"
 
 namespace wb::desktop {
 
-/// The icon of a tool bar button by its key. It is drawn in the colour of the palette's text, at any size.
-QIcon toolBarIcon(std::string_view key);
+/// The icon of a tool bar button. It is drawn in the colour of the palette's text, at any size.
+QIcon toolBarIcon(FrmMain::Picture picture);
 
 } // namespace wb::desktop

@@ -145,7 +145,7 @@ void MainView::makeToolBar() {
     int index = buttons.first();
     for (const FrmMain::ToolBarKey& key : FrmMain::toolBarKeys) {
         QAction& action = makeEntry(buttons(index++)).action();
-        action.setIcon(toolBarIcon(key.key));
+        action.setIcon(toolBarIcon(key.picture));
         action.setToolTip(toUnicode(key.toolTip));
         bar->addAction(&action);
     }
