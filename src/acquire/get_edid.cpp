@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "acquire/registry_search.h"
+#include "block0/extension_button.h"
 #include "cea/definitions.h"
 #include "core/base/image_layout.h"
 #include "core/base/numbers.h"
@@ -89,7 +90,7 @@ void LoadStoredEdid(Workbench& workbench, std::string data) {
         }
         report::BuildEDIDDefinations(workbench);
         workbench.focus.moveTo(screen.txtEdit(0));
-        if (UpdateExtensionButton(workbench)) {
+        if (block0::UpdateExtensionButton(workbench)) {
             for (int j = 0; j < BlockScreen::cellCount; ++j) {
                 // The text comes first: where the block is missing altogether, its screen is not even touched.
                 std::string text = cellTextOf(data, BlockScreen::cellCount + j);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "core/base/text.h"
@@ -134,11 +135,6 @@ std::string ReadEDIDValueFromKey(platform::Registry& registry, platform::Registr
         }
     }
     return {};
-}
-
-bool IsEDIDHeaderValid(std::string_view text) {
-    using namespace std::string_view_literals;
-    return text.substr(0, 8) == "\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00"sv;
 }
 
 } // namespace wb::acquire

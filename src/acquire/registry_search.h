@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "core/workbench.h"
 
@@ -20,8 +19,5 @@ std::string SearchRegistryForEDID(Workbench& workbench, const std::string& path,
 /// there is no such value. Values that cannot be enumerated (above 1,024 bytes) and values without a name do not count.
 std::string ReadEDIDValueFromKey(platform::Registry& registry, platform::Registry::Key key, int valueCount,
                                  bool walkKeys);
-
-/// Whether the text begins with the eight bytes 00 FF FF FF FF FF FF 00 (VESA E-EDID Standard, header).
-bool IsEDIDHeaderValid(std::string_view text);
 
 } // namespace wb::acquire

@@ -1,6 +1,7 @@
 #include "block0/dispatch.h"
 
 #include "block0/block_dispatch.h"
+#include "block0/extension_button.h"
 #include "block0/field_decoders.h"
 #include "block0/grid.h"
 #include "block0/panel_basic.h"

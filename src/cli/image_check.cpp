@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "acquire/registry_search.h"
 #include "core/base/image_layout.h"
 #include "core/base/text.h"
+#include "core/edid_image.h"
 
 namespace wb::cli {
 
@@ -57,7 +57,7 @@ void addSums(std::string_view image, std::vector<CheckResult>& results) {
 } // namespace
 
 std::vector<CheckResult> checkImage(std::string_view image, std::size_t mostBlocks) {
-    const bool headed = acquire::IsEDIDHeaderValid(image);
+    const bool headed = IsEDIDHeaderValid(image);
     std::vector<CheckResult> results = {{headed, headed ? "header ok" : "header wrong"},
                                         checkLength(image, mostBlocks)};
     addSums(image, results);

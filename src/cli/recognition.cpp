@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <optional>
 
-#include "acquire/registry_search.h"
 #include "core/base/digits.h"
 #include "core/base/image_layout.h"
 #include "core/base/text.h"
+#include "core/edid_image.h"
 #include "files/data_file.h"
 
 namespace wb::cli {
@@ -74,7 +74,7 @@ bool isBinaryImage(std::string_view bytes) {
     if (bytes.size() < blockSize) {
         return false;
     }
-    return acquire::IsEDIDHeaderValid(bytes) ||
+    return IsEDIDHeaderValid(bytes) ||
            (bytes.size() % blockSize == 0 && !std::all_of(bytes.begin(), bytes.end(), isTextCharacter));
 }
 

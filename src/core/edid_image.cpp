@@ -5,6 +5,11 @@
 
 namespace wb {
 
+bool IsEDIDHeaderValid(std::string_view text) {
+    using namespace std::string_view_literals;
+    return text.substr(0, 8) == "\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00"sv;
+}
+
 bool hasDescriptorMark(BlockScreen& screen, int base) {
     return screen.txtEdit(base).text() + screen.txtEdit(base + 1).text() + screen.txtEdit(base + 2).text() == "000000";
 }
@@ -44,14 +49,6 @@ void RecalcBlock0Checksum(Workbench& workbench) {
         screen.txtEdit(checksumCell).setText(checksumTextFor(sum));
         noteChecksum(workbench, screen.txtEdit(checksumCell).text());
     });
-}
-
-bool UpdateExtensionButton(Workbench& workbench) {
-    const bool extension = byteAt(workbench.frmEDID(), extensionCountCell) != 0;
-    Control& button = workbench.frmMain().Command4;
-    button.setEnabled(extension);
-    button.setCaption(extension ? "See Ext Block" : "No Ext Block");
-    return extension;
 }
 
 bool hasExtensionByDecimalText(Workbench& workbench) {

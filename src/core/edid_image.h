@@ -8,6 +8,10 @@
 /// byte 128 + i. Nothing keeps a parallel numeric image.
 namespace wb {
 
+/// Whether the bytes of an image begin with the eight of the header, 00 FF FF FF FF FF FF 00 (VESA E-EDID Standard,
+/// header).
+bool IsEDIDHeaderValid(std::string_view text);
+
 /// Whether the block from cell `base` on is marked as no timing: the texts of its first three cells read "000000".
 bool hasDescriptorMark(BlockScreen& screen, int base);
 
@@ -24,10 +28,6 @@ void rememberChecksum(Workbench& workbench);
 
 /// The text of a check sum cell for that sum of the other cells modulo 256 (0 to 255).
 std::string checksumTextFor(int sum);
-
-/// Enables Command4 with "See Ext Block" where the value of byte 126 is not 0; otherwise disables it with "No Ext
-/// Block". Gives whether there is an extension. Failures pass to the caller.
-bool UpdateExtensionButton(Workbench& workbench);
 
 /// Whether byte 126 counts as an extension in the report and in files: by the decimal number at the start of its text,
 /// so that "0A" and "FF" do not.

@@ -2,6 +2,7 @@
 
 #include "acquire/registry_search.h"
 #include "core/cells.h"
+#include "core/edid_image.h"
 #include "script/callable.h"
 #include "script/control_names.h"
 #include "script/script_error.h"
@@ -27,7 +28,7 @@ constexpr auto helpers = std::to_array<Callable>({
     callable<&BinaryTextToDecimal>("BinaryTextToDecimal"),
     callable<&Value>("Value"),
 
-    callable<&acquire::IsEDIDHeaderValid>("IsEDIDHeaderValid"),
+    callable<&IsEDIDHeaderValid>("IsEDIDHeaderValid"),
     callable<&acquire::SearchRegistryForEDID>("SearchRegistryForEDID"),
     callable<&shell::GetBrandName>("GetBrandName"),
     callable<&shell::GetModelName>("GetModelName"),

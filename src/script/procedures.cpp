@@ -5,6 +5,7 @@
 #include "acquire/get_edid.h"
 #include "acquire/scan.h"
 #include "block0/dispatch.h"
+#include "block0/extension_button.h"
 #include "block0/panel_basic.h"
 #include "block0/panel_chromaticity.h"
 #include "block0/panel_descriptor.h"
@@ -70,7 +71,7 @@ constexpr Callable shared(std::string_view name) {
 
 /// A step that sets the button; what it found is for its callers in the program alone.
 void updateExtensionButton(Workbench& workbench) {
-    UpdateExtensionButton(workbench);
+    block0::UpdateExtensionButton(workbench);
 }
 
 constexpr auto procedures = std::to_array<Callable>({

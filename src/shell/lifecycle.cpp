@@ -1,5 +1,6 @@
 #include "shell/lifecycle.h"
 
+#include "block0/extension_button.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
 #include "files/common_dialog.h"
@@ -21,7 +22,7 @@ void openNamedFile(Workbench& workbench) {
     }
     files::LoadBlock0Cells(workbench);
     workbench.focus.moveTo(workbench.frmEDID().txtEdit(0));
-    if (UpdateExtensionButton(workbench)) {
+    if (block0::UpdateExtensionButton(workbench)) {
         files::LoadExtensionCells(workbench);
     }
     rememberChecksum(workbench);
@@ -44,7 +45,7 @@ void mnuFileNew(Workbench& workbench) {
             files::InitNewImage(workbench);
         }
         workbench.CurrentFileName.clear();
-        if (UpdateExtensionButton(workbench) && workbench.ModifyEDIDOn == flagFalse) {
+        if (block0::UpdateExtensionButton(workbench) && workbench.ModifyEDIDOn == flagFalse) {
             Command2_Click(workbench);
         }
         rememberChecksum(workbench);
