@@ -27,12 +27,23 @@ NamePart parsePart(std::string_view part, std::string_view whole) {
     return result;
 }
 
+/// The program has no view while the object lives.
+class ViewAside {
+public:
+    explicit ViewAside(Workbench& workbench) : workbench_(workbench), view_(std::exchange(workbench.view, nullptr)) {}
+    ViewAside(const ViewAside&) = delete;
+    ViewAside& operator=(const ViewAside&) = delete;
+    ~ViewAside() { workbench_.view = view_; }
+
+private:
+    Workbench& workbench_;
+    View* view_;
+};
+
 /// A screen that is no part of the program, to look names up in. No view learns of it.
 std::unique_ptr<Screen> makeSpecimen(Workbench& workbench, ScreenId id) {
-    View* const view = std::exchange(workbench.view, nullptr);
-    std::unique_ptr<Screen> specimen = workbench.makeScreen(id);
-    workbench.view = view;
-    return specimen;
+    const ViewAside aside(workbench);
+    return workbench.makeScreen(id);
 }
 
 } // namespace
