@@ -169,6 +169,18 @@ TEST_F(Keyboard, LeavesTheCursorWhereItIsOnEnter) {
     EXPECT_EQ(edid().txtModel.text(), "abxc");
 }
 
+TEST_F(Keyboard, UndoesTypingThatHadToWait) {
+    focus(edid().txtModel);
+    program.act([&] {
+        type("ab");
+        EXPECT_EQ(edid().txtModel.text(), "") << "the keys wait for the call that runs";
+    });
+    EXPECT_EQ(edid().txtModel.text(), "ab");
+    press(Qt::Key_Z, Qt::ControlModifier, "\x1A");
+    EXPECT_EQ(edid().txtModel.text(), "a");
+    EXPECT_EQ(box(edid().txtModel).text(), "a");
+}
+
 TEST_F(Keyboard, TakesWhatAnInputMethodCommits) {
     focus(edid().txtEdit(23));
     QInputMethodEvent event;

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPointer>
+#include <QScopeGuard>
 #include <QSignalBlocker>
 #include <limits>
 
@@ -74,16 +76,7 @@ void TextView::shape() {
 void TextView::refresh() {
     ControlView::refresh();
     const Control& model = *control();
-    const QString text = toUnicode(model.text());
-    if (box_->text() != text) {
-        const QSignalBlocker quiet(box_);
-        if (keepHistory_) {
-            box_->selectAll();
-            box_->insert(text);
-        } else {
-            box_->setText(text);
-        }
-    }
+    refreshText();
     box_->setReadOnly(model.locked());
     // A drop is no way to type: a cell keeps what its keys let through.
     box_->setAcceptDrops(place().look != Look::Cell && !model.locked());
@@ -91,6 +84,20 @@ void TextView::refresh() {
         refreshSelection(); // elsewhere it is not drawn
     }
     refreshColours();
+}
+
+void TextView::refreshText() {
+    const QString text = toUnicode(control()->text());
+    if (box_->text() == text) {
+        return;
+    }
+    const QSignalBlocker quiet(box_);
+    if (keepHistory_) {
+        box_->selectAll();
+        box_->insert(text);
+    } else {
+        box_->setText(text);
+    }
 }
 
 void TextView::refreshSelection() {
@@ -157,11 +164,19 @@ void TextView::editByWidget(Editing&& editing, int code, bool alwaysTell) {
 void TextView::type(const QKeyEvent& event, char character) {
     actions().settleFocus();
     tellSelection();
-    keepHistory_ = true;
-    act([character, code = typedKeyCode(event, character)](Control& c) {
+    // The key may close the screen, and the view with it.
+    act([view = QPointer<TextView>(this), character, code = typedKeyCode(event, character)](Control& c) {
+        view->keepHistory_ = true;
+        const auto worked = qScopeGuard([view] {
+            if (view != nullptr) {
+                view->keepHistory_ = false;
+            }
+        });
         input::typeCharacter(c.screen().workbench(), character, code);
+        if (view != nullptr && view->control() != nullptr) {
+            view->refreshText();
+        }
     });
-    keepHistory_ = false;
 }
 
 void TextView::enter(const QKeyEvent& event) {

@@ -42,6 +42,7 @@ private:
     friend class TextBox;
 
     void shape();
+    void refreshText();
     void refreshSelection();
     void type(const QKeyEvent& event, char character);
     void enter(const QKeyEvent& event);
@@ -55,7 +56,7 @@ private:
 
     TextBox* box_;
     bool editing_ = false;     ///< the widget is editing and its signals need not be told
-    bool keepHistory_ = false; ///< the next text comes from typing, which undo takes back
+    bool keepHistory_ = false; ///< a typed key is being worked: undo takes back what it makes of the text
     bool colouring_ = false;
 };
 
