@@ -1,12 +1,13 @@
 #include "cli/output.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 
-#ifdef _WIN32
 #include <fcntl.h>
+#ifdef _WIN32
 #include <io.h>
 #endif
 
@@ -51,10 +52,18 @@ void takePermissions(const fs::path& from, const fs::path& to) {
 
 } // namespace
 
-void useBinaryStreams() {
+void prepareStreams() {
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
     _setmode(_fileno(stdout), _O_BINARY);
+#else
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    for (int stream = 0; stream <= 2; ++stream) {
+        if (fcntl(stream, F_GETFD) == -1) {
+            open("/dev/null", stream == 0 ? O_WRONLY : O_RDONLY);
+        }
+    }
 #endif
 }
 

@@ -12,8 +12,10 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Lets the standard streams carry any bytes, on systems where they would change line ends.
-void useBinaryStreams();
+/// To be called first of all. The standard streams carry any bytes, also on systems where they would change line ends.
+/// A reader that has gone and a file that grows too large are errors like any other, and a standard stream that is
+/// closed stays unusable: no file that is opened later takes its place.
+void prepareStreams();
 
 /// Writes to standard output; a failure is an OutputError.
 void print(std::string_view text);
