@@ -1,7 +1,6 @@
 #include "cli/input.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <system_error>
 
 #include "cli/cli_error.h"
@@ -12,10 +11,9 @@ namespace wb::cli {
 Input readInput(const std::string& name) {
     try {
         if (name == standardStream) {
-            return {name, files::readStream(stdin), false};
+            return {name, files::readStream(stdin)};
         }
-        std::error_code ignored;
-        return {name, files::readFile(name), std::filesystem::is_regular_file(name, ignored)};
+        return {name, files::readFile(name)};
     } catch (const std::system_error& error) {
         throw CliError(error.code().message());
     }

@@ -12,7 +12,6 @@ inline constexpr const char* standardStream = "-";
 struct Input {
     std::string name; ///< as the user gave it; "-" is standard input
     std::string content;
-    bool canBeReadAgain = false; ///< an ordinary file
 };
 
 /// Reads a file whole, in binary. One that cannot be read, a folder, and one above 1 GiB are a CliError.

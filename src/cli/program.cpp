@@ -11,6 +11,7 @@
 #include "files/data_file.h"
 #include "files/save.h"
 #include "report/show_report.h"
+#include "shell/lifecycle.h"
 #include "shell/startup.h"
 #include "shell/wiring.h"
 
@@ -64,24 +65,6 @@ platform::Services withRegistry(const platform::Services& services, platform::Re
             .programFolder = services.programFolder};
 }
 
-/// A path under which the program can read what was read before; a pipe gives its content only once.
-class DataFilePath {
-public:
-    explicit DataFilePath(const Input& input) : path_(input.name) {
-        if (!input.canBeReadAgain) {
-            folder_.emplace();
-            path_ = folder_->file("image.DAT");
-            writeFile(path_, input.content, Existing::Refuse);
-        }
-    }
-
-    const std::string& path() const { return path_; }
-
-private:
-    std::optional<TemporaryFolder> folder_;
-    std::string path_;
-};
-
 } // namespace
 
 Program::Program(const std::optional<platform::DateTime>& now) : Program(now, nullptr) {}
@@ -99,10 +82,14 @@ Program::Program(const std::optional<platform::DateTime>& now, platform::Registr
 
 void Program::load(const Input& input) {
     const Content content = imageIn(input);
-    if (content.kind == ContentKind::DataFile) {
-        open(DataFilePath(input).path());
-    } else {
+    if (content.kind != ContentKind::DataFile) {
         workbench_.runAction([&] { acquire::LoadStoredEdid(workbench_, content.image); });
+        return;
+    }
+    bool loaded = false;
+    workbench_.runAction([&] { loaded = shell::openDataFile(workbench_, input.name, input.content); });
+    if (!loaded) {
+        failToLoad();
     }
 }
 
@@ -119,24 +106,12 @@ bool Program::loadStoredEdid() {
     return true;
 }
 
-void Program::open(const std::string& path) {
-    platform_.queueFileName(path);
-    input::choose(workbench_.frmMain().mnuFileOpen);
-    // Only what could be read is decoded, and the array has no elements before. The cells tell nothing: they may hold
-    // what the decoders wrote.
-    if (workbench_.StandardTimingText.size() == 0) {
-        failToLoad();
-    }
-}
-
 void Program::failToLoad() const {
     throw CliError("cannot be loaded" + (boxes_.empty() ? "" : ": " + inOneLine(boxes_.back())));
 }
 
 std::string Program::dataFileBytes(const Input& input) {
-    const DataFilePath file(input);
-    workbench_.CurrentFileName = file.path();
-    if (!files::ReadEDIDDataFile(workbench_)) {
+    if (!files::readDataFile(workbench_, input.content)) {
         failToLoad();
     }
     std::string bytes;

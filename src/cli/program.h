@@ -45,7 +45,6 @@ public:
 private:
     Program(const std::optional<platform::DateTime>& now, platform::Registry* registry);
 
-    void open(const std::string& path);
     [[noreturn]] void failToLoad() const;
     /// What a command has written to that file; a box that came up meanwhile told of a failure and is a CliError.
     std::string contentWithoutBox(const std::string& path, std::size_t boxesBefore) const;

@@ -7,28 +7,42 @@
 
 namespace wb::files {
 
+namespace {
+
+bool readRows(Workbench& workbench, LineReader reader) {
+    bool found = false;
+    int nextIndex = 0;
+    while (!reader.atEnd()) {
+        const std::string line = reader.readLine();
+        if (found) {
+            ParseHexRowLine(workbench, line, nextIndex);
+        }
+        // A second marker line has been offered to the parser by now and still costs the two lines that follow it.
+        if (upperCase(line).find(dataFileMarker) != std::string::npos) {
+            reader.readLine();
+            reader.readLine();
+            found = true;
+        }
+    }
+    if (!found) {
+        workbench.showMessage("This File is not a Valid EDID/DDC File");
+    }
+    return found;
+}
+
+} // namespace
+
 bool ReadEDIDDataFile(Workbench& workbench) {
     return trappedOr(workbench, false, [&] {
         workbench.EDIDCells.create(imageSize);
-        bool found = false;
-        int nextIndex = 0;
-        LineReader reader(workbench.CurrentFileName);
-        while (!reader.atEnd()) {
-            const std::string line = reader.readLine();
-            if (found) {
-                ParseHexRowLine(workbench, line, nextIndex);
-            }
-            // A second marker line has been offered to the parser by now and still costs the two lines that follow it.
-            if (upperCase(line).find(dataFileMarker) != std::string::npos) {
-                reader.readLine();
-                reader.readLine();
-                found = true;
-            }
-        }
-        if (!found) {
-            workbench.showMessage("This File is not a Valid EDID/DDC File");
-        }
-        return found;
+        return readRows(workbench, LineReader(workbench.CurrentFileName));
+    });
+}
+
+bool readDataFile(Workbench& workbench, std::string_view content) {
+    return trappedOr(workbench, false, [&] {
+        workbench.EDIDCells.create(imageSize);
+        return readRows(workbench, LineReader::ofText(content));
     });
 }
 

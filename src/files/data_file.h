@@ -15,6 +15,8 @@ inline constexpr std::string_view dataFileMarker = "128 BYTES OF EDID CODE:";
 /// Reads CurrentFileName into EDIDCells, which is created anew. Gives whether the marker was found; a file without it
 /// is told in a box, a failure is shown and gives false.
 bool ReadEDIDDataFile(Workbench& workbench);
+/// The same with the content of a file that is in memory already.
+bool readDataFile(Workbench& workbench, std::string_view content);
 
 /// Calls `take` with each pair of visible characters behind the first bar of a line. A last single one is dropped.
 template <class Take>

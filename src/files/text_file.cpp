@@ -1,8 +1,6 @@
 #include "files/text_file.h"
 
-#include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -63,16 +61,22 @@ void deleteFile(const std::string& name) {
 
 LineReader::LineReader(const std::string& name) : file_(openFile(name, "rb")), buffer_(chunkSize) {}
 
+LineReader LineReader::ofText(std::string_view text) {
+    LineReader reader;
+    reader.rest_ = text;
+    return reader;
+}
+
 bool LineReader::fill() {
-    if (at_ < end_) {
-        return true;
+    if (!rest_.empty() || file_ == nullptr) {
+        return !rest_.empty();
     }
-    at_ = 0;
-    end_ = std::fread(buffer_.data(), 1, buffer_.size(), file_.get());
-    if (end_ == 0 && std::ferror(file_.get()) != 0) {
+    const std::size_t count = std::fread(buffer_.data(), 1, buffer_.size(), file_.get());
+    if (count == 0 && std::ferror(file_.get()) != 0) {
         throw Failure(kindOf(lastError()));
     }
-    return end_ > 0;
+    rest_ = {buffer_.data(), count};
+    return count > 0;
 }
 
 bool LineReader::atEnd() {
@@ -85,18 +89,17 @@ std::string LineReader::readLine() {
     }
     std::string line;
     while (fill()) {
-        const char* from = buffer_.data() + at_;
-        const auto* newLine = static_cast<const char*>(std::memchr(from, '\n', end_ - at_));
-        const std::size_t count = newLine == nullptr ? end_ - at_ : static_cast<std::size_t>(newLine - from);
-        line.append(from, count);
-        at_ += count;
-        if (newLine != nullptr) {
-            ++at_;
-            if (!line.empty() && line.back() == '\r') {
-                line.pop_back();
-            }
-            break;
+        const std::size_t newLine = rest_.find('\n');
+        line += rest_.substr(0, newLine);
+        if (newLine == std::string_view::npos) {
+            rest_ = {};
+            continue;
         }
+        rest_.remove_prefix(newLine + 1);
+        if (!line.empty() && line.back() == '\r') {
+            line.pop_back();
+        }
+        break;
     }
     return line;
 }

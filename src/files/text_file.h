@@ -25,6 +25,8 @@ void deleteFile(const std::string& name);
 class LineReader {
 public:
     explicit LineReader(const std::string& name);
+    /// The lines of a text in memory, which must outlive the reader.
+    static LineReader ofText(std::string_view text);
 
     bool atEnd();
     /// The next line without its end, which is LF with a CR before it or not. Past the end it is an InputPastEnd
@@ -32,12 +34,13 @@ public:
     std::string readLine();
 
 private:
+    LineReader() = default;
+
     bool fill();
 
-    FileHandle file_;
+    FileHandle file_; ///< null where all there is to read is in `rest_`
     std::vector<char> buffer_;
-    std::size_t at_ = 0;
-    std::size_t end_ = 0;
+    std::string_view rest_; ///< what was taken from the file and is in no line yet
 };
 
 class Writer {

@@ -1,5 +1,7 @@
 #include "shell/lifecycle.h"
 
+#include <utility>
+
 #include "block0/extension_button.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
@@ -15,9 +17,22 @@ namespace wb::shell {
 
 namespace {
 
-void openNamedFile(Workbench& workbench) {
-    workbench.frmEDID().setCaption(workbench.CurrentFileName);
-    if (!files::ReadEDIDDataFile(workbench)) {
+/// What Open does before it asks for a name.
+void makeRoomForImage(Workbench& workbench) {
+    workbench.CurrentFileName.clear();
+    if (workbench.EDIDLoaded == flagFalse) {
+        workbench.windows.show(workbench.frmEDID());
+    } else {
+        files::clearIdentityTexts(workbench);
+    }
+}
+
+/// Opens the data file of that name, which `read` reads into EDIDCells. A file that is none is told there.
+template <class Read>
+void openNamed(Workbench& workbench, const std::string& name, Read&& read) {
+    workbench.CurrentFileName = name;
+    workbench.frmEDID().setCaption(name);
+    if (!std::forward<Read>(read)()) {
         return;
     }
     files::LoadBlock0Cells(workbench);
@@ -55,18 +70,22 @@ void mnuFileNew(Workbench& workbench) {
 }
 
 void mnuFileOpen(Workbench& workbench) {
-    workbench.CurrentFileName.clear();
-    if (workbench.EDIDLoaded == flagFalse) {
-        workbench.windows.show(workbench.frmEDID());
-    } else {
-        files::clearIdentityTexts(workbench);
-    }
+    makeRoomForImage(workbench);
     const std::string name = files::askOpenName(workbench, "Open", "EDID/DDC Data Files (*.DAT)|*.DAT");
     if (!name.empty()) {
-        workbench.CurrentFileName = name;
-        openNamedFile(workbench);
+        openNamed(workbench, name, [&] { return files::ReadEDIDDataFile(workbench); });
     }
     workbench.EDIDLoaded = flagTrue;
+}
+
+bool openDataFile(Workbench& workbench, const std::string& name, std::string_view content) {
+    bool loaded = false;
+    trapped(workbench, [&] {
+        makeRoomForImage(workbench);
+        openNamed(workbench, name, [&] { return loaded = files::readDataFile(workbench, content); });
+        workbench.EDIDLoaded = flagTrue;
+    });
+    return loaded;
 }
 
 void mnuFileClose(Workbench& workbench) {

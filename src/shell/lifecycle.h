@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/workbench.h"
 
@@ -9,6 +10,9 @@ namespace wb::shell {
 
 void mnuFileNew(Workbench& workbench);
 void mnuFileOpen(Workbench& workbench);
+/// What Open does with a file of that name, whose content is in memory already. Gives whether it is a data file and was
+/// loaded; all failures are shown.
+bool openDataFile(Workbench& workbench, const std::string& name, std::string_view content);
 /// Unloads the active child; what becomes active by that may be closed in the same go. Failures are passed over in
 /// silence.
 void mnuFileClose(Workbench& workbench);

@@ -147,7 +147,7 @@ TEST(Mutations, DataFilesGivePairsOfVisibleCharacters) {
 std::string outcomeOf(const std::string& content) {
     cli::Program program;
     try {
-        program.load({"-", content, false});
+        program.load({"-", content});
         return program.report();
     } catch (const cli::CliError& error) {
         return error.what();

@@ -130,6 +130,18 @@ TEST_F(DataFile, EveryByteValueAndNoLineEndAreRead) {
     EXPECT_EQ(program.takeBoxes(), Boxes(3, "This File is not a Valid EDID/DDC File"));
 }
 
+TEST_F(DataFile, ContentInMemoryReadsAsItsFileDoes) {
+    const std::string valid = "128 BYTES OF EDID CODE:\r\n-\r\n-\r\n0 |00  FF\r\n";
+    EXPECT_TRUE(readDataFile(program.workbench, valid));
+    EXPECT_EQ(entry(0), "00");
+    EXPECT_EQ(entry(1), "FF");
+    EXPECT_EQ(entry(2), "");
+    EXPECT_FALSE(readDataFile(program.workbench, "0 |00  FF\r\n"));
+    EXPECT_EQ(entry(0), "");
+    EXPECT_FALSE(readDataFile(program.workbench, valid.substr(0, valid.find('-'))));
+    EXPECT_EQ(program.takeBoxes(), (Boxes{"This File is not a Valid EDID/DDC File", "Input past end of file"}));
+}
+
 TEST(DataFileText, LeavesOutEmptyEntriesAndStopsAtTheSentinel) {
     TextArray lines(8);
     lines(1) = "\r\n";

@@ -24,12 +24,17 @@ std::optional<FailureKind> failureOf(Body&& body) {
 
 class TextFile : public testing::Test {
 protected:
-    Lines linesOf(std::string_view content) {
-        LineReader reader(folder.write("lines.txt", content));
+    static Lines linesOf(LineReader reader) {
         Lines lines;
         while (!reader.atEnd()) {
             lines.push_back(reader.readLine());
         }
+        return lines;
+    }
+    /// The lines of a file of that content, which are those of the content itself.
+    Lines linesOf(std::string_view content) {
+        Lines lines = linesOf(LineReader(folder.write("lines.txt", content)));
+        EXPECT_EQ(linesOf(LineReader::ofText(content)), lines);
         return lines;
     }
 
@@ -62,6 +67,7 @@ TEST_F(TextFile, ThereIsNoLinePastTheEnd) {
     reader.readLine();
     EXPECT_TRUE(reader.atEnd());
     EXPECT_EQ(failureOf([&] { reader.readLine(); }), FailureKind::InputPastEnd);
+    EXPECT_EQ(failureOf([] { LineReader::ofText("").readLine(); }), FailureKind::InputPastEnd);
 }
 
 TEST_F(TextFile, WhatCannotBeOpenedIsAFailure) {

@@ -156,6 +156,23 @@ TEST_F(Lifecycle, OpenOfAFileWithoutMarkerLeavesTheCells) {
     EXPECT_EQ(workbench.EDIDLoaded, flagTrue);
 }
 
+TEST_F(Lifecycle, ContentInMemoryIsOpenedUnderItsName) {
+    const auto content = [this](const std::map<int, std::string>& cells) {
+        return test::TemporaryFolder::read(dataFile("image.DAT", cells));
+    };
+    EXPECT_TRUE(openDataFile(workbench, "one.DAT", content({{20, "80"}})));
+    EXPECT_EQ(program.cell(20), "80");
+    EXPECT_EQ(workbench.CurrentFileName, "one.DAT");
+    EXPECT_EQ(workbench.frmEDID().caption(), "one.DAT");
+    EXPECT_TRUE(program.takeBoxes().empty());
+    EXPECT_FALSE(openDataFile(workbench, "two.DAT", "nothing"));
+    EXPECT_EQ(program.takeBoxes(), Lines{"This File is not a Valid EDID/DDC File"});
+    EXPECT_EQ(program.cell(20), "80");
+    EXPECT_TRUE(openDataFile(workbench, "three.DAT", content({{20, "81"}, {126, "ZZ"}})));
+    EXPECT_EQ(program.cell(20), "81") << "the image is there, whatever fails behind it";
+    EXPECT_EQ(program.takeBoxes().size(), 4U) << "those of the last decoder, and of the command itself";
+}
+
 TEST_F(Lifecycle, OpenTestsTheExtensionByValueNotByDecimalText) {
     open(dataFile("a.DAT", {{126, "0A"}, {128, "02"}, {130, "14"}}, 256));
     EXPECT_TRUE(frame().Command4.enabled());
