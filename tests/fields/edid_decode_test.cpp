@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
 #include <filesystem>
 #include <regex>
 #include <sstream>
 
+#include "edid_decode.h"
 #include "fields/reading.h"
 #include "support/temporary_folder.h"
 
@@ -19,11 +19,7 @@ namespace fs = std::filesystem;
 
 /// The lines that edid-decode prints of block 0, without the blanks around them.
 std::vector<std::string> linesOf(const fs::path& image) {
-    const test::TemporaryFolder folder;
-    const std::string command = "edid-decode '" + image.string() + "' > '" + folder.file("out") + "' 2> /dev/null";
-    // Its status tells whether the image is in order, which is not what is asked.
-    [[maybe_unused]] const int status = std::system(command.c_str());
-    std::istringstream out(test::TemporaryFolder::read(folder.file("out")));
+    std::istringstream out(edidDecodeOutput(image));
     std::vector<std::string> lines;
     bool inside = false;
     for (std::string line; std::getline(out, line);) {
@@ -172,26 +168,16 @@ void compareFolder(const fs::path& folder) {
     EXPECT_GT(images, 0);
 }
 
-class EdidDecode : public testing::Test {
-protected:
-    void SetUp() override {
-        if (std::system("edid-decode --version > /dev/null 2>&1") != 0) {
-            GTEST_SKIP() << "install edid-decode to compare with it";
-        }
-    }
-};
-
 TEST_F(EdidDecode, AgreesOnTheSamples) {
     compareFolder(WORKBENCH_SOURCE_DIR "/samples");
 }
 
 TEST_F(EdidDecode, AgreesOnImagesOfMonitors) {
-    constexpr const char* foreignFolder = "WORKBENCH_MONITOR_IMAGES";
-    const char* folder = std::getenv(foreignFolder);
-    if (folder == nullptr) {
-        GTEST_SKIP() << "set " << foreignFolder << " to a folder of raw images to compare them too";
+    if (const char* folder = foreignFolder()) {
+        compareFolder(folder);
+    } else {
+        GTEST_SKIP() << withoutFolder;
     }
-    compareFolder(folder);
 }
 
 } // namespace

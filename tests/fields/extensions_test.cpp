@@ -4,6 +4,7 @@
 
 #include "image_of.h"
 #include "invariants.h"
+#include "support/temporary_folder.h"
 
 namespace wb::fields {
 namespace {
@@ -48,6 +49,22 @@ constexpr Case cases[] = {{"Cta1", 0x02, 1, 4},          {"Cta2", 0x02, 2, 4},  
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ExtensionOfAnyBytes, testing::ValuesIn(cases),
                          [](const auto& kind) { return kind.param.name; });
+
+TEST_P(ExtensionOfAnyBytes, HasNoFindingsButThoseInTheDocuments) {
+    const std::string documents = test::TemporaryFolder::read(WORKBENCH_SOURCE_DIR "/docs/findings.md");
+    std::mt19937 random(13);
+    for (int round = 0; round < 100; ++round) {
+        ImageOf image(2);
+        for (std::size_t i = 128; i < 2 * Image::blockSize; ++i) {
+            image.set(i, {static_cast<int>(random() % 256)});
+        }
+        for (const Finding& finding : image.set(128, {GetParam().tag, GetParam().version}).reading().findings) {
+            const std::string row = "| `" + std::string(finding.code) + "` | ";
+            EXPECT_NE(documents.find(row + std::string(severityName(finding.severity)) + " |"), std::string::npos)
+                << finding.code;
+        }
+    }
+}
 
 /// The vendor-specific data blocks are found by three bytes that chance does not make.
 TEST(Extensions, KeepTheInvariantsOfAnyVendorBlock) {
