@@ -1,10 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <limits>
 #include <memory>
-#include <optional>
 
-#include "cli/cli_error.h"
 #include "cli/commands.h"
 #include "cli/image_check.h"
 #include "cli/output.h"
@@ -12,6 +9,7 @@
 #include "cli/program.h"
 #include "core/base/text.h"
 #include "fields/json.h"
+#include "files/data_file.h"
 
 namespace wb::cli {
 
@@ -30,12 +28,13 @@ struct Options {
     std::string level = "warning";
     std::string failOn = "error";
     bool quiet = false;
+    ImageOptions images;
 };
 
 /// What is known of one file.
 struct Checked {
     std::vector<CheckResult> results;
-    std::optional<Reading> reading; ///< none where there is not a whole block
+    Reading reading;
 
     bool good() const {
         return std::all_of(results.begin(), results.end(), [](const CheckResult& result) { return result.good; });
@@ -51,37 +50,35 @@ Severity severityOf(const std::string& name) {
     return Severity::Note;
 }
 
-Checked checkBytes(const Input& input, const std::string& bytes, std::size_t mostBlocks) {
-    Checked checked{.results = checkImage(bytes, mostBlocks), .reading = std::nullopt};
-    if (const auto image = Image::fromBytes(bytes, {.file = input.name, .form = {}, .output = {}})) {
-        checked.reading = fields::read(*image);
-    }
-    return checked;
-}
-
-Checked checkDataFile(const Input& input) {
+/// The boxes that come up while the program reads a data file.
+std::vector<CheckResult> boxesOf(const Input& input) {
     Program program;
-    Checked checked = checkBytes(input, program.dataFileBytes(input), blocksOfDataFile);
+    files::readDataFile(program.workbench(), input.content);
+    std::vector<CheckResult> results;
     for (const std::string& box : program.boxes()) {
-        checked.results.push_back({false, inOneLine(box)});
+        results.push_back({false, inOneLine(box)});
     }
-    return checked;
+    return results;
 }
 
-Checked checkFile(const std::string& name) {
-    const Input input = readInput(name);
-    const Content content = imageIn(input);
-    return content.kind == ContentKind::DataFile
-               ? checkDataFile(input)
-               : checkBytes(input, content.image, std::numeric_limits<std::size_t>::max());
+std::vector<Checked> checkFile(const std::string& name, const ImageOptions& options) {
+    const Contents contents = contentsOf(readInput(name), options);
+    std::vector<Checked> checked;
+    for (const Image& image : imagesOf(contents)) {
+        const std::size_t most = contents.isDataFile ? blocksOfDataFile : Image::mostBlocks;
+        checked.push_back({checkImage(image, most), fields::read(image)});
+    }
+    if (contents.isDataFile) {
+        const std::vector<CheckResult> boxes = boxesOf(contents.input);
+        checked.front().results.insert(checked.front().results.end(), boxes.begin(), boxes.end());
+    }
+    return checked;
 }
 
 std::vector<Finding> findingsFrom(const Checked& checked, Severity level) {
     std::vector<Finding> findings;
-    if (checked.reading) {
-        std::copy_if(checked.reading->findings.begin(), checked.reading->findings.end(), std::back_inserter(findings),
-                     [&](const Finding& finding) { return finding.severity >= level; });
-    }
+    std::copy_if(checked.reading.findings.begin(), checked.reading.findings.end(), std::back_inserter(findings),
+                 [&](const Finding& finding) { return finding.severity >= level; });
     return findings;
 }
 
@@ -103,24 +100,22 @@ std::string findingLine(const Finding& finding) {
            std::string(finding.clause) + "]\n";
 }
 
-void tell(const std::string& name, const Checked& checked, const std::vector<Finding>& findings, OutputFormat format) {
-    switch (format) {
-        case OutputFormat::Json:
-            print(fields::findingsToJson(*checked.reading, findings) + '\n');
-            break;
-        case OutputFormat::Tsv:
-            for (const Finding& finding : findings) {
-                print(
-                    tsvLine({name, fields::severityName(finding.severity), finding.code, std::to_string(finding.block),
-                             std::to_string(finding.byte), finding.path, finding.text, finding.clause}));
-            }
-            break;
-        case OutputFormat::Text:
-            print(resultLine(name, checked.results));
-            for (const Finding& finding : findings) {
-                print(findingLine(finding));
-            }
-            break;
+std::string findingRow(const std::string& name, const Finding& finding) {
+    return tsvLine({name, fields::severityName(finding.severity), finding.code, std::to_string(finding.block),
+                    std::to_string(finding.byte), finding.path, finding.text, finding.clause});
+}
+
+void tell(const Checked& checked, const std::vector<Finding>& findings, OutputFormat format) {
+    const std::string name = titleOf(checked.reading.image);
+    if (format == OutputFormat::Json) {
+        print(fields::findingsToJson(checked.reading, findings) + '\n');
+        return;
+    }
+    if (format == OutputFormat::Text) {
+        print(resultLine(name, checked.results));
+    }
+    for (const Finding& finding : findings) {
+        print(format == OutputFormat::Text ? findingLine(finding) : findingRow(name, finding));
     }
 }
 
@@ -134,14 +129,12 @@ int run(const Options& options) {
         print(tsvLine({"file", "severity", "code", "block", "byte", "path", "text", "clause"}));
     }
     const bool read = forEachFile(options.files, [&](const std::string& name) {
-        const Checked checked = checkFile(name);
-        if (!checked.reading && format != OutputFormat::Text) {
-            throw CliError("is short of one block");
-        }
-        const std::vector<Finding> findings = findingsFrom(checked, level);
-        good = good && checked.good() && findingsFrom(checked, failOn).empty();
-        if (!options.quiet || !findings.empty() || !checked.good()) {
-            tell(name, checked, findings, format);
+        for (const Checked& checked : checkFile(name, options.images)) {
+            const std::vector<Finding> findings = findingsFrom(checked, level);
+            good = good && checked.good() && findingsFrom(checked, failOn).empty();
+            if (!options.quiet || !findings.empty() || !checked.good()) {
+                tell(checked, findings, format);
+            }
         }
     });
     return good && read ? success : somethingFailed;
@@ -166,6 +159,7 @@ Run addCheck(CLI::App& command) {
         ->take_last();
     command.add_flag("-q,--quiet", options->quiet, "Tell only of files with findings")->disable_flag_override();
     addFormatOption(command, options->format);
+    addImageOptions(command, options->images);
     command.footer(
         "Exit status: 0 nothing that counts was found, 1 something was found or a file could not be\n"
         "read, 2 wrong usage. Header, length and check sums always count.");

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "cli/cli_error.h"
+#include "cli/clock_option.h"
 #include "cli/commands.h"
 #include "cli/formats.h"
 #include "cli/output.h"
@@ -11,28 +12,85 @@ namespace wb::cli {
 
 namespace {
 
+constexpr std::size_t blocksOfDataFile = 2;
+
 struct Options {
     std::string format;
     std::string in;
     std::string out;
+    std::string date;
+    ImageOptions images;
     bool force = false;
+    bool cut = false;
+    bool pad = false;
 };
 
-/// Gives the content of the new file; tells of the boxes that came up on the way in any case.
-std::string convert(const Options& options) {
-    Program program;
-    const auto tellBoxes = [&] {
-        for (const std::string& box : program.boxes()) {
-            complain(options.in, inOneLine(box));
+/// What is told of one file on the way.
+using Remarks = std::vector<std::string>;
+
+/// The image as the format can hold it, where the options allow to change it for that.
+Image fitted(const Options& options, Image image, Remarks& remarks) {
+    const std::size_t announced = image.announcedExtensions() + 1;
+    if (image.blockCount() < announced) {
+        if (!options.pad) {
+            throw CliError("announces " + std::to_string(announced) + " blocks and has " +
+                           std::to_string(image.blockCount()) + "; --pad writes the others as zeros");
+        }
+        remarks.push_back(blocksText(image.blockCount(), announced - 1) + " written as zeros");
+        image = image.paddedTo(announced);
+    }
+    if (image.leftOver() != 0) {
+        remarks.push_back(std::to_string(image.leftOver()) + " bytes after the last block left out");
+    }
+    if (!isFormOfBytes(options.format) && image.blockCount() > blocksOfDataFile) {
+        if (!options.cut) {
+            throw CliError(std::to_string(image.blockCount()) + " blocks; a data file holds " +
+                           std::to_string(blocksOfDataFile) + "; --cut leaves the others out");
+        }
+        remarks.push_back(blocksText(blocksOfDataFile, image.blockCount() - 1) + " left out");
+        image = image.cutTo(blocksOfDataFile);
+    }
+    return image;
+}
+
+std::string convert(const Options& options, Program& program, Remarks& remarks) {
+    const Contents contents = contentsOf(readInput(options.in), options.images);
+    const bool odd = contents.isDataFile && contents.images.empty();
+    if (odd && options.format == "hex") { // the export takes cells as they are, bytes or not
+        program.loadDataFile(contents.input);
+        return program.hexExport();
+    }
+    if (isFormOfBytes(options.format)) {
+        return contentAs(options.format, fitted(options, onlyImageOf(contents), remarks));
+    }
+    if (contents.isDataFile) {
+        program.loadDataFile(contents.input);
+    } else if (options.format == "dat") {
+        program.load(fitted(options, onlyImageOf(contents), remarks));
+    } else {
+        program.load(contents);
+        const Remarks omissions = omissionsOf(onlyImageOf(contents));
+        remarks.insert(remarks.end(), omissions.begin(), omissions.end());
+    }
+    return contentAs(options.format, program);
+}
+
+/// Gives the content of the new file; tells of the boxes and what else came up on the way in any case.
+std::string convertAndTell(const Options& options) {
+    Program program(clockOf(options.date));
+    Remarks remarks;
+    const auto tell = [&] {
+        complainOfBoxes(options.in, program.boxes());
+        for (const std::string& remark : remarks) {
+            complain(options.in, remark);
         }
     };
     try {
-        program.load(readInput(options.in));
-        std::string content = contentAs(options.format, program);
-        tellBoxes();
+        std::string content = convert(options, program, remarks);
+        tell();
         return content;
     } catch (const CliError&) {
-        tellBoxes();
+        tell();
         throw;
     }
 }
@@ -40,7 +98,7 @@ std::string convert(const Options& options) {
 int run(const Options& options) {
     std::string content;
     try {
-        content = convert(options);
+        content = convertAndTell(options);
     } catch (const CliError& error) {
         complain(options.in, error.what());
         return somethingFailed;
@@ -58,17 +116,24 @@ int run(const Options& options) {
 
 Run addConvert(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command.add_option("--to", options->format, formatHelp)
+    command.add_option("--to", options->format, formatHelp())
         ->type_name("FORMAT")
         ->required()
         ->check(CLI::IsMember(formatNames()))
         ->take_last();
-    command.add_option("IN", options->in, "File in any format; - is standard input")->type_name("")->required();
+    command.add_option("IN", options->in, "File in any form; - is standard input")->type_name("")->required();
     command.add_option("OUT", options->out, "File to be written; - is standard output")->type_name("")->required();
     command.add_flag("-f,--force", options->force, "Replace OUT if it exists")->disable_flag_override();
+    command.add_flag("--cut", options->cut, "Leave out the blocks that a data file does not hold")
+        ->disable_flag_override();
+    command.add_flag("--pad", options->pad, "Write blocks that are announced and missing as zeros")
+        ->disable_flag_override();
+    addClockOption(command, options->date);
+    addImageOptions(command, options->images);
     command.footer(
-        "OUT gets the image as the program holds it after decoding: a flag of a detailed\n"
-        "timing may differ from IN, and the check sum stays as it is.");
+        "Forms of bytes get every block as it is in IN. A data file and a report get two blocks as the\n"
+        "program holds them after decoding: a flag of a detailed timing may differ from IN, and the\n"
+        "check sum stays as it is.");
     return [options] { return run(*options); };
 }
 

@@ -26,6 +26,7 @@ struct Options {
     std::string first;
     std::string second;
     std::string format = "text";
+    ImageOptions images;
 };
 
 struct Side {
@@ -113,9 +114,10 @@ std::string toJson(const Options& options, const std::vector<Difference>& found)
     return json.text() + '\n';
 }
 
-std::optional<Reading> readOrComplain(const std::string& name) {
+std::optional<Reading> readOrComplain(const std::string& name, const ImageOptions& options) {
     try {
-        return readingOf(readInput(name));
+        const Contents contents = contentsOf(readInput(name), options);
+        return fields::read(onlyImageOf(contents));
     } catch (const CliError& error) {
         complain(name, error.what());
         return std::nullopt;
@@ -124,8 +126,8 @@ std::optional<Reading> readOrComplain(const std::string& name) {
 
 int run(const Options& options) {
     requireOneStandardInput({options.first, options.second});
-    const std::optional<Reading> first = readOrComplain(options.first);
-    const std::optional<Reading> second = readOrComplain(options.second);
+    const std::optional<Reading> first = readOrComplain(options.first, options.images);
+    const std::optional<Reading> second = readOrComplain(options.second, options.images);
     if (!first || !second) {
         return trouble;
     }
@@ -147,6 +149,7 @@ Run addDiff(CLI::App& command) {
     command.add_option("A", options->first, "File in any format; - is standard input")->type_name("")->required();
     command.add_option("B", options->second, "The file to compare it with")->type_name("")->required();
     addFormatOption(command, options->format, {"text", "json"});
+    addImageOptions(command, options->images);
     command.footer("Exit status: 0 the images are the same, 1 they differ, 2 trouble.");
     return [options] { return run(*options); };
 }

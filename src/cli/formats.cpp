@@ -1,42 +1,44 @@
 #include "cli/formats.h"
 
-#include <array>
-
 #include "cli/cli_error.h"
 #include "cli/program.h"
+#include "forms/writers.h"
 
 namespace wb::cli {
 
 namespace {
 
-struct Format {
-    const char* name;
-    std::string (Program::*content)();
-};
-
-constexpr std::array<Format, 4> formats = {{{"dat", &Program::dataFile},
-                                            {"hex", &Program::hexExport},
-                                            {"bin", &Program::binaryImage},
-                                            {"report", &Program::report}}};
+constexpr const char* dataFile = "dat";
+constexpr const char* report = "report";
 
 } // namespace
 
 std::vector<std::string> formatNames() {
-    std::vector<std::string> names;
-    names.reserve(formats.size());
-    for (const Format& format : formats) {
-        names.emplace_back(format.name);
+    std::vector<std::string> names = {dataFile, report};
+    for (const forms::WrittenForm& form : forms::writtenForms()) {
+        names.emplace_back(form.name);
     }
     return names;
 }
 
-std::string contentAs(const std::string& format, Program& program) {
-    for (const Format& known : formats) {
-        if (known.name == format) {
-            return (program.*known.content)();
-        }
+std::string formatHelp() {
+    std::string help = "dat (data file), report";
+    for (const forms::WrittenForm& form : forms::writtenForms()) {
+        help += ", " + std::string(form.name) + " (" + std::string(form.words) + ')';
     }
-    throw UsageError("unknown format '" + format + "'");
+    return help;
+}
+
+bool isFormOfBytes(const std::string& format) {
+    return forms::writtenForm(format) != nullptr;
+}
+
+std::string contentAs(const std::string& format, const Image& image) {
+    return forms::writtenForm(format)->write(image);
+}
+
+std::string contentAs(const std::string& format, Program& program) {
+    return format == dataFile ? program.dataFile() : program.report();
 }
 
 } // namespace wb::cli

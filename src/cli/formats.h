@@ -3,16 +3,25 @@
 #include <string>
 #include <vector>
 
+#include "cli/image_input.h"
+
 namespace wb::cli {
 
 class Program;
 
-/// The names of the formats in which an image can be written: "dat", "hex", "bin" and "report".
+/// The names of the formats in which an image can be written: those of the program, "dat" and "report", and the forms
+/// of bytes.
 std::vector<std::string> formatNames();
 /// What the option that takes one of them says.
-inline constexpr const char* formatHelp = "dat (data file), hex (hexadecimal export), bin (binary) or report";
+std::string formatHelp();
 
-/// The loaded image in the format of that name. What cannot be written so is a CliError.
+/// Whether a format holds the bytes of an image as they are, all blocks of it. The others hold what the program would
+/// save or report after decoding, of two blocks.
+bool isFormOfBytes(const std::string& format);
+
+/// An image in a form of bytes.
+std::string contentAs(const std::string& format, const Image& image);
+/// What is loaded, as a data file or a report. What cannot be written so is a CliError.
 std::string contentAs(const std::string& format, Program& program);
 
 } // namespace wb::cli

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
+
+#include "core/base/image.h"
 
 namespace wb::cli {
 
@@ -13,7 +14,7 @@ struct CheckResult {
 };
 
 /// Checks the header, the length against the extension count in byte 126 (up to `mostBlocks` blocks of 128 bytes), and
-/// the check sum of every block that is whole (VESA E-EDID Standard).
-std::vector<CheckResult> checkImage(std::string_view image, std::size_t mostBlocks);
+/// the check sum of every block (VESA E-EDID Standard).
+std::vector<CheckResult> checkImage(const Image& image, std::size_t mostBlocks);
 
 } // namespace wb::cli

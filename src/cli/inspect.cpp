@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "cli/commands.h"
 #include "cli/output.h"
@@ -17,12 +18,13 @@ using fields::Reading;
 struct Options {
     std::vector<std::string> files;
     std::string format = "text";
+    ImageOptions images;
 };
 
 constexpr std::string_view bold = "\x1B[1m";
 constexpr std::string_view plain = "\x1B[0m";
 constexpr std::size_t placeColumn = 15;
-constexpr std::size_t labelColumn = 34;
+constexpr std::size_t labelColumn = 42;
 
 std::string emphasised(const std::string& text, bool colour) {
     return colour ? std::string(bold) + text + std::string(plain) : text;
@@ -57,8 +59,8 @@ std::string fieldLine(const Field& field) {
 }
 
 void printTable(const Reading& reading, bool colour) {
-    const std::string& file = reading.image.origin().file;
-    print(emphasised(inOneLine(file), colour) + ": " + std::to_string(reading.image.bytes().size()) + " bytes\n");
+    print(emphasised(inOneLine(titleOf(reading.image)), colour) + ": " + std::to_string(reading.image.bytes().size()) +
+          " bytes\n");
     auto field = reading.fields.begin();
     for (const fields::BlockInfo& block : reading.blocks) {
         const std::string title = "Block " + std::to_string(block.index) + ": " + std::string(block.name) + ", " +
@@ -78,9 +80,9 @@ void printTable(const Reading& reading, bool colour) {
 
 void printRows(const Reading& reading) {
     for (const Field& field : reading.fields) {
-        print(tsvLine({reading.image.origin().file, field.path, placeText(field.where),
-                       fields::rawText(reading.image, field), valueText(field.value), field.unit, field.text,
-                       field.clause}));
+        print(
+            tsvLine({titleOf(reading.image), field.path, placeText(field.where), fields::rawText(reading.image, field),
+                     valueText(field.value), field.unit, field.text, field.clause}));
     }
 }
 
@@ -88,22 +90,20 @@ int run(const Options& options) {
     requireOneStandardInput(options.files);
     const OutputFormat format = outputFormatOf(options.format);
     const bool colour = usesColour();
+    bool first = true;
     if (format == OutputFormat::Tsv) {
         print(tsvLine({"file", "path", "where", "raw", "value", "unit", "text", "clause"}));
     }
     const bool good = forEachFile(options.files, [&](const std::string& name) {
-        const Reading reading = readingOf(readInput(name));
-        switch (format) {
-            case OutputFormat::Json:
+        for (const Reading& reading : readingsOf(name, options.images)) {
+            if (format == OutputFormat::Json) {
                 print(fields::toJson(reading) + '\n');
-                break;
-            case OutputFormat::Tsv:
+            } else if (format == OutputFormat::Tsv) {
                 printRows(reading);
-                break;
-            case OutputFormat::Text:
-                print(name == options.files.front() ? "" : "\n");
+            } else {
+                print(std::exchange(first, false) ? "" : "\n");
                 printTable(reading, colour);
-                break;
+            }
         }
     });
     return good ? success : somethingFailed;
@@ -115,6 +115,7 @@ Run addInspect(CLI::App& command) {
     const auto options = std::make_shared<Options>();
     command.add_option("FILE", options->files, "File in any format; - is standard input")->type_name("")->required();
     addFormatOption(command, options->format);
+    addImageOptions(command, options->images);
     command.footer(
         "Tells every field of every block by the standards: where it stands (bytes in hexadecimal,\n"
         "bits in brackets), what it is called and what it means.");

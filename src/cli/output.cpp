@@ -1,5 +1,6 @@
 #include "cli/output.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -9,6 +10,8 @@
 #include <fcntl.h>
 #ifdef _WIN32
 #include <io.h>
+#else
+#include <unistd.h>
 #endif
 
 #include "cli/cli_error.h"
@@ -50,7 +53,25 @@ void takePermissions(const fs::path& from, const fs::path& to) {
     }
 }
 
+/// Control characters but line ends and tabs as a terminal can show them.
+std::string withoutControls(std::string_view text) {
+    std::string shown;
+    for (const char c : text) {
+        const bool layout = c == '\n' || c == '\r' || c == '\t';
+        shown += isControl(c) && !layout ? controlEscape(c) : std::string(1, c);
+    }
+    return shown;
+}
+
 } // namespace
+
+bool isTerminal(std::FILE* stream) {
+#ifdef _WIN32
+    return _isatty(_fileno(stream)) != 0;
+#else
+    return isatty(fileno(stream)) != 0;
+#endif
+}
 
 void prepareStreams() {
 #ifdef _WIN32
@@ -73,6 +94,10 @@ void print(std::string_view text) {
     }
 }
 
+void printText(std::string_view text) {
+    print(isTerminal(stdout) ? withoutControls(text) : std::string(text));
+}
+
 void flushOutput() {
     if (std::fflush(stdout) != 0) {
         failOutput();
@@ -81,12 +106,22 @@ void flushOutput() {
 
 void complain(std::string_view message) {
     flushOutput();
-    const std::string line = "edidwb: " + std::string(message) + '\n';
+    const std::string line = "edidwb: " + (isTerminal(stderr) ? withoutControls(message) : std::string(message)) + '\n';
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
 void complain(std::string_view file, std::string_view message) {
     complain(std::string(file) + ": " + std::string(message));
+}
+
+void complainOfBoxes(std::string_view file, const std::vector<std::string>& boxes) {
+    for (auto box = boxes.begin(); box != boxes.end(); ++box) {
+        if (std::find(boxes.begin(), box, *box) == box) {
+            const auto times = std::count(box, boxes.end(), *box);
+            const std::string text = inOneLine(*box) + (times == 1 ? "" : " (" + std::to_string(times) + " times)");
+            file.empty() ? complain(text) : complain(file, text);
+        }
+    }
 }
 
 bool isControl(char c) {

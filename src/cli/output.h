@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdio>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace wb::cli {
 
@@ -17,12 +19,18 @@ public:
 /// closed stays unusable: no file that is opened later takes its place.
 void prepareStreams();
 
+/// Whether a standard stream is a terminal.
+bool isTerminal(std::FILE* stream);
+
 /// Writes to standard output; a failure is an OutputError.
 void print(std::string_view text);
+/// The same for what an image may hold: on a terminal control characters are shown as "\\x1B", elsewhere they go out.
+void printText(std::string_view text);
 /// Hands everything printed so far to the system; a failure is an OutputError.
 void flushOutput();
 
-/// Tells a message on standard error as "edidwb: MESSAGE", after everything printed so far.
+/// Tells a message on standard error as "edidwb: MESSAGE", after everything printed so far; on a terminal without
+/// control characters.
 void complain(std::string_view message);
 /// The same about a file: "edidwb: FILE: MESSAGE".
 void complain(std::string_view file, std::string_view message);
@@ -31,6 +39,9 @@ void complain(std::string_view file, std::string_view message);
 bool isControl(char c);
 /// A control character as "\\x1B".
 std::string controlEscape(char c);
+
+/// The boxes that came up while a file was worked on (empty: no file), each text once with how often it came.
+void complainOfBoxes(std::string_view file, const std::vector<std::string>& boxes);
 
 /// A text of the program in one line: line ends become one blank, other control characters are escaped.
 std::string inOneLine(std::string_view text);

@@ -3,15 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
 #include "cli/cli_error.h"
 #include "cli/output.h"
-#include "cli/program.h"
 #include "core/base/json_writer.h"
 #include "core/base/text.h"
 
@@ -56,14 +49,6 @@ void appendEscaped(std::string& line, char c) {
     }
 }
 
-bool outputIsTerminal() {
-#ifdef _WIN32
-    return _isatty(_fileno(stdout)) != 0;
-#else
-    return isatty(STDOUT_FILENO) != 0;
-#endif
-}
-
 } // namespace
 
 void addFormatOption(CLI::App& command, std::string& format, const std::vector<std::string>& names) {
@@ -78,14 +63,13 @@ OutputFormat outputFormatOf(const std::string& name) {
     return name == "json" ? OutputFormat::Json : name == "tsv" ? OutputFormat::Tsv : OutputFormat::Text;
 }
 
-fields::Reading readingOf(const Input& input) {
-    const Content content = imageIn(input);
-    const std::string bytes = content.kind == ContentKind::DataFile ? Program().dataFileBytes(input) : content.image;
-    const std::optional<Image> image = Image::fromBytes(bytes, {.file = input.name, .form = {}, .output = {}});
-    if (!image) {
-        throw CliError("has " + std::to_string(bytes.size()) + " bytes; an image has 128 or more");
+std::vector<fields::Reading> readingsOf(const std::string& name, const ImageOptions& options) {
+    std::vector<fields::Reading> readings;
+    const Contents contents = contentsOf(readInput(name), options);
+    for (const Image& image : imagesOf(contents)) {
+        readings.push_back(fields::read(image));
     }
-    return fields::read(*image);
+    return readings;
 }
 
 std::string placeText(const fields::Where& where) {
@@ -134,7 +118,7 @@ bool forEachFile(const std::vector<std::string>& names, const std::function<void
 }
 
 bool usesColour() {
-    return outputIsTerminal() && std::getenv("NO_COLOR") == nullptr;
+    return isTerminal(stdout) && std::getenv("NO_COLOR") == nullptr;
 }
 
 } // namespace wb::cli

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/input.h"
+#include "cli/image_input.h"
 #include "fields/reading.h"
 
 namespace CLI {
@@ -24,8 +24,8 @@ void addFormatOption(CLI::App& command, std::string& format,
 /// The format of that name: "text", "json" or "tsv".
 OutputFormat outputFormatOf(const std::string& name);
 
-/// The plain reading of a file. One that holds no image is a CliError.
-fields::Reading readingOf(const Input& input);
+/// The plain readings of all images of a file. One that holds no image is a CliError.
+std::vector<fields::Reading> readingsOf(const std::string& name, const ImageOptions& options);
 
 /// Where a field stands: bytes in hexadecimal, "08", "5F-6B", with the bits where they are not all of a byte,
 /// "17[4:3]", and a plus between the parts, the highest of the value first.

@@ -35,20 +35,6 @@ std::string withPlatformLineEnds(std::string_view text) {
 #endif
 }
 
-void appendByte(const std::string& cell, std::string& bytes) {
-    const auto byte = wholeNumber<unsigned char>(cell, 16);
-    if (!byte || cell.size() != 2) {
-        throw CliError("cell " + std::to_string(bytes.size()) + " is no byte: " + wb::quoted(cell));
-    }
-    bytes += static_cast<char>(*byte);
-}
-
-void appendBytes(BlockScreen& screen, std::string& bytes) {
-    for (int i = 0; i < BlockScreen::cellCount; ++i) {
-        appendByte(screen.txtEdit(i).text(), bytes);
-    }
-}
-
 /// The services with another registry, where there is one.
 platform::Services withRegistry(const platform::Services& services, platform::Registry* registry) {
     return {.messageBoxes = services.messageBoxes,
@@ -69,7 +55,8 @@ platform::Services withRegistry(const platform::Services& services, platform::Re
 
 Program::Program(const std::optional<platform::DateTime>& now) : Program(now, nullptr) {}
 
-Program::Program(platform::Registry& registry) : Program(std::nullopt, &registry) {}
+Program::Program(platform::Registry& registry, const std::optional<platform::DateTime>& now)
+    : Program(now, &registry) {}
 
 Program::Program(const std::optional<platform::DateTime>& now, platform::Registry* registry)
     : services_(withRegistry(platform_.services(), registry)), workbench_(services_, shell::wiring()) {
@@ -80,12 +67,7 @@ Program::Program(const std::optional<platform::DateTime>& now, platform::Registr
     workbench_.runAction([&] { shell::Main(workbench_); });
 }
 
-void Program::load(const Input& input) {
-    const Content content = imageIn(input);
-    if (content.kind != ContentKind::DataFile) {
-        workbench_.runAction([&] { acquire::LoadStoredEdid(workbench_, content.image); });
-        return;
-    }
+void Program::loadDataFile(const Input& input) {
     bool loaded = false;
     workbench_.runAction([&] { loaded = shell::openDataFile(workbench_, input.name, input.content); });
     if (!loaded) {
@@ -93,32 +75,33 @@ void Program::load(const Input& input) {
     }
 }
 
-bool Program::loadStoredEdid() {
+void Program::load(const Image& image) {
+    workbench_.runAction([&] { acquire::LoadStoredEdid(workbench_, image.content()); });
+}
+
+void Program::load(const Contents& contents) {
+    if (contents.isDataFile) {
+        loadDataFile(contents.input);
+    } else {
+        load(onlyImageOf(contents));
+    }
+}
+
+std::optional<Image> Program::storedImage() {
     std::optional<std::string> data;
     workbench_.runAction([&] { data = acquire::readStoredEdid(workbench_); });
     if (!data) {
-        return false;
+        return std::nullopt;
     }
-    if (data->size() < BlockScreen::cellCount) {
+    std::optional<Image> image = Image::fromBytes(*data);
+    if (!image) {
         throw CliError("the stored EDID is no image: it has " + std::to_string(data->size()) + " bytes");
     }
-    workbench_.runAction([&] { acquire::LoadStoredEdid(workbench_, *data); });
-    return true;
+    return image;
 }
 
 void Program::failToLoad() const {
     throw CliError("cannot be loaded" + (boxes_.empty() ? "" : ": " + inOneLine(boxes_.back())));
-}
-
-std::string Program::dataFileBytes(const Input& input) {
-    if (!files::readDataFile(workbench_, input.content)) {
-        failToLoad();
-    }
-    std::string bytes;
-    for (int i = 0; i < workbench_.EDIDCells.size() && !workbench_.EDIDCells(i).empty(); ++i) {
-        appendByte(workbench_.EDIDCells(i), bytes);
-    }
-    return bytes;
 }
 
 std::string Program::report() {
@@ -149,26 +132,6 @@ std::string Program::contentWithoutBox(const std::string& path, std::size_t boxe
         throw CliError("cannot be written: " + inOneLine(boxes_.back()));
     }
     return readInput(path).content;
-}
-
-std::string Program::binaryImage() {
-    std::string bytes;
-    appendBytes(workbench_.frmEDID(), bytes);
-    if (hasExtensionByDecimalText(workbench_)) {
-        appendBytes(workbench_.frmCEA_EXT(), bytes);
-    }
-    return bytes;
-}
-
-Content imageIn(const Input& input) {
-    if (input.content.empty()) {
-        throw CliError("is empty");
-    }
-    Content content = recognise(input.content);
-    if (content.kind == ContentKind::Nothing) {
-        throw CliError("is no EDID image: neither a data file, nor hexadecimal text, nor a binary image");
-    }
-    return content;
 }
 
 } // namespace wb::cli

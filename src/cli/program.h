@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "cli/image_input.h"
 #include "cli/input.h"
-#include "cli/recognition.h"
 #include "core/workbench.h"
 #include "platform/headless/headless_platform.h"
 
@@ -17,21 +17,21 @@ public:
     /// `now` sets the clock that the heading of a report shows.
     explicit Program(const std::optional<platform::DateTime>& now = std::nullopt);
     /// The program looks for stored EDIDs in that registry, which must outlive it.
-    explicit Program(platform::Registry& registry);
+    explicit Program(platform::Registry& registry, const std::optional<platform::DateTime>& now = std::nullopt);
 
     Workbench& workbench() { return workbench_; }
     const std::vector<std::string>& boxes() const { return boxes_; }
 
-    /// Loads a file: a data file as Open does, any other image as the stored EDID of a monitor. A file that is no image
-    /// or cannot be read is a CliError.
-    void load(const Input& input);
+    /// Loads a data file as Open does. One that cannot be read is a CliError.
+    void loadDataFile(const Input& input);
+    /// Loads an image as the stored EDID of a monitor is, which takes its first two blocks.
+    void load(const Image& image);
+    /// Whichever of both a file holds; one of several images is a CliError.
+    void load(const Contents& contents);
 
-    /// Loads the EDID that the system stored for the first monitor in use. False where there is none, which a box
-    /// tells; one that is shorter than a block is a CliError.
-    bool loadStoredEdid();
-
-    /// The bytes that a data file holds, without loading it. A cell that is no byte is a CliError.
-    std::string dataFileBytes(const Input& input);
+    /// The EDID that the system stored for the first monitor in use, without loading it. Nothing where there is none,
+    /// which a box tells; one that is shorter than a block is a CliError.
+    std::optional<Image> storedImage();
 
     /// The report of the loaded image with the line ends of the platform.
     std::string report();
@@ -39,8 +39,6 @@ public:
     std::string dataFile();
     /// What the hexadecimal export would write.
     std::string hexExport();
-    /// The bytes of the cells, with the extension block where the export has it. A cell that is no byte is a CliError.
-    std::string binaryImage();
 
 private:
     Program(const std::optional<platform::DateTime>& now, platform::Registry* registry);
@@ -54,8 +52,5 @@ private:
     Workbench workbench_;
     std::vector<std::string> boxes_;
 };
-
-/// What a file holds; an empty one, or one that holds no image, is a CliError.
-Content imageIn(const Input& input);
 
 } // namespace wb::cli

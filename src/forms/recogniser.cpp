@@ -14,6 +14,9 @@ namespace wb::forms {
 
 namespace {
 
+/// The program reads no more cells of a data file.
+constexpr std::size_t bytesOfDataFile = 2 * Image::blockSize;
+
 constexpr std::string_view gzipMark{"\x1F\x8B", 2};
 
 struct TextForm {
@@ -57,7 +60,7 @@ public:
 
     Recognition run() {
         if (content_.empty()) {
-            return {{}, "is empty"};
+            return refused("is empty");
         }
         if (content_.starts_with(gzipMark)) {
             return uncompressed();
@@ -85,17 +88,21 @@ public:
     }
 
 private:
+    static Recognition refused(std::string why) { return {.images = {}, .refusal = std::move(why)}; }
+
     bool wants(std::string_view form) const { return options_.form.empty() || options_.form == form; }
 
     Recognition uncompressed() {
         const std::optional<std::string> inner = options_.inflate ? options_.inflate(content_) : std::nullopt;
         if (!inner) {
-            return {{}, "is gzip data that cannot be uncompressed"};
+            return refused("is gzip data that cannot be uncompressed");
         }
         RecognitionOptions options = options_;
         options.inflate = nullptr; // what is compressed twice is no image
         options.form = options.form == "gzip" ? "" : options.form;
-        return recognise(*inner, options);
+        Recognition result = recognise(*inner, options);
+        result.uncompressed = inner;
+        return result;
     }
 
     /// True where the content is a data file, whatever it holds. Its rows are read as they stand, of any text coding.
@@ -104,7 +111,8 @@ private:
         if (!file) {
             return false;
         }
-        take("dat", {{file->bytes, 0}}, {});
+        result_.isDataFile = true;
+        take("dat", {{file->bytes.substr(0, bytesOfDataFile), 0}}, {});
         result_.refusal = file->refusal;
         if (file->refusal.empty() && result_.images.empty()) {
             result_.refusal = "has " + std::to_string(file->bytes.size()) + " bytes; an image has 128 or more";

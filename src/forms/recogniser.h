@@ -26,8 +26,12 @@ struct RecognitionOptions {
 struct Recognition {
     /// In the order of the text. Each tells its form and, where the text names one, its output.
     std::vector<Image> images;
+    /// The content is a data file, whose cells need not be an image.
+    bool isDataFile = false;
+    /// What was in compressed content.
+    std::optional<std::string> uncompressed{};
     /// Where there is no image: what was seen instead, such as "line 3: 'EDID:' is no hexadecimal pair".
-    std::string refusal;
+    std::string refusal{};
 };
 
 /// The names of the forms that are recognised, from the strictest to the loosest: "gzip", "bin", "dat" (data file),

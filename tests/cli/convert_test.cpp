@@ -76,17 +76,87 @@ TEST_F(ConvertTest, AFailureLeavesNoFile) {
     EXPECT_EQ(shell("test -c /dev/full").status, 0);
 }
 
-/// What Save would hold: the second timing takes the serration of the first one away, and no check sum is brought in
-/// line.
-TEST_F(ConvertTest, WritesTheImageAsItStandsAfterDecoding) {
+/// A data file holds what Save would write: the second timing takes the serration of the first one away, and no check
+/// sum is brought in line. Forms of bytes hold the image as it is.
+TEST_F(ConvertTest, OnlyADataFileHoldsTheImageAsItStandsAfterDecoding) {
     std::string image = sample("halvorine-hv19.bin");
     image[54] = image[72] = 1; // pixel clocks, so that both are timings
     image[54 + 17] = 0x14;     // digital composite sync, serrated
     image[72 + 17] = 0x1C;     // digital separate sync, vertical positive
     write("in", image);
     EXPECT_EQ(shell("edidwb convert --to bin in out").status, 0);
+    EXPECT_EQ(read("out"), image);
+    EXPECT_EQ(shell("edidwb convert --to dat in out.DAT; edidwb convert --force --to bin out.DAT out").status, 0);
     image[72 + 17] = 0x18;
     EXPECT_EQ(read("out"), image);
+}
+
+TEST_F(ConvertTest, WritesEveryBlockBackAsItWas) {
+    std::string image = sample("zarqo-z40.bin") + std::string(384, '\xA5');
+    write("in", image);
+    for (const char* form : {"bin", "hex", "c", "base64", "reg", "inf", "xxd"}) {
+        const Outcome outcome = shell("edidwb convert --to " + std::string(form) +
+                                      " in out --force && edidwb convert --to bin out back --force");
+        EXPECT_EQ(outcome.status, 0) << form;
+        EXPECT_EQ(outcome.errors, "") << form;
+        EXPECT_EQ(read("back"), image) << form;
+    }
+}
+
+TEST_F(ConvertTest, WhatADataFileDoesNotHoldIsRefusedUnlessItMayBeCut) {
+    const std::string image = sample("zarqo-z40.bin");
+    write("in", image + std::string(128, '\0'));
+    const Outcome refused = shell("edidwb convert --to dat in out.DAT");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.errors, "edidwb: in: 3 blocks; a data file holds 2; --cut leaves the others out\n");
+    EXPECT_FALSE(exists("out.DAT"));
+    const Outcome cut = shell("edidwb convert --cut --to dat in out.DAT; edidwb convert --to bin out.DAT out");
+    EXPECT_EQ(cut.status, 0);
+    EXPECT_EQ(cut.errors, "edidwb: in: block 2 left out\n");
+    EXPECT_EQ(read("out"), image);
+}
+
+TEST_F(ConvertTest, ABlockThatIsAnnouncedAndMissingIsAnErrorUnlessItMayBePadded) {
+    const std::string block = sample("zarqo-z40.bin").substr(0, 128);
+    write("in", block);
+    const Outcome refused = shell("edidwb convert --to hex in out");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.errors, "edidwb: in: announces 2 blocks and has 1; --pad writes the others as zeros\n");
+    EXPECT_FALSE(exists("out"));
+    const Outcome padded = shell("edidwb convert --pad --to bin in out");
+    EXPECT_EQ(padded.status, 0);
+    EXPECT_EQ(padded.errors, "edidwb: in: block 1 written as zeros\n");
+    EXPECT_EQ(read("out"), block + std::string(128, '\0'));
+}
+
+TEST_F(ConvertTest, BytesBehindTheLastBlockAreTold) {
+    write("in", sample("halvorine-hv19.bin") + "abc");
+    const Outcome outcome = shell("edidwb convert --to bin in out");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors, "edidwb: in: 3 bytes after the last block left out\n");
+    EXPECT_EQ(read("out"), sample("halvorine-hv19.bin"));
+}
+
+TEST_F(ConvertTest, ReadsWhatIsCompressed) {
+    const Outcome outcome = shell("gzip -c $SAMPLES/zarqo-z40.DAT | edidwb convert --to bin - out");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(read("out"), sample("zarqo-z40.bin"));
+}
+
+TEST_F(ConvertTest, TheHeaderIsWantedUnlessAnyIsTaken) {
+    std::string image = sample("halvorine-hv19.bin");
+    image[1] = '\0';
+    write("in", image);
+    const Outcome refused = shell("edidwb convert --to bin in out");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.errors, HasSubstr("not with the header 00 FF FF FF FF FF FF 00\n"));
+    EXPECT_EQ(shell("edidwb convert --any-header --to bin in out").status, 0);
+    EXPECT_EQ(read("out"), image);
+}
+
+TEST_F(ConvertTest, TheDateOfAReportCanBeSet) {
+    EXPECT_EQ(shell("edidwb convert --date '2004-02-29 13:14:15' --to report $SAMPLES/zarqo-z40.bin -").output,
+              shell("edidwb translate --date '2004-02-29 13:14:15' $SAMPLES/zarqo-z40.bin").output);
 }
 
 TEST_F(ConvertTest, WhatCannotBeWrittenOnTheWayIsTold) {

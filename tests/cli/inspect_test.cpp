@@ -17,8 +17,8 @@ TEST_F(InspectTest, TellsEveryBlockAsATable) {
     EXPECT_EQ(outcome.output.substr(0, outcome.output.find("  base")),
               "zarqo-z40.bin: 256 bytes\n\nBlock 0: base EDID, check sum ok\n");
     EXPECT_THAT(outcome.output, HasSubstr("\n  base.detailed[1]\n"
-                                          "    37+36           Pixel clock                        148.50 MHz\n"
-                                          "    3A[7:4]+38      Horizontal active                  1920 px\n"));
+                                          "    37+36           Pixel clock                                148.50 MHz\n"
+                                          "    3A[7:4]+38      Horizontal active                          1920 px\n"));
     EXPECT_THAT(outcome.output, HasSubstr("\n\nBlock 1: CTA-861 extension, check sum ok\n"));
 }
 

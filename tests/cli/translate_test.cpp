@@ -23,13 +23,66 @@ std::string asHexText(const std::string& bytes) {
 }
 
 TEST_F(TranslateTest, PrintsReportsInTheOrderOfTheInput) {
-    const Outcome both = shell("edidwb translate $SAMPLES/zarqo-z40.bin $SAMPLES/halvorine-hv19.bin");
+    const Outcome both = shell("edidwb translate --heading=never $SAMPLES/zarqo-z40.bin $SAMPLES/halvorine-hv19.bin");
     EXPECT_EQ(both.status, 0);
     EXPECT_EQ(both.errors, "");
     EXPECT_EQ(both.output, shell("edidwb translate $SAMPLES/zarqo-z40.bin").output +
                                shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output);
     EXPECT_THAT(both.output, HasSubstr("\n(08-09)  ID Manufacturer Name ________________=   HLV\n"));
     EXPECT_THAT(both.output, Not(HasSubstr("\r")));
+}
+
+TEST_F(TranslateTest, PutsTheNameOfItsFileAboveEachOfSeveralReports) {
+    const std::string zarqo = shell("edidwb translate $SAMPLES/zarqo-z40.bin").output;
+    const std::string halvorine = shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output;
+    EXPECT_EQ(shell("cd $SAMPLES; edidwb translate zarqo-z40.bin missing halvorine-hv19.bin").output,
+              "==> zarqo-z40.bin <==\n" + zarqo + "\n==> halvorine-hv19.bin <==\n" + halvorine);
+    EXPECT_EQ(shell("cd $SAMPLES; edidwb translate --heading=always zarqo-z40.bin").output,
+              "==> zarqo-z40.bin <==\n" + zarqo);
+    EXPECT_EQ(shell("edidwb translate --heading never $SAMPLES/zarqo-z40.bin $SAMPLES/zarqo-z40.bin").output,
+              zarqo + zarqo);
+}
+
+TEST_F(TranslateTest, TranslatesEveryImageOfAText) {
+    shell(
+        "for f in zarqo-z40:DP-1 halvorine-hv19:HDMI-2; do echo \"${f#*:} connected\"; printf '\\tEDID:\\n'; "
+        "od -An -v -tx1 $SAMPLES/${f%:*}.bin | sed 's/ //g; s/^/\\t\\t/'; done >xrandr.txt");
+    const std::string zarqo = shell("edidwb translate $SAMPLES/zarqo-z40.bin").output;
+    const std::string halvorine = shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output;
+    EXPECT_EQ(shell("edidwb translate xrandr.txt").output,
+              "==> xrandr.txt (DP-1) <==\n" + zarqo + "\n==> xrandr.txt (HDMI-2) <==\n" + halvorine);
+    EXPECT_EQ(shell("edidwb translate --output-name HDMI-2 xrandr.txt").output, halvorine);
+    EXPECT_EQ(shell("edidwb translate -o out xrandr.txt; ls out").output, "xrandr-DP-1.txt\nxrandr-HDMI-2.txt\n");
+    const Outcome none = shell("edidwb translate --output-name DP-9 xrandr.txt");
+    EXPECT_EQ(none.status, 1);
+    EXPECT_EQ(none.errors, "edidwb: xrandr.txt: has no output 'DP-9'; it has DP-1, HDMI-2\n");
+    EXPECT_EQ(shell("edidwb convert --to bin xrandr.txt a.bin").errors,
+              "edidwb: xrandr.txt: holds 2 images: DP-1, HDMI-2; --output-name picks one\n");
+    EXPECT_EQ(shell("edidwb convert --output-name DP-1 --to bin xrandr.txt a.bin").status, 0);
+    EXPECT_EQ(read("a.bin"), sample("zarqo-z40.bin"));
+}
+
+TEST_F(TranslateTest, TellsTheBlocksThatTheReportLeavesOut) {
+    const std::string image = sample("zarqo-z40.bin");
+    write("four.bin", image + std::string(256, '\0') + "abc");
+    write("one.bin", image.substr(0, 128));
+    const Outcome four = shell("edidwb translate four.bin");
+    EXPECT_EQ(four.status, 0);
+    EXPECT_EQ(four.errors,
+              "edidwb: four.bin: blocks 2 to 3 left out\nedidwb: four.bin: 3 bytes after the last block left out\n");
+    EXPECT_THAT(shell("edidwb translate one.bin").errors,
+                HasSubstr("edidwb: one.bin: block 1 announced and missing\n"));
+}
+
+TEST_F(TranslateTest, ShowsControlCharactersOnATerminalAndThereOnly) {
+    std::string image = sample("halvorine-hv19.bin");
+    image[95] = '\x1B'; // in the name, tag FC at byte 93
+    write("a.bin", image);
+    const std::string program = EDIDWB;
+    EXPECT_THAT(shell("edidwb translate a.bin").output, HasSubstr("\x1B"));
+    const std::string shown = shell("script -qec \"" + program + " translate a.bin\" /dev/null").output;
+    EXPECT_THAT(shown, Not(HasSubstr("\x1B")));
+    EXPECT_THAT(shown, HasSubstr("\\x1B"));
 }
 
 TEST_F(TranslateTest, ReadsEveryFormAndStandardInput) {
@@ -57,9 +110,9 @@ TEST_F(TranslateTest, AFileThatIsNoImageIsToldAndTheRestGoesOn) {
     write("empty", "");
     const Outcome outcome = shell("edidwb translate notes.txt missing empty . /dev/null $SAMPLES/halvorine-hv19.bin");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.output, shell("edidwb translate $SAMPLES/halvorine-hv19.bin").output);
+    EXPECT_EQ(outcome.output, shell("edidwb translate --heading=always $SAMPLES/halvorine-hv19.bin").output);
     EXPECT_EQ(outcome.errors,
-              "edidwb: notes.txt: is no EDID image: neither a data file, nor hexadecimal text, nor a binary image\n"
+              "edidwb: notes.txt: is no EDID image: line 1: 'no' is no hexadecimal pair\n"
               "edidwb: missing: No such file or directory\n"
               "edidwb: empty: is empty\n"
               "edidwb: .: Is a directory\n"
@@ -91,7 +144,9 @@ TEST_F(TranslateTest, ADataFileWhoseCellsTheDecodersRewriteIsLoaded) {
     write("serrated.DAT", dataFileWithFlags("14", "1C"));
     write("lower.DAT", dataFileWithFlags("1e", "c4"));
     for (const auto& [name, flags] : {std::pair("serrated.DAT", "18"), std::pair("lower.DAT", "C4")}) {
-        EXPECT_EQ(shell("edidwb convert --to hex " + std::string(name) + " -").output.substr((72 + 17) * 3, 2), flags);
+        EXPECT_EQ(shell("edidwb convert --to dat " + std::string(name) + " - | edidwb convert --to hex - -")
+                      .output.substr((72 + 17) * 3, 2),
+                  flags);
         const Outcome outcome = shell("edidwb translate " + std::string(name));
         EXPECT_EQ(outcome.status, 0) << name;
         EXPECT_EQ(outcome.errors, "") << name;
@@ -139,13 +194,21 @@ TEST_F(TranslateTest, InputsThatDifferInTheirExtensionKeepItInTheNamesOfTheRepor
     EXPECT_EQ(read("out/zarqo-z40.bin.txt"), shell("edidwb translate zarqo-z40.bin").output);
 }
 
-TEST_F(TranslateTest, TwoInputsOfOneNameAreTold) {
+TEST_F(TranslateTest, InputsOfOneNameHaveTheFoldersThatTellThemApartInFront) {
     const Outcome outcome = shell(
-        "mkdir a b\ncp $SAMPLES/zarqo-z40.bin a/x.bin\ncp $SAMPLES/halvorine-hv19.bin b/x.bin\n"
-        "edidwb translate -o out -j 2 a/x.bin b/x.bin");
+        "mkdir -p card0-DP-1/d card0-HDMI-A-1/d\ncp $SAMPLES/zarqo-z40.bin card0-DP-1/d/edid\n"
+        "cp $SAMPLES/halvorine-hv19.bin card0-HDMI-A-1/d/edid\ncp $SAMPLES/halvorine-hv19.bin other\n"
+        "edidwb translate -o out -j 2 card0-*/d/edid other");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(shell("ls out").output, "card0-DP-1_d_edid.txt\ncard0-HDMI-A-1_d_edid.txt\nother.txt\n");
+    EXPECT_EQ(read("out/card0-DP-1_d_edid.txt"), shell("edidwb translate card0-DP-1/d/edid").output);
+}
+
+TEST_F(TranslateTest, OneInputNamedTwiceIsTold) {
+    const Outcome outcome = shell("edidwb translate -o out $SAMPLES/zarqo-z40.bin $SAMPLES/zarqo-z40.bin");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.errors, "edidwb: b/x.bin: its report 'out/x.txt' is already that of 'a/x.bin'\n");
-    EXPECT_EQ(read("out/x.txt"), shell("edidwb translate a/x.bin").output);
+    EXPECT_THAT(outcome.errors, HasSubstr("its report 'out/zarqo-z40.txt' is already that of '"));
+    EXPECT_EQ(read("out/zarqo-z40.txt"), shell("edidwb translate $SAMPLES/zarqo-z40.bin").output);
 }
 
 TEST_F(TranslateTest, AReportNeverReplacesAnInput) {
@@ -201,7 +264,7 @@ TEST_F(TranslateTest, OrderAndJobsChangeNothing) {
             order.push_back(i % names.size());
         }
         std::shuffle(order.begin(), order.end(), random);
-        std::string command = "edidwb translate --jobs " + std::to_string(1 + 2 * round);
+        std::string command = "edidwb translate --heading=never --jobs " + std::to_string(1 + 2 * round);
         std::string expected;
         for (const std::size_t i : order) {
             command += " $SAMPLES/" + names[i] + ".bin";

@@ -113,7 +113,7 @@ TEST_F(UsageTest, NamesWhatIsWrong) {
 }
 
 TEST_F(UsageTest, TheHelpOfConvertTellsThatDecodingMayChangeTheImage) {
-    EXPECT_THAT(shell("edidwb convert --help").output, HasSubstr("OUT gets the image as the program holds it"));
+    EXPECT_THAT(shell("edidwb convert --help").output, HasSubstr("a flag of a detailed timing may differ from IN"));
 }
 
 TEST_F(UsageTest, OutputThatCannotBeWrittenIsAnError) {

@@ -26,6 +26,16 @@ bool Image::hasHeader() const {
     return std::equal(header.begin(), header.end(), bytes_.begin());
 }
 
+Image Image::cutTo(std::size_t count) const {
+    return {std::string_view(content()).substr(0, count * blockSize), 0, origin_};
+}
+
+Image Image::paddedTo(std::size_t count) const {
+    std::string bytes = content();
+    bytes.resize(std::max(bytes.size(), std::min(count, mostBlocks) * blockSize), '\0');
+    return {bytes, 0, origin_};
+}
+
 bool sumsToZero(std::span<const std::uint8_t> block) {
     return std::accumulate(block.begin(), block.end(), 0U) % 256 == 0;
 }

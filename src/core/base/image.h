@@ -49,6 +49,16 @@ public:
     bool hasHeader() const;
 
     const ImageOrigin& origin() const { return origin_; }
+    /// The same image, found in a file of that name.
+    Image ofFile(std::string name) const {
+        Image image = *this;
+        image.origin_.file = std::move(name);
+        return image;
+    }
+    /// The image without the blocks from `count` on, of which there are more, and without what was left over.
+    Image cutTo(std::size_t count) const;
+    /// The image with blocks of zeros behind its own, `count` in all, 256 at most.
+    Image paddedTo(std::size_t count) const;
 
 private:
     Image(std::string_view bytes, std::size_t leftOver, ImageOrigin origin)

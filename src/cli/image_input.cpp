@@ -1,0 +1,121 @@
+#include "cli/image_input.h"
+
+#include <CLI/CLI.hpp>
+#include <utility>
+
+#include "adapters/gzip.h"
+#include "cli/cli_error.h"
+#include "forms/recogniser.h"
+
+namespace wb::cli {
+
+namespace {
+
+/// Blocks that the program edits.
+constexpr std::size_t editedBlocks = 2;
+
+std::string outputsOf(const std::vector<Image>& images) {
+    std::string names;
+    for (const Image& image : images) {
+        const std::string& output = image.origin().output;
+        names += (names.empty() ? "" : ", ") + (output.empty() ? "(without a name)" : output);
+    }
+    return names;
+}
+
+/// Leaves the images of one output.
+void pick(std::vector<Image>& images, const std::string& output) {
+    const std::string there = outputsOf(images);
+    std::erase_if(images, [&](const Image& image) { return image.origin().output != output; });
+    if (images.empty()) {
+        throw CliError("has no output '" + output + "'; it has " + there);
+    }
+}
+
+} // namespace
+
+void addImageOptions(CLI::App& command, ImageOptions& options) {
+    command.add_flag("--any-header", options.anyHeader, "Take images without the header 00 FF FF FF FF FF FF 00 too")
+        ->disable_flag_override();
+    std::string names;
+    for (const std::string& name : forms::formNames()) {
+        names += (names.empty() ? "" : ", ") + name;
+    }
+    command
+        .add_option("--from", options.form, "Take the input for this form instead of telling by its content: " + names)
+        ->type_name("FORM")
+        ->check(CLI::IsMember(forms::formNames()))
+        ->take_last();
+    command.add_option("--output-name", options.output, "Of a text with several images, take that of this output")
+        ->type_name("NAME")
+        ->take_last();
+}
+
+Contents contentsOf(Input input, const ImageOptions& options) {
+    const forms::RecognitionOptions how{
+        .anyHeader = options.anyHeader, .form = options.form, .inflate = [](std::string_view bytes) {
+            return adapters::uncompressGzip(bytes);
+        }};
+    forms::Recognition recognition = forms::recognise(input.content, how);
+    if (recognition.images.empty() && !recognition.isDataFile) {
+        throw CliError(input.content.empty() ? "is empty" : "is no EDID image: " + recognition.refusal);
+    }
+    Contents contents{.input = std::move(input),
+                      .isDataFile = recognition.isDataFile,
+                      .images = {},
+                      .refusal = std::move(recognition.refusal)};
+    if (recognition.uncompressed) {
+        contents.input.content = std::move(*recognition.uncompressed);
+    }
+    for (Image& image : recognition.images) {
+        contents.images.push_back(image.ofFile(contents.input.name));
+    }
+    if (!options.output.empty()) {
+        pick(contents.images, options.output);
+    }
+    return contents;
+}
+
+const std::vector<Image>& imagesOf(const Contents& contents) {
+    if (contents.images.empty()) {
+        throw CliError(contents.refusal);
+    }
+    return contents.images;
+}
+
+const Image& onlyImageOf(const Contents& contents) {
+    const std::vector<Image>& images = imagesOf(contents);
+    if (images.size() > 1) {
+        throw CliError("holds " + std::to_string(images.size()) + " images: " + outputsOf(images) +
+                       "; --output-name picks one");
+    }
+    return images.front();
+}
+
+std::string titleOf(const Image& image) {
+    const ImageOrigin& origin = image.origin();
+    return origin.output.empty() ? origin.file : origin.file + " (" + origin.output + ')';
+}
+
+std::string blocksText(std::size_t first, std::size_t last) {
+    return first == last ? "block " + std::to_string(first)
+                         : "blocks " + std::to_string(first) + " to " + std::to_string(last);
+}
+
+std::vector<std::string> omissionsOf(const Image& image) {
+    std::vector<std::string> sentences;
+    const std::size_t blocks = image.blockCount();
+    if (blocks > editedBlocks) {
+        sentences.push_back(blocksText(editedBlocks, blocks - 1) + " left out");
+    }
+    if (image.leftOver() != 0) {
+        sentences.push_back(std::to_string(image.leftOver()) + " bytes after the last block left out");
+    }
+    if (image.announcedExtensions() >= blocks) {
+        const std::size_t last = image.announcedExtensions();
+        sentences.push_back(blocksText(blocks, last) + " announced and missing");
+    }
+    return sentences;
+}
+
+} // namespace wb::cli
