@@ -99,10 +99,9 @@ std::optional<std::uint8_t> descriptorTag(const Image& image, std::size_t number
 }
 
 Scope slotScope(const Scope& base, std::size_t number) {
-    const std::string place = '[' + std::to_string(number + 1) + ']';
     return isTimingSlot(base.reading().image, number)
-               ? base.inner(slotStart(number), "detailed" + place, "E-EDID 1.4, 3.10.2")
-               : base.inner(slotStart(number), "descriptor" + place, "E-EDID 1.4, 3.10.3");
+               ? base.inner(slotStart(number), numbered("detailed", number + 1), "E-EDID 1.4, 3.10.2")
+               : base.inner(slotStart(number), numbered("descriptor", number + 1), "E-EDID 1.4, 3.10.3");
 }
 
 std::optional<DetailedTiming> timingInSlot(const Scope& base, std::size_t number) {

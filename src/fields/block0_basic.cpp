@@ -26,11 +26,11 @@ constexpr std::array<Row, 6> analogRows = {{
      .parts = {{0, 6, 5}},
      .kind = Kind::Choice,
      .choices = signalLevels},
-    {.name = "setup", .label = "Blank-to-black setup expected", .parts = {{0, 4, 4}}, .kind = Kind::Flag},
-    {.name = "separate_sync", .label = "Separate syncs supported", .parts = {{0, 3, 3}}, .kind = Kind::Flag},
-    {.name = "composite_sync", .label = "Composite sync supported", .parts = {{0, 2, 2}}, .kind = Kind::Flag},
-    {.name = "sync_on_green", .label = "Sync on green supported", .parts = {{0, 1, 1}}, .kind = Kind::Flag},
-    {.name = "serrations", .label = "Serrated vertical sync supported", .parts = {{0, 0, 0}}, .kind = Kind::Flag},
+    flagAt(0, 4, "setup", "Blank-to-black setup expected"),
+    flagAt(0, 3, "separate_sync", "Separate syncs supported"),
+    flagAt(0, 2, "composite_sync", "Composite sync supported"),
+    flagAt(0, 1, "sync_on_green", "Sync on green supported"),
+    flagAt(0, 0, "serrations", "Serrated vertical sync supported"),
 }};
 constexpr Row bitDepthRow = {.name = "bit_depth",
                              .label = "Bits per primary colour",
@@ -150,9 +150,9 @@ constexpr std::array<Choice, 4> colorEncodings = {{{0, "RGB 4:4:4"},
                                                    {2, "RGB 4:4:4, YCbCr 4:2:2"},
                                                    {3, "RGB 4:4:4, YCbCr 4:4:4, YCbCr 4:2:2"}}};
 constexpr std::array<Row, 3> powerRows = {{
-    {.name = "standby", .label = "Standby supported", .parts = {{0, 7, 7}}, .kind = Kind::Flag},
-    {.name = "suspend", .label = "Suspend supported", .parts = {{0, 6, 6}}, .kind = Kind::Flag},
-    {.name = "active_off", .label = "Active off supported", .parts = {{0, 5, 5}}, .kind = Kind::Flag},
+    flagAt(0, 7, "standby", "Standby supported"),
+    flagAt(0, 6, "suspend", "Suspend supported"),
+    flagAt(0, 5, "active_off", "Active off supported"),
 }};
 constexpr Row displayTypeRow = {.name = "display_type",
                                 .label = "Display type",
@@ -164,14 +164,10 @@ constexpr Row colorEncodingsRow = {.name = "color_encodings",
                                    .parts = {{0, 4, 3}},
                                    .kind = Kind::Choice,
                                    .choices = colorEncodings};
-constexpr Row standardColorRow = {
-    .name = "srgb_default", .label = "sRGB is the default colour space", .parts = {{0, 2, 2}}, .kind = Kind::Flag};
+constexpr Row standardColorRow = flagAt(0, 2, "srgb_default", "sRGB is the default colour space");
 constexpr std::array<Row, 2> timingRows = {{
-    {.name = "preferred_timing",
-     .label = "Preferred timing has the native format and rate",
-     .parts = {{0, 1, 1}},
-     .kind = Kind::Flag},
-    {.name = "continuous_frequency", .label = "Continuous frequencies", .parts = {{0, 0, 0}}, .kind = Kind::Flag},
+    flagAt(0, 1, "preferred_timing", "Preferred timing has the native format and rate"),
+    flagAt(0, 0, "continuous_frequency", "Continuous frequencies"),
 }};
 /// Before 1.4.
 constexpr std::array<Row, 2> gtfRows = {{

@@ -116,9 +116,8 @@ bool isMonochromeDisplay(const Scope& base) {
 void readChromaticity(const Scope& base) {
     const Scope scope = base.inner(25, "chromaticity", "E-EDID 1.4, 3.7");
     scope.add(coordinateRows);
-    const auto bytes = scope.bytes(0, 10);
     const bool isMonochrome = isMonochromeDisplay(base);
-    if (std::all_of(bytes.begin(), bytes.end(), [](unsigned byte) { return byte == 0; })) {
+    if (allZero(scope.bytes(0, 10))) {
         if (!isMonochrome) {
             scope.tell(Severity::Warning, "chromaticity.none", 0, "red_x",
                        "No primaries are told for a colour display, so that software cannot match its colours; enter "

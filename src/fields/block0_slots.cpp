@@ -23,8 +23,7 @@ void checkTag(const Scope& slot, std::uint8_t tag, int revision) {
 }
 
 void checkUse(const Scope& slot, std::uint8_t tag) {
-    const auto bytes = slot.bytes(0, 18);
-    if (std::all_of(bytes.begin(), bytes.end(), [](unsigned byte) { return byte == 0; })) {
+    if (allZero(slot.bytes(0, 18))) {
         slot.tell(Severity::Warning, "descriptor.all_zero", 0, "",
                   "The 18 bytes are all 0, which is a descriptor of the manufacturer's own without a content, so that "
                   "software may look for one; make it a dummy (tag 10h).");

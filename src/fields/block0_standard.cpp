@@ -35,7 +35,7 @@ void checkDuplicate(const Scope& timings, std::size_t index) {
 void readStandardTimings(const Scope& base, int revision) {
     const Scope timings = base.inner(38, "standard", "E-EDID 1.4, 3.9");
     for (std::size_t i = 0; i < timingCount; ++i) {
-        readStandardTiming(timings.inner(standardTimingSize * i, '[' + std::to_string(i + 1) + ']'), revision);
+        readStandardTiming(timings.inner(standardTimingSize * i, numbered("", i + 1)), revision);
         checkDuplicate(timings, i);
     }
 }

@@ -12,7 +12,7 @@ constexpr std::array<Choice, 1> noGamma = {{{255, "not told"}}};
 /// VESA E-EDID Standard, Release A, section 3.10.3.5: two of these, 5 bytes each.
 constexpr std::array<Row, 5> whitePointRows = {{
     {.name = "index", .label = "Number of the white point", .parts = {{0}}, .choices = unusedPoint},
-    {.name = "reserved", .label = "Reserved", .parts = {{1, 7, 4}}, .kind = Kind::Reserved},
+    reservedAt(1, 7, 4, "reserved"),
     {.name = "x", .label = "White x", .parts = {{2}, {1, 3, 2}}, .scale = 1.0 / 1024, .decimals = 4},
     {.name = "y", .label = "White y", .parts = {{3}, {1, 1, 0}}, .scale = 1.0 / 1024, .decimals = 4},
     {.name = "gamma", .label = "Gamma", .parts = {{4}}, .scale = 0.01, .bias = 1, .decimals = 2, .choices = noGamma},

@@ -1,6 +1,5 @@
 #include "fields/cvt_code.h"
 
-#include <algorithm>
 #include <array>
 
 namespace wb::fields {
@@ -21,8 +20,8 @@ constexpr Row aspectRow = {.name = "aspect_ratio",
                            .kind = Kind::Choice,
                            .choices = aspectChoices};
 constexpr std::array<Row, 3> codeRows = {{
-    {.name = "reserved_1", .label = "Reserved", .parts = {{1, 1, 0}}, .kind = Kind::Reserved},
-    {.name = "reserved_2", .label = "Reserved", .parts = {{2, 7, 7}}, .kind = Kind::Reserved},
+    reservedAt(1, 1, 0, "reserved_1"),
+    reservedAt(2, 7, 7, "reserved_2"),
     {.name = "preferred_rate",
      .label = "Preferred vertical rate",
      .parts = {{2, 6, 5}},
@@ -72,8 +71,7 @@ void checkPreferredRate(const Scope& code) {
 } // namespace
 
 void readCvtCode(const Scope& scope) {
-    const auto bytes = scope.bytes(0, cvtCodeSize);
-    if (std::all_of(bytes.begin(), bytes.end(), [](unsigned byte) { return byte == 0; })) {
+    if (allZero(scope.bytes(0, cvtCodeSize))) {
         scope.add(unusedCodeRow);
         return;
     }

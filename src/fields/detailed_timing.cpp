@@ -56,7 +56,7 @@ constexpr std::array<Row, 15> timingRows = {{
     {.name = "v_image_size", .label = "Vertical image size", .parts = {{14, 3, 0}, {13}}, .unit = "mm"},
     {.name = "h_border", .label = "Horizontal border, each side", .parts = {{15}}, .unit = "px"},
     {.name = "v_border", .label = "Vertical border, each side", .parts = {{16}}, .unit = "px"},
-    {.name = "interlaced", .label = "Interlaced", .parts = {{17, 7, 7}}, .kind = Kind::Flag},
+    flagAt(17, 7, "interlaced", "Interlaced"),
     {.name = "stereo",
      .label = "Stereo viewing",
      .parts = {{17, 6, 5}, {17, 0, 0}},
@@ -67,11 +67,11 @@ constexpr std::array<Row, 15> timingRows = {{
 constexpr Row syncKindRow = {
     .name = "sync_type", .label = "Sync type", .parts = {{17, 4, 3}}, .kind = Kind::Choice, .choices = syncKinds};
 constexpr std::array<Row, 2> analogRows = {{
-    {.name = "sync_serrate", .label = "Serrations", .parts = {{17, 2, 2}}, .kind = Kind::Flag},
-    {.name = "sync_on_all", .label = "Sync on red, green and blue", .parts = {{17, 1, 1}}, .kind = Kind::Flag},
+    flagAt(17, 2, "sync_serrate", "Serrations"),
+    flagAt(17, 1, "sync_on_all", "Sync on red, green and blue"),
 }};
 constexpr std::array<Row, 2> compositeRows = {{
-    {.name = "sync_serrate", .label = "Serrations", .parts = {{17, 2, 2}}, .kind = Kind::Flag},
+    flagAt(17, 2, "sync_serrate", "Serrations"),
     {.name = "h_sync_polarity",
      .label = "Horizontal sync polarity",
      .parts = {{17, 1, 1}},

@@ -23,7 +23,7 @@ struct ExtensionKind {
 constexpr std::array<ExtensionKind, 10> kinds = {{
     {0x00, "timing extension"},
     {0x02, "CTA-861 extension", "cta", "CTA-861-H, 7.3.3", readCta},
-    {0x10, "video timing block extension"},
+    {0x10, "video timing block extension", "vtb", "VTB-EXT Release A", readVideoTimingBlock},
     {0x20, "EDID 2.0 extension"},
     {0x40, "display information extension"},
     {0x50, "localized string extension"},

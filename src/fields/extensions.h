@@ -17,6 +17,7 @@ void readExtension(Reading& reading, std::size_t index);
 
 // The readers of each kind: all of a block but its last byte, the check sum. `block` begins with its tag.
 void readCta(const Scope& block);
+void readVideoTimingBlock(const Scope& block);
 void readBlockMap(const Scope& block);
 
 /// Bytes from `offset` up to the check sum of the block, which should be 0; `code` tells where they are not. `after`

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -27,6 +28,10 @@ public:
     const BitRange* begin() const { return ranges_.data(); }
     const BitRange* end() const { return ranges_.data() + size_; }
     const BitRange& front() const { return ranges_.front(); }
+
+    /// How many bits the ranges of single bytes have together, and the number that these make up.
+    int bits() const;
+    std::uint64_t value(std::span<const std::uint8_t> image) const;
 
 private:
     std::array<BitRange, 4> ranges_{};

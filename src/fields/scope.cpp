@@ -1,7 +1,6 @@
 #include "fields/scope.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "core/base/code_page.h"
@@ -12,20 +11,8 @@ namespace {
 
 constexpr unsigned lineFeed = 0x0A;
 
-std::uint64_t maskOf(int bits) {
-    return (std::uint64_t{1} << static_cast<unsigned>(bits)) - 1;
-}
-
-int bitsOf(const Row& row) {
-    int bits = 0;
-    for (const Part& part : row.parts) {
-        bits += part.high - part.low + 1;
-    }
-    return bits;
-}
-
-double plainNumber(const Row& row, std::uint64_t raw) {
-    const auto modulus = static_cast<double>(maskOf(bitsOf(row))) + 1;
+double plainNumber(const Row& row, std::uint64_t raw, int bits) {
+    const auto modulus = std::ldexp(1.0, bits);
     const auto number = static_cast<double>(raw);
     return row.kind == Kind::Signed && number >= modulus / 2 ? number - modulus : number;
 }
@@ -37,7 +24,7 @@ void readNumber(const Row& row, std::uint64_t raw, Field& field) {
     }
     field.scale = row.scale;
     field.bias = row.bias;
-    const double number = plainNumber(row, raw) * row.scale + row.bias;
+    const double number = plainNumber(row, raw, field.where.bits()) * row.scale + row.bias;
     if (row.decimals == 0) {
         field.value = static_cast<std::int64_t>(std::llround(number));
     } else {
@@ -58,32 +45,6 @@ std::string charactersOf(std::span<const std::uint8_t> bytes) {
     const auto end = std::find(bytes.begin(), bytes.end(), lineFeed);
     std::string text(bytes.begin(), end);
     text.erase(text.find_last_not_of(std::string_view(" \0", 2)) + 1);
-    return text;
-}
-
-/// Of the characters of Latin-1 and ASCII, those that are no signs.
-bool isControl(char16_t character) {
-    return character < u' ' || (character >= u'\x7F' && character < u'\xA0');
-}
-
-constexpr std::string_view hexDigits = "0123456789ABCDEF";
-
-void appendHex(std::string& text, unsigned byte) {
-    text += hexDigits[byte >> 4U];
-    text += hexDigits[byte & 15U];
-}
-
-/// A text of 8-bit characters in UTF-8 without control characters, which stand as "\x0D".
-std::string printable(std::string_view characters) {
-    std::string text;
-    for (const char character : characters) {
-        if (isControl(codePageToUnicode(character))) {
-            text += "\\x";
-            appendHex(text, static_cast<unsigned char>(character));
-        } else {
-            text += codePageToUtf8({&character, 1});
-        }
-    }
     return text;
 }
 
@@ -111,36 +72,15 @@ std::size_t cutOf(std::span<const Row> rows, std::size_t end) {
     return cut;
 }
 
-bool isRun(const Field& field) {
-    return field.where.front().count > 1;
-}
-
 void readText(const std::string& characters, Field& field) {
     field.value = codePageToUtf8(characters);
     field.text = printable(characters);
 }
 
-/// The value of the bits of a field, and how many they are.
-std::pair<std::uint64_t, int> bitsOf(std::span<const std::uint8_t> image, const Where& where) {
-    std::uint64_t value = 0;
-    int count = 0;
-    for (const BitRange& range : where) {
-        const int bits = range.high - range.low + 1;
-        value = value << static_cast<unsigned>(bits) | (image[range.byte] >> range.low & maskOf(bits));
-        count += bits;
-    }
-    return {value, count};
-}
-
 } // namespace
 
 Scope Scope::inner(std::size_t offset, std::string_view name, std::string_view clause) const {
-    std::string path = path_;
-    if (!name.starts_with('[')) {
-        path += '.';
-    }
-    path += name;
-    return {*reading_, start_ + offset, std::move(path), clause.empty() ? clause_ : clause};
+    return {*reading_, start_ + offset, pathOf(name), clause.empty() ? clause_ : clause};
 }
 
 std::string Scope::pathOf(std::string_view name) const {
@@ -154,13 +94,16 @@ std::string Scope::pathOf(std::string_view name) const {
     return path;
 }
 
-std::uint64_t Scope::raw(const Parts& parts) const {
-    std::uint64_t value = 0;
+Where Scope::whereOf(const Parts& parts, std::size_t length) const {
+    Where where;
     for (const Part& part : parts) {
-        const int bits = part.high - part.low + 1;
-        value = value << static_cast<unsigned>(bits) | (byte(part.offset) >> part.low & maskOf(bits));
+        where.add({place(part.offset), part.high, part.low, length});
     }
-    return value;
+    return where;
+}
+
+std::uint64_t Scope::raw(const Parts& parts) const {
+    return whereOf(parts, 1).value(reading_->image.bytes());
 }
 
 void Scope::add(std::span<const Row> rows, std::size_t end) const {
@@ -184,11 +127,9 @@ Field& Scope::add(const Row& row) const {
     field.path = pathOf(row.name);
     field.label = row.label;
     field.clause = row.clause.empty() ? clause_ : row.clause;
-    for (const Part& part : row.parts) {
-        field.where.add({place(part.offset), part.high, part.low, row.length});
-    }
+    field.where = whereOf(row.parts, row.length);
     const std::size_t offset = row.parts.begin()->offset;
-    const std::uint64_t bits = row.length == 1 ? raw(row.parts) : 0;
+    const std::uint64_t bits = row.length == 1 ? field.where.value(reading_->image.bytes()) : 0;
     switch (row.kind) {
         case Kind::Number:
         case Kind::Signed:
@@ -206,7 +147,7 @@ Field& Scope::add(const Row& row) const {
             break;
         case Kind::Bytes:
         case Kind::Reserved:
-            field.text = isRun(field) ? hexText(bytes(offset, row.length)) : rawText(reading_->image, field);
+            field.text = row.length > 1 ? hexText(bytes(offset, row.length)) : hexNumber(bits, field.where.bits());
             break;
     }
     if (row.read != nullptr) {
@@ -258,76 +199,8 @@ std::string_view choiceText(std::span<const Choice> choices, std::uint64_t raw) 
     return found == choices.end() ? std::string_view() : found->text;
 }
 
-std::string rawText(const Image& image, const Field& field) {
-    if (isRun(field)) {
-        const BitRange& run = field.where.front();
-        std::string text;
-        for (const unsigned byte : image.bytes().subspan(run.byte, run.count)) {
-            appendHex(text, byte);
-        }
-        return text;
-    }
-    const auto [value, bits] = bitsOf(image.bytes(), field.where);
-    return hexNumber(value, bits);
-}
-
-std::string hexNumber(std::uint64_t number, int bits) {
-    std::string text;
-    for (int digit = (bits + 3) / 4 - 1; digit >= 0; --digit) {
-        text += hexDigits[number >> static_cast<unsigned>(4 * digit) & 15U];
-    }
-    return text;
-}
-
-std::string decimalText(double value, int decimals) {
-    std::array<char, 64> buffer{};
-    const auto [end, error] =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
-    return error == std::errc() ? std::string(buffer.data(), end) : std::string();
-}
-
-std::string withUnit(std::string number, std::string_view unit) {
-    if (!unit.empty()) {
-        number += ' ';
-        number += unit;
-    }
-    return number;
-}
-
-std::string numbered(std::string_view name, std::size_t number) {
-    std::string text(name);
-    text += '[';
-    text += std::to_string(number);
-    text += ']';
-    return text;
-}
-
-std::string hexText(std::span<const std::uint8_t> bytes) {
-    std::string text;
-    text.reserve(bytes.size() * 3);
-    for (const unsigned byte : bytes) {
-        if (!text.empty()) {
-            text += ' ';
-        }
-        appendHex(text, byte);
-    }
-    return text;
-}
-
 bool allZero(std::span<const std::uint8_t> bytes) {
     return std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte == 0; });
-}
-
-std::string_view severityName(Severity severity) {
-    switch (severity) {
-        case Severity::Note:
-            return "note";
-        case Severity::Warning:
-            return "warning";
-        case Severity::Error:
-            break;
-    }
-    return "error";
 }
 
 } // namespace wb::fields

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "fields/reading.h"
+#include "fields/words.h"
 
 namespace wb::fields {
 
@@ -128,6 +129,7 @@ public:
 
 private:
     std::string pathOf(std::string_view name) const;
+    Where whereOf(const Parts& parts, std::size_t length) const;
     void checkReserved(const Row& row) const;
 
     Reading* reading_;
@@ -138,16 +140,6 @@ private:
 
 /// The text of a raw value, empty where there is none.
 std::string_view choiceText(std::span<const Choice> choices, std::uint64_t raw);
-/// A number of that many bits in hexadecimal, in as many digits as they need.
-std::string hexNumber(std::uint64_t number, int bits);
-/// A number with as many decimals as are asked for.
-std::string decimalText(double value, int decimals);
-/// "number unit".
-std::string withUnit(std::string number, std::string_view unit);
-/// "name[number]": the place in a list.
-std::string numbered(std::string_view name, std::size_t number);
-/// "A3 0F": bytes in hexadecimal.
-std::string hexText(std::span<const std::uint8_t> bytes);
 /// Whether there are none but zeros.
 bool allZero(std::span<const std::uint8_t> bytes);
 

@@ -62,7 +62,7 @@ constexpr std::array<ModeFlag, 44> moreModes = {{
 void readMoreStandardTimings(const Scope& slot, int revision) {
     constexpr std::size_t timings = 6;
     for (std::size_t i = 0; i < timings; ++i) {
-        readStandardTiming(slot.inner(5 + standardTimingSize * i, "standard[" + std::to_string(i + 1) + ']'), revision);
+        readStandardTiming(slot.inner(5 + standardTimingSize * i, numbered("standard", i + 1)), revision);
     }
     readDescriptorPadding(slot, 17);
 }
@@ -71,14 +71,14 @@ void readCvtCodes(const Scope& slot, int /*revision*/) {
     readDescriptorVersion(slot, 1);
     constexpr std::size_t codes = 4;
     for (std::size_t i = 0; i < codes; ++i) {
-        readCvtCode(slot.inner(6 + cvtCodeSize * i, "cvt[" + std::to_string(i + 1) + ']'));
+        readCvtCode(slot.inner(6 + cvtCodeSize * i, numbered("cvt", i + 1)));
     }
 }
 
 void readMoreEstablishedTimings(const Scope& slot, int /*revision*/) {
     readDescriptorVersion(slot, 10);
     readModeFlags(slot.inner(6, "established"), moreModes);
-    slot.add({.name = "reserved_11", .label = "Reserved", .parts = {{11, 3, 0}}, .kind = Kind::Reserved});
+    slot.add(reservedAt(11, 3, 0, "reserved_11"));
     slot.addBytes(12, 18, "reserved_12", "Reserved", Kind::Reserved);
 }
 

@@ -45,7 +45,8 @@ TEST_P(ExtensionOfAnyBytes, KeepsTheInvariants) {
 
 constexpr Case cases[] = {{"Cta1", 0x02, 1, 4},          {"Cta2", 0x02, 2, 4},          {"Cta3", 0x02, 3, 4},
                           {"Cta9", 0x02, 9, 4},          {"DisplayId1", 0x70, 0x12, 0}, {"DisplayId2", 0x70, 0x20, 0},
-                          {"DisplayId3", 0x70, 0x30, 0}, {"Map", 0xF0, 0, 0},           {"Unknown", 0x33, 1, 0}};
+                          {"DisplayId3", 0x70, 0x30, 0}, {"Map", 0xF0, 0, 0},           {"VideoTimings", 0x10, 1, 0},
+                          {"Unknown", 0x33, 1, 0}};
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ExtensionOfAnyBytes, testing::ValuesIn(cases),
                          [](const auto& kind) { return kind.param.name; });
