@@ -49,6 +49,21 @@ const ExtensionKind& kindOf(std::uint8_t tag) {
     return found == kinds.end() ? unknownKind : *found;
 }
 
+/// Before revision 1.4 a block map has to lead more than one extension.
+void checkLeadingMap(const Scope& block) {
+    constexpr std::size_t revisionPlace = 19;
+    constexpr unsigned firstWithoutMap = 4;
+    constexpr std::uint8_t mapTag = 0xF0;
+    const Image& image = block.reading().image;
+    if (block.byte(0) != mapTag && image.announcedExtensions() > 1 && image.byte(revisionPlace) < firstWithoutMap) {
+        block.tell(
+            Severity::Warning, "map.missing", 0, "",
+            "More than one extension block follows block 0 and the first is no block map, which revisions before "
+            "1.4 want, so that readers may stop after it; add a map or move to revision 1.4.",
+            "E-EDID 1.3, 2.2.2");
+    }
+}
+
 } // namespace
 
 std::string_view extensionName(std::uint8_t tag) {
@@ -74,6 +89,9 @@ void readExtension(Reading& reading, std::size_t index) {
     const Scope block(reading, index * Image::blockSize, numbered(kind.path, index), kind.clause);
     kind.read(block);
     block.add(checksumRow);
+    if (index == 1) {
+        checkLeadingMap(block);
+    }
     if (&kind == &unknownKind) {
         block.tell(Severity::Warning, "extension.unknown", 0, "tag",
                    "No standard gives the tag of this extension block a meaning, so that readers pass over it; a dump "

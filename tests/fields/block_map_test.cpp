@@ -31,6 +31,13 @@ TEST(BlockMap, StandsInTwoPlaces) {
     EXPECT_EQ(countOf(ImageOf(130).set(128, {0xF0}).set(128 * 128, {0xF0}).reading(), "map.place"), 0U);
 }
 
+TEST(BlockMap, LeadsMoreThanOneExtensionBeforeRevision4) {
+    EXPECT_EQ(countOf(ImageOf(3).set(19, {3}).set(128, {0x02}).reading(), "map.missing"), 1U);
+    EXPECT_EQ(countOf(ImageOf(3).set(19, {3}).set(128, {0xF0}).reading(), "map.missing"), 0U);
+    EXPECT_EQ(countOf(ImageOf(3).set(19, {4}).set(128, {0x02}).reading(), "map.missing"), 0U);
+    EXPECT_EQ(countOf(ImageOf(2).set(19, {3}).set(128, {0x02}).reading(), "map.missing"), 0U);
+}
+
 TEST(Extensions, OfAnUnknownTagAreTold) {
     EXPECT_EQ(countOf(ImageOf(2).set(128, {0x33}).reading(), "extension.unknown"), 1U);
     EXPECT_EQ(countOf(ImageOf(2).set(128, {0x40}).reading(), "extension.unknown"), 0U);
