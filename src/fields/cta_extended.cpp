@@ -14,17 +14,13 @@ constexpr std::array<Choice, 4> scansOfIt = {
 constexpr std::array<Choice, 4> scansOfCe = {
     {{0, "CE formats not supported"}, {1, "always overscanned"}, {2, "always underscanned"}, {3, "both"}}};
 
-constexpr Row choiceRow(Part part, std::string_view name, std::string_view label, std::span<const Choice> choices) {
-    return {.name = name, .label = label, .parts = {part}, .kind = Kind::Choice, .choices = choices};
-}
-
 /// CTA-861-H, table 76.
 constexpr std::array<Row, 5> capabilityRows = {{
-    choiceRow({2, 7, 7}, "ycc_quantization", "YCC quantization range", quantizations),
-    choiceRow({2, 6, 6}, "rgb_quantization", "RGB quantization range", quantizations),
-    choiceRow({2, 5, 4}, "preferred_scan", "Scan of the preferred format", preferredScans),
-    choiceRow({2, 3, 2}, "it_scan", "Scan of IT formats", scansOfIt),
-    choiceRow({2, 1, 0}, "ce_scan", "Scan of CE formats", scansOfCe),
+    choiceAt({2, 7, 7}, "ycc_quantization", "YCC quantization range", quantizations),
+    choiceAt({2, 6, 6}, "rgb_quantization", "RGB quantization range", quantizations),
+    choiceAt({2, 5, 4}, "preferred_scan", "Scan of the preferred format", preferredScans),
+    choiceAt({2, 3, 2}, "it_scan", "Scan of IT formats", scansOfIt),
+    choiceAt({2, 1, 0}, "ce_scan", "Scan of CE formats", scansOfCe),
 }};
 
 /// CTA-861-H, table 74; sRGB and the default RGB are of CTA-861-I.

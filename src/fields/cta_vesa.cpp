@@ -56,11 +56,6 @@ void describeInterface(const Scope&, std::uint64_t raw, Field& field) {
     field.value = field.text;
 }
 
-void describeVersion(const Scope&, std::uint64_t raw, Field& field) {
-    field.text = std::to_string(raw >> 4U) + '.' + std::to_string(raw & 15U);
-    field.value = field.text;
-}
-
 constexpr std::array<Choice, 4> protections = {{{0, "none"}, {1, "HDCP"}, {2, "DTCP"}, {3, "DPCP"}}};
 constexpr std::array<Choice, 4> orientations = {
     {{0, "landscape"}, {1, "portrait"}, {2, "not fixed"}, {3, "not defined"}}};
@@ -86,28 +81,24 @@ constexpr std::array<Choice, 10> subpixels = {{{0, "not defined"},
 constexpr std::array<Choice, 2> delaySigns = {{{0, "after the picture"}, {1, "before the picture"}}};
 constexpr std::array<Choice, 2> responses = {{{0, "black to white"}, {1, "white to black"}}};
 
-constexpr Row choiceRow(Part part, std::string_view name, std::string_view label, std::span<const Choice> choices) {
-    return {.name = name, .label = label, .parts = {part}, .kind = Kind::Choice, .choices = choices};
-}
-
 /// VESA Display Device Data Block Standard, version 1.
 constexpr std::array<Row, 36> deviceRows = {{
     {.name = "interface", .label = "Interface", .parts = {{2}}, .read = describeInterface},
     {.name = "interface_version", .label = "Version of the interface", .parts = {{3}}, .read = describeVersion},
-    choiceRow({4}, "content_protection", "Content protection", protections),
+    choiceAt({4}, "content_protection", "Content protection", protections),
     {.name = "min_clock", .label = "Least clock", .parts = {{5, 7, 2}}, .unit = "MHz"},
     {.name = "max_clock", .label = "Highest clock", .parts = {{5, 1, 0}, {6}}, .unit = "MHz"},
     {.name = "native_width", .label = "Native width", .parts = {{8}, {7}}, .unit = "px"},
     {.name = "native_height", .label = "Native height", .parts = {{10}, {9}}, .unit = "px"},
     {.name = "aspect_ratio", .label = "Aspect ratio", .parts = {{11}}, .scale = 0.01, .bias = 1, .decimals = 2},
-    choiceRow({12, 7, 6}, "orientation", "Orientation", orientations),
-    choiceRow({12, 5, 4}, "rotation", "Rotation", rotations),
-    choiceRow({12, 3, 2}, "zero_pixel", "Place of the first pixel", zeroPixels),
-    choiceRow({12, 1, 0}, "scan_direction", "Scan direction", scanDirections),
-    choiceRow({13}, "subpixels", "Layout of the subpixels", subpixels),
+    choiceAt({12, 7, 6}, "orientation", "Orientation", orientations),
+    choiceAt({12, 5, 4}, "rotation", "Rotation", rotations),
+    choiceAt({12, 3, 2}, "zero_pixel", "Place of the first pixel", zeroPixels),
+    choiceAt({12, 1, 0}, "scan_direction", "Scan direction", scanDirections),
+    choiceAt({13}, "subpixels", "Layout of the subpixels", subpixels),
     {.name = "h_pitch", .label = "Horizontal pitch", .parts = {{14}}, .unit = "mm", .scale = 0.01, .decimals = 2},
     {.name = "v_pitch", .label = "Vertical pitch", .parts = {{15}}, .unit = "mm", .scale = 0.01, .decimals = 2},
-    choiceRow({16, 7, 6}, "dithering", "Dithering", ditherings),
+    choiceAt({16, 7, 6}, "dithering", "Dithering", ditherings),
     flagAt(16, 5, "direct_drive", "Direct drive"),
     flagAt(16, 4, "no_overdrive", "Overdrive is advised against"),
     flagAt(16, 3, "deinterlacing", "Deinterlaces"),
@@ -116,15 +107,15 @@ constexpr std::array<Row, 36> deviceRows = {{
     flagAt(17, 6, "audio_separate", "Separate audio inputs"),
     flagAt(17, 5, "audio_override", "Separate audio takes precedence"),
     reservedAt(17, 4, 0, "reserved_2"),
-    choiceRow({18, 7, 7}, "audio_delay_sign", "Audio comes", delaySigns),
+    choiceAt({18, 7, 7}, "audio_delay_sign", "Audio comes", delaySigns),
     {.name = "audio_delay", .label = "Audio delay", .parts = {{18, 6, 0}}, .unit = "ms", .scale = 2},
-    choiceRow({19, 7, 6}, "frame_conversion", "Frame rate conversion", conversions),
+    choiceAt({19, 7, 6}, "frame_conversion", "Frame rate conversion", conversions),
     {.name = "frame_rate_range", .label = "Frame rate range, up and down", .parts = {{19, 5, 0}}, .unit = "Hz"},
     {.name = "frame_rate", .label = "Native frame rate", .parts = {{20}}, .unit = "Hz"},
     {.name = "interface_depth", .label = "Bits a colour, interface", .parts = {{21, 7, 4}}, .unit = "bit", .bias = 1},
     {.name = "display_depth", .label = "Bits a colour, display", .parts = {{21, 3, 0}}, .unit = "bit", .bias = 1},
     {.name = "primaries", .label = "Additional primaries", .parts = {{22}}, .kind = Kind::Bytes, .length = 8},
-    choiceRow({30, 7, 7}, "response", "Slower change", responses),
+    choiceAt({30, 7, 7}, "response", "Slower change", responses),
     {.name = "response_time", .label = "Response time", .parts = {{30, 6, 0}}, .unit = "ms"},
     {.name = "h_overscan", .label = "Horizontal overscan", .parts = {{31, 7, 4}}, .unit = "%"},
     {.name = "v_overscan", .label = "Vertical overscan", .parts = {{31, 3, 0}}, .unit = "%"},

@@ -34,11 +34,6 @@ constexpr std::array<Choice, 9> primaryUses = {{{0, "extension of another sectio
                                                 {7, "virtual reality"},
                                                 {8, "augmented reality"}}};
 
-void describeVersion(const Scope&, std::uint64_t raw, Field& field) {
-    field.text = std::to_string(raw >> 4U) + '.' + std::to_string(raw & 15U);
-    field.value = field.text;
-}
-
 constexpr std::array<Row, 3> headRows = {{
     {.name = "tag", .label = "Extension tag", .parts = {{0}}},
     {.name = "version", .label = "Version of the section", .parts = {{1}}, .read = describeVersion},
@@ -294,6 +289,11 @@ void readSectionEnd(const Scope& block, std::size_t end) {
 }
 
 } // namespace
+
+void describeVersion(const Scope&, std::uint64_t raw, Field& field) {
+    field.text = std::to_string(raw >> 4U) + '.' + std::to_string(raw & 15U);
+    field.value = field.text;
+}
 
 void readDisplayId(const Scope& block) {
     const Scope header = block.inner(0, "header");

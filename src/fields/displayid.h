@@ -11,6 +11,9 @@ inline constexpr std::size_t displayIdTimingSize = 20;
 /// `kilohertz`: 10 in type I, 1 in type VII.
 void readDisplayIdTiming(const Scope& scope, int kilohertz);
 
+/// A version of two digits in one byte, such as 1.3.
+void describeVersion(const Scope& scope, std::uint64_t raw, Field& field);
+
 /// A DisplayID section in an extension block (VESA DisplayID 1.3 and 2.0).
 void readDisplayId(const Scope& block);
 

@@ -78,6 +78,11 @@ constexpr Row reservedAt(std::size_t offset, std::uint8_t high, std::uint8_t low
     return {.name = name, .label = "Reserved", .parts = {{offset, high, low}}, .kind = Kind::Reserved};
 }
 
+/// Bits that stand for one of `choices`.
+constexpr Row choiceAt(Part part, std::string_view name, std::string_view label, std::span<const Choice> choices) {
+    return {.name = name, .label = label, .parts = {part}, .kind = Kind::Choice, .choices = choices};
+}
+
 /// Writes the fields of one structure of the image, in a table or one by one. Paths are put behind the structure's own.
 class Scope {
 public:
