@@ -14,8 +14,8 @@ inline constexpr std::uint8_t dummyTag = 0x10;
 /// Tags up to this one are the manufacturer's own.
 inline constexpr std::uint8_t lastManufacturersTag = 0x0F;
 
-/// What block 0 has to do with a descriptor of a tag: the first revision with it (0 to 4), or nothing where no standard
-/// gave the tag a meaning.
+/// The first revision of block 0 (1 to 4) that has descriptors of that tag, or nothing where no standard gives the tag
+/// a meaning.
 std::optional<int> firstRevisionOf(std::uint8_t tag);
 /// Such as "product name"; "reserved" for a tag without a meaning.
 std::string_view descriptorName(std::uint8_t tag);

@@ -8,7 +8,7 @@ namespace wb::fields {
 
 namespace {
 
-/// Byte 4 since 1.4: what is added to the rates, which are above 255 otherwise out of reach.
+/// Byte 4 since 1.4: what is added to the rates, which would end at 255 otherwise.
 constexpr std::array<Choice, 3> offsets = {{{0, "none"}, {2, "255 on the maximum"}, {3, "255 on both"}}};
 constexpr double rateOffset = 255;
 constexpr std::array<Row, 3> offsetRows = {{
