@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -75,8 +76,10 @@ TEST_F(Binder, GivesEveryWidgetAnAccessibleName) {
             if (widget == nullptr) {
                 continue; // a menu entry: its text is its name
             }
-            QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
-            EXPECT_NE(spoken->text(QAccessible::Name).trimmed(), QString()) << control->fullName();
+            const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name).trimmed();
+            const auto* label = qobject_cast<QLabel*>(widget);
+            const bool isEmpty = label != nullptr && label->text().trimmed().isEmpty() && label->pixmap().isNull();
+            EXPECT_TRUE(isEmpty || !name.isEmpty()) << control->fullName();
         }
     }
 }
@@ -173,8 +176,11 @@ TEST_F(Binder, KeepsTheOptionsOfOneArrayExclusiveAcrossFrames) {
     click(edid().DT(3)); // stands in the other frame
     EXPECT_TRUE(program.widgetAs<QRadioButton>(edid().DT(3)).isChecked());
     EXPECT_FALSE(program.widgetAs<QRadioButton>(edid().DT(1)).isChecked());
+    program.act([&] { edid().DT.deselect(); });
     for (int i = edid().DT.first(); i <= edid().DT.last(); ++i) {
-        EXPECT_FALSE(program.widgetAs<QRadioButton>(edid().DT(i)).autoExclusive());
+        const QRadioButton& option = program.widgetAs<QRadioButton>(edid().DT(i));
+        EXPECT_FALSE(option.isChecked()) << "the model may have none selected";
+        EXPECT_FALSE(option.group()->exclusive()) << "the widgets leave it to the model";
     }
 }
 

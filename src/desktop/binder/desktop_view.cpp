@@ -15,7 +15,8 @@ namespace wb::desktop {
 DesktopView::DesktopView(Workbench& workbench, ModelGate& gate)
     : workbench_(workbench),
       gate_(gate),
-      focus_(workbench, gate, [this](const Control& control) { return viewOf(control); }) {
+      focus_(workbench, gate, [this](const Control& control) { return viewOf(control); }),
+      cellNames_([this](const Control& control) { return viewOf(control); }) {
     workbench_.view = this;
     gate_.setObserver(this);
     makeMissing();
@@ -114,6 +115,7 @@ void DesktopView::showChanges() {
     for (const auto& [screen, view] : screens_) {
         view->refreshStates();
     }
+    cellNames_.refresh(workbench_);
     if (windowsStale_) {
         windowsStale_ = false;
         for (const auto& [screen, view] : screens_) {
@@ -135,6 +137,7 @@ void DesktopView::makeMissing() {
     for (Screen* screen : workbench_.loadedInOrder()) {
         if (viewOf(*screen) == nullptr) {
             screens_[screen] = makeView(*screen);
+            cellNames_.forget();
         }
     }
 }

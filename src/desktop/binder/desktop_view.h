@@ -7,6 +7,7 @@
 #include "core/view.h"
 #include "core/workbench.h"
 #include "desktop/base/model_gate.h"
+#include "desktop/binder/cell_names.h"
 #include "desktop/binder/focus_keeper.h"
 #include "desktop/binder/way_back.h"
 #include "desktop/windows/main_view.h"
@@ -58,6 +59,7 @@ private:
     ModelGate& gate_;
     FocusKeeper focus_;
     WayBack wayBack_;
+    CellNames cellNames_;
     std::unordered_map<const Screen*, std::unique_ptr<ScreenView>> screens_;
     std::vector<std::unique_ptr<ScreenView>> gone_;
     MainView* main_ = nullptr;

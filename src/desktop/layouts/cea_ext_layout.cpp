@@ -17,7 +17,7 @@ constexpr Place screen[] = {
 constexpr Place audioChannels[] = {
     one("lbAudioCh").at(0, 0),
     one("AudChCBox").at(0, 1).wide(4).called("Maximum number of audio channels"),
-    one("FrmAudFormCode").at(1, 0, 1, 3),
+    one("FrmAudFormCode").at(1, 0, 1, 3).called("Audio format"),
 };
 constexpr Place formatCodes[] = {
     members("AudFormCode", 0, 7).at(0, 0),
@@ -43,7 +43,7 @@ constexpr Place frequencies[] = {members("SampFreq", 0, 6)};
 constexpr Place bitRate[] = {
     one("lbbitrate").at(0, 0),
     one("bitrateCBox").at(0, 1).wide(6).called("Maximum sampling bit rate"),
-    one("Frmbitrate").at(1, 0, 1, 2),
+    one("Frmbitrate").at(1, 0, 1, 2).called("Sample sizes"),
 };
 constexpr Place sampleSizes[] = {members("bitrate", 0, 2)};
 

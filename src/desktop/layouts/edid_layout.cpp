@@ -17,13 +17,13 @@ constexpr Place header[] = {one("Label3").as(Look::Prose).wide(34)};
 
 constexpr Place vendor[] = {
     members("lbVendor", 0, 4).at(0, 0).wide(40),
-    one("VendorInfo").at(5, 0).wide(22).called("Value of the field in bold"),
+    one("VendorInfo").at(5, 0).wide(22).called("Value of the vendor field"),
     members("lbVendor", 5, 6).at(6, 0),
 };
 
 constexpr Place version[] = {
     members("lbEDID", 0, 1).at(0, 0),
-    one("VerRev").at(2, 0).wide(6).called("Value of the field in bold"),
+    one("VerRev").at(2, 0).wide(6).called("Value of the version field"),
     members("lbEDID", 2, 5).at(3, 0),
 };
 
@@ -38,8 +38,8 @@ constexpr Place basic[] = {
 };
 constexpr Place videoInput[] = {
     members("VideoMode", 0, 1).at(0, 0).rowsOf(2),
-    one("Analog").at(1, 0, 1, 2),
-    one("DFP").at(1, 0, 1, 2),
+    one("Analog").at(1, 0, 1, 2).called("Analog levels and syncs"),
+    one("DFP").at(1, 0, 1, 2).called("Digital interface"),
 };
 constexpr Place analog[] = {
     members("Signal", 0, 3).at(0, 0),
@@ -71,10 +71,10 @@ constexpr Place standard[] = {
     group("#pairs").at(0, 0),
     group("#pairValues").at(0, 1),
 };
-constexpr Place pairs[] = {members("STOpt", 0, 7).wide(28)};
+constexpr Place pairs[] = {members("STOpt", 0, 7).wide(28).called("Standard timing")};
 constexpr Place pairValues[] = {
-    one("Frame1").at(0, 0),
-    one("Frame4").at(1, 0),
+    one("Frame1").at(0, 0).called("Aspect ratio"),
+    one("Frame4").at(1, 0).called("Value to adjust"),
 };
 constexpr Place aspects[] = {members("STAOptb", 0, 3)};
 constexpr Place adjust[] = {
@@ -86,7 +86,7 @@ constexpr Place descriptor[] = {
     group("#tags").at(0, 0),
     group("#limits").at(0, 1),
     members("Windex", 0, 1).at(1, 0).rowsOf(2),
-    member("DTAFrame", 1).at(2, 0, 1, 2),
+    member("DTAFrame", 1).at(2, 0, 1, 2).called("White points"),
 };
 constexpr Place tags[] = {
     members("DTa", 0, 7).at(0, 0),
@@ -94,8 +94,8 @@ constexpr Place tags[] = {
     one("DTAGTF").at(9, 0),
 };
 constexpr Place limits[] = {
-    member("DTAFrame", 0).at(0, 0),
-    member("frmS_GTF", 0).at(1, 0),
+    member("DTAFrame", 0).at(0, 0).called("Range limits"),
+    member("frmS_GTF", 0).at(1, 0).called("Secondary GTF"),
 };
 constexpr Place range[] = {members("DtaOpt", 0, 4).wide(31)};
 constexpr Place secondaryGtf[] = {
@@ -114,10 +114,10 @@ constexpr Place extStandard[] = {
     group("#extPairs").at(0, 0),
     group("#extPairValues").at(0, 1),
 };
-constexpr Place extPairs[] = {members("ExtSTOpt", 0, 6).wide(28)};
+constexpr Place extPairs[] = {members("ExtSTOpt", 0, 6).wide(28).called("Standard timing")};
 constexpr Place extPairValues[] = {
-    one("ExtStaFrame").at(0, 0),
-    one("Frame6").at(1, 0),
+    one("ExtStaFrame").at(0, 0).called("Aspect ratio"),
+    one("Frame6").at(1, 0).called("Value to adjust"),
 };
 constexpr Place extAspects[] = {members("ExtSTAOptb", 0, 3)};
 constexpr Place extAdjust[] = {

@@ -26,7 +26,7 @@ constexpr Place calculator[] = {
     one("ResultsCell").at(1, 2, 1, 4).as(Look::Value).wide(8).called("Left operand"),
     words("Current number").at(2, 0, 1, 2),
     one("CurrentCell").at(2, 2, 1, 4).as(Look::Value).wide(8).called("Current number"),
-    one("Mode").at(3, 0, 1, 6),
+    one("Mode").at(3, 0, 1, 6).called("Number base"),
     group("#keys").at(4, 0, 1, 6),
 };
 constexpr Place keys[] = {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
@@ -37,8 +38,12 @@ public:
 class OptionButton : public PassiveButton<QRadioButton> {
 public:
     explicit OptionButton(ControlView& view) : PassiveButton(view) {
-        // The options of one array exclude each other, whatever widget they stand in: the model sees to it.
-        setAutoExclusive(false);
+        // The options of one array exclude each other, whatever widget they stand in, and the model sees to it. To
+        // screen readers an option is a radio button only while Qt takes it for an exclusive one; a group that
+        // excludes nothing keeps Qt from acting on that.
+        auto* group = new QButtonGroup(this);
+        group->setExclusive(false);
+        group->addButton(this);
     }
 
 protected:

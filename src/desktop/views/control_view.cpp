@@ -41,9 +41,8 @@ bool isInPanel(const Control& control) {
     return container != nullptr && (isPanel(*container) || isInPanel(*container));
 }
 
-QString captionAsName(const Control& control) {
-    const QString caption = toUnicode(control.caption()).remove('&').trimmed();
-    return caption.isEmpty() ? toUnicode(control.name()) : caption;
+QString spokenCaption(const Control& control) {
+    return toUnicode(control.caption()).remove('&').trimmed();
 }
 
 } // namespace
@@ -54,13 +53,8 @@ ControlView::ControlView(Control& control, const Place& place, UserActions& acti
 void ControlView::adopt(QWidget& widget) {
     const Control& model = *control();
     widget.setObjectName(toUnicode(model.fullName()));
-    const QString spoken = spokenName(place_, model.index());
-    if (hasCaption(model.kind())) {
-        widget.setAccessibleDescription(spoken);
-    } else {
-        widget.setAccessibleName(spoken);
-    }
-    QString tip = spoken;
+    QString tip = spokenName(place_, model.index());
+    widget.setAccessibleName(tip);
     if (!place_.shortcut.empty()) {
         const QKeySequence keys(toUnicode(place_.shortcut));
         auto* shortcut = new QShortcut(keys, &widget);
@@ -77,7 +71,10 @@ void ControlView::refresh() {
     const Control& model = *control();
     QWidget& target = *widget();
     if (hasCaption(model.kind())) {
-        target.setAccessibleName(captionAsName(model));
+        const QString spoken = spokenName(place_, model.index());
+        const QString caption = spokenCaption(model);
+        target.setAccessibleName(caption.isEmpty() ? spoken : caption);
+        target.setAccessibleDescription(caption.isEmpty() ? QString() : spoken);
     }
     refreshPalette();
     target.setEnabled(model.enabled());
@@ -91,6 +88,12 @@ void ControlView::refreshPalette() {
     } else if (isInPanel(model)) {
         widget()->setPalette(model.enabled() ? QPalette() : withReadableDisabledText(QApplication::palette()));
     }
+}
+
+void ControlView::speakAlso(const QString& what, const QString& description) {
+    const QString name = spokenName(place_, control()->index());
+    widget()->setAccessibleName(what.isEmpty() ? name : name + ", " + what);
+    widget()->setAccessibleDescription(description);
 }
 
 void ControlView::act(std::function<void(Control&)> action) {

@@ -47,6 +47,8 @@ public:
     void refreshPalette();
     /// The widget shows the control that has the focus of the program.
     virtual void focusShown() {}
+    /// Adds to the name that its place gives it, and describes the control.
+    void speakAlso(const QString& what, const QString& description);
     /// The screen of the control goes; calls that wait are dropped.
     void detach() { *control_ = nullptr; }
 

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "core/screens/block_screen.h"
+#include "core/workbench.h"
+#include "desktop/views/control_view.h"
+#include "fields/reading.h"
+
+namespace wb::desktop {
+
+/// Says in words what each cell is: the byte, and by the plain reading of the image the fields that it is part of. For
+/// those who hear the screen, since a panel tells of the cell in focus only.
+class CellNames {
+public:
+    using Find = std::function<ControlView*(const Control&)>;
+
+    explicit CellNames(Find find) : find_(std::move(find)) {}
+
+    /// Names the cells of the loaded screens, unless they hold what they held the last time.
+    void refresh(const Workbench& workbench);
+    /// There are cells that have no name yet.
+    void forget() { named_.clear(); }
+
+private:
+    void name(BlockScreen& screen, const fields::Reading& reading, std::size_t firstByte) const;
+
+    Find find_;
+    std::string named_; ///< the bytes that the names are about
+};
+
+} // namespace wb::desktop
