@@ -42,6 +42,12 @@ TEST_F(Frame, HasTheMenusWithTheirMnemonics) {
     EXPECT_EQ(entriesOf(2), QStringList({"&Information", "&About "}));
 }
 
+TEST_F(Frame, HasNothingToReadInASeparator) {
+    ASSERT_TRUE(action(frame().mnuFileBar0).isSeparator());
+    EXPECT_EQ(action(frame().mnuFileBar0).text(), "");
+    EXPECT_EQ(action(frame().mnuFileBar0).iconText(), "");
+}
+
 TEST_F(Frame, HasThePlatformsStandardKeys) {
     EXPECT_EQ(action(frame().mnuFileNew).shortcut(), QKeySequence("Ctrl+N"));
     EXPECT_EQ(action(frame().mnuFileOpen).shortcut(), QKeySequence("Ctrl+O"));

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
+#include <QStyleOption>
 
 #include "desktop/desktop_test.h"
 
@@ -17,6 +18,12 @@ protected:
         modify();
     }
     QLineEdit& box(const Control& control) { return program.widgetAs<QLineEdit>(control); }
+    bool showsFocus(const Control& control) {
+        QStyleOption option;
+        option.initFrom(program.widget(control));
+        return option.state.testFlag(QStyle::State_HasFocus) &&
+               option.state.testFlag(QStyle::State_KeyboardFocusChange);
+    }
     void pressCopyKey(Qt::Key key) { press(key, Qt::ControlModifier); }
 };
 
@@ -227,6 +234,36 @@ TEST_F(Keyboard, ChangesBetweenTheGridAndThePanel) {
     focus(edid().txtEdit(22));
     press(Qt::Key_F6);
     EXPECT_EQ(focused(), "frmEDID.txtEdit(22)");
+}
+
+TEST_F(Keyboard, ShowsTheFocusThatAKeyHasMoved) {
+    QWidget& window = program.frame().window();
+    focus(edid().txtEdit(35));                              // whose panel has checks
+    window.setAttribute(Qt::WA_KeyboardFocusChange, false); // as after a click
+    press(Qt::Key_F6);
+    ASSERT_EQ(focused(), "frmEDID.ET1(0)");
+    EXPECT_TRUE(showsFocus(edid().ET1(0)));
+    window.setAttribute(Qt::WA_KeyboardFocusChange, false);
+    press(Qt::Key_2, Qt::AltModifier);
+    ASSERT_EQ(focused(), "frmMain.Command2");
+    EXPECT_TRUE(showsFocus(frame().Command2));
+}
+
+TEST_F(Keyboard, WorksTheButtonsOfTheModalScreens) {
+    for (Control* entry : {&frame().Info, &frame().mnuHelpAbout}) {
+        program.act([&] { input::choose(*entry); });
+        const Screen& screen = *program.workbench.windows.modal();
+        ASSERT_EQ(program.workbench.focus.current()->caption(), "OK");
+        EXPECT_TRUE(showsFocus(*program.workbench.focus.current()));
+        const ScreenId id = screen.id();
+        press(Qt::Key_Return);
+        EXPECT_EQ(program.workbench.loaded(id), nullptr) << screenName(id);
+    }
+    program.act([&] { input::choose(frame().Windows2000); });
+    FrmEdidReg& screen = program.workbench.frmEDIDREG();
+    focus(screen.Command1(1)); // Cancel
+    press(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(program.workbench.loaded(ScreenId::EdidReg), nullptr);
 }
 
 TEST_F(Keyboard, FollowsTheTabOrder) {

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <type_traits>
 #include <utility>
 
 #include "core/input.h"
@@ -14,6 +15,13 @@ namespace wb::desktop {
 
 template <class Button>
 void PassiveButton<Button>::keyPressEvent(QKeyEvent* event) {
+    const bool isBoxButton = std::is_base_of_v<QPushButton, Button> && this->window()->isModal();
+    if (isBoxButton && isEnter(*event)) { // as everywhere else where a window asks to be closed
+        if (!event->isAutoRepeat()) {
+            this->click();
+        }
+        return;
+    }
     const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
     if (presses || !view_.typeInto(*event)) {
         Button::keyPressEvent(event);

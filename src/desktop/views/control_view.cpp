@@ -58,7 +58,10 @@ void ControlView::adopt(QWidget& widget) {
     if (!place_.shortcut.empty()) {
         const QKeySequence keys(toUnicode(place_.shortcut));
         auto* shortcut = new QShortcut(keys, &widget);
-        QObject::connect(shortcut, &QShortcut::activated, this, [this] { act(&pressByKey); });
+        QObject::connect(shortcut, &QShortcut::activated, this, [this] {
+            showFocus(*this->widget());
+            act(&pressByKey);
+        });
         tip += " (" + keys.toString(QKeySequence::NativeText) + ')';
     }
     if (model.kind() != ControlKind::Frame) { // one would stand over all that is inside

@@ -79,4 +79,8 @@ int commandKeyCode(const QKeyEvent& event) {
     return plain ? key : find(commandKeys, key);
 }
 
+void showFocus(const QWidget& widget) {
+    widget.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 } // namespace wb::desktop

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QKeyEvent>
+#include <QWidget>
 #include <optional>
 
 /// Keys as the program counts them: characters, and the codes that its KeyUp events carry.
@@ -15,5 +16,8 @@ std::optional<char> typedCharacter(const QKeyEvent& event);
 int typedKeyCode(const QKeyEvent& event, char character);
 /// The key code of any other key, such as 8 for Backspace; 0 for keys that the program does not know.
 int commandKeyCode(const QKeyEvent& event);
+/// Lets the window of the widget show which control has the focus, as it does by itself from the first Tab on: to be
+/// called where another key moves the focus.
+void showFocus(const QWidget& widget);
 
 } // namespace wb::desktop

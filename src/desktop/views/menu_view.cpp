@@ -27,7 +27,9 @@ MenuView::MenuView(Control& control, UserActions& actions)
 
 void MenuView::refresh() {
     const Control& model = *control();
-    action_->setText(toUnicode(model.caption()));
+    if (!action_->isSeparator()) { // whose mark is no text to draw or to speak
+        action_->setText(toUnicode(model.caption()));
+    }
     action_->setEnabled(model.enabled() && !idle_);
     action_->setVisible(model.ownVisible());
 }

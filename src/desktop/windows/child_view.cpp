@@ -13,6 +13,7 @@
 #include "core/workbench.h"
 #include "desktop/base/titles.h"
 #include "desktop/drawing/pictures.h"
+#include "desktop/views/keys.h"
 #include "desktop/windows/child_placing.h"
 #include "desktop/windows/document_page.h"
 #include "desktop/windows/frame_size.h"
@@ -168,6 +169,7 @@ void ChildView::leavePanel() {
 }
 
 void ChildView::changeSide() {
+    showFocus(*window_);
     act([this](Screen& target) {
         if (Control* control = page_->otherSide(target.workbench().focus.current())) {
             input::moveFocus(*control);

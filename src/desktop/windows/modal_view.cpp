@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/base/titles.h"
+#include "desktop/views/keys.h"
 #include "desktop/windows/screen_page.h"
 
 namespace wb::desktop {
@@ -39,6 +40,7 @@ void ModalView::refresh() {
     setTitle(*window_, screen()->caption());
     if (window_->isHidden() == screen()->shown()) {
         window_->setVisible(screen()->shown());
+        showFocus(*window_); // Return takes the button in focus; Qt begins by hiding which one
     }
 }
 
