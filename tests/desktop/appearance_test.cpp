@@ -123,6 +123,31 @@ TEST_P(Appearance, GivesThePanelsOneRectangleBesideTheGrid) {
     takeBoxes();
 }
 
+TEST_P(Appearance, LeavesAChildItsSize) {
+    program.openSample("tessaramond-tp8.bin"); // with the widest sync pulses of the samples
+    const QSize size = program.window(edid()).size();
+    for (const int cell : {0, 8, 20, 24, 25, 35, 38, 54, 62, 66, 71, 72, 90, 126}) {
+        focus(edid().txtEdit(cell));
+        EXPECT_EQ(program.window(edid()).size(), size) << "at cell " << cell;
+    }
+    takeBoxes();
+}
+
+TEST_P(Appearance, PutsTheHeadingsOfTheBasicPanelOverWhatTheyName) {
+    program.openSample("tessaramond-tp8.bin");
+    const auto top = [&](const Control& control) { return program.widget(control)->y(); };
+    focus(edid().txtEdit(20));
+    EXPECT_LT(top(edid().lbBasic(0)), top(edid().VideoInput));
+    EXPECT_GT(top(edid().lbBasic(1)), top(edid().VideoInput));
+    focus(edid().txtEdit(21));
+    EXPECT_GT(top(edid().lbBasic(1)), top(edid().BasicInput));
+    focus(edid().txtEdit(24));
+    EXPECT_GT(top(edid().lbBasic(1)), top(edid().lbBasic(0)));
+    EXPECT_GT(top(edid().DPMS), top(edid().lbBasic(1)));
+    expectNothingCut(edid());
+    takeBoxes();
+}
+
 INSTANTIATE_TEST_SUITE_P(Fonts, Appearance, testing::Values(1.0, 1.5, 2.0));
 
 TEST(Faces, OfReportAndCellsHaveAFixedPitch) {

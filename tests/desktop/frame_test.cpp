@@ -164,6 +164,84 @@ TEST_F(Frame, TellsTheModelThatItIsMinimised) {
     EXPECT_FALSE(frame().minimised);
 }
 
+TEST_F(Frame, KeepsItsPlaceWhileItIsMaximised) {
+    window().move(100, 40);
+    window().resize(500, 400);
+    DesktopProgram::settle();
+    const float left = frame().Left;
+    const float width = frame().Width;
+    window().showMaximized();
+    DesktopProgram::settle();
+    ASSERT_GT(window().width(), 500);
+    EXPECT_EQ(frame().Left, left) << "or the next start would make a normal window of that size";
+    EXPECT_EQ(frame().Width, width);
+    window().showNormal();
+    DesktopProgram::settle();
+    EXPECT_EQ(window().size(), QSize(500, 400));
+    EXPECT_EQ(frame().Width, width);
+}
+
+TEST_F(Frame, TellsTheModelNoMaximisedSizeThatComesAheadOfTheState) {
+    window().resize(500, 400);
+    DesktopProgram::settle();
+    const float width = frame().Width;
+    const float height = frame().Height;
+    window().resize(790, 570); // as a window manager may do it
+    window().setWindowState(Qt::WindowMaximized);
+    DesktopProgram::settle();
+    EXPECT_EQ(frame().Width, width);
+    EXPECT_EQ(frame().Height, height);
+}
+
+TEST_F(Frame, ComesBackMaximised) {
+    window().showMaximized();
+    DesktopProgram::settle();
+    EXPECT_EQ(program.platform.settings["MainMaximised"], "1");
+    DesktopProgram next(false);
+    next.platform.settings = program.platform.settings;
+    next.start();
+    EXPECT_TRUE(next.frame().window().isMaximized());
+    next.frame().window().showNormal();
+    DesktopProgram::settle();
+    EXPECT_EQ(next.platform.settings["MainMaximised"], "0");
+    DesktopProgram last(false);
+    last.platform.settings = next.platform.settings;
+    last.start();
+    EXPECT_FALSE(last.frame().window().isMaximized());
+}
+
+TEST_F(Frame, StoresNothingOfItsStateUnlessItIsMaximised) {
+    window().showMinimized();
+    DesktopProgram::settle();
+    window().showNormal();
+    DesktopProgram::settle();
+    EXPECT_EQ(program.platform.settings.count("MainMaximised"), 0U);
+}
+
+TEST_F(Frame, KeepsItsButtonsInTheirPlaces) {
+    window().resize(1000, 600);
+    DesktopProgram::settle();
+    std::vector<QRect> before;
+    const auto places = [&] {
+        std::vector<QRect> found;
+        for (const Control* button :
+             {&frame().Command1, &frame().Command2, &frame().Command3, &frame().Command4, &frame().Command5}) {
+            found.push_back(program.widget(*button)->geometry());
+        }
+        return found;
+    };
+    before = places();
+    program.newImage(true); // Modify EDID (ON), See Ext Block
+    EXPECT_EQ(frame().Command4.caption(), "See Ext Block");
+    EXPECT_EQ(places(), before);
+    click(frame().Command3);
+    EXPECT_EQ(frame().Command3.caption(), "Auto Cell Seek (ON)");
+    EXPECT_EQ(places(), before);
+    click(frame().Command2);
+    click(frame().Command3);
+    EXPECT_EQ(places(), before);
+}
+
 TEST_F(Frame, StaysOnAScreenThatThereIs) {
     program.act([&] { frame().setPosition(-900000, -900000, 6500, 6500); });
     EXPECT_TRUE(window().screen()->geometry().intersects(window().frameGeometry()));

@@ -29,7 +29,7 @@ constexpr Place timing[] = {
 };
 constexpr Place horizontal[] = {
     members("DT", 1, 2).at(0, 0).wide(33),
-    members("DT", 5, 6).at(2, 0).wide(33),
+    members("DT", 5, 6).at(2, 0).wide(33).roomFor("Sync Pulse Width - 1023 pixels"),
     member("DT", 9).at(4, 0),
 };
 constexpr Place vertical[] = {

@@ -28,13 +28,10 @@ constexpr Place version[] = {
 };
 
 constexpr Place basic[] = {
-    member("lbBasic", 0).at(0, 0),
-    member("lbBasic", 1).at(0, 1),
-    one("VideoInput").at(1, 0, 5, 2),
-    members("Basic", 0, 2).at(1, 0, 1, 2),
-    one("BasicInput").at(4, 0).wide(10).called("Value of the selected field"),
-    one("DPMS").at(1, 0, 5, 2),
-    member("Check1", 5).at(6, 0),
+    member("lbBasic", 0).at(0, 0),   one("VideoInput").at(1, 0),
+    members("Basic", 0, 2).at(2, 0), one("BasicInput").at(5, 0).wide(10).called("Value of the selected field"),
+    member("lbBasic", 1).at(6, 0),   one("DPMS").at(7, 0),
+    member("Check1", 5).at(8, 0),
 };
 constexpr Place videoInput[] = {
     members("VideoMode", 0, 1).at(0, 0).rowsOf(2),

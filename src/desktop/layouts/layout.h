@@ -40,6 +40,7 @@ struct Place {
     bool atRight = false;   ///< no wider than need be, at the right end of its place
     Look look = Look::Plain;
     int characters = 0;             ///< width in characters; 0: as the content asks
+    std::string_view longest = {};  ///< of a button: a caption that it may get, for which it keeps the room
     std::string_view spoken = {};   ///< accessible name; "%1" stands for the index
     std::string_view shortcut = {}; ///< key that does what a click does, on a frame what a double click does
 
@@ -80,6 +81,11 @@ struct Place {
     constexpr Place wide(int count) const {
         Place place = *this;
         place.characters = count;
+        return place;
+    }
+    constexpr Place roomFor(std::string_view caption) const {
+        Place place = *this;
+        place.longest = caption;
         return place;
     }
     constexpr Place called(std::string_view name_) const {

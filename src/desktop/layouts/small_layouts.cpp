@@ -8,9 +8,13 @@ constexpr int noIndex = Control::noIndex;
 
 constexpr Place frame[] = {
     one("Command1").at(0, 0).onKey("Alt+1").called("Shows the report of the open image"),
-    one("Command2").at(0, 1).onKey("Alt+2").called("Switches editing on and off"),
-    one("Command3").at(0, 2).onKey("Alt+3").called("Lets the focus go from a cell to the input box of its field"),
-    one("Command4").at(0, 3).onKey("Alt+4").called("Shows the extension block"),
+    one("Command2").at(0, 1).onKey("Alt+2").roomFor("Modify EDID (OFF)").called("Switches editing on and off"),
+    one("Command3")
+        .at(0, 2)
+        .onKey("Alt+3")
+        .roomFor("Auto Cell Seek (OFF)")
+        .called("Lets the focus go from a cell to the input box of its field"),
+    one("Command4").at(0, 3).onKey("Alt+4").roomFor("See Ext Block").called("Shows the extension block"),
     one("Command5").at(0, 4).onKey("Alt+5").called("Detects the monitors again and reads their EDID"),
     one("sbStatusBar").at(1, 0),
 };

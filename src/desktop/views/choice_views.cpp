@@ -101,6 +101,7 @@ void ButtonView::refresh() {
         button_->setChecked(model.selected());
     }
     keepWidth(*button_, place().characters);
+    keepWidthFor(*button_, toUnicode(place().longest));
 }
 
 void ButtonView::refreshTabStop() {

@@ -56,6 +56,8 @@ void giveStandardKey(QAction& action, std::string_view entry) {
     }
 }
 
+constexpr const char* maximisedSetting = "MainMaximised";
+
 /// The screen that most of the rectangle is on, or null.
 const QScreen* screenOf(const QRect& rectangle) {
     const QScreen* found = nullptr;
@@ -90,6 +92,7 @@ MainView::MainView(Screen& screen, UserActions& actions) : ScreenView(screen, ac
         view->refresh();
     }
     size_ = FrameSize(wholeSize());
+    maximised_ = screen.workbench().platform.settings.read(maximisedSetting) == "1";
 }
 
 MainView::~MainView() {
@@ -218,6 +221,9 @@ void MainView::refresh() {
     setTitle(*window_, screen()->caption(), ChangeMark::WhenModified);
     applyPosition();
     if (window_->isHidden() == screen()->shown()) {
+        if (maximised_) {
+            window_->setWindowState(Qt::WindowMaximized);
+        }
         window_->setVisible(screen()->shown());
     }
 }
@@ -291,20 +297,41 @@ bool MainView::eventFilter(QObject* watched, QEvent* event) {
     return ScreenView::eventFilter(watched, event);
 }
 
+void MainView::notePositionSoon() {
+    if (placing_ || std::exchange(willNote_, true)) {
+        return;
+    }
+    // A window manager may tell of the size of a maximised window before it tells of the state.
+    QMetaObject::invokeMethod(
+        this, [this] { notePosition(); }, Qt::QueuedConnection);
+}
+
 void MainView::notePosition() {
-    if (screen() == nullptr || placing_) {
+    willNote_ = false;
+    if (screen() == nullptr) {
         return;
     }
     FrmMain& model = frame();
     input::minimised(model, window_->isMinimized());
+    noteMaximised();
     const QRect now(window_->pos(), window_->size());
-    if (model.minimised || !window_->isVisible() || now == shownGeometry_) {
+    if (model.minimised || maximised_ || !window_->isVisible() || now == shownGeometry_) {
         return;
     }
     shownGeometry_ = now;
     input::placed(model, toTwips(*window_, now.left()), toTwips(*window_, now.top()), size_.widthInTwips(now.width()),
                   size_.heightInTwips(now.height()));
     shownPosition_ = {model.Left, model.Top, model.Width, model.Height};
+}
+
+/// Keeps in the settings whether the next start is to maximise the window; the place that goes with them is that of the
+/// normal window.
+void MainView::noteMaximised() {
+    if (window_->isMinimized() || !window_->isVisible() || window_->isMaximized() == maximised_) {
+        return;
+    }
+    maximised_ = !maximised_;
+    screen()->workbench().platform.settings.write(maximisedSetting, maximised_ ? "1" : "0");
 }
 
 void MainView::listChildren(const std::vector<ScreenView*>& children) {
@@ -334,23 +361,24 @@ void MainView::listChildren(const std::vector<ScreenView*>& children) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
+    view_.notePosition(); // which the model stores
     view_.askToClose();
 }
 
 void MainWindow::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
-    view_.notePosition();
+    view_.notePositionSoon();
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    view_.notePosition();
+    view_.notePositionSoon();
 }
 
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
-        view_.notePosition();
+        view_.notePositionSoon();
     }
 }
 

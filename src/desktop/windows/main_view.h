@@ -50,8 +50,11 @@ public:
     void tellWritten(const WrittenFile& file);
     /// Lists the shown children, the active one first, in the Window menu.
     void listChildren(const std::vector<ScreenView*>& children);
-    /// Notes where the window stands; a place that the model asked for is kept as it was asked for.
+    /// Notes where the window stands; a place that the model asked for is kept as it was asked for, and that of a
+    /// maximised or minimised window is not noted.
     void notePosition();
+    /// The same when the events at hand are through.
+    void notePositionSoon();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -78,6 +81,7 @@ private:
     void applyPosition();
     QRect geometryOf(const Position& asked) const;
     QSize wholeSize();
+    void noteMaximised();
 
     MainWindow* window_;
     QMdiArea* area_ = nullptr;
@@ -88,7 +92,9 @@ private:
     FrameSize size_;
     Position shownPosition_;
     QRect shownGeometry_;
-    bool placing_ = false; ///< the window moves because the model says so
+    bool placing_ = false;   ///< the window moves because the model says so
+    bool willNote_ = false;  ///< where the window stands
+    bool maximised_ = false; ///< the window, or it is to be when it shows
 };
 
 } // namespace wb::desktop
