@@ -28,13 +28,13 @@ constexpr Place timing[] = {
     one("DTInput").at(3, 0).wide(12).called("Value of the selected field of the detailed timing"),
 };
 constexpr Place horizontal[] = {
-    members("DT", 1, 2).at(0, 0).wide(33),
-    members("DT", 5, 6).at(2, 0).wide(33).roomFor("Sync Pulse Width - 1023 pixels"),
+    members("DT", 1, 2).at(0, 0),
+    members("DT", 5, 6).at(2, 0).roomFor("Sync Pulse Width - 1023 pixels"),
     member("DT", 9).at(4, 0),
 };
 constexpr Place vertical[] = {
-    members("DT", 3, 4).at(0, 0).wide(33),
-    members("DT", 7, 8).at(2, 0).wide(33),
+    members("DT", 3, 4).at(0, 0),
+    members("DT", 7, 8).at(2, 0).roomFor("Sync Pulse Width - 63 lines"),
     member("DT", 10).at(4, 0),
 };
 constexpr Place imageSize[] = {

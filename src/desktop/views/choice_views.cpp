@@ -101,7 +101,17 @@ void ButtonView::refresh() {
         button_->setChecked(model.selected());
     }
     keepWidth(*button_, place().characters);
-    keepWidthFor(*button_, toUnicode(place().longest));
+    keepRoom();
+}
+
+void ButtonView::keepRoom() {
+    if (place().longest.empty()) {
+        return;
+    }
+    const std::unique_ptr<QAbstractButton> example(make());
+    example->setFont(button_->font());
+    example->setText(toUnicode(place().longest));
+    button_->setMinimumWidth(qMax(button_->minimumWidth(), example->sizeHint().width()));
 }
 
 void ButtonView::refreshTabStop() {

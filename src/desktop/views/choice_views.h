@@ -66,6 +66,7 @@ public:
 
 private:
     QAbstractButton* make();
+    void keepRoom();
 
     QAbstractButton* button_;
 };

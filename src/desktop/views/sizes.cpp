@@ -25,14 +25,4 @@ void keepWidth(QWidget& widget, int characters) {
     }
 }
 
-void keepWidthFor(QAbstractButton& button, const QString& caption) {
-    const auto width = [metrics = QFontMetrics(button.font())](const QString& text) {
-        return metrics.size(Qt::TextShowMnemonic, text).width(); // as the size hint counts it
-    };
-    const int missing = width(caption) - width(button.text());
-    if (missing > 0) {
-        button.setMinimumWidth(qMax(button.minimumWidth(), button.sizeHint().width() + missing));
-    }
-}
-
 } // namespace wb::desktop

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QLineEdit>
 
 namespace wb::desktop {
@@ -10,7 +9,5 @@ int widthOfText(const QLineEdit& box, int characters);
 int widthOfCharacters(const QWidget& widget, int characters);
 /// Keeps room for that many characters, and for all of what the widget shows now.
 void keepWidth(QWidget& widget, int characters);
-/// Keeps room for that caption too, if it is longer than what the button shows now.
-void keepWidthFor(QAbstractButton& button, const QString& caption);
 
 } // namespace wb::desktop
