@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "cli/commands.h"
+#include "cli/file_list.h"
 #include "cli/image_check.h"
 #include "cli/output.h"
 #include "cli/plain_reading.h"
@@ -23,7 +24,7 @@ using fields::Severity;
 constexpr std::size_t blocksOfDataFile = 2;
 
 struct Options {
-    std::vector<std::string> files;
+    FileOptions files;
     std::string format = "text";
     std::string level = "warning";
     std::string failOn = "error";
@@ -120,7 +121,6 @@ void tell(const Checked& checked, const std::vector<Finding>& findings, OutputFo
 }
 
 int run(const Options& options) {
-    requireOneStandardInput(options.files);
     const OutputFormat format = outputFormatOf(options.format);
     const Severity level = severityOf(options.level);
     const Severity failOn = severityOf(options.failOn);
@@ -144,7 +144,7 @@ int run(const Options& options) {
 
 Run addCheck(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command.add_option("FILE", options->files, "File in any format; - is standard input")->type_name("")->required();
+    addFileOptions(command, options->files);
     const std::vector<std::string> levels = {"error", "warning", "note"};
     command
         .add_option("--level", options->level,

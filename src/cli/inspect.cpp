@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/commands.h"
+#include "cli/file_list.h"
 #include "cli/output.h"
 #include "cli/plain_reading.h"
 #include "fields/json.h"
@@ -16,7 +17,7 @@ using fields::Field;
 using fields::Reading;
 
 struct Options {
-    std::vector<std::string> files;
+    FileOptions files;
     std::string format = "text";
     ImageOptions images;
 };
@@ -87,7 +88,6 @@ void printRows(const Reading& reading) {
 }
 
 int run(const Options& options) {
-    requireOneStandardInput(options.files);
     const OutputFormat format = outputFormatOf(options.format);
     const bool colour = usesColour();
     bool first = true;
@@ -113,7 +113,7 @@ int run(const Options& options) {
 
 Run addInspect(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command.add_option("FILE", options->files, "File in any format; - is standard input")->type_name("")->required();
+    addFileOptions(command, options->files);
     addFormatOption(command, options->format);
     addImageOptions(command, options->images);
     command.footer(

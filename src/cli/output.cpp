@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 
@@ -15,6 +16,7 @@
 #endif
 
 #include "cli/cli_error.h"
+#include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/temporary.h"
 #include "core/base/text.h"
@@ -26,7 +28,7 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void failOutput() {
-    throw OutputError(std::string("standard output: ") + std::strerror(errno));
+    throw OutputError(std::string("standard output: ") + std::strerror(errno), errno == EPIPE);
 }
 
 void writeDirectly(const std::string& name, std::string_view content) {
@@ -64,6 +66,14 @@ std::string withoutControls(std::string_view text) {
 }
 
 } // namespace
+
+void endByBrokenPipe() {
+#ifdef __unix__
+    std::signal(SIGPIPE, SIG_DFL);
+    raise(SIGPIPE);
+#endif
+    std::_Exit(somethingFailed);
+}
 
 bool isTerminal(std::FILE* stream) {
 #ifdef _WIN32

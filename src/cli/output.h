@@ -11,8 +11,17 @@ namespace wb::cli {
 /// Standard output cannot be written; ends the program.
 class OutputError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    OutputError(const std::string& message, bool readerGone) : std::runtime_error(message), readerGone_(readerGone) {}
+
+    /// Whether it was a pipe that nobody reads any more, which is no mistake.
+    bool readerGone() const { return readerGone_; }
+
+private:
+    bool readerGone_;
 };
+
+/// Ends the program as the system ends one that writes into a pipe without a reader, without a word.
+[[noreturn]] void endByBrokenPipe();
 
 /// To be called first of all. The standard streams carry any bytes, also on systems where they would change line ends.
 /// A reader that has gone and a file that grows too large are errors like any other, and a standard stream that is

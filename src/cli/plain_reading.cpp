@@ -104,13 +104,13 @@ std::string tsvLine(const std::vector<std::string_view>& columns) {
     return line;
 }
 
-bool forEachFile(const std::vector<std::string>& names, const std::function<void(const std::string& name)>& work) {
+bool forEachFile(const FileOptions& options, const std::function<void(const std::string& name)>& work) {
     bool good = true;
-    for (const std::string& name : names) {
+    for (const BatchFile& file : filesOf(options, good)) {
         try {
-            work(name);
+            work(file.name);
         } catch (const CliError& error) {
-            complain(name, error.what());
+            complain(file.name, error.what());
             good = false;
         }
     }

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/file_list.h"
 #include "cli/image_input.h"
 #include "fields/reading.h"
 
@@ -38,8 +39,9 @@ std::string valueText(const fields::Value& value);
 /// and \\.
 std::string tsvLine(const std::vector<std::string_view>& columns);
 
-/// Runs `work` on each file in turn; what stops it is told, and the next one follows. False where any was stopped.
-bool forEachFile(const std::vector<std::string>& names, const std::function<void(const std::string& name)>& work);
+/// Runs `work` on each file in turn; what stops it is told, and the next one follows. False where any was stopped, and
+/// where a folder could not be read.
+bool forEachFile(const FileOptions& options, const std::function<void(const std::string& name)>& work);
 
 /// Whether texts for people go out in colour: standard output is a terminal, and the environment variable NO_COLOR is
 /// not set.

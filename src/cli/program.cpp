@@ -110,8 +110,8 @@ std::string Program::report() {
 }
 
 std::string Program::dataFile() {
-    const TemporaryFolder folder;
-    const std::string path = folder.file("image.DAT");
+    const TemporaryFolder folder("image.DAT");
+    const std::string path = folder.file();
     workbench_.CurrentFileName = path;
     const std::size_t boxesBefore = boxes_.size();
     workbench_.runAction([&] { files::FileSave(workbench_); });
@@ -119,8 +119,8 @@ std::string Program::dataFile() {
 }
 
 std::string Program::hexExport() {
-    const TemporaryFolder folder;
-    const std::string path = folder.file("image.hex");
+    const TemporaryFolder folder("image.hex");
+    const std::string path = folder.file();
     platform_.queueFileName(path);
     const std::size_t boxesBefore = boxes_.size();
     input::choose(workbench_.frmMain().ExportHex);

@@ -29,6 +29,7 @@ std::string randomName() {
 TemporaryFile::TemporaryFile(const std::filesystem::path& folder) {
     for (int i = 0; i < tries && file_ == nullptr; ++i) {
         path_ = folder / randomName();
+        mark_.emplace(CleanupMark::Kind::File, path_.string());
         file_ = std::fopen(path_.string().c_str(), "wbx");
         if (file_ == nullptr && errno != EEXIST) {
             break;
@@ -72,15 +73,18 @@ void TemporaryFile::moveToNew(const std::filesystem::path& place) {
     }
 }
 
-TemporaryFolder::TemporaryFolder() {
+TemporaryFolder::TemporaryFolder(const std::string& fileName) {
     namespace fs = std::filesystem;
     std::error_code error;
     const fs::path parent = fs::temp_directory_path(error);
     bool created = false;
     for (int i = 0; i < tries && !error && !created; ++i) {
         path_ = parent / randomName();
+        mark_.emplace(CleanupMark::Kind::Folder, path_.string());
         created = fs::create_directory(path_, error);
     }
+    file_ = path_ / fileName;
+    fileMark_.emplace(CleanupMark::Kind::File, file_.string());
     if (!error && created) {
         fs::permissions(path_, fs::perms::owner_all, error);
     }

@@ -2,12 +2,16 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "cli/cleanup.h"
+
 namespace wb::cli {
 
-/// A new file of its own that is deleted when it goes out of scope, unless it was moved to its place before.
+/// A new file of its own that is deleted when it goes out of scope, unless it was moved to its place before, and when a
+/// signal ends the program.
 class TemporaryFile {
 public:
     /// Creates it in that folder; a failure is a CliError.
@@ -27,23 +31,28 @@ public:
 
 private:
     std::filesystem::path path_;
+    std::optional<CleanupMark> mark_;
     std::FILE* file_ = nullptr;
 };
 
-/// A new empty folder, for its user alone, that is deleted with all it holds when it goes out of scope.
+/// A new empty folder, for its user alone, that is deleted with the file it holds when it goes out of scope, and when a
+/// signal ends the program.
 class TemporaryFolder {
 public:
-    /// Creates it where the system keeps such folders; a failure is a CliError.
-    TemporaryFolder();
+    /// Creates it where the system keeps such folders, for a file of that name; a failure is a CliError.
+    explicit TemporaryFolder(const std::string& fileName);
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder();
 
-    /// The path of a file in it.
-    std::string file(const std::string& name) const { return (path_ / name).string(); }
+    /// The path of the one file in it.
+    std::string file() const { return file_.string(); }
 
 private:
     std::filesystem::path path_;
+    std::filesystem::path file_;
+    std::optional<CleanupMark> mark_;
+    std::optional<CleanupMark> fileMark_;
 };
 
 /// Writes and closes; a failure (also of what the system kept back until the close) is a CliError.

@@ -4,14 +4,17 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <thread>
 
 #include "cli/cli_error.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
+#include "cli/file_list.h"
 #include "cli/ordered_jobs.h"
 #include "cli/output.h"
 #include "cli/plain_reading.h"
 #include "cli/program.h"
+#include "cli/progress.h"
 #include "cli/report_names.h"
 #include "core/base/digits.h"
 #include "core/base/text.h"
@@ -24,7 +27,7 @@ namespace {
 namespace fs = std::filesystem;
 
 struct Options {
-    std::vector<std::string> files;
+    FileOptions files;
     std::optional<std::string> outputFolder;
     std::string jobs = "1";
     std::string date;
@@ -32,6 +35,7 @@ struct Options {
     std::string heading = "auto";
     ImageOptions images;
     bool strict = false;
+    bool keepTree = false;
 
     bool json() const { return outputFormatOf(format) == OutputFormat::Json; }
 };
@@ -101,30 +105,48 @@ std::vector<Translation> translateFile(const std::string& name, const Options& o
 /// Takes the results one after the other, in the order of the input.
 class Collector {
 public:
-    explicit Collector(const Options& options)
+    Collector(const Options& options, const std::vector<BatchFile>& files)
         : options_(options),
-          names_(options.files, options.json() ? ".json" : ".txt"),
-          headed_(!options.json() &&
-                  (options.heading == "always" || (options.heading == "auto" && options.files.size() > 1))) {
-        for (const std::string& name : options.files) {
-            if (options.outputFolder && name != standardStream) {
-                inputs_.emplace(placeKey(name), name);
+          files_(files),
+          names_(namesOf(files), extensionOf(options)),
+          progress_(files.size()),
+          headed_(!options.json() && (options.heading == "always" || (options.heading == "auto" && files.size() > 1))) {
+        for (const BatchFile& file : files) {
+            if (options.outputFolder && file.name != standardStream) {
+                inputs_.emplace(placeKey(file.name), file.name);
             }
         }
     }
 
     void take(const std::vector<Translation>& translations) {
-        const std::string& name = options_.files[next_++];
+        const BatchFile& file = files_[next_++];
         const bool severalOutputs = translations.size() > 1 && options_.heading == "auto" && !options_.json();
         for (const Translation& translation : translations) {
-            take(name, translation, headed_ || severalOutputs);
+            take(file, translation, headed_ || severalOutputs);
+        }
+        if (options_.outputFolder) {
+            progress_.step();
         }
     }
 
     bool failed() const { return failed_; }
 
 private:
-    void take(const std::string& name, const Translation& translation, bool headed) {
+    static std::string extensionOf(const Options& options) { return options.json() ? ".json" : ".txt"; }
+
+    static std::vector<std::string> namesOf(const std::vector<BatchFile>& files) {
+        std::vector<std::string> names;
+        for (const BatchFile& file : files) {
+            names.push_back(file.name);
+        }
+        return names;
+    }
+
+    void take(const BatchFile& file, const Translation& translation, bool headed) {
+        const std::string& name = file.name;
+        if (!translation.boxes.empty() || !translation.omissions.empty() || translation.error) {
+            progress_.clear();
+        }
         complainOfBoxes(name, translation.boxes);
         for (const std::string& omission : translation.omissions) {
             complain(name, omission);
@@ -133,7 +155,7 @@ private:
         if (translation.error) {
             fail(name, *translation.error);
         } else if (options_.outputFolder) {
-            writeReport(name, translation);
+            writeReport(file, translation);
         } else {
             printReport(translation, headed);
         }
@@ -152,9 +174,19 @@ private:
         failed_ = true;
     }
 
-    void writeReport(const std::string& name, const Translation& translation) {
-        const std::string target =
-            (fs::path(*options_.outputFolder) / names_.nameOf(name, translation.output)).string();
+    /// Below the folder of the results, the same folders as those of the input where they are to be kept.
+    std::string targetOf(const BatchFile& file, const Translation& translation) const {
+        const fs::path folder = *options_.outputFolder;
+        if (!options_.keepTree) {
+            return (folder / names_.nameOf(file.name, translation.output)).string();
+        }
+        const std::string output = translation.output.empty() ? "" : '-' + translation.output;
+        return (folder / (file.below + output + extensionOf(options_))).string();
+    }
+
+    void writeReport(const BatchFile& file, const Translation& translation) {
+        const std::string& name = file.name;
+        const std::string target = targetOf(file, translation);
         const auto [other, isNew] = writtenBy_.try_emplace(target, name);
         if (!isNew) {
             fail(name, "its report '" + target + "' is already that of '" + other->second + "'");
@@ -165,6 +197,8 @@ private:
             return;
         }
         try {
+            std::error_code ignored; // what is missing then is told by the writing
+            fs::create_directories(fs::path(target).parent_path(), ignored);
             writeFile(target, translation.report, Existing::Replace);
         } catch (const CliError& error) {
             fail(target, error.what());
@@ -188,7 +222,9 @@ private:
     }
 
     const Options& options_;
+    const std::vector<BatchFile>& files_;
     ReportNames names_;
+    Progress progress_;
     bool headed_;       ///< every report has the name of its file above it
     bool first_ = true; ///< nothing was printed yet
     std::size_t next_ = 0;
@@ -199,16 +235,17 @@ private:
 
 std::size_t jobsOf(const Options& options) {
     const auto jobs = wholeNumber<std::size_t>(options.jobs);
-    if (!jobs || *jobs == 0) {
-        throw UsageError("the number of jobs is 1 or more, not '" + options.jobs + "'");
+    if (!jobs) {
+        throw UsageError("the number of jobs is a whole number, or 0 for all cores, not '" + options.jobs + "'");
     }
-    return *jobs;
+    return *jobs == 0 ? std::max(std::thread::hardware_concurrency(), 1U) : *jobs;
 }
 
 int run(const Options& options) {
     const std::size_t jobs = jobsOf(options);
-    requireOneStandardInput(options.files);
     const std::optional<platform::DateTime> now = clockOf(options.date);
+    bool complete = true;
+    const std::vector<BatchFile> files = filesOf(options.files, complete);
     if (options.outputFolder) {
         std::error_code error;
         fs::create_directories(*options.outputFolder, error);
@@ -217,26 +254,28 @@ int run(const Options& options) {
             return somethingFailed;
         }
     }
-    Collector collector(options);
+    Collector collector(options, files);
     OrderedJobs<std::vector<Translation>>::run(
-        options.files.size(), jobs, [&](std::size_t i) { return translateFile(options.files[i], options, now); },
+        files.size(), jobs, [&](std::size_t i) { return translateFile(files[i].name, options, now); },
         [&](const std::vector<Translation>& translations) { collector.take(translations); });
-    return collector.failed() ? somethingFailed : success;
+    return collector.failed() || !complete ? somethingFailed : success;
 }
 
 } // namespace
 
 Run addTranslate(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command.add_option("FILE", options->files, "File in any form, recognised by its content; - is standard input")
-        ->type_name("")
-        ->required();
+    addFileOptions(command, options->files);
     command
         .add_option("-o,--output-dir", options->outputFolder, "Write each report to DIR/NAME.txt (or .json) instead")
         ->type_name("DIR")
         ->check(refuseEmpty)
         ->take_last();
-    command.add_option("-j,--jobs", options->jobs, "Work on up to N files at a time")->type_name("N")->take_last();
+    command.add_flag("--keep-tree", options->keepTree, "Write DIR/PATH.txt, with the path below a folder of -r")
+        ->disable_flag_override();
+    command.add_option("-j,--jobs", options->jobs, "Work on up to N files at a time; 0: as many as there are cores")
+        ->type_name("N")
+        ->take_last();
     addClockOption(command, options->date);
     addFormatOption(command, options->format, {"text", "json"});
     command

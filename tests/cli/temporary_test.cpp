@@ -48,11 +48,11 @@ TEST(TemporaryFile, NeedsItsFolder) {
 TEST(TemporaryFolder, IsForItsUserAloneAndGoesWithAllItHolds) {
     fs::path path;
     {
-        const TemporaryFolder folder;
-        path = fs::path(folder.file("a")).parent_path();
+        const TemporaryFolder folder("a");
+        path = fs::path(folder.file()).parent_path();
         EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_all);
-        TemporaryFile(path).moveTo(folder.file("a"));
-        EXPECT_TRUE(fs::exists(folder.file("a")));
+        TemporaryFile(path).moveTo(folder.file());
+        EXPECT_TRUE(fs::exists(folder.file()));
     }
     EXPECT_FALSE(fs::exists(path));
 }

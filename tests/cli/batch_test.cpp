@@ -1,0 +1,52 @@
+#include <gmock/gmock.h>
+
+#include "cli/edidwb.h"
+
+namespace wb::test {
+namespace {
+
+using testing::HasSubstr;
+using BatchTest = Edidwb;
+
+/// Files in folders below "in".
+constexpr const char* tree =
+    "mkdir -p in/a/deep in/b\ncp $SAMPLES/zarqo-z40.bin in/a/deep/x.bin\ncp $SAMPLES/halvorine-hv19.bin in/a/y.bin\n"
+    "cp $SAMPLES/quillmere-q15.bin in/b/x.bin\n";
+
+TEST_F(BatchTest, TakesAllFilesBelowFoldersInTheOrderOfTheirPaths) {
+    const Outcome outcome = shell(std::string(tree) +
+                                  "edidwb check -r -q --level error in $SAMPLES/zarqo-z40.bin; "
+                                  "edidwb check -r --level error in | cut -d: -f1");
+    EXPECT_EQ(outcome.output, "in/a/deep/x.bin\nin/a/y.bin\nin/b/x.bin\n");
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(shell("mkdir empty; edidwb check empty").errors, "edidwb: empty: Is a directory\n");
+}
+
+TEST_F(BatchTest, KeepsTheTreeWhereThatIsAskedFor) {
+    const Outcome outcome =
+        shell(std::string(tree) + "edidwb translate -r -j 0 --keep-tree -o out in\nfind out -type f");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_THAT(outcome.output, HasSubstr("out/a/deep/x.bin.txt\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("out/a/y.bin.txt\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("out/b/x.bin.txt\n"));
+    EXPECT_EQ(read("out/a/deep/x.bin.txt"), shell("edidwb translate $SAMPLES/zarqo-z40.bin").output);
+    EXPECT_EQ(shell("edidwb translate -r -o flat in; ls flat").output, "b_x.txt\ndeep_x.txt\ny.txt\n");
+}
+
+TEST_F(BatchTest, TakesNamesFromAFile) {
+    write("odd\nname.bin", sample("zarqo-z40.bin"));
+    write("plain.bin", sample("halvorine-hv19.bin"));
+    const std::string names = " --level error --quiet --fail-on error ";
+    EXPECT_EQ(shell("printf 'plain.bin\\r\\n\\nmissing' >list; edidwb check" + names + "--files-from list").errors,
+              "edidwb: missing: No such file or directory\n");
+    const Outcome outcome =
+        shell("printf 'odd\\nname.bin\\0plain.bin' | edidwb translate -0 --files-from - --heading=never");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(outcome.output,
+              shell("edidwb translate --heading=never $SAMPLES/zarqo-z40.bin $SAMPLES/halvorine-hv19.bin").output);
+    EXPECT_EQ(shell("edidwb check --files-from nothing").errors, "edidwb: nothing: No such file or directory\n");
+    EXPECT_EQ(shell("edidwb check --files-from - -").status, 2);
+}
+
+} // namespace
+} // namespace wb::test

@@ -1,0 +1,14 @@
+#include "cli/progress.h"
+
+#include <gtest/gtest.h>
+
+namespace wb::cli {
+namespace {
+
+TEST(Progress, TellsRateAndTimeLeft) {
+    EXPECT_EQ(progressText(120, 820, 2.0), "120 of 820 files, 60 a second, 12 s left");
+    EXPECT_EQ(progressText(820, 820, 4.0), "820 of 820 files, 205 a second, 0 s left");
+}
+
+} // namespace
+} // namespace wb::cli
