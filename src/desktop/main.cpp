@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "desktop/base/report_text.h"
 #include "desktop/binder/desktop_view.h"
 #include "desktop/drawing/pictures.h"
 #include "desktop/services/desktop_services.h"
@@ -22,6 +23,8 @@ int main(int argc, char** argv) {
     Workbench workbench(services.services(), shell::wiring());
     desktop::DesktopView view(workbench, gate);
     services.arranger().area = [&view] { return view.mainView() != nullptr ? &view.mainView()->area() : nullptr; };
+
+    services.printer().title = [&workbench] { return desktop::reportTitle(workbench.CurrentFileName); };
 
     QTimer::singleShot(0, &view, [&] { gate.run([&] { workbench.runAction([&] { shell::Main(workbench); }); }); });
     return QApplication::exec();

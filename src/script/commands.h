@@ -18,6 +18,7 @@ void enter(Session& session, const Arguments& arguments);
 void keyup(Session& session, const Arguments& arguments);
 void pick(Session& session, const Arguments& arguments);
 void close(Session& session, const Arguments& arguments);
+void drop(Session& session, const Arguments& arguments);
 
 // What is read from the program and written into it, past the user.
 void poke(Session& session, const Arguments& arguments);

@@ -35,6 +35,7 @@ constexpr auto rows = std::to_array<Row>({
     {"keyup", "CODE", 1, 1, &commands::keyup},
     {"pick", "S.C ROW", 2, 2, &commands::pick},
     {"close", "S", 1, 1, &commands::close},
+    {"drop", "\"PATH\"", 1, 1, &commands::drop},
     {"poke", "S.C(i) \"TEXT\"", 2, 2, &commands::poke},
     {"get", "S.C(i).PROP", 1, 1, &commands::get},
     {"var", "NAME", 1, 1, &commands::var},

@@ -1,6 +1,7 @@
 #include "script/front_end.h"
 
 #include "core/input.h"
+#include "shell/lifecycle.h"
 #include "shell/startup.h"
 
 namespace wb::script {
@@ -47,6 +48,10 @@ bool ModelFrontEnd::pressToolBar(const std::string& key) {
 
 bool ModelFrontEnd::close(Screen& screen) {
     return input::close(screen);
+}
+
+bool ModelFrontEnd::drop(const std::string& name) {
+    return shell::dropDataFile(*workbench_, name);
 }
 
 } // namespace wb::script

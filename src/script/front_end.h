@@ -30,6 +30,8 @@ public:
     virtual bool pressToolBar(const std::string& key) = 0;
     /// The window's own close button.
     virtual bool close(Screen& screen) = 0;
+    /// Drops a file on the frame.
+    virtual bool drop(const std::string& name) = 0;
 };
 
 /// Acts on the model directly, without any view.
@@ -48,6 +50,7 @@ public:
     bool chooseMenu(Control& entry) override;
     bool pressToolBar(const std::string& key) override;
     bool close(Screen& screen) override;
+    bool drop(const std::string& name) override;
 
 private:
     Workbench* workbench_;

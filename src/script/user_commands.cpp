@@ -110,4 +110,10 @@ void close(Session& session, const Arguments& arguments) {
     }
 }
 
+void drop(Session& session, const Arguments& arguments) {
+    if (!session.frontEnd.drop(arguments[0].text)) {
+        refuse(session, "frmMain");
+    }
+}
+
 } // namespace wb::script::commands

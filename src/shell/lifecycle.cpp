@@ -5,6 +5,7 @@
 #include "block0/extension_button.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
+#include "core/input.h"
 #include "files/common_dialog.h"
 #include "files/data_file.h"
 #include "files/image_loading.h"
@@ -44,6 +45,17 @@ void openNamed(Workbench& workbench, const std::string& name, Read&& read) {
     workbench.EDIDModified = flagFalse;
 }
 
+/// Open, with a name that the caller finds once there is room for the image.
+template <class FindName>
+void open(Workbench& workbench, FindName&& findName) {
+    makeRoomForImage(workbench);
+    const std::string name = std::forward<FindName>(findName)();
+    if (!name.empty()) {
+        openNamed(workbench, name, [&] { return files::ReadEDIDDataFile(workbench); });
+    }
+    workbench.EDIDLoaded = flagTrue;
+}
+
 } // namespace
 
 void mnuFileNew(Workbench& workbench) {
@@ -70,12 +82,16 @@ void mnuFileNew(Workbench& workbench) {
 }
 
 void mnuFileOpen(Workbench& workbench) {
-    makeRoomForImage(workbench);
-    const std::string name = files::askOpenName(workbench, "Open", "EDID/DDC Data Files (*.DAT)|*.DAT");
-    if (!name.empty()) {
-        openNamed(workbench, name, [&] { return files::ReadEDIDDataFile(workbench); });
+    open(workbench, [&] { return files::askOpenName(workbench, "Open", "EDID/DDC Data Files (*.DAT)|*.DAT"); });
+}
+
+bool dropDataFile(Workbench& workbench, const std::string& name) {
+    const Screen* frame = workbench.loaded(ScreenId::Main);
+    if (frame == nullptr || !input::reachable(*frame)) {
+        return false;
     }
-    workbench.EDIDLoaded = flagTrue;
+    workbench.runAction([&] { open(workbench, [&] { return name; }); });
+    return true;
 }
 
 bool openDataFile(Workbench& workbench, const std::string& name, std::string_view content) {

@@ -13,6 +13,9 @@ void mnuFileOpen(Workbench& workbench);
 /// What Open does with a file of that name, whose content is in memory already. Gives whether it is a data file and was
 /// loaded; all failures are shown.
 bool openDataFile(Workbench& workbench, const std::string& name, std::string_view content);
+/// The user has dropped a data file on the frame: opens it as Open does once its dialog has given the name. False, and
+/// nothing is done, where the frame is out of reach.
+bool dropDataFile(Workbench& workbench, const std::string& name);
 /// Unloads the active child; what becomes active by that may be closed in the same go. Failures are passed over in
 /// silence.
 void mnuFileClose(Workbench& workbench);

@@ -39,7 +39,7 @@ TEST_F(Frame, HasTheMenusWithTheirMnemonics) {
                            "Print Pre&view", "&Print...", "-", "&Export Hexadecimal EDID File", "&Hex Calculator",
                            "Retreive EDID Data", "Windows 2000 Base Location", "-", "E&xit"}));
     EXPECT_EQ(entriesOf(1), QStringList({"&Cascade", "Tile &Horizontal", "Tile &Vertical", "&Arrange Icons"}));
-    EXPECT_EQ(entriesOf(2), QStringList({"&Information", "&About "}));
+    EXPECT_EQ(entriesOf(2), QStringList({"&Information", "&About ", "&Keys"}));
 }
 
 TEST_F(Frame, HasNothingToReadInASeparator) {
@@ -53,7 +53,7 @@ TEST_F(Frame, HasThePlatformsStandardKeys) {
     EXPECT_EQ(action(frame().mnuFileOpen).shortcut(), QKeySequence("Ctrl+O"));
     EXPECT_EQ(action(frame().mnuFileSave).shortcut(), QKeySequence("Ctrl+S"));
     EXPECT_EQ(action(frame().mnuFilePrint).shortcut(), QKeySequence("Ctrl+P"));
-    EXPECT_EQ(action(frame().mnuFileClose).shortcuts(), QKeySequence::keyBindings(QKeySequence::Close));
+    EXPECT_EQ(action(frame().mnuFileClose).shortcuts(), QList<QKeySequence>({QKeySequence("Ctrl+W")}));
     EXPECT_EQ(action(frame().Info).shortcuts(), QKeySequence::keyBindings(QKeySequence::HelpContents));
 }
 

@@ -8,9 +8,11 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTest>
 
+#include "desktop/base/report_text.h"
 #include "desktop/services/clock.h"
 #include "desktop/services/event_loop.h"
 #include "desktop/services/printing.h"
@@ -226,7 +228,8 @@ protected:
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(QString::fromStdString(folder.file("out.pdf")));
         printer.setPageSize(QPageSize(GetParam()));
-        printText(text, printer);
+        printer.setDocName("EDID report");
+        printText(text, "A title", printer);
         return pagesOf(printer.outputFileName());
     }
     test::TemporaryFolder folder;
@@ -247,11 +250,44 @@ TEST_P(Printing, GoesOnOverSeveralPages) {
     }
     const QStringList pages = print(text);
     EXPECT_GE(pages.size(), 2);
-    const QStringList words = pages.join(' ').simplified().split(' ');
-    ASSERT_EQ(words.size(), 2 * lines) << "no line is lost between pages";
-    for (int i = 1; i <= lines; ++i) {
-        EXPECT_EQ(words[2 * i - 1], QString::number(i));
+    QStringList printed;
+    for (int number = 1; number <= pages.size(); ++number) {
+        QStringList onPage = pages[number - 1].split('\n', Qt::SkipEmptyParts);
+        const QString foot = QString("A title Page %1 of %2").arg(number).arg(pages.size());
+        EXPECT_EQ(onPage.takeLast().simplified(), foot);
+        printed += onPage;
     }
+    ASSERT_EQ(printed.size(), lines) << "no line is lost between pages";
+    for (int i = 1; i <= lines; ++i) {
+        EXPECT_EQ(printed[i - 1].trimmed(), QString("line %1").arg(i));
+    }
+}
+
+TEST_P(Printing, BreaksLinesBetweenWords) {
+    std::string text;
+    QStringList words;
+    for (int i = 100; i < 160; ++i) {
+        words += "word" + QString::number(i);
+        text += words.last().toStdString() + ' ';
+    }
+    QStringList printed = print(text).join(' ').simplified().split(' ');
+    printed.resize(words.size()); // the foot follows
+    EXPECT_EQ(printed, words);
+}
+
+TEST_P(Printing, NamesTheDocument) {
+    print("text");
+    EXPECT_NE(test::TemporaryFolder::read(folder.file("out.pdf")).find("/Title"), std::string::npos);
+    QProcess reader;
+    reader.start("pdfinfo", {QString::fromStdString(folder.file("out.pdf"))});
+    reader.waitForFinished();
+    EXPECT_TRUE(
+        QString::fromUtf8(reader.readAllStandardOutput()).contains(QRegularExpression("Title: +EDID report\n")));
+}
+
+TEST(ReportTitle, NamesTheFileOfTheImage) {
+    EXPECT_EQ(reportTitle("/home/me/a b.DAT"), "EDID report of a b.DAT");
+    EXPECT_EQ(reportTitle(""), "EDID report");
 }
 
 TEST_P(Printing, BreaksLinesThatAreTooLong) {

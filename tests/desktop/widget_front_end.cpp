@@ -3,9 +3,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QTest>
 #include <QToolBar>
@@ -212,6 +214,23 @@ bool WidgetFrontEnd::pressToolBar(const std::string& key) {
             DesktopProgram::settle();
         }
     }
+    return true;
+}
+
+bool WidgetFrontEnd::drop(const std::string& name) {
+    program_.sync();
+    QWidget& window = program_.frame().window();
+    if (!window.isVisible() || isBlocked(window)) {
+        return false;
+    }
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(desktop::fromFileNameBytes(name))});
+    const QPoint place = window.rect().center(); // on whatever is there
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.windowHandle(), &enter);
+    QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.windowHandle(), &event);
+    DesktopProgram::settle();
     return true;
 }
 

@@ -22,6 +22,7 @@ public:
     bool chooseMenu(Control& entry) override;
     bool pressToolBar(const std::string& key) override;
     bool close(Screen& screen) override;
+    bool drop(const std::string& name) override;
 
 private:
     /// The widget of the control where the user can reach it, else null.

@@ -1,5 +1,7 @@
 #include "desktop/base/report_text.h"
 
+#include <QFileInfo>
+
 #include "core/base/text.h"
 #include "desktop/base/text_codec.h"
 
@@ -37,6 +39,11 @@ QString reportLines(std::string_view text) {
         }
     }
     return result;
+}
+
+QString reportTitle(const std::string& fileName) {
+    const QString name = QFileInfo(fromFileNameBytes(fileName)).fileName();
+    return name.isEmpty() ? QString("EDID report") : "EDID report of " + name;
 }
 
 int placeInText(std::string_view text, int drawn) {

@@ -146,8 +146,9 @@ std::unique_ptr<ScreenView> DesktopView::makeView(Screen& screen) {
     if (screen.id() == ScreenId::Main) {
         auto view = std::make_unique<MainView>(screen, *this);
         main_ = view.get();
-        auto* back = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_0), &view->window());
-        QObject::connect(back, &QShortcut::activated, this, [this] { goBack(); });
+        addKey(Qt::ALT | Qt::Key_0, [this] { goBack(); });
+        addKey(Qt::CTRL | Qt::Key_F4, [this] { closeActiveChild(); });
+        addKey(QKeySequence::Find, [this] { findInReport(); });
         return view;
     }
     if (screen.id() == ScreenId::Splash) {
@@ -157,6 +158,24 @@ std::unique_ptr<ScreenView> DesktopView::makeView(Screen& screen) {
         return std::make_unique<ChildView>(screen, *this, main_->area());
     }
     return std::make_unique<ModalView>(screen, *this, main_ != nullptr ? &main_->window() : nullptr);
+}
+
+void DesktopView::addKey(const QKeySequence& keys, const std::function<void()>& act) {
+    auto* shortcut = new QShortcut(keys, &main_->window());
+    QObject::connect(shortcut, &QShortcut::activated, this, act);
+}
+
+void DesktopView::closeActiveChild() {
+    if (const Screen* child = workbench_.windows.activeChild()) {
+        viewOf(*child)->askToClose();
+    }
+}
+
+void DesktopView::findInReport() {
+    const Screen* report = workbench_.loaded(ScreenId::Document);
+    if (report != nullptr && report->shown()) {
+        static_cast<ChildView*>(viewOf(*report))->find();
+    }
 }
 
 void DesktopView::goBack() {

@@ -53,7 +53,11 @@ private:
     void makeMissing();
     std::unique_ptr<ScreenView> makeView(Screen& screen);
     void arrangeChildren();
+    /// A key that works wherever the focus is in the frame.
+    void addKey(const QKeySequence& keys, const std::function<void()>& act);
     void goBack();
+    void closeActiveChild();
+    void findInReport();
 
     Workbench& workbench_;
     ModelGate& gate_;

@@ -6,6 +6,7 @@
 
 #include "core/input.h"
 #include "core/workbench.h"
+#include "desktop/base/own_focus.h"
 #include "desktop/windows/visibility.h"
 
 namespace wb::desktop {
@@ -98,6 +99,12 @@ QWidget* FocusKeeper::target() const {
 }
 
 void FocusKeeper::align() {
+    if (!keepsOwnFocus(QApplication::focusWidget())) {
+        giveToTarget();
+    }
+}
+
+void FocusKeeper::giveToTarget() {
     if (moveWaits() || workbench_.ended || QApplication::activePopupWidget() != nullptr) {
         return;
     }
@@ -119,7 +126,7 @@ void FocusKeeper::follow() {
     if (QWidget* widget = target(); widget != nullptr && !keepsIcons_) {
         restoreWindowOf(*widget);
     }
-    align();
+    giveToTarget();
 }
 
 } // namespace wb::desktop

@@ -21,7 +21,8 @@ public:
     void activationArrived(ScreenView& view, Qt::FocusReason reason);
     /// Carries out a move that waits.
     void settle();
-    /// Gives Qt's focus to the widget of the control that has it in the model, or takes it from all.
+    /// Gives Qt's focus to the widget of the control that has it in the model, or takes it from all; a box of the view
+    /// itself keeps it.
     void align();
     /// The same when the events at hand are through.
     void alignSoon() { queue(&FocusKeeper::align); }
@@ -33,6 +34,7 @@ private:
     void focusChanged(QWidget* from, QWidget* to);
     bool moveWaits() const { return !control_.isNull() || !screen_.isNull(); }
     QWidget* target() const;
+    void giveToTarget();
     void queue(void (FocusKeeper::*step)());
 
     Workbench& workbench_;

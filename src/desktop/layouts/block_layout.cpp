@@ -6,8 +6,8 @@ namespace wb::desktop {
 namespace {
 
 constexpr Place identity[] = {
-    member("Label1", 0).at(0, 0), one("txtBrand").at(0, 1).wide(14).called("Brand"),
-    member("Label1", 2).at(0, 2), one("txtModel").at(0, 3).wide(14).called("Model"),
+    member("Label1", 0).at(0, 0), one("txtBrand").at(0, 1).wideInCapitals(13).called("Brand"),
+    member("Label1", 2).at(0, 2), one("txtModel").at(0, 3).wideInCapitals(13).called("Model"),
     member("Label1", 1).at(0, 4), one("txtVersion").at(0, 5).wide(4).called("Version"),
     member("Label1", 3).at(0, 6), one("txtRevision").at(0, 7).wide(4).called("Revision"),
 };

@@ -87,7 +87,7 @@ constexpr Place descriptor[] = {
 };
 constexpr Place tags[] = {
     members("DTa", 0, 7).at(0, 0),
-    one("DTaInput").at(8, 0).wide(18).called("Value of the descriptor"),
+    one("DTaInput").at(8, 0).wideInCapitals(13).called("Value of the descriptor"),
     one("DTAGTF").at(9, 0),
 };
 constexpr Place limits[] = {

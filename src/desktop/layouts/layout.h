@@ -41,6 +41,7 @@ struct Place {
     Look look = Look::Plain;
     int characters = 0;             ///< width in characters; 0: as the content asks
     std::string_view longest = {};  ///< of a button: a caption that it may get, for which it keeps the room
+    bool capitals = false;          ///< they may all be as wide as a capital
     std::string_view spoken = {};   ///< accessible name; "%1" stands for the index
     std::string_view shortcut = {}; ///< key that does what a click does, on a frame what a double click does
 
@@ -86,6 +87,11 @@ struct Place {
     constexpr Place roomFor(std::string_view caption) const {
         Place place = *this;
         place.longest = caption;
+        return place;
+    }
+    constexpr Place wideInCapitals(int count) const {
+        Place place = wide(count);
+        place.capitals = true;
         return place;
     }
     constexpr Place called(std::string_view name_) const {

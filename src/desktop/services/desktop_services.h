@@ -22,6 +22,7 @@ public:
 
     const platform::Services& services() const { return services_; }
     MdiArranger& arranger() { return arranger_; }
+    QtPrinter& printer() { return printer_; }
 
 private:
     QtMessageBoxes messageBoxes_;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QPointer>
 #include <QScopeGuard>
 #include <QSignalBlocker>
@@ -54,6 +55,7 @@ TextView::TextView(Control& control, const Place& place, UserActions& actions)
     });
     shape();
     adopt(*box_);
+    tip_ = box_->toolTip();
 }
 
 void TextView::shape() {
@@ -68,8 +70,10 @@ void TextView::shape() {
         box_->setAlignment(Qt::AlignCenter);
         box_->setFixedWidth(widthOfText(*box_, cellCharacters + 1));
     } else if (place().characters > 0) {
-        box_->setMinimumWidth(widthOfText(*box_, place().characters));
-        box_->setMaximumWidth(look == Look::Value ? QWIDGETSIZE_MAX : widthOfText(*box_, place().characters));
+        const int width =
+            widthOfText(*box_, place().characters, place().capitals ? Measure::Capital : Measure::Average);
+        box_->setMinimumWidth(width);
+        box_->setMaximumWidth(look == Look::Value ? QWIDGETSIZE_MAX : width);
     }
 }
 
@@ -82,7 +86,10 @@ void TextView::refresh() {
     box_->setAcceptDrops(place().look != Look::Cell && !model.locked());
     if (box_->hasFocus()) {
         refreshSelection(); // elsewhere it is not drawn
+    } else if (place().look != Look::Value) {
+        box_->setCursorPosition(0); // what is longer than the box shows its beginning
     }
+    refreshTip();
     refreshColours();
 }
 
@@ -98,6 +105,13 @@ void TextView::refreshText() {
     } else {
         box_->setText(text);
     }
+}
+
+void TextView::refreshTip() {
+    constexpr qsizetype longest = 200;
+    const QString text = box_->text();
+    const bool cut = place().look != Look::Cell && box_->fontMetrics().horizontalAdvance(text) > innerWidth(*box_);
+    box_->setToolTip(cut ? tip_ + ": " + text.left(longest).toHtmlEscaped() : tip_);
 }
 
 void TextView::refreshSelection() {
@@ -256,6 +270,27 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event) {
         QObject::connect(action, &QAction::triggered, &view_, [this] { view_.tellSelection(); });
     }
     menu->popup(event->globalPos());
+}
+
+void TextBox::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->ignore(); // files are for the frame
+    } else {
+        QLineEdit::dragEnterEvent(event);
+    }
+}
+
+void TextBox::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    const bool comesBack = event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (!comesBack) {
+        setCursorPosition(0);
+    }
+}
+
+void TextBox::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    view_.refreshTip();
 }
 
 void TextBox::changeEvent(QEvent* event) {

@@ -22,6 +22,9 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     TextView& view_;
@@ -43,6 +46,8 @@ private:
 
     void shape();
     void refreshText();
+    /// A text that is longer than the box is told whole by its tool tip.
+    void refreshTip();
     void refreshSelection();
     void type(const QKeyEvent& event, char character);
     void enter(const QKeyEvent& event);
@@ -55,6 +60,7 @@ private:
     bool stepToCell(const QKeyEvent& event);
 
     TextBox* box_;
+    QString tip_;              ///< that of the place
     bool editing_ = false;     ///< the widget is editing and its signals need not be told
     bool keepHistory_ = false; ///< a typed key is being worked: undo takes back what it makes of the text
     bool colouring_ = false;

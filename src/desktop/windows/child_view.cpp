@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/input.h"
@@ -16,6 +17,7 @@
 #include "desktop/views/keys.h"
 #include "desktop/windows/child_placing.h"
 #include "desktop/windows/document_page.h"
+#include "desktop/windows/find_bar.h"
 #include "desktop/windows/frame_size.h"
 #include "desktop/windows/screen_page.h"
 
@@ -75,12 +77,41 @@ void ChildWindow::mousePressEvent(QMouseEvent* event) {
 ChildView::ChildView(Screen& screen, UserActions& actions, QMdiArea& area)
     : ScreenView(screen, actions), window_(new ChildWindow(*this)), page_(makePage(screen, actions)) {
     addPage(*page_);
-    window_->setWidget(new PageScroller(*page_));
+    window_->setWidget(inside());
     area.addSubWindow(window_);
     window_->hide();
     QObject::connect(window_, &QMdiSubWindow::windowStateChanged, this, [this] { this->actions().windowsSettled(); });
-    auto* shortcut = new QShortcut(QKeySequence(Qt::Key_F6), window_);
-    QObject::connect(shortcut, &QShortcut::activated, this, [this] { changeSide(); });
+    addKey(Qt::Key_F6, [this] { changeSide(); });
+}
+
+/// The page and, below that of the report, the bar of its search.
+QWidget* ChildView::inside() {
+    auto* scroller = new PageScroller(*page_);
+    if (screen()->id() != ScreenId::Document) {
+        return scroller;
+    }
+    auto* pane = new QWidget;
+    auto* column = new QVBoxLayout(pane);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(scroller, 1);
+    findBar_ = new FindBar(static_cast<QPlainTextEdit&>(*page_->views().front()->widget()));
+    column->addWidget(findBar_);
+    addKey(Qt::Key_F3, [this] { findBar_->next(); });
+    addKey(Qt::SHIFT | Qt::Key_F3, [this] { findBar_->previous(); });
+    return pane;
+}
+
+void ChildView::addKey(const QKeySequence& keys, const std::function<void()>& act) {
+    auto* shortcut = new QShortcut(keys, window_);
+    QObject::connect(shortcut, &QShortcut::activated, this, act);
+}
+
+void ChildView::find() {
+    if (findBar_ != nullptr) {
+        act([](Screen& target) { input::activate(target); });
+        findBar_->open();
+    }
 }
 
 ChildView::~ChildView() {

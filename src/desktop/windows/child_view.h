@@ -11,6 +11,7 @@ class QMdiArea;
 namespace wb::desktop {
 
 class ChildView;
+class FindBar;
 
 /// A child window of the frame. Its close button asks the model and never closes by itself.
 class ChildWindow : public QMdiSubWindow {
@@ -37,6 +38,8 @@ public:
     QMdiSubWindow& subWindow() const { return *window_; }
     /// From inside the panel, gives the focus back to the cell of the field shown.
     void leavePanel();
+    /// Opens the search of the report; the other children have none.
+    void find();
     /// A press on the title bar.
     void activate();
     void refresh() override;
@@ -48,13 +51,17 @@ public:
 
 private:
     void changeSide();
+    /// A key that works while the focus is inside the window.
+    void addKey(const QKeySequence& keys, const std::function<void()>& act);
+    QWidget* inside();
     void takePlace();
     /// The shown windows beside this one, the active one first; without those that fill the area or are icons.
     QList<QMdiSubWindow*> neighbours() const;
 
     QPointer<ChildWindow> window_; ///< belongs to the area too
     ScreenPage* page_;
-    QSize chosen_; ///< the last size that the user has not chosen; none before the window has opened
+    FindBar* findBar_ = nullptr; ///< of the report
+    QSize chosen_;               ///< the last size that the user has not chosen; none before the window has opened
     LentRoom lentRoom_;
 };
 

@@ -2,18 +2,21 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTime>
 #include <QTimer>
 #include <QToolBar>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <map>
@@ -30,8 +33,10 @@
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/flow_layout.h"
 #include "desktop/windows/idle_entries.h"
+#include "desktop/windows/keys_window.h"
 #include "desktop/windows/screen_page.h"
 #include "desktop/windows/visibility.h"
+#include "shell/lifecycle.h"
 
 namespace wb::desktop {
 
@@ -51,7 +56,9 @@ constexpr StandardKey standardKeys[] = {
 void giveStandardKey(QAction& action, std::string_view entry) {
     for (const StandardKey& standard : standardKeys) {
         if (standard.entry == entry) {
-            action.setShortcuts(standard.key);
+            QList<QKeySequence> keys = QKeySequence::keyBindings(standard.key);
+            keys.removeAll(QKeySequence(Qt::CTRL | Qt::Key_F4)); // which closes the child alone
+            action.setShortcuts(keys);
         }
     }
 }
@@ -70,6 +77,12 @@ const QScreen* screenOf(const QRect& rectangle) {
         }
     }
     return found;
+}
+
+/// The name of the one file that is dragged; empty where there are none or several.
+QString droppedFile(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
 }
 
 } // namespace
@@ -131,12 +144,25 @@ void MainView::makeMenus() {
             menus.at(control->container())->addAction(&action);
         }
     }
+    makeKeysEntry(*menus.at(&frame().mnuHelp));
     windowMenu_ = menus.at(&frame().mnuWindow);
     // Minimised windows are the view's alone, and no call tells of them.
     QObject::connect(windowMenu_, &QMenu::aboutToShow, this, [this] {
         if (screen() != nullptr) {
             refreshStates();
         }
+    });
+}
+
+void MainView::makeKeysEntry(QMenu& helpMenu) {
+    QAction* entry = helpMenu.addAction("&Keys");
+    QObject::connect(entry, &QAction::triggered, this, [this] {
+        if (keys_.isNull()) {
+            keys_ = new KeysWindow(*window_);
+        }
+        keys_->show();
+        keys_->raise();
+        keys_->activateWindow();
     });
 }
 
@@ -356,6 +382,24 @@ void MainView::listChildren(const std::vector<ScreenView*>& children) {
             });
         });
         childEntries_.push_back(entry);
+    }
+}
+
+void MainView::openDropped(const QString& name) {
+    act([name = fileNameBytes(name)](Screen& screen) { shell::dropDataFile(screen.workbench(), name); });
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedFile(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString name = droppedFile(*event->mimeData());
+    if (!name.isEmpty()) {
+        event->acceptProposedAction();
+        view_.openDropped(name);
     }
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDialog>
 #include <QMainWindow>
+#include <QPointer>
 #include <QRect>
 #include <memory>
 #include <vector>
@@ -24,13 +26,15 @@ class MenuView;
 /// The frame's window. It closes when the model says so, and tells the model where it stands.
 class MainWindow : public QMainWindow {
 public:
-    explicit MainWindow(MainView& view) : view_(view) {}
+    explicit MainWindow(MainView& view) : view_(view) { setAcceptDrops(true); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     MainView& view_;
@@ -48,6 +52,8 @@ public:
     void refreshStates() override;
     /// Tells in the status bar what has been written, and when.
     void tellWritten(const WrittenFile& file);
+    /// A file that the user has dropped.
+    void openDropped(const QString& name);
     /// Lists the shown children, the active one first, in the Window menu.
     void listChildren(const std::vector<ScreenView*>& children);
     /// Notes where the window stands; a place that the model asked for is kept as it was asked for, and that of a
@@ -71,6 +77,8 @@ private:
     FrmMain& frame() const;
     const Screen* activeChild() const;
     void makeMenus();
+    /// The entry behind those that the program has.
+    void makeKeysEntry(QMenu& helpMenu);
     void makeToolBar();
     void makeButtons(QVBoxLayout& column);
     void makeArea(QVBoxLayout& column);
@@ -87,6 +95,7 @@ private:
     QMdiArea* area_ = nullptr;
     QMenu* windowMenu_ = nullptr;
     QLabel* notice_ = nullptr;
+    QPointer<QDialog> keys_;
     std::vector<QAction*> childEntries_;
     std::vector<std::unique_ptr<ControlView>> own_;
     FrameSize size_;
