@@ -4,8 +4,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
+#include <thread>
 
 #include "cli/temporary.h"
 #include "support/temporary_folder.h"
@@ -23,6 +25,7 @@ int statusAfter(int signal, const std::string& folder) {
         const TemporaryFolder other("image");
         TemporaryFile(folder).moveTo(other.file());
         kill(getpid(), signal);
+        std::this_thread::sleep_for(std::chrono::milliseconds(200)); // sanitizers hand on signals at a blocking call
         _exit(0);
     }
     int status = -1;
