@@ -136,6 +136,7 @@ private:
 
     static std::vector<std::string> namesOf(const std::vector<BatchFile>& files) {
         std::vector<std::string> names;
+        names.reserve(files.size());
         for (const BatchFile& file : files) {
             names.push_back(file.name);
         }
