@@ -33,11 +33,12 @@ std::vector<std::string> foldersOf(const std::string& file) {
 }
 
 std::string withFolders(const std::string& name, const std::vector<std::string>& folders, std::size_t count) {
-    std::string result = name;
-    for (std::size_t i = 0; i < std::min(count, folders.size()); ++i) {
-        result = folders[i] + '_' + result;
+    std::string result;
+    for (std::size_t i = std::min(count, folders.size()); i > 0; --i) {
+        result += folders[i - 1];
+        result += '_';
     }
-    return result;
+    return result + name;
 }
 
 /// As many folders as tell all files of the group apart; the most there are where nothing does.
