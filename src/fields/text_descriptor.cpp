@@ -31,8 +31,11 @@ const Row& rowOf(std::uint8_t tag) {
     }
 }
 
-/// The first one of an image is the one that counts.
+/// The first one of an image that is not empty is the one that counts.
 void summarize(Summary& summary, std::uint8_t tag, const std::string& text) {
+    if (text.empty()) {
+        return;
+    }
     if (tag == nameTag && !summary.name) {
         summary.name = text;
     } else if (tag == serialTextTag && !summary.serialText) {

@@ -1,5 +1,7 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "fields/json.h"
 #include "good_image.h"
 
 namespace wb::fields {
@@ -57,6 +59,13 @@ TEST(Block0, TellsMakerProductAndDate) {
     EXPECT_FALSE(summary.modelYear);
     EXPECT_EQ(summary.name, "Plain");
     EXPECT_EQ(summary.serialText, "A1");
+}
+
+TEST(Block0, TakesAnEmptyTextForNone) {
+    const Reading reading = goodImage().set(113, {10, 32, 32}).reading();
+    EXPECT_EQ(std::get<std::string>(fieldOf(reading, "base.descriptor[4].serial_text").value), "");
+    EXPECT_FALSE(reading.summary.serialText);
+    EXPECT_THAT(summaryToJson(reading), testing::HasSubstr("\"serial_text\":null,\"name\":\"Plain\""));
 }
 
 TEST(Block0, TellsLittleEndianSerialNumbersAndNone) {
