@@ -118,7 +118,8 @@ bool forEachFile(const FileOptions& options, const std::function<void(const std:
 }
 
 bool usesColour() {
-    return isTerminal(stdout) && std::getenv("NO_COLOR") == nullptr;
+    const char* refused = std::getenv("NO_COLOR");
+    return isTerminal(stdout) && (refused == nullptr || *refused == '\0');
 }
 
 } // namespace wb::cli

@@ -44,7 +44,7 @@ std::string tsvLine(const std::vector<std::string_view>& columns);
 bool forEachFile(const FileOptions& options, const std::function<void(const std::string& name)>& work);
 
 /// Whether texts for people go out in colour: standard output is a terminal, and the environment variable NO_COLOR is
-/// not set.
+/// not set or empty.
 bool usesColour();
 
 } // namespace wb::cli

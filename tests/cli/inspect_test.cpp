@@ -63,6 +63,7 @@ TEST_F(InspectTest, UsesColourOnATerminalOnly) {
     const std::string program = EDIDWB;
     const std::string run = "script -qec \"" + program + " inspect $SAMPLES/halvorine-hv19.bin\" /dev/null";
     EXPECT_THAT(shell("unset NO_COLOR; " + run).output, HasSubstr("\x1B[1m"));
+    EXPECT_THAT(shell("export NO_COLOR=; " + run).output, HasSubstr("\x1B[1m"));
     EXPECT_THAT(shell("export NO_COLOR=1; " + run).output, Not(HasSubstr("\x1B")));
 }
 
