@@ -7,6 +7,12 @@
 
 namespace wb::fields {
 
+/// A video code, and the number of its field in the order of reading.
+struct ReadVideoCode {
+    std::uint8_t code;
+    std::size_t field;
+};
+
 /// What a CTA-861 extension, or another collection of data blocks, told so far. Lists of one kind go on from data block
 /// to data block.
 struct CtaState {
@@ -15,12 +21,13 @@ struct CtaState {
     std::size_t timings = 0; ///< detailed timings of block 0 and of the extension
     std::size_t dataBlocks = 0;
     std::map<std::string_view, std::size_t> kinds{}; ///< how many of each kind, by the name of the kind
-    std::vector<std::uint8_t> videoCodes{};          ///< of the short video descriptors in their order
-    std::vector<std::uint8_t> videoCodes420{};       ///< of those for YCbCr 4:2:0 alone
+    std::vector<ReadVideoCode> videoCodes{};         ///< of the short video descriptors in their order
+    std::vector<ReadVideoCode> videoCodes420{};      ///< of those for YCbCr 4:2:0 alone
     std::size_t audioDescriptors = 0;
     int mostPcmChannels = 0; ///< of the descriptors of L-PCM
     std::size_t preferences = 0;
-    std::size_t mapReach = 0; ///< position of the last descriptor that the YCbCr 4:2:0 capability map names
+    std::size_t mapReach = 0;      ///< position of the last descriptor that the YCbCr 4:2:0 capability map names
+    std::size_t mapReachField = 0; ///< the number of its field in the order of reading
 
     bool has(std::string_view kind) const { return kinds.count(kind) != 0; }
 };
@@ -33,6 +40,8 @@ struct DataBlock {
     std::size_t end;        ///< limited to what is inside the collection
     CtaState& state;
 };
+
+bool hasCode(const std::vector<ReadVideoCode>& codes, std::uint8_t code);
 
 /// The rules that hold between the parts of an extension; `header` is the scope of its header.
 void checkCta(const Scope& extension, const Scope& header, const CtaState& state);

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "fields/cta_data_blocks.h"
 
 namespace wb::fields {
@@ -35,10 +33,9 @@ void checkNativeCount(const Scope& header, const CtaState& state) {
     const unsigned native = state.flags & nativeMask;
     if (native > state.timings) {
         header.tell(Severity::Warning, "cta.native_count", 3, "native_count",
-                    std::to_string(native) + " detailed timings are told to be native and " +
-                        std::to_string(state.timings) +
-                        " stand in block 0 and here, so that readers cannot tell which ones are meant; correct the "
-                        "count.");
+                    "The number of native detailed timings is " + std::to_string(native) +
+                        " and that of all in block 0 and here is " + std::to_string(state.timings) +
+                        ", so that readers cannot tell which ones are meant; correct the count.");
     }
 }
 
@@ -59,25 +56,32 @@ void checkHdmi(const Scope& extension, const Scope& header, const CtaState& stat
     }
 }
 
+/// A warning about a field of the extension that was read before, at the byte where it stands.
+void warnOf(const Scope& extension, std::string_view code, std::size_t fieldIndex, std::string text,
+            std::string_view clause) {
+    const Field& field = extension.reading().fields[fieldIndex];
+    const std::size_t offset = field.where.front().byte - extension.place(0);
+    extension.tell(Severity::Warning, code, offset, field.path.substr(extension.path().size() + 1), std::move(text),
+                   clause);
+}
+
 void check420(const Scope& extension, const CtaState& state) {
-    for (std::size_t i = 0; i < state.videoCodes420.size(); ++i) {
-        const std::uint8_t code = state.videoCodes420[i];
-        if (std::find(state.videoCodes.begin(), state.videoCodes.end(), code) != state.videoCodes.end()) {
-            extension.tell(Severity::Warning, "cta.video_420_repeated", 0, numbered("video_420", i + 1) + ".code",
-                           "Video code " + std::to_string(code) +
-                               " is told for YCbCr 4:2:0 alone and also for all encodings, so that readers cannot "
-                               "tell which is meant; use the capability map for what goes both ways.",
-                           "CTA-861-H, 7.5.10");
+    for (const auto& [code, field] : state.videoCodes420) {
+        if (hasCode(state.videoCodes, code)) {
+            warnOf(extension, "cta.video_420_repeated", field,
+                   "Video code " + std::to_string(code) +
+                       " is told for YCbCr 4:2:0 alone and also for all encodings, so that readers cannot "
+                       "tell which is meant; use the capability map for what goes both ways.",
+                   "CTA-861-H, 7.5.10");
         }
     }
     if (state.mapReach > state.videoCodes.size()) {
-        extension.tell(Severity::Warning, "cta.capability_map_long", 0,
-                       "capability_map_420." + numbered("video", state.mapReach),
-                       "The YCbCr 4:2:0 capability map names video descriptor " + std::to_string(state.mapReach) +
-                           " where " + std::to_string(state.videoCodes.size()) +
-                           " stand in the extension, so that readers may run past their list; clear the bits without a "
-                           "descriptor.",
-                       "CTA-861-H, 7.5.11");
+        warnOf(extension, "cta.capability_map_long", state.mapReachField,
+               "The YCbCr 4:2:0 capability map names video descriptor " + std::to_string(state.mapReach) + " where " +
+                   std::to_string(state.videoCodes.size()) +
+                   " stand in the extension, so that readers may run past their list; clear the bits without a "
+                   "descriptor.",
+               "CTA-861-H, 7.5.11");
     }
 }
 

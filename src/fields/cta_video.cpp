@@ -29,12 +29,17 @@ bool hasNativeFlag(unsigned descriptor) {
     return code >= 1 && code <= lastFlaggedCode;
 }
 
-void checkCode(const Scope& scope, std::uint8_t code, const std::vector<std::uint8_t>& before) {
+/// The number of the field that was read last.
+std::size_t lastField(const Scope& scope) {
+    return scope.reading().fields.size() - 1;
+}
+
+void checkCode(const Scope& scope, std::uint8_t code, const std::vector<ReadVideoCode>& before) {
     if (videoFormatOf(code) == nullptr) {
         scope.tell(Severity::Warning, "cta.video_code_reserved", 0, "code",
                    "Video code " + std::to_string(code) +
                        " is reserved, so that readers pass over it; take the short video descriptor out.");
-    } else if (std::find(before.begin(), before.end(), code) != before.end()) {
+    } else if (hasCode(before, code)) {
         scope.tell(Severity::Warning, "cta.video_code_repeated", 0, "code",
                    "Video code " + std::to_string(code) +
                        " stands here a second time, which tells nothing new and takes the place of another format; "
@@ -43,7 +48,7 @@ void checkCode(const Scope& scope, std::uint8_t code, const std::vector<std::uin
 }
 
 /// A short video descriptor; its code goes to the end of `codes`.
-void readDescriptor(const Scope& scope, std::vector<std::uint8_t>& codes) {
+void readDescriptor(const Scope& scope, std::vector<ReadVideoCode>& codes) {
     const unsigned descriptor = scope.byte(0);
     const auto code = static_cast<std::uint8_t>(videoCodeOf(descriptor));
     const bool flagged = hasNativeFlag(descriptor);
@@ -55,10 +60,10 @@ void readDescriptor(const Scope& scope, std::vector<std::uint8_t>& codes) {
     if (const VideoFormat* format = videoFormatOf(code)) {
         scope.summary().modes.push_back(modeOf(*format, flagged && (descriptor & nativeBit) != 0));
     }
-    codes.push_back(code);
+    codes.push_back({code, lastField(scope)});
 }
 
-void readDescriptors(const DataBlock& block, std::string_view list, std::vector<std::uint8_t>& codes) {
+void readDescriptors(const DataBlock& block, std::string_view list, std::vector<ReadVideoCode>& codes) {
     for (std::size_t offset = block.begin; offset < block.end; ++offset) {
         readDescriptor(block.extension.inner(offset, numbered(list, codes.size() + 1), block.content.clause()), codes);
     }
@@ -91,6 +96,10 @@ constexpr Row referenceRow = {
 
 } // namespace
 
+bool hasCode(const std::vector<ReadVideoCode>& codes, std::uint8_t code) {
+    return std::any_of(codes.begin(), codes.end(), [&](const ReadVideoCode& read) { return read.code == code; });
+}
+
 void readVideoBlock(const DataBlock& block) {
     readDescriptors(block, "video", block.state.videoCodes);
 }
@@ -106,8 +115,9 @@ void readCapabilityMap(const DataBlock& block) {
             const auto at = static_cast<std::uint8_t>(bit);
             const std::string name = numbered("video", position + 1);
             const Field& flag = block.content.add(flagAt(offset, at, name, "Video descriptor also in YCbCr 4:2:0"));
-            if (std::get<bool>(flag.value)) {
-                block.state.mapReach = std::max(block.state.mapReach, position + 1);
+            if (std::get<bool>(flag.value) && position >= block.state.mapReach) {
+                block.state.mapReach = position + 1;
+                block.state.mapReachField = lastField(block.content);
             }
         }
     }

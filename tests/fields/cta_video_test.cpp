@@ -119,12 +119,18 @@ TEST(CtaFindings, TellOfRepeatedVideoCodes) {
 }
 
 TEST(CtaFindings, TellOfVideoCodesBothFor420AloneAndForAll) {
-    EXPECT_EQ(countOf(ctaWith({0x41, 97, 0xE2, 0x0E, 97}).reading(), "cta.video_420_repeated"), 1U);
+    const Reading reading = ctaWith({0x41, 97, 0xE3, 0x0E, 96, 97}).reading();
+    EXPECT_EQ(countOf(reading, "cta.video_420_repeated"), 1U);
+    EXPECT_EQ(findingOf(reading, "cta.video_420_repeated").path, "cta[1].video_420[2].code");
+    EXPECT_EQ(findingOf(reading, "cta.video_420_repeated").byte, 137U);
     EXPECT_EQ(countOf(ctaWith({0x41, 96, 0xE2, 0x0E, 97}).reading(), "cta.video_420_repeated"), 0U);
 }
 
 TEST(CtaFindings, TellOfACapabilityMapBeyondTheVideoCodes) {
-    EXPECT_EQ(countOf(ctaWith({0x41, 97, 0xE2, 0x0F, 0x02}).reading(), "cta.capability_map_long"), 1U);
+    const Reading reading = ctaWith({0x41, 97, 0xE3, 0x0F, 0x01, 0x02}).reading();
+    EXPECT_EQ(countOf(reading, "cta.capability_map_long"), 1U);
+    EXPECT_EQ(findingOf(reading, "cta.capability_map_long").path, "cta[1].capability_map_420.video[10]");
+    EXPECT_EQ(findingOf(reading, "cta.capability_map_long").byte, 137U);
     EXPECT_EQ(countOf(ctaWith({0xE2, 0x0F, 0x02, 0x42, 97, 96}).reading(), "cta.capability_map_long"), 0U);
 }
 
