@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "fields/block0_parts.h"
 #include "fields/descriptors.h"
@@ -23,11 +24,16 @@ bool isOutside(const Limited& limited) {
     return limited.low <= limited.high && (limited.value <= limited.low - 1 || limited.value >= limited.high + 1);
 }
 
+/// CVT tells the highest clock in quarters of a megahertz.
+std::string limitText(double limit) {
+    return decimalText(limit, limit == std::floor(limit) ? 0 : 2);
+}
+
 void tellOutside(const Scope& timing, const Limited& limited) {
     timing.tell(Severity::Warning, "timing.outside_limits", 0, "pixel_clock",
                 "The timing has a " + std::string(limited.name) + " of " +
                     withUnit(decimalText(limited.value, 2), limited.unit) + " and the range limits allow " +
-                    decimalText(limited.low, 0) + " to " + withUnit(decimalText(limited.high, 0), limited.unit) +
+                    decimalText(limited.low, 0) + " to " + withUnit(limitText(limited.high), limited.unit) +
                     ", so that software may refuse it; correct the limits or the timing.");
 }
 

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "fields/json.h"
 #include "good_image.h"
 
@@ -59,6 +61,17 @@ TEST(Block0, TellsMakerProductAndDate) {
     EXPECT_FALSE(summary.modelYear);
     EXPECT_EQ(summary.name, "Plain");
     EXPECT_EQ(summary.serialText, "A1");
+}
+
+TEST(Block0, TellsTheQuartersOfALimitingClock) {
+    // 150 MHz less one quarter, and CVT 1.1 with 16:9.
+    ImageOf image = goodImage().set(24, {0x03}).set(99, {15, 4, 0x11, 0x04, 0, 0x40, 0x28, 0, 60});
+    image.set(54, {0x98, 0x3A});
+    const Reading reading = image.reading();
+    const auto finding = std::find_if(reading.findings.begin(), reading.findings.end(),
+                                      [](const Finding& f) { return f.code == "timing.outside_limits"; });
+    ASSERT_NE(finding, reading.findings.end());
+    EXPECT_THAT(finding->text, testing::HasSubstr("150.00 MHz and the range limits allow 0 to 149.75 MHz"));
 }
 
 TEST(Block0, TakesAnEmptyTextForNone) {
