@@ -5,6 +5,7 @@
 #include "cea/header.h"
 #include "cea/location.h"
 #include "cea/procedure.h"
+#include "core/base/extension_tags.h"
 #include "core/base/image_layout.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
@@ -19,7 +20,7 @@ constexpr int lastDataCell = checksumCell - 1;
 
 void readOffset(const Procedure& run) {
     Workbench& workbench = run.workbench;
-    if (run.text(extensionCells::tag) == "02") {
+    if (run.text(extensionCells::tag) == ceaTagText) {
         workbench.ExtDtdOffsetText = std::to_string(byteAt(run.screen, extensionCells::timingOffset));
         run.screen.lbEDID(5).setCaption(offsetCaption(workbench.ExtDtdOffsetText));
         workbench.ExtDtdStart =

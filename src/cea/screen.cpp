@@ -4,6 +4,7 @@
 #include "cea/definitions.h"
 #include "cea/detailed_slots.h"
 #include "cea/procedure.h"
+#include "core/base/extension_tags.h"
 #include "core/base/image_layout.h"
 
 namespace wb::cea {
@@ -18,7 +19,7 @@ void fillCells(const Procedure& run) {
     for (int i = extensionCells::timingOffset; i < BlockScreen::cellCount; ++i) {
         run.cell(i).setText("00");
     }
-    run.cell(extensionCells::tag).setText("02");
+    run.cell(extensionCells::tag).setText(std::string(ceaTagText));
     run.cell(extensionCells::version).setText("03");
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/base/extension_tags.h"
 #include "fields/displayid.h"
 
 namespace wb::fields {
@@ -22,25 +23,24 @@ struct ExtensionKind {
 /// VESA E-EDID Standard, Release A, section 2.2.1 and the tags that VESA gave out since.
 constexpr std::array<ExtensionKind, 10> kinds = {{
     {0x00, "timing extension"},
-    {0x02, "CTA-861 extension", "cta", "CTA-861-H, 7.3.3", readCta},
+    {ceaTag, "CTA-861 extension", "cta", "CTA-861-H, 7.3.3", readCta},
     {0x10, "video timing block extension", "vtb", "VTB-EXT Release A", readVideoTimingBlock},
     {0x20, "EDID 2.0 extension"},
     {0x40, "display information extension"},
     {0x50, "localized string extension"},
     {0x60, "microdisplay interface extension"},
     {0x70, "DisplayID extension", "displayid", "DisplayID 1.3, 3", readDisplayId},
-    {0xF0, "block map", "map", "E-EDID 1.4, 3.14", readBlockMap},
+    {blockMapTag, "block map", "map", "E-EDID 1.4, 3.14", readBlockMap},
     {0xFF, "manufacturer's extension"},
 }};
 constexpr ExtensionKind unknownKind = {0, "unknown extension"};
 
 constexpr Row tagRow = {.name = "tag", .label = "Extension tag", .parts = {{0}}};
-constexpr Row checksumRow = {.name = "checksum", .label = "Check sum", .parts = {{127}}};
-constexpr std::size_t checksumPlace = 127;
+constexpr Row checksumRow = {.name = "checksum", .label = "Check sum", .parts = {{checksumCell}}};
 
 void readBytes(const Scope& block) {
     block.add(tagRow);
-    block.addBytes(1, checksumPlace, "bytes", "Content of the block");
+    block.addBytes(1, checksumCell, "bytes", "Content of the block");
 }
 
 const ExtensionKind& kindOf(std::uint8_t tag) {
@@ -51,11 +51,10 @@ const ExtensionKind& kindOf(std::uint8_t tag) {
 
 /// Before revision 1.4 a block map has to lead more than one extension.
 void checkLeadingMap(const Scope& block) {
-    constexpr std::size_t revisionPlace = 19;
     constexpr unsigned firstWithoutMap = 4;
-    constexpr std::uint8_t mapTag = 0xF0;
     const Image& image = block.reading().image;
-    if (block.byte(0) != mapTag && image.announcedExtensions() > 1 && image.byte(revisionPlace) < firstWithoutMap) {
+    if (block.byte(0) != blockMapTag && image.announcedExtensions() > 1 &&
+        image.byte(cells::revision) < firstWithoutMap) {
         block.tell(
             Severity::Warning, "map.missing", 0, "",
             "More than one extension block follows block 0 and the first is no block map, which revisions before "
@@ -71,12 +70,11 @@ std::string_view extensionName(std::uint8_t tag) {
 }
 
 std::size_t announcedExtensions(const Image& image) {
-    constexpr std::uint8_t cta = 0x02;
-    constexpr std::size_t firstDataBlock = 4;
+    using extensionCells::dataBlocks, extensionCells::timingOffset;
     constexpr std::array<std::uint8_t, 2> override = {0xE2, 0x78};
-    if (image.blockCount() > 1 && image.block(1)[0] == cta) {
-        const auto first = image.block(1).subspan(firstDataBlock, override.size() + 1);
-        if (image.block(1)[2] >= firstDataBlock + first.size() &&
+    if (image.blockCount() > 1 && image.block(1)[extensionCells::tag] == ceaTag) {
+        const auto first = image.block(1).subspan(dataBlocks, override.size() + 1);
+        if (image.block(1)[timingOffset] >= dataBlocks + first.size() &&
             std::equal(override.begin(), override.end(), first.begin())) {
             return first.back();
         }
@@ -100,8 +98,8 @@ void readExtension(Reading& reading, std::size_t index) {
 }
 
 void readPadding(const Scope& block, std::size_t offset, std::string_view code, std::string_view after) {
-    block.addBytes(offset, checksumPlace, "padding", "Padding");
-    for (std::size_t place = offset; place < checksumPlace; ++place) {
+    block.addBytes(offset, checksumCell, "padding", "Padding");
+    for (std::size_t place = offset; place < checksumCell; ++place) {
         if (block.byte(place) != 0) {
             block.tell(Severity::Warning, code, place, "padding",
                        "Bytes after " + std::string(after) +

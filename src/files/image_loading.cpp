@@ -1,6 +1,7 @@
 #include "files/image_loading.h"
 
 #include "cea/definitions.h"
+#include "core/base/extension_tags.h"
 #include "core/base/image_layout.h"
 #include "core/cells.h"
 #include "report/definitions.h"
@@ -9,8 +10,6 @@ namespace wb::files {
 
 namespace {
 
-/// Value of cell 0 of a CEA timing extension.
-constexpr int ceaTag = 2;
 /// Where the buffer holds the offset of the first detailed timing of the extension block.
 constexpr int timingOffsetPlace = blockSize + extensionCells::timingOffset;
 
@@ -53,7 +52,7 @@ void InitNewImage(Workbench& workbench) {
         screen.txtEdit(extensionCountCell).setText("01");
         FrmCeaExt& extension = workbench.frmCEA_EXT();
         fillCells(extension, "00");
-        extension.txtEdit(extensionCells::tag).setText("02");
+        extension.txtEdit(extensionCells::tag).setText(std::string(ceaTagText));
     } else {
         screen.txtEdit(extensionCountCell).setText("00");
     }

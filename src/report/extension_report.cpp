@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/base/extension_tags.h"
 #include "core/base/image_layout.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
@@ -28,8 +29,6 @@ constexpr int speakerEntryAfterLongAudio = 74;
 constexpr int vendorEntry = 73;
 constexpr int longVendorEntry = 76;
 
-constexpr std::string_view ceaTag = "02";
-constexpr std::string_view mapTag = "F0";
 constexpr std::string_view repeatedBlockTag = "00";
 
 /// A kind of extension block, by the text of its first cell.
@@ -41,8 +40,8 @@ struct BlockKind {
 };
 
 constexpr std::array<BlockKind, 8> blockKinds = {{
-    {ceaTag, "", "CEA EDID Timing Extension", "a CEA Timing Extension Block"},
-    {mapTag, "EDID Block Map Extension", "EDID Block Map Extension", "a Block Map Extension Block"},
+    {ceaTagText, "", "CEA EDID Timing Extension", "a CEA Timing Extension Block"},
+    {blockMapTagText, "EDID Block Map Extension", "EDID Block Map Extension", "a Block Map Extension Block"},
     {"01", "EDID LCD Timings Extension", "EDID LCD Timings Extension", "a LCD Timings Extension Block"},
     {"20", "EDID 2.0 Extension", "EDID 2.0 Extension", "an EDID 2.0 Extension Block"},
     {"30", "EDID Color Information Type 0 Extension", "EDID Color Information Type 0 Extension",
@@ -247,9 +246,9 @@ void BuildExtensionReport(Workbench& workbench) {
         if (tag == repeatedBlockTag) {
             return;
         }
-        if (tag == mapTag) {
+        if (tag == blockMapTagText) {
             putBlockMap(screen, lines);
-        } else if (tag == ceaTag) {
+        } else if (tag == ceaTagText) {
             putCeaHead(workbench, lines);
         }
         putDataBlocks(workbench, lines);
