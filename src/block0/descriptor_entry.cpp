@@ -1,6 +1,7 @@
 #include "block0/descriptor_entry.h"
 
 #include <array>
+#include <string>
 
 #include "block0/cell_writing.h"
 #include "block0/panel_basic.h"
@@ -27,7 +28,7 @@ void writeText(FrmEdid& screen) {
         if (i < text.size()) {
             cell.setText(ByteToHex2(static_cast<unsigned char>(text[i])));
         } else {
-            cell.setText(i == text.size() ? "0A" : "20");
+            cell.setText(std::string(i == text.size() ? report::lineFeedText : report::blankText));
         }
     }
 }

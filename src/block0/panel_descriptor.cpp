@@ -46,7 +46,7 @@ void DTa_Click(Workbench& workbench, int index) {
         } else {
             writeByte(screen, screen.CurrentBlockBase + report::descriptorTagCell, report::descriptorTag(index));
             if (index == report::StandardTimings) {
-                setCell(screen, report::descriptorTimingCells.last + 1, "0A");
+                setCell(screen, report::descriptorTimingCells.last + 1, report::lineFeedText);
             }
             setCell(screen, report::descriptorReservedCell, "00");
         }
@@ -65,9 +65,9 @@ void DTAGTF_Click(Workbench& workbench, int) {
                 setCell(screen, report::formulaReservedCell, "00");
             } else {
                 setCell(screen, report::formulaCell, report::noFormula);
-                setCell(screen, report::formulaReservedCell, "0A");
+                setCell(screen, report::formulaReservedCell, report::lineFeedText);
                 for (int i = report::curveCells.first; i <= report::curveCells.last; ++i) {
-                    setCell(screen, i, "20");
+                    setCell(screen, i, report::blankText);
                 }
             }
         }

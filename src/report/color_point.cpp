@@ -3,6 +3,7 @@
 #include "report/basic_display.h"
 #include "report/chromaticity.h"
 #include "report/color_point_layout.h"
+#include "report/descriptor_layout.h"
 
 namespace wb::report {
 
@@ -76,9 +77,9 @@ void convertColorPoint(const DescriptorBlock& block) {
     convertWhitePoint(block, 0);
     convertWhitePoint(block, 1);
     if (block.cellValue(whitePointCell(0)) != 0 && block.cellValue(whitePointCell(1)) != 0) {
-        block.cell(colorPointPadding.first).setText("0A");
+        block.cell(colorPointPadding.first).setText(std::string(lineFeedText));
         for (int i = colorPointPadding.first + 1; i <= colorPointPadding.last; ++i) {
-            block.cell(i).setText("20");
+            block.cell(i).setText(std::string(blankText));
         }
     }
     showSelectedValue(screen);

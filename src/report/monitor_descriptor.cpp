@@ -15,8 +15,6 @@ namespace wb::report {
 
 namespace {
 
-constexpr int lineFeed = 10;
-
 /// By family.
 constexpr std::array<std::string_view, descriptorFamilyCount> headings = {
     "Monitor Serial Number:", "ASCII Data:",  "Monitor Range Limits:",
