@@ -11,8 +11,6 @@ namespace wb::fields {
 namespace {
 
 constexpr int newestRevision = 4;
-constexpr std::size_t versionByte = 18;
-constexpr std::size_t inputByte = 20;
 
 constexpr Row headerRow = {
     .name = "header", .label = "Header", .parts = {{0}}, .kind = Kind::Bytes, .length = 8, .clause = "E-EDID 1.4, 3.3"};
@@ -23,8 +21,11 @@ constexpr std::array<Row, 2> versionRows = {{
 }};
 
 constexpr std::array<Row, 2> endRows = {{
-    {.name = "extension_count", .label = "Extension blocks", .parts = {{126}}, .clause = "E-EDID 1.4, 3.11"},
-    {.name = "checksum", .label = "Check sum", .parts = {{127}}, .clause = "E-EDID 1.4, 3.11"},
+    {.name = "extension_count",
+     .label = "Extension blocks",
+     .parts = {{extensionCountCell}},
+     .clause = "E-EDID 1.4, 3.11"},
+    {.name = "checksum", .label = "Check sum", .parts = {{checksumCell}}, .clause = "E-EDID 1.4, 3.11"},
 }};
 
 void readHeader(const Scope& base) {
@@ -38,7 +39,7 @@ void readHeader(const Scope& base) {
 }
 
 void readVersion(const Scope& base) {
-    const Scope version = base.inner(versionByte, "version", "E-EDID 1.4, 3.5");
+    const Scope version = base.inner(cells::version, "version", "E-EDID 1.4, 3.5");
     version.add(versionRows);
     const int number = version.byte(0);
     const int revision = version.byte(1);
@@ -74,17 +75,17 @@ void readSlots(const Scope& base, int revision) {
 } // namespace
 
 int revisionOf(const Image& image) {
-    return image.byte(versionByte) == 1 ? std::min<int>(image.byte(versionByte + 1), newestRevision) : newestRevision;
+    return image.byte(cells::version) == 1 ? std::min<int>(image.byte(cells::revision), newestRevision)
+                                           : newestRevision;
 }
 
 bool hasFeature(const Image& image, Feature feature) {
-    constexpr std::size_t featuresByte = 24;
-    return (image.byte(featuresByte) & static_cast<unsigned>(feature)) != 0;
+    return (image.byte(cells::features) & static_cast<unsigned>(feature)) != 0;
 }
 
 bool isDigital(const Image& image) {
     constexpr std::uint8_t digitalBit = 0x80;
-    return (image.byte(inputByte) & digitalBit) != 0;
+    return (image.byte(cells::videoInput) & digitalBit) != 0;
 }
 
 bool isTimingSlot(const Image& image, std::size_t number) {

@@ -59,7 +59,7 @@ constexpr std::array<Row, 2> dfpRows = {{
 }};
 
 void readInput(const Scope& base, int revision) {
-    const Scope input = base.inner(20, "basic", "E-EDID 1.4, 3.6.1");
+    const Scope input = base.inner(cells::videoInput, "basic", "E-EDID 1.4, 3.6.1");
     Summary& summary = base.summary();
     summary.digital = isDigital(base.reading().image);
     input.add(inputRow);
@@ -102,7 +102,7 @@ constexpr Row portraitRow = {
 
 /// 1.4 reads one of the bytes as the aspect ratio where the other is 0.
 void readSize(const Scope& base, int revision) {
-    const Scope size = base.inner(21, "basic", "E-EDID 1.4, 3.6.2");
+    const Scope size = base.inner(cells::maxHorizontalSize, "basic", "E-EDID 1.4, 3.6.2");
     const bool onlyWidth = size.byte(0) != 0 && size.byte(1) == 0;
     const bool onlyHeight = size.byte(0) == 0 && size.byte(1) != 0;
     size.add(onlyWidth && revision >= 4 ? landscapeRow : widthRow);
@@ -135,7 +135,8 @@ constexpr Row plainGammaRow = {.name = "gamma",
                                .clause = "E-EDID 1.3, 3.6.3"};
 
 void readGamma(const Scope& base, int revision) {
-    const Field& field = base.inner(23, "basic", "E-EDID 1.4, 3.6.3").add(revision >= 4 ? gammaRow : plainGammaRow);
+    const Field& field =
+        base.inner(cells::gamma, "basic", "E-EDID 1.4, 3.6.3").add(revision >= 4 ? gammaRow : plainGammaRow);
     if (const auto* gamma = std::get_if<double>(&field.value)) {
         base.summary().gamma = *gamma;
     }
@@ -184,7 +185,7 @@ constexpr std::array<Row, 2> gtfRows = {{
 }};
 
 void readFeatures(const Scope& base, int revision) {
-    const Scope features = base.inner(24, "basic", "E-EDID 1.4, 3.6.4");
+    const Scope features = base.inner(cells::features, "basic", "E-EDID 1.4, 3.6.4");
     features.add(powerRows);
     features.add(revision >= 4 && isDigital(base.reading().image) ? colorEncodingsRow : displayTypeRow);
     features.add(standardColorRow);

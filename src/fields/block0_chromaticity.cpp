@@ -108,13 +108,14 @@ void checkColors(const Scope& scope, const Points& points, bool claimsStandard) 
 /// By the display type, which digital inputs of 1.4 do not tell any more.
 bool isMonochromeDisplay(const Scope& base) {
     constexpr unsigned typeBits = 0x18;
-    return (base.byte(24) & typeBits) == 0 && !(revisionOf(base.reading().image) >= 4 && base.summary().digital);
+    return (base.byte(cells::features) & typeBits) == 0 &&
+           !(revisionOf(base.reading().image) >= 4 && base.summary().digital);
 }
 
 } // namespace
 
 void readChromaticity(const Scope& base) {
-    const Scope scope = base.inner(25, "chromaticity", "E-EDID 1.4, 3.7");
+    const Scope scope = base.inner(cells::chromaticity.first, "chromaticity", "E-EDID 1.4, 3.7");
     scope.add(coordinateRows);
     const bool isMonochrome = isMonochromeDisplay(base);
     if (allZero(scope.bytes(0, 10))) {

@@ -45,7 +45,7 @@ constexpr std::array<ManufacturersFlag, 7> manufacturersFlags = {{{"manufacturer
 } // namespace
 
 void readEstablishedTimings(const Scope& base) {
-    const Scope scope = base.inner(35, "established", "E-EDID 1.4, 3.8");
+    const Scope scope = base.inner(cells::establishedTimings1, "established", "E-EDID 1.4, 3.8");
     readModeFlags(scope, modes);
     for (std::size_t i = 0; i < manufacturersFlags.size(); ++i) {
         const auto& [name, label] = manufacturersFlags[i];

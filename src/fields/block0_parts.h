@@ -7,15 +7,15 @@
 /// part of the summary. `base` begins with block 0; `revision` is that of revisionOf.
 namespace wb::fields {
 
-inline constexpr std::size_t slotCount = 4;
+inline constexpr std::size_t slotCount = detailedBlockCount;
 /// First byte of slot `number` (0 to 3), which holds a detailed timing or a descriptor.
 constexpr std::size_t slotStart(std::size_t number) {
-    return 54 + 18 * number;
+    return detailedBlockBase(static_cast<int>(number));
 }
 
 /// Revision of version 1 by whose rules block 0 is read, 0 to 4. Later and unknown ones are read as 1.4.
 int revisionOf(const Image& image);
-/// Bits of the features, byte 24 (E-EDID 1.4, 3.6.4).
+/// Bits of the features (E-EDID 1.4, 3.6.4).
 enum class Feature : std::uint8_t {
     ContinuousFrequency = 0x01, ///< since 1.4; before that default GTF
     PreferredTiming = 0x02,

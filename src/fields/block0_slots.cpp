@@ -23,7 +23,7 @@ void checkTag(const Scope& slot, std::uint8_t tag, int revision) {
 }
 
 void checkUse(const Scope& slot, std::uint8_t tag) {
-    if (allZero(slot.bytes(0, 18))) {
+    if (allZero(slot.bytes(0, detailedTimingSize))) {
         slot.tell(Severity::Warning, "descriptor.all_zero", 0, "",
                   "The 18 bytes are all 0, which is a descriptor of the manufacturer's own without a content, so that "
                   "software may look for one; make it a dummy (tag 10h).");
@@ -63,8 +63,8 @@ void checkOrder(const Scope& base, std::size_t number) {
 }
 
 bool areSame(const Image& image, std::size_t a, std::size_t b) {
-    const auto first = image.bytes().subspan(slotStart(a), 18);
-    const auto second = image.bytes().subspan(slotStart(b), 18);
+    const auto first = image.bytes().subspan(slotStart(a), detailedTimingSize);
+    const auto second = image.bytes().subspan(slotStart(b), detailedTimingSize);
     return std::equal(first.begin(), first.end(), second.begin());
 }
 

@@ -33,7 +33,7 @@ void checkDuplicate(const Scope& timings, std::size_t index) {
 } // namespace
 
 void readStandardTimings(const Scope& base, int revision) {
-    const Scope timings = base.inner(38, "standard", "E-EDID 1.4, 3.9");
+    const Scope timings = base.inner(cells::standardTimings.first, "standard", "E-EDID 1.4, 3.9");
     for (std::size_t i = 0; i < timingCount; ++i) {
         readStandardTiming(timings.inner(standardTimingSize * i, numbered("", i + 1)), revision);
         checkDuplicate(timings, i);

@@ -130,7 +130,7 @@ void summarize(const Scope& vendor, std::uint32_t serialNumber, bool isModelYear
 } // namespace
 
 void readVendor(const Scope& base, int revision) {
-    const Scope vendor = base.inner(8, "vendor", "E-EDID 1.4, 3.4");
+    const Scope vendor = base.inner(cells::manufacturer.first, "vendor", "E-EDID 1.4, 3.4");
     const bool isModelYear = revision >= 4 && vendor.byte(8) == modelYearMark;
     vendor.add(productRows);
     vendor.add(isModelYear ? modelYearRows : manufactureRows);

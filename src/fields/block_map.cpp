@@ -7,7 +7,7 @@ namespace {
 constexpr std::size_t firstMap = 1;
 /// Its map tells of the blocks that the first has no room for.
 constexpr std::size_t secondMap = 128;
-constexpr std::size_t lastEntry = 126;
+constexpr std::size_t lastEntry = checksumCell - 1;
 
 void describeTag(const Scope&, std::uint64_t raw, Field& field) {
     field.text = raw == 0 ? "not used" : std::string(extensionName(static_cast<std::uint8_t>(raw)));

@@ -1,14 +1,14 @@
+#include "fields/block0_parts.h"
 #include "fields/cta_data_blocks.h"
-#include "fields/detailed_timing.h"
 #include "fields/extensions.h"
 
 namespace wb::fields {
 
 namespace {
 
-constexpr std::size_t firstByte = 4;
+constexpr std::size_t firstByte = extensionCells::dataBlocks;
 /// Of data blocks, timings and padding; the check sum stands there.
-constexpr std::size_t lastEnd = 127;
+constexpr std::size_t lastEnd = checksumCell;
 /// The first revision with flags, and with data blocks.
 constexpr unsigned flagRevision = 2;
 constexpr unsigned dataBlockRevision = 3;
@@ -65,20 +65,17 @@ std::size_t readTimings(const Scope& block, std::size_t offset, std::size_t nati
     return count;
 }
 
-/// Timings in block 0: those of its four descriptors that have a pixel clock.
 std::size_t timingsOfBlock0(const Image& image) {
-    constexpr std::size_t first = 54;
-    constexpr std::size_t end = 126;
     std::size_t count = 0;
-    for (std::size_t offset = first; offset < end; offset += detailedTimingSize) {
-        count += image.byte(offset) != 0 || image.byte(offset + 1) != 0 ? 1U : 0U;
+    for (std::size_t number = 0; number < slotCount; ++number) {
+        count += isTimingSlot(image, number) ? 1U : 0U;
     }
     return count;
 }
 
 void readBody(const Scope& block, const Scope& header, unsigned revision, unsigned offset) {
     CtaState state{.limit = "the timing offset"};
-    state.flags = revision >= flagRevision ? block.byte(3) : 0;
+    state.flags = revision >= flagRevision ? block.byte(extensionCells::support) : 0;
     if (offset > 0 && offset < firstByte) {
         block.addBytes(firstByte, lastEnd, "bytes", "Bytes without a place for timings");
         return;
@@ -104,8 +101,8 @@ void readBody(const Scope& block, const Scope& header, unsigned revision, unsign
 
 void readCta(const Scope& block) {
     const Scope header = block.inner(0, "header");
-    const unsigned revision = block.byte(1);
-    const unsigned offset = block.byte(2);
+    const unsigned revision = block.byte(extensionCells::version);
+    const unsigned offset = block.byte(extensionCells::timingOffset);
     header.add(headRows);
     if (revision >= flagRevision) {
         header.add(flagRows);

@@ -9,7 +9,7 @@ namespace {
 
 /// Content follows the flag, the tag and a byte that only range limits use.
 constexpr std::size_t contentStart = 5;
-constexpr std::size_t slotEnd = 18;
+constexpr std::size_t slotEnd = detailedBlockSize;
 
 void readUnused(const Scope& slot, int /*revision*/) {
     slot.addBytes(contentStart, slotEnd, "unused", "Unused", Kind::Reserved);

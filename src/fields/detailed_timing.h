@@ -7,7 +7,7 @@
 namespace wb::fields {
 
 /// Bytes of a detailed timing descriptor.
-inline constexpr std::size_t detailedTimingSize = 18;
+inline constexpr std::size_t detailedTimingSize = detailedBlockSize;
 
 /// The numbers of a detailed timing that checks and modes need; lengths in pixels and lines of a field.
 struct DetailedTiming {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t firstDataBlock = 5;
 /// Of the extension block, which ends with a check sum of its own.
-constexpr std::size_t blockEnd = 127;
+constexpr std::size_t blockEnd = checksumCell;
 constexpr std::size_t mostBytes = blockEnd - firstDataBlock - 1;
 constexpr std::size_t dataBlockHead = 3;
 constexpr unsigned firstVersion2 = 0x20;

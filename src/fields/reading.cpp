@@ -56,12 +56,12 @@ void tellOfBlocks(Reading& reading) {
     const std::size_t announced = announcedExtensions(reading.image);
     const Scope base(reading, 0, "base", "E-EDID 1.4, 3.11");
     if (there < announced) {
-        base.tell(Severity::Error, "image.blocks_missing", 126, "extension_count",
+        base.tell(Severity::Error, "image.blocks_missing", extensionCountCell, "extension_count",
                   "The image announces " + std::to_string(announced) + " extension blocks and " +
                       std::to_string(there) +
                       " are there, so that readers miss what the others tell; dump the whole image anew.");
     } else if (there > announced) {
-        base.tell(Severity::Warning, "image.blocks_extra", 126, "extension_count",
+        base.tell(Severity::Warning, "image.blocks_extra", extensionCountCell, "extension_count",
                   "The image announces " + std::to_string(announced) + " extension blocks and " +
                       std::to_string(there) +
                       " are there, so that readers pass over the last ones; correct the count or cut the image.");
@@ -74,7 +74,7 @@ void tellOfBlocks(Reading& reading) {
     for (const BlockInfo& block : reading.blocks) {
         if (block.sum == Sum::Wrong) {
             const Scope scope(reading, block.index * Image::blockSize, "", "E-EDID 1.4, 3.11");
-            scope.tell(Severity::Error, "block.checksum", 127, "",
+            scope.tell(Severity::Error, "block.checksum", checksumCell, "",
                        "The bytes of block " + std::to_string(block.index) +
                            " do not sum up to 0, so that careful readers refuse it; correct its last byte if the rest "
                            "is right.");

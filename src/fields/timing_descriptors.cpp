@@ -79,7 +79,7 @@ void readMoreEstablishedTimings(const Scope& slot, int /*revision*/) {
     readDescriptorVersion(slot, 10);
     readModeFlags(slot.inner(6, "established"), moreModes);
     slot.add(reservedAt(11, 3, 0, "reserved_11"));
-    slot.addBytes(12, 18, "reserved_12", "Reserved", Kind::Reserved);
+    slot.addBytes(12, detailedBlockSize, "reserved_12", "Reserved", Kind::Reserved);
 }
 
 } // namespace wb::fields

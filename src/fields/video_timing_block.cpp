@@ -11,7 +11,6 @@ namespace wb::fields {
 namespace {
 
 constexpr std::size_t firstTiming = 5;
-constexpr std::size_t checksumPlace = 127;
 
 /// VESA Video Timing Block Extension Data Standard, Release A.
 constexpr std::array<Row, 5> headRows = {{
@@ -49,7 +48,7 @@ constexpr std::array<List, 3> lists = {{
 /// As many elements as there is room for; returns where the next list begins.
 std::size_t readList(const Scope& block, const List& list, std::size_t start) {
     const std::size_t told = block.byte(list.countByte);
-    const std::size_t room = (checksumPlace - start) / list.size;
+    const std::size_t room = (checksumCell - start) / list.size;
     for (std::size_t i = 0; i < std::min(told, room); ++i) {
         list.read(block.inner(start + i * list.size, numbered(list.path, i + 1)));
     }
