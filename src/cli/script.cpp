@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -10,44 +11,79 @@
 #include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/output.h"
+#include "cli/script_files.h"
 #include "script/driver.h"
-#include "script/script_error.h"
 #include "shell/wiring.h"
 
 namespace wb::cli {
 
 namespace {
 
-int runScript(std::istream& script, const std::string& name) {
+struct Options {
+    std::string file = standardStream;
+    std::vector<std::string> settings;
+    bool strict = false;
+};
+
+script::Substitutions substitutionsOf(const std::vector<std::string>& settings) {
+    script::Substitutions substitutions;
+    for (const std::string& setting : settings) {
+        const std::size_t sign = setting.find('=');
+        const std::string name = setting.substr(0, sign);
+        if (sign == std::string::npos || !script::isSubstitutionName(name)) {
+            throw UsageError("--set takes NAME=VALUE with a name of letters, digits and underscores, not '" + setting +
+                             "'");
+        }
+        substitutions[name] = setting.substr(sign + 1);
+    }
+    return substitutions;
+}
+
+/// A person at a terminal goes on after an error, which counts in the exit status all the same.
+enum class AfterError { End, GoOn };
+
+int runScript(std::istream& script, const Options& options, AfterError afterError) {
     platform::headless::HeadlessPlatform platform;
     Workbench workbench(platform.services(), shell::wiring());
     script::ModelFrontEnd user(workbench);
-    script::Driver driver({workbench, platform, user, [](const std::string& line) {
-                               print(line + '\n');
-                               flushOutput(); // who writes a script while it runs waits for this
-                           }});
+    script::Driver driver({.workbench = workbench,
+                           .platform = platform,
+                           .frontEnd = user,
+                           .print =
+                               [](const std::string& line) {
+                                   print(line + '\n');
+                                   flushOutput(); // who writes a script while it runs waits for this
+                               },
+                           .substitutions = substitutionsOf(options.settings),
+                           .strict = options.strict},
+                          fileCommands());
+    int status = success;
+    const auto tell = [&](const script::ScriptError& error) {
+        complain(options.file + ':' + std::to_string(error.line()), error.what());
+        const bool mistake = error.kind() == script::ScriptError::Kind::Mistake;
+        status = std::max(status, mistake ? wrongUse : somethingFailed);
+    };
     try {
-        driver.run(script);
+        afterError == AfterError::GoOn ? driver.run(script, tell) : driver.run(script);
     } catch (const script::ScriptError& error) {
-        complain(name + ':' + std::to_string(error.line()), error.what());
-        return wrongUse;
+        tell(error);
     }
-    return success;
+    return status;
 }
 
-int run(const std::string& name) {
+int run(const Options& options) {
     try {
-        if (name == standardStream) {
-            const int status = runScript(std::cin, name);
+        if (options.file == standardStream) {
+            const int status = runScript(std::cin, options, isTerminal(stdin) ? AfterError::GoOn : AfterError::End);
             if (status == success && std::ferror(stdin) != 0) { // which std::cin reads, but takes for the end
                 throw CliError(std::strerror(errno));
             }
             return status;
         }
-        std::istringstream script(readInput(name).content);
-        return runScript(script, name);
+        std::istringstream script(readInput(options.file).content);
+        return runScript(script, options, AfterError::End);
     } catch (const CliError& error) {
-        complain(name, error.what());
+        complain(options.file, error.what());
         return somethingFailed;
     }
 }
@@ -55,9 +91,14 @@ int run(const std::string& name) {
 } // namespace
 
 Run addScript(CLI::App& command) {
-    const auto file = std::make_shared<std::string>(standardStream);
-    command.add_option("FILE", *file, "The script; - (the default) is standard input")->type_name("");
-    return [file] { return run(*file); };
+    const auto options = std::make_shared<Options>();
+    command.add_option("FILE", options->file, "The script; - (the default) is standard input")->type_name("");
+    command.add_flag("--strict", options->strict, "Fail where an action is refused or a box has no queued answer")
+        ->disable_flag_override();
+    command.add_option("--set", options->settings, "Put VALUE where the script says $NAME; may be given several times")
+        ->type_name("NAME=VALUE")
+        ->allow_extra_args(false);
+    return [options] { return run(*options); };
 }
 
 } // namespace wb::cli

@@ -21,17 +21,23 @@ void showPointer(Workbench& workbench, platform::Pointer pointer) {
     workbench.platform.eventLoop.processPending();
 }
 
+/// Hands over the lines of each block when they are built.
+template <class Take>
+void buildBlocks(Workbench& workbench, const Take& take) {
+    report::BuildBlock0Report(workbench);
+    take(dataFileText(workbench.ReportBlock0Lines));
+    if (hasExtensionByDecimalText(workbench)) {
+        report::BuildExtensionReport(workbench);
+        take(dataFileText(workbench.ReportExtLines));
+    }
+}
+
 void writeImage(Workbench& workbench) {
     if (fileExists(workbench.CurrentFileName)) {
         deleteFile(workbench.CurrentFileName);
     }
     Writer file(workbench.CurrentFileName);
-    report::BuildBlock0Report(workbench);
-    file.write(dataFileText(workbench.ReportBlock0Lines));
-    if (hasExtensionByDecimalText(workbench)) {
-        report::BuildExtensionReport(workbench);
-        file.write(dataFileText(workbench.ReportExtLines));
-    }
+    buildBlocks(workbench, [&](const std::string& text) { file.write(text); });
     file.close();
 }
 
@@ -81,6 +87,15 @@ void FileSave(Workbench& workbench) {
         }
         tellWritten(workbench);
     });
+}
+
+std::string dataFileContent(Workbench& workbench) {
+    std::string content;
+    for (int pass = 0; pass < savePasses; ++pass) {
+        content.clear();
+        buildBlocks(workbench, [&](const std::string& text) { content += text; });
+    }
+    return content;
 }
 
 void FileSaveAs(Workbench& workbench) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "core/workbench.h"
 
 /// The save commands: the open image as a data file.
@@ -8,6 +10,8 @@ namespace wb::files {
 /// Writes the open image to CurrentFileName, asking for a name where there is none. Clears EDIDModified when the file
 /// is whole.
 void FileSave(Workbench& workbench);
+/// What FileSave would leave in the file of the open image.
+std::string dataFileContent(Workbench& workbench);
 /// Asks for a name, makes it the image's and saves. After a No at the replace question nothing is written, but the new
 /// name stays, and the next save replaces that file.
 void FileSaveAs(Workbench& workbench);

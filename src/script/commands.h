@@ -17,12 +17,14 @@ void type(Session& session, const Arguments& arguments);
 void enter(Session& session, const Arguments& arguments);
 void keyup(Session& session, const Arguments& arguments);
 void pick(Session& session, const Arguments& arguments);
+void modify(Session& session, const Arguments& arguments);
 void close(Session& session, const Arguments& arguments);
 void drop(Session& session, const Arguments& arguments);
 
 // What is read from the program and written into it, past the user.
 void poke(Session& session, const Arguments& arguments);
 void get(Session& session, const Arguments& arguments);
+void expect(Session& session, const Arguments& arguments);
 void var(Session& session, const Arguments& arguments);
 void let(Session& session, const Arguments& arguments);
 void cells(Session& session, const Arguments& arguments);

@@ -32,16 +32,20 @@ void poke(Session& session, const Arguments& arguments) {
 }
 
 void get(Session& session, const Arguments& arguments) {
-    const std::vector<NamePart> parts = splitName(arguments[0].text);
-    if (parts.size() < 2 || parts.size() > 3 || parts[0].index != Control::noIndex) {
-        throw ScriptError("'" + arguments[0].text + "' does not name a property");
+    for (const PropertyValue& property : propertiesNamed(session.workbench, arguments[0].text)) {
+        printValue(session, property.name, property.value);
     }
-    const ScreenId screen = screenNamed(parts[0].name);
-    if (parts.size() == 2) {
-        printProperty(session, session.workbench.touch(screen), parts[1]);
-    } else {
-        const ControlName name = controlNamed(session.workbench, screen, parts[1]);
-        printProperty(session, name.touch(session.workbench), parts[2]);
+}
+
+void expect(Session& session, const Arguments& arguments) {
+    const std::vector<PropertyValue> properties = propertiesNamed(session.workbench, arguments[0].text);
+    if (properties.size() != 1) {
+        throw ScriptError("'" + arguments[0].text + "' has " + std::to_string(properties.size()) + " values, not one");
+    }
+    const auto& [name, value] = properties.front();
+    const std::string expected = value.starts_with('"') ? quoted(arguments[1].text) : arguments[1].text;
+    if (value != expected) {
+        throw ScriptError("expected " + name + " = " + expected + ", but it is " + value, ScriptError::Kind::Failure);
     }
 }
 

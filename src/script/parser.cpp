@@ -1,5 +1,7 @@
 #include "script/parser.h"
 
+#include <algorithm>
+
 #include "core/base/digits.h"
 #include "script/script_error.h"
 
@@ -11,10 +13,19 @@ bool isBlank(char c) {
     return c == ' ' || c == '\t';
 }
 
+bool isLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
+}
+
+bool isNameCharacter(char c) {
+    return isLetter(c) || (c >= '0' && c <= '9');
+}
+
 /// Walks over one line and takes its words.
 class LineReader {
 public:
-    explicit LineReader(std::string_view line) : line_(line) {}
+    LineReader(std::string_view line, const Substitutions& substitutions)
+        : line_(line), substitutions_(substitutions) {}
 
     bool atEnd() {
         while (place_ < line_.size() && isBlank(line_[place_])) {
@@ -28,26 +39,40 @@ public:
 
 private:
     std::string bareWord() {
-        const std::size_t start = place_;
-        while (place_ < line_.size() && !isBlank(line_[place_])) {
+        std::string text;
+        for (; place_ < line_.size() && !isBlank(line_[place_]); ++place_) {
             if (line_[place_] == '"') {
                 throw ScriptError("a quote inside an argument that does not begin with one");
             }
-            ++place_;
+            text += plain();
         }
-        return std::string(line_.substr(start, place_ - start));
+        return text;
     }
 
     Argument quotedWord() {
         Argument argument{{}, true};
         for (++place_; next() != '"'; ++place_) {
-            argument.text += line_[place_] == '\\' ? escaped() : line_[place_];
+            argument.text += line_[place_] == '\\' ? std::string(1, escaped()) : plain();
         }
         ++place_;
         if (place_ < line_.size() && !isBlank(line_[place_])) {
             throw ScriptError("no blank after a quoted argument");
         }
         return argument;
+    }
+
+    /// The character that stands here, or the text that it calls for; stops at the last character of its name.
+    std::string plain() {
+        if (line_[place_] == '$') {
+            const auto* const start = line_.begin() + static_cast<std::ptrdiff_t>(place_) + 1;
+            const auto* const end = std::find_if_not(start, line_.end(), isNameCharacter);
+            const auto found = substitutions_.find(std::string_view(start, static_cast<std::size_t>(end - start)));
+            if (found != substitutions_.end()) {
+                place_ += found->first.size();
+                return found->second;
+            }
+        }
+        return std::string(1, line_[place_]);
     }
 
     /// The character of the escape that begins here; stops at its last character.
@@ -91,13 +116,18 @@ private:
     }
 
     std::string_view line_;
+    const Substitutions& substitutions_;
     std::size_t place_ = 0;
 };
 
 } // namespace
 
-std::optional<Command> parseLine(std::string_view line) {
-    LineReader reader(line);
+bool isSubstitutionName(std::string_view text) {
+    return !text.empty() && isLetter(text.front()) && std::all_of(text.begin(), text.end(), isNameCharacter);
+}
+
+std::optional<Command> parseLine(std::string_view line, const Substitutions& substitutions) {
+    LineReader reader(line, substitutions);
     if (reader.atEnd() || reader.peek() == '#') {
         return std::nullopt;
     }

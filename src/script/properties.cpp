@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/base/text.h"
+#include "script/control_names.h"
 #include "script/script_error.h"
 
 namespace wb::script {
@@ -51,48 +52,58 @@ constexpr std::array<Property, 17> properties = {{
 }};
 constexpr std::string_view listName = "List";
 
-void printRows(const Session& session, const Control& control, int only) {
+std::vector<PropertyValue> rowsOf(const Control& control, int only) {
     const int count = static_cast<int>(control.rows().size());
     if (only >= count) {
         throw ScriptError("'" + control.fullName() + "' has no row " + std::to_string(only));
     }
     const int first = only == Control::noIndex ? 0 : only;
     const int end = only == Control::noIndex ? count : only + 1;
+    std::vector<PropertyValue> rows;
     for (int row = first; row < end; ++row) {
-        printValue(session, control.fullName() + ".List(" + std::to_string(row) + ")",
-                   quoted(control.rows()[static_cast<std::size_t>(row)]));
+        rows.push_back({control.fullName() + ".List(" + std::to_string(row) + ")",
+                        quoted(control.rows()[static_cast<std::size_t>(row)])});
     }
+    return rows;
 }
 
 [[noreturn]] void failUnknown(const NamePart& property) {
     throw ScriptError("unknown property '" + property.name + "'");
 }
 
-} // namespace
-
-void printProperty(const Session& session, const Control& control, const NamePart& property) {
+std::vector<PropertyValue> propertiesOf(const Control& control, const NamePart& property) {
     if (property.name == listName) {
-        printRows(session, control, property.index);
-        return;
+        return rowsOf(control, property.index);
     }
     for (const Property& known : properties) {
         if (known.name == property.name && property.index == Control::noIndex) {
-            printValue(session, control.fullName() + '.' + property.name, known.read(control));
-            return;
+            return {{control.fullName() + '.' + property.name, known.read(control)}};
         }
     }
     failUnknown(property);
 }
 
-void printProperty(const Session& session, const Screen& screen, const NamePart& property) {
+std::vector<PropertyValue> propertiesOf(const Screen& screen, const NamePart& property) {
     const std::string name = std::string(screen.name()) + '.' + property.name;
     if (property.index == Control::noIndex && property.name == "Caption") {
-        printValue(session, name, quoted(screen.caption()));
-    } else if (property.index == Control::noIndex && property.name == "Visible") {
-        printValue(session, name, truthText(screen.shown()));
-    } else {
-        failUnknown(property);
+        return {{name, quoted(screen.caption())}};
     }
+    if (property.index == Control::noIndex && property.name == "Visible") {
+        return {{name, truthText(screen.shown())}};
+    }
+    failUnknown(property);
+}
+
+} // namespace
+
+std::vector<PropertyValue> propertiesNamed(Workbench& workbench, std::string_view name) {
+    const std::vector<NamePart> parts = splitName(name);
+    if (parts.size() < 2 || parts.size() > 3 || parts[0].index != Control::noIndex) {
+        throw ScriptError("'" + std::string(name) + "' does not name a property");
+    }
+    const ScreenId screen = screenNamed(parts[0].name);
+    return parts.size() == 2 ? propertiesOf(workbench.touch(screen), parts[1])
+                             : propertiesOf(controlNamed(workbench, screen, parts[1]).touch(workbench), parts[2]);
 }
 
 } // namespace wb::script

@@ -1,15 +1,22 @@
 #pragma once
 
-#include "script/control_names.h"
-#include "script/session.h"
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/workbench.h"
 
 namespace wb::script {
 
-/// Prints a property of a control as "NAME.PROPERTY = VALUE"; the rows of a combo are printed one a line, or only the
-/// one whose index is given. An unknown property is a ScriptError.
-void printProperty(const Session& session, const Control& control, const NamePart& property);
+/// A property as scripts print it.
+struct PropertyValue {
+    std::string name;  ///< such as "frmEDID.txtEdit(8).Text"
+    std::string value; ///< a text in quotes
+};
 
-/// The same for a screen's own property: its caption, or whether it is shown.
-void printProperty(const Session& session, const Screen& screen, const NamePart& property);
+/// The property of a name "SCREEN.CONTROL(i).PROPERTY", or "SCREEN.PROPERTY" for a screen's caption and whether it is
+/// shown; the rows of a combo without an index are one value each. Touches the screen. An unknown name is a
+/// ScriptError.
+std::vector<PropertyValue> propertiesNamed(Workbench& workbench, std::string_view name);
 
 } // namespace wb::script

@@ -7,6 +7,7 @@
 #include "core/workbench.h"
 #include "platform/headless/headless_platform.h"
 #include "script/front_end.h"
+#include "script/parser.h"
 
 namespace wb::script {
 
@@ -17,6 +18,10 @@ struct Session {
     FrontEnd& frontEnd;
     /// Takes each line of the trace, without its line end.
     std::function<void(const std::string& line)> print;
+    /// What `$NAME` stands for.
+    Substitutions substitutions{};
+    /// Whether a refusal, and a box that has no queued answer, is a failure.
+    bool strict = false;
 };
 
 /// Prints "NAME = VALUE".

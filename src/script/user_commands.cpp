@@ -9,6 +9,9 @@ namespace {
 
 void refuse(const Session& session, const std::string& name) {
     session.print("[refused] " + name);
+    if (session.strict) {
+        throw ScriptError("refused: " + name, ScriptError::Kind::Failure);
+    }
 }
 
 /// Carries out an action on a control, if that exists.
@@ -39,6 +42,17 @@ std::string keyTarget(const Workbench& workbench) {
 void menu(Session& session, const Arguments& arguments) {
     act(session, menuEntryNamed(session.workbench, arguments[0].text),
         [&](Control& entry) { return session.frontEnd.chooseMenu(entry); });
+}
+
+void modify(Session& session, const Arguments& arguments) {
+    const std::string& state = arguments[0].text;
+    if (state != "on" && state != "off") {
+        throw ScriptError("editing is 'on' or 'off', not '" + state + "'");
+    }
+    if ((session.workbench.ModifyEDIDOn != flagFalse) != (state == "on")) {
+        act(session, controlNamed(session.workbench, "frmMain.Command2"),
+            [&](Control& button) { return session.frontEnd.click(button); });
+    }
 }
 
 void toolbar(Session& session, const Arguments& arguments) {

@@ -1,7 +1,11 @@
+#include <gmock/gmock.h>
+
 #include "cli/edidwb.h"
 
 namespace wb::test {
 namespace {
+
+using testing::HasSubstr;
 
 using ScriptTest = Edidwb;
 
@@ -50,6 +54,117 @@ TEST_F(ScriptTest, WhoWritesAScriptWhileItRunsGetsEachAnswer) {
         "echo windows >&${COPROC[1]}\nread -t 20 -u ${COPROC[0]} second\n"
         "echo \"$first, $second\"");
     EXPECT_EQ(outcome.output, "focus = none, windows = none\n");
+}
+
+TEST_F(ScriptTest, AFailedExpectationEndsTheScriptWithStatus1) {
+    const std::string start = "open $IN\nexpect frmEDID.txtEdit(0).Text 00\nexpect frmEDID.Visible True\n";
+    write("a.script", start + "expect frmEDID.txtEdit(1).Text \"FE\"\nfocused\n");
+    const Outcome outcome = shell("edidwb script --set IN=$SAMPLES/zarqo-z40.bin a.script");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "edidwb: a.script:4: expected frmEDID.txtEdit(1).Text = \"FE\", but it is \"FF\"\n");
+}
+
+TEST_F(ScriptTest, StrictFailsAtARefusalAndAtABoxWithoutAnAnswer) {
+    write("refused", "type a\nfocused\n");
+    EXPECT_EQ(shell("edidwb script refused").status, 0);
+    EXPECT_EQ(shell("edidwb script --strict refused").status, 1);
+    EXPECT_EQ(shell("edidwb script --strict refused").output, "[refused] none\n");
+    EXPECT_EQ(shell("edidwb script --strict refused").errors, "edidwb: refused:1: refused: none\n");
+    write("box", "menu mnuFileNew\nfocused\n");
+    EXPECT_EQ(shell("edidwb script box").status, 0);
+    const Outcome outcome = shell("edidwb script --strict box");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "[box] \"CEA 861 EDID Timing Extension?\" YesNo -> No\n");
+    EXPECT_EQ(outcome.errors, "edidwb: box:1: a box without an answer: \"CEA 861 EDID Timing Extension?\"\n");
+    write("wrong-answer", "answer Cancel\nmenu mnuFileNew\n");
+    EXPECT_EQ(shell("edidwb script --strict wrong-answer").status, 1);
+    write("answered", "answer No\nmenu mnuFileNew\n");
+    EXPECT_EQ(shell("edidwb script --strict answered").status, 0);
+}
+
+TEST_F(ScriptTest, SettingsStandForTheirNames) {
+    write("a.script", "call PadLeft $TEXT 12\ncall PadLeft \"$TEXT$OTHER\" 1\n");
+    const Outcome outcome = shell("edidwb script --set TEXT=x --set 'TEXT=a \"b\\' a.script");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "PadLeft = \"       a \\\"b\\\\\"\nPadLeft = \"a \\\"b\\\\$OTHER\"\n");
+    for (const std::string wrong : {"NAME", "=x", "1A=x", "A-B=x"}) {
+        EXPECT_EQ(shell("edidwb script --set " + wrong + " a.script").status, 2) << wrong;
+    }
+}
+
+TEST_F(ScriptTest, OpensAndSavesEveryForm) {
+    const std::string image = sample("zarqo-z40.bin");
+    write("save", "open \"$IN\"\nsave image.$FORM\nsave other $FORM\n");
+    for (const std::string form : {"bin", "hex", "c", "base64", "reg", "inf", "xxd"}) {
+        const Outcome outcome = shell("edidwb script --set IN=$SAMPLES/zarqo-z40.bin --set FORM=" + form + " save");
+        EXPECT_EQ(outcome.status, 0) << form << outcome.errors;
+        EXPECT_EQ(outcome.output + outcome.errors, "") << form;
+        EXPECT_EQ(read("other"), read("image." + form)) << form;
+        write("back", "open image." + form + "\nsave back.BIN\n");
+        EXPECT_EQ(shell("edidwb script back").errors, "") << form;
+        EXPECT_EQ(read("back.BIN"), image) << form;
+    }
+}
+
+TEST_F(ScriptTest, SavesADataFileAsSaveDoes) {
+    write("a.script", "open $IN\nsave new.DAT\nvar CurrentFileName\nvar EDIDModified\nopen new.DAT\nsave again.bin\n");
+    const Outcome outcome = shell("edidwb script --set IN=$SAMPLES/zarqo-z40.bin a.script");
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.output, "CurrentFileName = \"new.DAT\"\nEDIDModified = 0\n");
+    EXPECT_EQ(read("new.DAT"), shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin -").output);
+    EXPECT_EQ(read("again.bin"), shell("edidwb convert --to bin new.DAT -").output);
+    EXPECT_EQ(read("again.bin").size(), sample("zarqo-z40.bin").size());
+}
+
+TEST_F(ScriptTest, AFileThatCannotBeOpenedOrSavedIsAFailure) {
+    std::string announced = sample("zarqo-z40.bin");
+    announced[126] = 2;
+    write("three.bin", announced + std::string(128, '\0'));
+    write("none", "no image");
+    write("old.bin", "old");
+    struct Case {
+        const char* script;
+        int status;
+        const char* errors;
+    };
+    for (const Case& c :
+         {Case{"open missing", 1, "1: missing: No such file or directory"},
+          Case{"save old.bin", 1, "1: old.bin: no image is open"},
+          Case{"save old.dat", 1, "1: old.dat: no image is open"},
+          Case{"save old", 2, "1: in which form? One of dat, bin, hex, c, base64, reg, inf, xxd"},
+          Case{"save old.bin report", 2,
+               "1: unknown form 'report', not one of dat, bin, hex, c, base64, reg, inf, xxd"},
+          Case{"open three.bin\nsave old.bin", 1, "2: old.bin: announces 3 blocks, and the program holds 2"},
+          Case{"answer No\nmenu mnuFileNew\npoke frmEDID.txtEdit(5) \"G0\"\nsave old.bin", 1,
+               "4: old.bin: cell 5 is no byte: \"G0\""},
+          Case{"answer No\nmenu mnuFileNew\nsave no/such/x.bin", 1, "3: no/such/x.bin: No such file or directory"}}) {
+        const Outcome outcome = shell("printf '" + std::string(c.script) + "\n' | edidwb script");
+        EXPECT_EQ(outcome.status, c.status) << c.script;
+        EXPECT_TRUE(outcome.errors.ends_with("edidwb: -:" + std::string(c.errors) + '\n')) << outcome.errors;
+        EXPECT_EQ(read("old.bin"), "old") << c.script;
+    }
+    EXPECT_EQ(shell("echo open three.bin | edidwb script").errors, "edidwb: three.bin: block 2 left out\n");
+    EXPECT_EQ(shell("echo open none | edidwb script").status, 1);
+}
+
+TEST_F(ScriptTest, HelpListsTheCommands) {
+    const Outcome outcome = shell("echo help | edidwb script");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.output, HasSubstr("click S.C(i)                 clicks\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("save \"FILE\" [FORM]           writes the image; "));
+}
+
+TEST_F(ScriptTest, AMistakeDoesNotEndASessionAtATerminal) {
+    if (shell("script --version").status != 0) {
+        GTEST_SKIP() << "there is no program 'script' that makes a terminal";
+    }
+    const Outcome outcome = shell(
+        "export -f edidwb; printf 'frob\nwindows\n\004' | SHELL=$(command -v bash) script -qec 'edidwb script' "
+        "/dev/null");
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.output, HasSubstr("edidwb: -:1: unknown command 'frob'"));
+    EXPECT_THAT(outcome.output, HasSubstr("windows = none"));
 }
 
 } // namespace

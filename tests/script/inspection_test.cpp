@@ -13,6 +13,19 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
+TEST(Inspection, ExpectPrintsNothingWhereItHolds) {
+    ScriptRunner runner;
+    runner.run("menu mnuFileNew\n");
+    EXPECT_EQ(runner.run("expect frmEDID.txtEdit(1).Text \"FF\"\nexpect frmEDID.txtEdit(1).Visible True\n"
+                         "expect frmCEA_EXT.NativeCBox.ListCount 16\n"),
+              "");
+    EXPECT_EQ(runner.run("\nexpect frmEDID.txtEdit(1).Text ff"),
+              "2: expected frmEDID.txtEdit(1).Text = \"ff\", but it is \"FF\"\n");
+    EXPECT_EQ(runner.run("expect frmCEA_EXT.NativeCBox.List x"),
+              "1: 'frmCEA_EXT.NativeCBox.List' has 16 values, not one\n");
+    EXPECT_EQ(runner.run("expect frmEDID.txtEdit(1).Frob x"), "1: unknown property 'Frob'\n");
+}
+
 TEST(Inspection, ReadsProperties) {
     ScriptRunner program;
     program.run("menu mnuFileNew\nclick frmMain.Command2\nfocus frmEDID.txtEdit(20)\n");

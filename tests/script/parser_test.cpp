@@ -57,6 +57,22 @@ TEST(Parser, BareBackslashesStandForThemselves) {
     EXPECT_EQ(parseLine(R"(dialog C:\new\x.DAT)")->arguments[0].text, R"(C:\new\x.DAT)");
 }
 
+TEST(Parser, PutsInOnlyTheTextsThatAreThere) {
+    const Substitutions texts = {{"A", "a \"b\\n"}, {"AB", "cancel"}, {"EMPTY", ""}};
+    const auto command = parseLine(R"($AB x$A.y "$A\x24A" $ABC $B "$" $ $AB "$EMPTY" $EMPTY)", texts);
+    ASSERT_TRUE(command);
+    EXPECT_EQ(command->name, "cancel");
+    std::vector<std::string> arguments;
+    for (const Argument& argument : command->arguments) {
+        arguments.push_back(argument.text);
+    }
+    EXPECT_EQ(arguments,
+              (std::vector<std::string>{"xa \"b\\n.y", "a \"b\\n$A", "$ABC", "$B", "$", "$", "cancel", "", ""}));
+    EXPECT_FALSE(command->arguments[6].quoted);
+    EXPECT_EQ(parseLine("type $A")->arguments[0].text, "$A");
+    EXPECT_FALSE(parseLine("# $A", texts));
+}
+
 TEST(Parser, TellsWhatIsWrong) {
     struct Case {
         const char* line;

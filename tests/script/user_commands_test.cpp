@@ -31,6 +31,20 @@ TEST(UserCommands, ActionsOutOfReachAreRefused) {
     }
 }
 
+TEST(UserCommands, ModifySwitchesEditingOnlyWhereItIsOtherwise) {
+    ScriptRunner runner;
+    const std::string ask = "get frmMain.Command2.Caption\nfocused\n";
+    EXPECT_EQ(runner.run(std::string(newImage) + "focus frmEDID.txtEdit(9)\nmodify off\n" + ask),
+              "[box] \"CEA 861 EDID Timing Extension?\" YesNo -> No\n"
+              "frmMain.Command2.Caption = \"Modify EDID (OFF)\"\nfocus = frmEDID.txtEdit(9)\n");
+    EXPECT_EQ(runner.run("modify on\n" + ask),
+              "frmMain.Command2.Caption = \"Modify EDID (ON)\"\nfocus = frmEDID.txtEdit(0)\n");
+    EXPECT_EQ(runner.run("focus frmEDID.txtEdit(9)\nmodify on\n" + ask),
+              "frmMain.Command2.Caption = \"Modify EDID (ON)\"\nfocus = frmEDID.txtEdit(9)\n");
+    EXPECT_EQ(runner.run("menu mnuFileExit\nmodify off\n"), "[refused] frmMain.Command2\n");
+    EXPECT_EQ(runScript("modify maybe\n"), "1: editing is 'on' or 'off', not 'maybe'\n");
+}
+
 TEST(UserCommands, AScreenThatExistsButIsNotShownIsOutOfReach) {
     EXPECT_EQ(runScript("get frmCEA_EXT.txtEdit(0).Text\nclick frmCEA_EXT.txtEdit(0)\nclose frmCEA_EXT\n"),
               "frmCEA_EXT.txtEdit(0).Text = \"02\"\n[refused] frmCEA_EXT.txtEdit(0)\n[refused] frmCEA_EXT\n");

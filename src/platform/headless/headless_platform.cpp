@@ -48,8 +48,10 @@ void HeadlessPlatform::line(const std::string& text) const {
 
 Answer HeadlessPlatform::show(const MessageBox& box) {
     Answer answer = box.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    bool answered = false;
     if (!answers_.empty()) {
-        if (offers(box.buttons, answers_.front())) {
+        answered = offers(box.buttons, answers_.front());
+        if (answered) {
             answer = answers_.front();
         }
         answers_.pop_front();
@@ -62,6 +64,9 @@ Answer HeadlessPlatform::show(const MessageBox& box) {
     line(shown + std::string(answerName(answer)));
     if (onBox) {
         onBox(box.text);
+    }
+    if (onUnansweredBox && !answered) {
+        onUnansweredBox(box.text);
     }
     return answer;
 }

@@ -35,6 +35,8 @@ public:
     std::function<void(const std::string& line)> onLine;
     /// Receives the text of each message box.
     std::function<void(const std::string& text)> onBox;
+    /// Receives the text of each message box for which no answer was queued, or one that it does not offer.
+    std::function<void(const std::string& text)> onUnansweredBox;
 
     /// Queues an answer for the next box. A box takes OK, or No where it asks Yes or No, when the queue is empty or the
     /// queued answer is none of those it offers (the answer is used up).
