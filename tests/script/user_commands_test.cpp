@@ -41,7 +41,7 @@ TEST(UserCommands, ModifySwitchesEditingOnlyWhereItIsOtherwise) {
               "frmMain.Command2.Caption = \"Modify EDID (ON)\"\nfocus = frmEDID.txtEdit(0)\n");
     EXPECT_EQ(runner.run("focus frmEDID.txtEdit(9)\nmodify on\n" + ask),
               "frmMain.Command2.Caption = \"Modify EDID (ON)\"\nfocus = frmEDID.txtEdit(9)\n");
-    EXPECT_EQ(runner.run("menu mnuFileExit\nmodify off\n"), "[refused] frmMain.Command2\n");
+    EXPECT_EQ(runner.run("let EDIDModified 0\nmenu mnuFileExit\nmodify off\n"), "[refused] frmMain.Command2\n");
     EXPECT_EQ(runScript("modify maybe\n"), "1: editing is 'on' or 'off', not 'maybe'\n");
 }
 
