@@ -97,7 +97,8 @@ int run(const Options& options) {
     const bool good = forEachFile(options.files, [&](const std::string& name) {
         for (const Reading& reading : readingsOf(name, options.images)) {
             if (format == OutputFormat::Json) {
-                print(fields::toJson(reading) + '\n');
+                print(fields::toJson(reading));
+                print("\n");
             } else if (format == OutputFormat::Tsv) {
                 printRows(reading);
             } else {

@@ -239,7 +239,7 @@ std::string toJson(const Reading& reading) {
     json.endArray();
     writeFindings(json, reading.findings);
     json.endObject();
-    return json.text();
+    return std::move(json).text();
 }
 
 std::string findingsToJson(const Reading& reading, std::span<const Finding> findings) {
@@ -247,7 +247,7 @@ std::string findingsToJson(const Reading& reading, std::span<const Finding> find
     writeHead(json, reading);
     writeFindings(json, findings);
     json.endObject();
-    return json.text();
+    return std::move(json).text();
 }
 
 std::string summaryToJson(const Reading& reading) {
@@ -263,7 +263,7 @@ std::string summaryToJson(const Reading& reading) {
     json.endObject();
     writeSummary(json, reading.summary);
     json.endObject();
-    return json.text();
+    return std::move(json).text();
 }
 
 } // namespace wb::fields

@@ -41,13 +41,22 @@ void appendEscape(std::string& text, char control) {
     }
 }
 
-/// ASCII that stands for itself.
-bool isPlain(char c) {
-    return c >= ' ' && c < '\x7F' && c != '"' && c != '\\';
-}
+/// ASCII that stands for itself, by its code: nearly every character of a text, so that a look into a table is worth
+/// it.
+constexpr std::array<bool, 256> plain = [] {
+    std::array<bool, 256> result{};
+    for (std::size_t code = ' '; code < 0x7F; ++code) {
+        result[code] = code != '"' && code != '\\';
+    }
+    return result;
+}();
 
 std::size_t plainLength(std::string_view text) {
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
+    std::size_t length = 0;
+    while (length < text.size() && plain[static_cast<unsigned char>(text[length])]) {
+        ++length;
+    }
+    return length;
 }
 
 } // namespace
@@ -67,8 +76,9 @@ JsonWriter& JsonWriter::end(char bracket) {
 
 JsonWriter& JsonWriter::key(std::string_view name) {
     separate();
-    writeText(name);
-    text_ += ':';
+    text_ += '"';
+    text_ += name;
+    text_ += "\":";
     owesComma_ = false;
     return *this;
 }
@@ -120,9 +130,9 @@ void JsonWriter::separate() {
 void JsonWriter::writeText(std::string_view text) {
     text_ += '"';
     while (!text.empty()) {
-        const std::size_t plain = plainLength(text);
-        text_ += text.substr(0, plain);
-        text.remove_prefix(plain);
+        const std::size_t run = plainLength(text);
+        text_ += text.substr(0, run);
+        text.remove_prefix(run);
         if (text.empty()) {
             break;
         }

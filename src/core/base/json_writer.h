@@ -4,18 +4,19 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace wb {
 
-/// Writes one JSON text (RFC 8259) on one line. Keys and texts are in UTF-8; what is no UTF-8 in them is written as
-/// U+FFFD. Objects and arrays are begun and ended in pairs; commas come by themselves.
+/// Writes one JSON text (RFC 8259) on one line. Texts are in UTF-8; what is no UTF-8 in them is written as U+FFFD.
+/// Objects and arrays are begun and ended in pairs; commas come by themselves.
 class JsonWriter {
 public:
     JsonWriter& beginObject() { return begin('{'); }
     JsonWriter& endObject() { return end('}'); }
     JsonWriter& beginArray() { return begin('['); }
     JsonWriter& endArray() { return end(']'); }
-    /// The name of the member whose value comes next.
+    /// The name of the member whose value comes next, in characters that stand for themselves.
     JsonWriter& key(std::string_view name);
 
     JsonWriter& value(std::string_view text);
@@ -37,7 +38,8 @@ public:
         return key(name).value(content);
     }
 
-    const std::string& text() const { return text_; }
+    const std::string& text() const& { return text_; }
+    std::string text() && { return std::move(text_); }
 
 private:
     JsonWriter& begin(char bracket);
