@@ -1,10 +1,9 @@
 #include <gmock/gmock.h>
 
-#include <QDropEvent>
 #include <QLineEdit>
-#include <QMimeData>
 
 #include "desktop/desktop_test.h"
+#include "desktop/drag.h"
 
 namespace wb::test {
 namespace {
@@ -17,25 +16,9 @@ protected:
         program.newImage();
         modify();
         focus(edid().txtEdit(8));
-        text_.setText("/home/me/a monitor.DAT");
     }
 
-    /// Drags the text to the widget and lets go there; whether the widget takes it.
-    bool drop(const Control& control) {
-        QWidget* target = program.widget(control);
-        const QPoint place = target->rect().center();
-        QDragEnterEvent enter(place, Qt::CopyAction, &text_, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &enter);
-        QDragMoveEvent move(place, Qt::CopyAction, &text_, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &move);
-        QDropEvent event(place, Qt::CopyAction, &text_, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &event);
-        DesktopProgram::settle();
-        return enter.isAccepted();
-    }
-
-private:
-    QMimeData text_;
+    bool drop(const Control& control) { return dropText(*program.widget(control), "/home/me/a monitor.DAT"); }
 };
 
 TEST_F(Drops, AreNotTakenByACell) {

@@ -158,6 +158,20 @@ TEST_F(WindowStates, LetTheKeysChangeFromAnIconToAnotherChild) {
     EXPECT_TRUE(child(edid()).isMinimized());
 }
 
+TEST_F(WindowStates, PassFromAMaximisedChildToTheReport) {
+    program.act([&] { input::click(frame().Command1); });
+    const FrmDocument& report = program.workbench.frmDocument();
+    focus(edid().txtEdit(17)); // which makes the report anew, and that takes the focus
+    focus(edid().txtEdit(17));
+    showAs(edid(), maximised);
+    program.frame().area().setActiveSubWindow(&child(report)); // as Ctrl+Tab does
+    DesktopProgram::settle();
+    EXPECT_EQ(focused(), "frmDocument.rtftext");
+    EXPECT_EQ(qtFocused(), "frmDocument.rtftext");
+    EXPECT_TRUE(child(report).isMaximized());
+    EXPECT_FALSE(child(edid()).isMaximized());
+}
+
 TEST_F(WindowStates, OfTheFrameLeaveTheFocusWhereItIs) {
     QMainWindow& window = program.frame().window();
     window.showMaximized();

@@ -1,5 +1,7 @@
 #include "desktop/windows/document_page.h"
 
+#include <utility>
+
 #include "core/input.h"
 #include "desktop/drawing/twips.h"
 
@@ -16,6 +18,16 @@ QSize DocumentPage::minimumSizeHint() const {
 
 void DocumentPage::resizeEvent(QResizeEvent* event) {
     ScreenPage::resizeEvent(event);
+    // Qt may be in the middle of changing from one maximised window to another, which a call into the model, and the
+    // focus that follows it, would begin anew.
+    if (!std::exchange(willTell_, true)) {
+        QMetaObject::invokeMethod(
+            this, [this] { tellSize(); }, Qt::QueuedConnection);
+    }
+}
+
+void DocumentPage::tellSize() {
+    willTell_ = false;
     const int width = static_cast<int>(toTwips(*this, this->width()));
     const int height = static_cast<int>(toTwips(*this, this->height()));
     views().front()->tell([width, height](Control& report) {

@@ -4,7 +4,8 @@
 
 namespace wb::desktop {
 
-/// The inside of the report window: it tells the model its size, and the model places the report.
+/// The inside of the report window: it tells the model its size when the events at hand are through, and the model
+/// places the report.
 class DocumentPage : public ScreenPage {
 public:
     using ScreenPage::ScreenPage;
@@ -14,6 +15,11 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void tellSize();
+
+    bool willTell_ = false;
 };
 
 } // namespace wb::desktop
