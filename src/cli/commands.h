@@ -22,6 +22,8 @@ Run addConvert(CLI::App& command);
 Run addCheck(CLI::App& command);
 Run addInspect(CLI::App& command);
 Run addDiff(CLI::App& command);
+Run addRepair(CLI::App& command);
+Run addScrub(CLI::App& command);
 Run addRead(CLI::App& command);
 Run addMonitors(CLI::App& command);
 Run addScript(CLI::App& command);

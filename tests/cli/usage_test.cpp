@@ -13,7 +13,7 @@ TEST_F(UsageTest, TellsItsVersionAndHelp) {
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output.substr(0, 7), "edidwb ");
     for (const char* command :
-         {"", "translate ", "convert ", "check ", "inspect ", "diff ", "read ", "monitors ", "script "}) {
+         {"", "translate ", "convert ", "check ", "inspect ", "diff ", "repair ", "scrub ", "read ", "monitors ", "script "}) {
         const Outcome help = shell("edidwb " + std::string(command) + "--help");
         EXPECT_EQ(help.status, 0) << command;
         EXPECT_THAT(help.output, HasSubstr("Usage: edidwb " + std::string(command)));
@@ -64,6 +64,15 @@ TEST_F(UsageTest, WrongUseHasStatus2) {
                                   "convert --to bin a",
                                   "convert --to gif a b",
                                   "convert --to bin a b c",
+                                  "repair --dry-run",
+                                  "repair x",
+                                  "repair --in-place -o nd x",
+                                  "repair --backup -o nd x",
+                                  "repair --in-place -",
+                                  "repair --dry-run - -",
+                                  "repair -o '' x",
+                                  "scrub -o nd",
+                                  "scrub x",
                                   "script a b"}) {
         const Outcome outcome = shell("edidwb " + std::string(arguments));
         EXPECT_EQ(outcome.status, 2) << arguments;

@@ -1,0 +1,246 @@
+#include "cli/rewrite.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <map>
+
+#include "cli/cli_error.h"
+#include "cli/clock_option.h"
+#include "cli/commands.h"
+#include "cli/output.h"
+#include "cli/report_names.h"
+#include "core/base/text.h"
+#include "forms/writers.h"
+
+namespace wb::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* backupExtension = ".bak";
+constexpr const char* binaryExtension = ".bin";
+
+Existing existingOf(const RewriteOptions& options) {
+    return options.force ? Existing::Replace : Existing::Refuse;
+}
+
+/// A text without blanks and line ends, in one letter case.
+std::string squeezed(std::string_view text) {
+    std::string result;
+    for (const char c : text) {
+        if (c != ' ' && c != '\t' && c != '\r' && c != '\n') {
+            result += c;
+        }
+    }
+    return upperCase(result);
+}
+
+/// The form of bytes in which a file holds the image and nothing else, so that writing it anew loses nothing but blanks
+/// and the letter case of digits; null where there is none.
+const forms::WrittenForm* formOf(const std::string& content, const Image& image) {
+    if (content == image.content()) {
+        return forms::writtenForm("bin");
+    }
+    for (const forms::WrittenForm& form : forms::writtenForms()) {
+        if (form.name != "bin" && squeezed(form.write(image)) == squeezed(content)) {
+            return &form;
+        }
+    }
+    return nullptr;
+}
+
+void requireWhole(const Image& image) {
+    const std::size_t announced = image.announcedExtensions() + 1;
+    if (image.blockCount() < announced) {
+        throw CliError("announces " + std::to_string(announced) + " blocks and has " +
+                       std::to_string(image.blockCount()) + "; only whole images are changed");
+    }
+    if (image.leftOver() != 0) {
+        throw CliError("has " + std::to_string(image.leftOver()) +
+                       " bytes after the last block; only whole images are changed");
+    }
+}
+
+void tell(const std::string& name, const Change& change) {
+    for (const std::string& remark : change.remarks) {
+        complain(name, remark);
+    }
+    for (const std::string& sentence : change.done) {
+        printText(inOneLine(name + ": " + sentence) + '\n');
+    }
+}
+
+bool makeFolder(const RewriteOptions& options) {
+    if (!options.outputFolder || options.dryRun) {
+        return true;
+    }
+    std::error_code error;
+    fs::create_directories(*options.outputFolder, error);
+    if (error) {
+        complain(*options.outputFolder, error.message());
+    }
+    return !error;
+}
+
+/// Takes one file after the other.
+class Rewriter {
+public:
+    Rewriter(const RewriteOptions& options, const Changer& change)
+        : options_(options), change_(change), names_(options.files, "") {}
+
+    /// A failure is a CliError.
+    void rewrite(const std::string& name) {
+        const Input input = readInput(name);
+        const Contents contents = contentsOf(input, options_.images);
+        const Image& image = onlyImageOf(contents);
+        requireWhole(image);
+        const forms::WrittenForm* const form = formOf(input.content, image);
+        if (options_.inPlace && form == nullptr) {
+            throw CliError("holds more than the bytes of an image and is not replaced; -o DIR writes it as binary");
+        }
+        const Change change = change_(image);
+        if (!options_.dryRun) {
+            write(input, image, change.image, form);
+        }
+        tell(name, change);
+    }
+
+private:
+    void write(const Input& input, const Image& before, const Image& after, const forms::WrittenForm* form) {
+        const forms::WrittenForm& written = form != nullptr ? *form : *forms::writtenForm("bin");
+        if (!options_.inPlace) {
+            writeBeside(newPlace(input.name, form != nullptr), written.write(after));
+        } else if (after.content() != before.content()) {
+            if (options_.backup) {
+                keep(input);
+            }
+            writeFile(input.name, written.write(after), Existing::Replace);
+        }
+    }
+
+    /// Writes a file other than the one that is changed; a failure names it.
+    void writeBeside(const std::string& place, const std::string& content) const {
+        try {
+            writeFile(place, content, existingOf(options_));
+        } catch (const CliError& error) {
+            throw CliError(place + ": " + error.what());
+        }
+    }
+
+    /// Writes the old content beside the file, with its permissions.
+    void keep(const Input& input) const {
+        const std::string backup = input.name + backupExtension;
+        writeBeside(backup, input.content);
+        std::error_code ignored;
+        fs::permissions(backup, fs::status(input.name, ignored).permissions(), ignored);
+    }
+
+    /// The file of the output folder for one of the input; its extension stays where its form does.
+    std::string newPlace(const std::string& file, bool formStays) {
+        const std::string extension =
+            formStays && file != standardStream ? fs::path(file).extension().string() : std::string(binaryExtension);
+        std::string name = names_.nameOf(file, "");
+        if (!name.ends_with(extension)) {
+            name += extension;
+        }
+        const std::string place = (fs::path(*options_.outputFolder) / name).string();
+        const auto [other, isNew] = writtenBy_.try_emplace(place, file);
+        if (!isNew) {
+            throw CliError("its new file '" + place + "' is already that of '" + other->second + "'");
+        }
+        for (const std::string& input : options_.files) {
+            std::error_code error;
+            if (fs::equivalent(input, place, error) && !error) {
+                throw CliError("its new file '" + place + "' would replace one that is to be read");
+            }
+        }
+        return place;
+    }
+
+    const RewriteOptions& options_;
+    const Changer& change_;
+    ReportNames names_;
+    std::map<std::string, std::string> writtenBy_;
+};
+
+} // namespace
+
+CLI::Option* addRewriteOptions(CLI::App& command, RewriteOptions& options) {
+    CLI::Option* const files =
+        command.add_option("FILE", options.files, "File in any form, recognised by its content; - is standard input")
+            ->type_name("");
+    command
+        .add_option("-o,--output-dir", options.outputFolder,
+                    "Write each image to DIR under its name: in its form where the file holds nothing but the bytes of "
+                    "the image, else as binary")
+        ->type_name("DIR")
+        ->check(refuseEmpty)
+        ->take_last();
+    command.add_flag("--in-place", options.inPlace, "Replace each file, which must hold nothing else")
+        ->disable_flag_override();
+    command.add_flag("--backup", options.backup, "With --in-place, keep the old file as FILE.bak")
+        ->disable_flag_override();
+    command.add_flag("-f,--force", options.force, "Replace files of DIR, and backups, that exist already")
+        ->disable_flag_override();
+    command.add_flag("--dry-run", options.dryRun, "Tell what would be changed and write nothing")
+        ->disable_flag_override();
+    addImageOptions(command, options.images);
+    return files;
+}
+
+void checkRewriteOptions(const RewriteOptions& options) {
+    requireOneStandardInput(options.files);
+    if (options.inPlace && options.outputFolder) {
+        throw UsageError("--in-place and --output-dir exclude each other");
+    }
+    if (!options.inPlace && !options.outputFolder && !options.dryRun) {
+        throw UsageError("one of --output-dir, --in-place and --dry-run is required");
+    }
+    if (options.backup && !options.inPlace) {
+        throw UsageError("--backup belongs to --in-place");
+    }
+    for (const std::string& file : options.files) {
+        if (options.inPlace && file == standardStream) {
+            throw UsageError("standard input cannot be changed in place");
+        }
+    }
+}
+
+int rewriteFiles(const RewriteOptions& options, const Changer& change) {
+    if (!makeFolder(options)) {
+        return somethingFailed;
+    }
+    Rewriter rewriter(options, change);
+    int status = success;
+    for (const std::string& file : options.files) {
+        try {
+            rewriter.rewrite(file);
+        } catch (const CliError& error) {
+            complain(file, error.what());
+            status = somethingFailed;
+        }
+    }
+    return status;
+}
+
+Image withBytes(const Image& image, const std::string& bytes) {
+    return *Image::fromBytes(bytes, image.origin());
+}
+
+std::optional<std::string> mendChecksum(std::string& bytes, std::size_t block) {
+    const std::size_t last = block * Image::blockSize + checksumCell;
+    unsigned sum = 0;
+    for (std::size_t i = block * Image::blockSize; i < last; ++i) {
+        sum += static_cast<unsigned char>(bytes[i]);
+    }
+    const auto old = static_cast<unsigned char>(bytes[last]);
+    const auto right = static_cast<unsigned char>(256 - sum % 256);
+    if (old == right) {
+        return std::nullopt;
+    }
+    bytes[last] = static_cast<char>(right);
+    return "block " + std::to_string(block) + ": check sum " + ByteToHex2(old) + " becomes " + ByteToHex2(right);
+}
+
+} // namespace wb::cli

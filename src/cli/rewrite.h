@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/image_input.h"
+#include "core/base/image.h"
+
+namespace CLI {
+class App;
+class Option;
+} // namespace CLI
+
+/// What the commands that change images have in common: where the images come from and where they go.
+namespace wb::cli {
+
+struct RewriteOptions {
+    std::vector<std::string> files;
+    std::optional<std::string> outputFolder;
+    ImageOptions images;
+    bool inPlace = false;
+    bool backup = false;
+    bool force = false;
+    bool dryRun = false;
+};
+
+/// FILE, -o, --in-place, --backup, --force, --dry-run and those of addImageOptions. Gives the option of the files,
+/// which is not required.
+CLI::Option* addRewriteOptions(CLI::App& command, RewriteOptions& options);
+/// Where the options contradict each other it is a UsageError.
+void checkRewriteOptions(const RewriteOptions& options);
+
+/// What becomes of an image.
+struct Change {
+    Image image;
+    std::vector<std::string> done;    ///< what was changed, for standard output
+    std::vector<std::string> remarks; ///< what the user should know besides, for standard error
+};
+
+/// Changes one image; a CliError leaves its file as it is.
+using Changer = std::function<Change(const Image&)>;
+
+/// Changes the only image of each file, which must have every block that it announces and nothing behind them, and
+/// writes it. Gives the exit status.
+int rewriteFiles(const RewriteOptions& options, const Changer& change);
+
+/// An image with other bytes, at least one block of them.
+Image withBytes(const Image& image, const std::string& bytes);
+
+/// Brings the check sum in line, the last byte of a block, which makes the sum of all its bytes 0 modulo 256. Gives a
+/// sentence; nothing where it was right.
+std::optional<std::string> mendChecksum(std::string& bytes, std::size_t block);
+
+} // namespace wb::cli
