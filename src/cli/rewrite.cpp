@@ -67,7 +67,10 @@ void tell(const std::string& name, const Change& change) {
         complain(name, remark);
     }
     for (const std::string& sentence : change.done) {
-        printText(inOneLine(name + ": " + sentence) + '\n');
+        std::string line = name;
+        line += ": ";
+        line += sentence;
+        printText(inOneLine(line) + '\n');
     }
 }
 
@@ -144,7 +147,7 @@ private:
         if (!name.ends_with(extension)) {
             name += extension;
         }
-        const std::string place = (fs::path(*options_.outputFolder) / name).string();
+        std::string place = (fs::path(*options_.outputFolder) / name).string();
         const auto [other, isNew] = writtenBy_.try_emplace(place, file);
         if (!isNew) {
             throw CliError("its new file '" + place + "' is already that of '" + other->second + "'");

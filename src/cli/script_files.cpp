@@ -42,7 +42,7 @@ std::string formOfEnding(const std::string& name) {
 }
 
 std::string formFor(const Arguments& arguments) {
-    const std::string form = arguments.size() > 1 ? arguments[1].text : formOfEnding(arguments[0].text);
+    std::string form = arguments.size() > 1 ? arguments[1].text : formOfEnding(arguments[0].text);
     const std::vector<std::string> forms = savedForms();
     if (std::find(forms.begin(), forms.end(), form) != forms.end()) {
         return form;
