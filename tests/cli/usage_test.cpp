@@ -12,8 +12,8 @@ TEST_F(UsageTest, TellsItsVersionAndHelp) {
     const Outcome version = shell("edidwb --version");
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output.substr(0, 7), "edidwb ");
-    for (const char* command :
-         {"", "translate ", "convert ", "check ", "inspect ", "diff ", "repair ", "scrub ", "read ", "monitors ", "script "}) {
+    for (const char* command : {"", "translate ", "convert ", "check ", "inspect ", "diff ", "repair ", "scrub ",
+                                "read ", "monitors ", "script "}) {
         const Outcome help = shell("edidwb " + std::string(command) + "--help");
         EXPECT_EQ(help.status, 0) << command;
         EXPECT_THAT(help.output, HasSubstr("Usage: edidwb " + std::string(command)));
