@@ -20,9 +20,6 @@ using fields::Finding;
 using fields::Reading;
 using fields::Severity;
 
-/// A data file never holds more than these blocks.
-constexpr std::size_t blocksOfDataFile = 2;
-
 struct Options {
     FileOptions files;
     std::string format = "text";
@@ -66,7 +63,7 @@ std::vector<Checked> checkFile(const std::string& name, const ImageOptions& opti
     const Contents contents = contentsOf(readInput(name), options);
     std::vector<Checked> checked;
     for (const Image& image : imagesOf(contents)) {
-        const std::size_t most = contents.isDataFile ? blocksOfDataFile : Image::mostBlocks;
+        const std::size_t most = contents.isDataFile ? Image::editedBlocks : Image::mostBlocks;
         checked.push_back({checkImage(image, most), fields::read(image)});
     }
     if (contents.isDataFile) {

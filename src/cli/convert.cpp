@@ -12,8 +12,6 @@ namespace wb::cli {
 
 namespace {
 
-constexpr std::size_t blocksOfDataFile = 2;
-
 struct Options {
     std::string format;
     std::string in;
@@ -42,13 +40,13 @@ Image fitted(const Options& options, Image image, Remarks& remarks) {
     if (image.leftOver() != 0) {
         remarks.push_back(std::to_string(image.leftOver()) + " bytes after the last block left out");
     }
-    if (!isFormOfBytes(options.format) && image.blockCount() > blocksOfDataFile) {
+    if (!isFormOfBytes(options.format) && image.blockCount() > Image::editedBlocks) {
         if (!options.cut) {
             throw CliError(std::to_string(image.blockCount()) + " blocks; a data file holds " +
-                           std::to_string(blocksOfDataFile) + "; --cut leaves the others out");
+                           std::to_string(Image::editedBlocks) + "; --cut leaves the others out");
         }
-        remarks.push_back(blocksText(blocksOfDataFile, image.blockCount() - 1) + " left out");
-        image = image.cutTo(blocksOfDataFile);
+        remarks.push_back(blocksText(Image::editedBlocks, image.blockCount() - 1) + " left out");
+        image = image.cutTo(Image::editedBlocks);
     }
     return image;
 }

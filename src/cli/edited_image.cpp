@@ -9,8 +9,6 @@ namespace wb::cli {
 
 namespace {
 
-constexpr std::size_t heldBlocks = 2;
-
 /// The bytes of the cells of one screen, the first of which is byte `first` of the image.
 std::string bytesOf(BlockScreen& screen, int first) {
     std::string bytes;
@@ -34,12 +32,12 @@ Image editedImage(const Workbench& workbench) {
     std::string bytes = bytesOf(*edid, 0);
     const std::size_t announced = static_cast<unsigned char>(bytes[extensionCountCell]) + std::size_t{1};
     auto* const extension = static_cast<FrmCeaExt*>(workbench.loaded(ScreenId::CeaExt));
-    const std::size_t held = extension == nullptr ? 1 : heldBlocks;
+    const std::size_t held = extension == nullptr ? 1 : Image::editedBlocks;
     if (announced > held) {
         throw CliError("announces " + std::to_string(announced) + " blocks, and the program holds " +
                        std::to_string(held));
     }
-    if (announced == heldBlocks) {
+    if (announced == Image::editedBlocks) {
         bytes += bytesOf(*extension, BlockScreen::cellCount);
     }
     return *Image::fromBytes(bytes);

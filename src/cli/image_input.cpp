@@ -11,9 +11,6 @@ namespace wb::cli {
 
 namespace {
 
-/// Blocks that the program edits.
-constexpr std::size_t editedBlocks = 2;
-
 std::string outputsOf(const std::vector<Image>& images) {
     std::string names;
     for (const Image& image : images) {
@@ -105,8 +102,8 @@ std::string blocksText(std::size_t first, std::size_t last) {
 std::vector<std::string> omissionsOf(const Image& image) {
     std::vector<std::string> sentences;
     const std::size_t blocks = image.blockCount();
-    if (blocks > editedBlocks) {
-        sentences.push_back(blocksText(editedBlocks, blocks - 1) + " left out");
+    if (blocks > Image::editedBlocks) {
+        sentences.push_back(blocksText(Image::editedBlocks, blocks - 1) + " left out");
     }
     if (image.leftOver() != 0) {
         sentences.push_back(std::to_string(image.leftOver()) + " bytes after the last block left out");

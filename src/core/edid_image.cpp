@@ -1,13 +1,13 @@
 #include "core/edid_image.h"
 
+#include "core/base/image.h"
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 
 namespace wb {
 
 bool IsEDIDHeaderValid(std::string_view text) {
-    using namespace std::string_view_literals;
-    return text.substr(0, 8) == "\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00"sv;
+    return text.starts_with(imageHeader);
 }
 
 bool hasDescriptorMark(BlockScreen& screen, int base) {

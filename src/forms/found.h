@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/base/image.h"
+
 namespace wb::forms {
 
 /// The bytes of one image as a reader of a form found them: at least a block.
@@ -12,9 +14,6 @@ struct Found {
     std::string bytes;
     std::size_t place = 0; ///< where in the text it begins
 };
-
-/// The eight bytes that open an image (VESA E-EDID Standard, Release A, section 3.3).
-inline constexpr std::string_view imageHeader{"\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8};
 
 /// The readers of forms. Each gives every image in the text that begins with the header, in order.
 std::vector<Found> readBase64(std::string_view text);

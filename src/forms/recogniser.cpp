@@ -15,7 +15,7 @@ namespace wb::forms {
 namespace {
 
 /// The program reads no more cells of a data file.
-constexpr std::size_t bytesOfDataFile = 2 * Image::blockSize;
+constexpr std::size_t bytesOfDataFile = Image::editedBlocks * Image::blockSize;
 
 constexpr std::string_view gzipMark{"\x1F\x8B", 2};
 

@@ -95,6 +95,13 @@ std::string monitorId(const Image& image) {
     return id;
 }
 
+/// The rows of a block, each but the last continued by a backslash: the lists of registry exports and INF files.
+std::string continuedRows(Bytes block, std::string_view prefix) {
+    return inRows(block, rowLength, [&](Bytes row, std::size_t offset, bool last) {
+        return (offset == 0 ? "" : "  ") + pairs(row, prefix, ",") + (last ? "\r\n" : ",\\\r\n");
+    });
+}
+
 std::string registryExport(const Image& image) {
     std::string text =
         "Windows Registry Editor Version 5.00\r\n\r\n"
@@ -104,10 +111,7 @@ std::string registryExport(const Image& image) {
         "[HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Enum\\DISPLAY\\" +
         monitorId(image) + "\\INSTANCE\\Device Parameters\\EDID_OVERRIDE]\r\n";
     for (std::size_t block = 0; block < image.blockCount(); ++block) {
-        text += '"' + std::to_string(block) +
-                "\"=hex:" + inRows(image.block(block), rowLength, [](Bytes row, std::size_t offset, bool last) {
-                    return (offset == 0 ? "" : "  ") + pairs(row, "", ",") + (last ? "\r\n" : ",\\\r\n");
-                });
+        text += '"' + std::to_string(block) + "\"=hex:" + continuedRows(image.block(block), "");
     }
     return text;
 }
@@ -115,10 +119,7 @@ std::string registryExport(const Image& image) {
 std::string infLines(const Image& image) {
     std::string text = "[" + monitorId(image) + ".AddReg]\r\n";
     for (std::size_t block = 0; block < image.blockCount(); ++block) {
-        text += "HKR,EDID_OVERRIDE,\"" + std::to_string(block) + "\",0x01," +
-                inRows(image.block(block), rowLength, [](Bytes row, std::size_t offset, bool last) {
-                    return (offset == 0 ? "" : "  ") + pairs(row, "0x", ",") + (last ? "\r\n" : ",\\\r\n");
-                });
+        text += "HKR,EDID_OVERRIDE,\"" + std::to_string(block) + "\",0x01," + continuedRows(image.block(block), "0x");
     }
     return text;
 }

@@ -1,17 +1,10 @@
 #include "core/base/image.h"
 
 #include <algorithm>
-#include <array>
 #include <numeric>
 #include <utility>
 
 namespace wb {
-
-namespace {
-
-constexpr std::array<std::uint8_t, 8> header = {0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x00};
-
-} // namespace
 
 std::optional<Image> Image::fromBytes(std::string_view bytes, ImageOrigin origin) {
     const std::size_t blocks = std::min(bytes.size() / blockSize, mostBlocks);
@@ -23,7 +16,8 @@ std::optional<Image> Image::fromBytes(std::string_view bytes, ImageOrigin origin
 }
 
 bool Image::hasHeader() const {
-    return std::equal(header.begin(), header.end(), bytes_.begin());
+    return std::equal(imageHeader.begin(), imageHeader.end(), bytes_.begin(),
+                      [](char expected, std::uint8_t byte) { return static_cast<std::uint8_t>(expected) == byte; });
 }
 
 Image Image::cutTo(std::size_t count) const {

@@ -12,6 +12,9 @@
 
 namespace wb {
 
+/// The eight bytes that open an image (VESA E-EDID Standard, Release A, section 3.3).
+inline constexpr std::string_view imageHeader{"\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8};
+
 /// Where an image came from; what is not known is empty.
 struct ImageOrigin {
     std::string file;   ///< name as it was given
@@ -25,6 +28,8 @@ public:
     static constexpr std::size_t blockSize = wb::blockSize;
     /// Byte 126 of block 0 counts at most 255 extensions.
     static constexpr std::size_t mostBlocks = 256;
+    /// The program holds, edits and saves block 0 and one extension.
+    static constexpr std::size_t editedBlocks = 2;
 
     /// The whole blocks of the bytes, at most 256 of them. Nothing where there is not a single one.
     static std::optional<Image> fromBytes(std::string_view bytes, ImageOrigin origin = {});
@@ -45,7 +50,7 @@ public:
     std::size_t leftOver() const { return leftOver_; }
     /// How many extension blocks byte 126 of block 0 announces.
     std::size_t announcedExtensions() const { return bytes_[extensionCountCell]; }
-    /// Whether the eight bytes that open an image are there (VESA E-EDID Standard, Release A, section 3.3).
+    /// Whether it begins with imageHeader.
     bool hasHeader() const;
 
     const ImageOrigin& origin() const { return origin_; }
