@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/input.h"
+#include "desktop/tools/additions.h"
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/modal_view.h"
 #include "desktop/windows/splash_view.h"
@@ -123,6 +124,9 @@ void DesktopView::showChanges() {
         }
         arrangeChildren();
     }
+    if (main_ != nullptr) {
+        main_->refreshAdditions();
+    }
 }
 
 void DesktopView::dropGone() {
@@ -146,6 +150,7 @@ std::unique_ptr<ScreenView> DesktopView::makeView(Screen& screen) {
     if (screen.id() == ScreenId::Main) {
         auto view = std::make_unique<MainView>(screen, *this);
         main_ = view.get();
+        addTools(*view);
         addKey(Qt::ALT | Qt::Key_0, [this] { goBack(); });
         addKey(Qt::CTRL | Qt::Key_F4, [this] { closeActiveChild(); });
         addKey(QKeySequence::Find, [this] { findInReport(); });

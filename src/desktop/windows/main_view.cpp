@@ -1,25 +1,19 @@
 #include "desktop/windows/main_view.h"
 
-#include <QApplication>
-#include <QCloseEvent>
-#include <QDropEvent>
+#include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPushButton>
-#include <QScreen>
 #include <QStatusBar>
 #include <QTime>
 #include <QTimer>
 #include <QToolBar>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <map>
 #include <utility>
 
 #include "core/input.h"
@@ -28,12 +22,11 @@
 #include "desktop/base/titles.h"
 #include "desktop/drawing/icons.h"
 #include "desktop/drawing/pictures.h"
-#include "desktop/drawing/twips.h"
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/flow_layout.h"
 #include "desktop/windows/idle_entries.h"
-#include "desktop/windows/keys_window.h"
+#include "desktop/windows/main_window.h"
 #include "desktop/windows/screen_page.h"
 #include "desktop/windows/visibility.h"
 #include "shell/lifecycle.h"
@@ -63,31 +56,10 @@ void giveStandardKey(QAction& action, std::string_view entry) {
     }
 }
 
-constexpr const char* maximisedSetting = "MainMaximised";
-
-/// The screen that most of the rectangle is on, or null.
-const QScreen* screenOf(const QRect& rectangle) {
-    const QScreen* found = nullptr;
-    int most = 0;
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        const QRect shared = screen->availableGeometry().intersected(rectangle);
-        if (shared.width() * shared.height() > most) {
-            most = shared.width() * shared.height();
-            found = screen;
-        }
-    }
-    return found;
-}
-
-/// The name of the one file that is dragged; empty where there are none or several.
-QString droppedFile(const QMimeData& data) {
-    const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
-}
-
 } // namespace
 
-MainView::MainView(Screen& screen, UserActions& actions) : ScreenView(screen, actions), window_(new MainWindow(*this)) {
+MainView::MainView(Screen& screen, UserActions& actions)
+    : ScreenView(screen, actions), window_(new MainWindow(*this)), position_(*this, *window_) {
     window_->setObjectName("frmMain");
     window_->setWindowIcon(programIcon());
     auto* inside = new QWidget;
@@ -104,13 +76,17 @@ MainView::MainView(Screen& screen, UserActions& actions) : ScreenView(screen, ac
     for (const auto& view : own_) {
         view->refresh();
     }
-    size_ = FrameSize(wholeSize());
-    maximised_ = screen.workbench().platform.settings.read(maximisedSetting) == "1";
+    position_.begin(wholeSize());
 }
 
 MainView::~MainView() {
+    additions_.clear();
     own_.clear();
     delete window_;
+}
+
+QMainWindow& MainView::window() {
+    return *window_;
 }
 
 FrmMain& MainView::frame() const {
@@ -127,42 +103,47 @@ MenuView& MainView::makeEntry(Control& control) {
     return static_cast<MenuView&>(*own_.back());
 }
 
+QMenu& MainView::menu(const Control& top) const {
+    return *entry(top).menu();
+}
+
+QAction& MainView::entry(const Control& control) const {
+    return static_cast<MenuView&>(*viewOf(control)).action();
+}
+
+void MainView::attach(std::unique_ptr<FrameAddition> addition) {
+    additions_.push_back(std::move(addition));
+}
+
+void MainView::refreshAdditions() {
+    if (screen() == nullptr) {
+        return;
+    }
+    for (const auto& addition : additions_) {
+        addition->refresh();
+    }
+}
+
 void MainView::makeMenus() {
-    std::map<const Control*, QMenu*> menus;
     for (Control* control : screen()->controls()) {
         if (control->kind() != ControlKind::Menu || control->array() != nullptr) {
             continue;
         }
         QAction& action = makeEntry(*control).action();
         if (control->container() == nullptr) {
-            auto* menu = new QMenu(window_);
-            action.setMenu(menu);
+            action.setMenu(new QMenu(window_));
             window_->menuBar()->addAction(&action);
-            menus[control] = menu;
         } else {
             giveStandardKey(action, control->name());
-            menus.at(control->container())->addAction(&action);
+            menu(*control->container()).addAction(&action);
         }
     }
-    makeKeysEntry(*menus.at(&frame().mnuHelp));
-    windowMenu_ = menus.at(&frame().mnuWindow);
+    windowMenu_ = &menu(frame().mnuWindow);
     // Minimised windows are the view's alone, and no call tells of them.
     QObject::connect(windowMenu_, &QMenu::aboutToShow, this, [this] {
         if (screen() != nullptr) {
             refreshStates();
         }
-    });
-}
-
-void MainView::makeKeysEntry(QMenu& helpMenu) {
-    QAction* entry = helpMenu.addAction("&Keys");
-    QObject::connect(entry, &QAction::triggered, this, [this] {
-        if (keys_.isNull()) {
-            keys_ = new KeysWindow(*window_);
-        }
-        keys_->show();
-        keys_->raise();
-        keys_->activateWindow();
     });
 }
 
@@ -245,12 +226,13 @@ void MainView::makeClock() {
 
 void MainView::refresh() {
     setTitle(*window_, screen()->caption(), ChangeMark::WhenModified);
-    applyPosition();
+    position_.apply();
     if (window_->isHidden() == screen()->shown()) {
-        if (maximised_) {
-            window_->setWindowState(Qt::WindowMaximized);
+        if (screen()->shown()) {
+            position_.showWindow();
+        } else {
+            window_->hide();
         }
-        window_->setVisible(screen()->shown());
     }
 }
 
@@ -276,33 +258,6 @@ void MainView::refreshStates() {
     }
 }
 
-void MainView::applyPosition() {
-    const FrmMain& model = frame();
-    const Position asked{model.Left, model.Top, model.Width, model.Height};
-    if (asked == shownPosition_) {
-        return;
-    }
-    shownPosition_ = asked;
-    const QRect geometry = geometryOf(asked);
-    placing_ = true;
-    window_->move(geometry.topLeft());
-    window_->resize(geometry.size());
-    placing_ = false;
-    shownGeometry_ = QRect(window_->pos(), window_->size());
-}
-
-/// Where the window goes for that position: on a screen, and no larger than the free area there.
-QRect MainView::geometryOf(const Position& asked) const {
-    const QMargins decoration = likelyDecoration(*window_);
-    const QPoint corner(toPixels(*window_, asked.left), toPixels(*window_, asked.top));
-    const QSize size = size_.toPixels(asked.width, asked.height);
-    const QRect outside(corner, size.grownBy(decoration));
-    const QScreen* screen = screenOf(outside);
-    const QRect room = (screen != nullptr ? screen : window_->screen())->availableGeometry();
-    const QRect place = movedInside(outside, room);
-    return {place.topLeft(), place.size().shrunkBy(decoration)};
-}
-
 /// The size in which the whole of block 0 shows.
 QSize MainView::wholeSize() {
     const std::unique_ptr<Screen> example = screen()->workbench().makeScreen(ScreenId::Edid);
@@ -321,43 +276,6 @@ bool MainView::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return ScreenView::eventFilter(watched, event);
-}
-
-void MainView::notePositionSoon() {
-    if (placing_ || std::exchange(willNote_, true)) {
-        return;
-    }
-    // A window manager may tell of the size of a maximised window before it tells of the state.
-    QMetaObject::invokeMethod(
-        this, [this] { notePosition(); }, Qt::QueuedConnection);
-}
-
-void MainView::notePosition() {
-    willNote_ = false;
-    if (screen() == nullptr) {
-        return;
-    }
-    FrmMain& model = frame();
-    input::minimised(model, window_->isMinimized());
-    noteMaximised();
-    const QRect now(window_->pos(), window_->size());
-    if (model.minimised || maximised_ || !window_->isVisible() || now == shownGeometry_) {
-        return;
-    }
-    shownGeometry_ = now;
-    input::placed(model, toTwips(*window_, now.left()), toTwips(*window_, now.top()), size_.widthInTwips(now.width()),
-                  size_.heightInTwips(now.height()));
-    shownPosition_ = {model.Left, model.Top, model.Width, model.Height};
-}
-
-/// Keeps in the settings whether the next start is to maximise the window; the place that goes with them is that of the
-/// normal window.
-void MainView::noteMaximised() {
-    if (window_->isMinimized() || !window_->isVisible() || window_->isMaximized() == maximised_) {
-        return;
-    }
-    maximised_ = !maximised_;
-    screen()->workbench().platform.settings.write(maximisedSetting, maximised_ ? "1" : "0");
 }
 
 void MainView::listChildren(const std::vector<ScreenView*>& children) {
@@ -387,43 +305,6 @@ void MainView::listChildren(const std::vector<ScreenView*>& children) {
 
 void MainView::openDropped(const QString& name) {
     act([name = fileNameBytes(name)](Screen& screen) { shell::dropDataFile(screen.workbench(), name); });
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedFile(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
-    }
-}
-
-void MainWindow::dropEvent(QDropEvent* event) {
-    const QString name = droppedFile(*event->mimeData());
-    if (!name.isEmpty()) {
-        event->acceptProposedAction();
-        view_.openDropped(name);
-    }
-}
-
-void MainWindow::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    view_.notePosition(); // which the model stores
-    view_.askToClose();
-}
-
-void MainWindow::moveEvent(QMoveEvent* event) {
-    QMainWindow::moveEvent(event);
-    view_.notePositionSoon();
-}
-
-void MainWindow::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    view_.notePositionSoon();
-}
-
-void MainWindow::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) {
-        view_.notePositionSoon();
-    }
 }
 
 } // namespace wb::desktop

@@ -1,15 +1,13 @@
 #pragma once
 
-#include <QDialog>
 #include <QMainWindow>
-#include <QPointer>
-#include <QRect>
 #include <memory>
 #include <vector>
 
 #include "core/screens/frm_main.h"
 #include "core/view.h"
-#include "desktop/windows/frame_size.h"
+#include "desktop/windows/frame_addition.h"
+#include "desktop/windows/frame_position.h"
 #include "desktop/windows/screen_view.h"
 
 class QLabel;
@@ -20,25 +18,8 @@ class QVBoxLayout;
 
 namespace wb::desktop {
 
-class MainView;
+class MainWindow;
 class MenuView;
-
-/// The frame's window. It closes when the model says so, and tells the model where it stands.
-class MainWindow : public QMainWindow {
-public:
-    explicit MainWindow(MainView& view) : view_(view) { setAcceptDrops(true); }
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
-
-private:
-    MainView& view_;
-};
 
 /// The frame: menu, tool bar, command buttons, child windows and status bar.
 class MainView : public ScreenView {
@@ -46,7 +27,7 @@ public:
     MainView(Screen& screen, UserActions& actions);
     ~MainView() override;
 
-    QMainWindow& window() override { return *window_; }
+    QMainWindow& window() override;
     QMdiArea& area() const { return *area_; }
     void refresh() override;
     void refreshStates() override;
@@ -56,29 +37,23 @@ public:
     void openDropped(const QString& name);
     /// Lists the shown children, the active one first, in the Window menu.
     void listChildren(const std::vector<ScreenView*>& children);
-    /// Notes where the window stands; a place that the model asked for is kept as it was asked for, and that of a
-    /// maximised or minimised window is not noted.
-    void notePosition();
-    /// The same when the events at hand are through.
-    void notePositionSoon();
+    FramePosition& position() { return position_; }
+
+    /// The frame of the program, whose controls the menus and their entries belong to.
+    FrmMain& frame() const;
+    /// Of one of the top entries: the menu below it.
+    QMenu& menu(const Control& top) const;
+    /// Of a menu, an entry or a tool bar button, before which additions are inserted.
+    QAction& entry(const Control& control) const;
+    void attach(std::unique_ptr<FrameAddition> addition);
+    void refreshAdditions();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Position {
-        float left = 0;
-        float top = 0;
-        float width = 0;
-        float height = 0;
-        bool operator==(const Position&) const = default;
-    };
-
-    FrmMain& frame() const;
     const Screen* activeChild() const;
     void makeMenus();
-    /// The entry behind those that the program has.
-    void makeKeysEntry(QMenu& helpMenu);
     void makeToolBar();
     void makeButtons(QVBoxLayout& column);
     void makeArea(QVBoxLayout& column);
@@ -86,24 +61,16 @@ private:
     void makeClock();
     void showPressed(const Control& button, bool pressed);
     MenuView& makeEntry(Control& control);
-    void applyPosition();
-    QRect geometryOf(const Position& asked) const;
     QSize wholeSize();
-    void noteMaximised();
 
     MainWindow* window_;
+    FramePosition position_;
     QMdiArea* area_ = nullptr;
     QMenu* windowMenu_ = nullptr;
     QLabel* notice_ = nullptr;
-    QPointer<QDialog> keys_;
     std::vector<QAction*> childEntries_;
     std::vector<std::unique_ptr<ControlView>> own_;
-    FrameSize size_;
-    Position shownPosition_;
-    QRect shownGeometry_;
-    bool placing_ = false;   ///< the window moves because the model says so
-    bool willNote_ = false;  ///< where the window stands
-    bool maximised_ = false; ///< the window, or it is to be when it shows
+    std::vector<std::unique_ptr<FrameAddition>> additions_;
 };
 
 } // namespace wb::desktop

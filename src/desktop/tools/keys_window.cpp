@@ -1,4 +1,4 @@
-#include "desktop/windows/keys_window.h"
+#include "desktop/tools/keys_window.h"
 
 #include <QDialogButtonBox>
 #include <QFile>
