@@ -1,6 +1,7 @@
 #include "script/front_end.h"
 
 #include "core/input.h"
+#include "shell/go_to_byte.h"
 #include "shell/lifecycle.h"
 #include "shell/startup.h"
 
@@ -52,6 +53,10 @@ bool ModelFrontEnd::close(Screen& screen) {
 
 bool ModelFrontEnd::drop(const std::string& name) {
     return shell::dropDataFile(*workbench_, name);
+}
+
+bool ModelFrontEnd::goToByte(int byte) {
+    return shell::goToByte(*workbench_, byte);
 }
 
 } // namespace wb::script

@@ -32,6 +32,8 @@ public:
     virtual bool close(Screen& screen) = 0;
     /// Drops a file on the frame.
     virtual bool drop(const std::string& name) = 0;
+    /// Picks a byte of the image where something tells of it.
+    virtual bool goToByte(int byte) = 0;
 };
 
 /// Acts on the model directly, without any view.
@@ -51,6 +53,7 @@ public:
     bool pressToolBar(const std::string& key) override;
     bool close(Screen& screen) override;
     bool drop(const std::string& name) override;
+    bool goToByte(int byte) override;
 
 private:
     Workbench* workbench_;

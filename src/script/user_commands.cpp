@@ -130,4 +130,11 @@ void drop(Session& session, const Arguments& arguments) {
     }
 }
 
+void goToByte(Session& session, const Arguments& arguments) {
+    const int byte = numberIn(arguments[0]);
+    if (!session.frontEnd.goToByte(byte)) {
+        refuse(session, "byte " + std::to_string(byte));
+    }
+}
+
 } // namespace wb::script::commands

@@ -19,6 +19,7 @@
 #include "desktop/base/text_codec.h"
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/visibility.h"
+#include "shell/go_to_byte.h"
 
 namespace wb::test {
 
@@ -232,6 +233,12 @@ bool WidgetFrontEnd::drop(const std::string& name) {
     QApplication::sendEvent(window.windowHandle(), &event);
     DesktopProgram::settle();
     return true;
+}
+
+bool WidgetFrontEnd::goToByte(int byte) {
+    bool done = false;
+    program_.act([&] { done = shell::goToByte(program_.workbench, byte); });
+    return done;
 }
 
 bool WidgetFrontEnd::close(Screen& screen) {

@@ -23,6 +23,7 @@ public:
     bool pressToolBar(const std::string& key) override;
     bool close(Screen& screen) override;
     bool drop(const std::string& name) override;
+    bool goToByte(int byte) override;
 
 private:
     /// The widget of the control where the user can reach it, else null.

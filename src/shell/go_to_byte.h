@@ -1,0 +1,13 @@
+#pragma once
+
+#include "core/workbench.h"
+
+namespace wb::shell {
+
+/// The user picks byte `byte` of the image where something tells of it, such as in the report: the focus goes to its
+/// cell. The extension screen is opened by the button of the frame, as the user would. Gives whether the cell has the
+/// focus then; it has not where no screen holds the byte, where the screen is out of reach, and where the focus is
+/// called back.
+bool goToByte(Workbench& workbench, int byte);
+
+} // namespace wb::shell
