@@ -14,6 +14,7 @@
 #include "core/base/image_layout.h"
 #include "core/base/numbers.h"
 #include "core/edid_image.h"
+#include "core/step.h"
 
 namespace wb::cea {
 
@@ -32,6 +33,7 @@ bool isDecodedSlot(int slot, int base) {
 } // namespace
 
 void BuildCEA_EXT_Definations(Workbench& workbench) {
+    const Step step(workbench, "decoding the extension");
     procedure(workbench, [](const Procedure& run) {
         for (const auto decode : {BuildVersion, LocateDataBlocks, BuildDTVSupport, BuildVideoTag, BuildShortVideo,
                                   BuildAudioTag, BuildAudioChannels, BuildSampFreq, BuildBitRate}) {

@@ -9,6 +9,7 @@
 #include "cli/plain_reading.h"
 #include "cli/program.h"
 #include "core/base/text.h"
+#include "core/step.h"
 #include "fields/json.h"
 #include "files/data_file.h"
 
@@ -51,10 +52,11 @@ Severity severityOf(const std::string& name) {
 /// The boxes that come up while the program reads a data file.
 std::vector<CheckResult> boxesOf(const Input& input) {
     Program program;
+    const Step step(program.workbench(), "opening the data file");
     files::readDataFile(program.workbench(), input.content);
     std::vector<CheckResult> results;
-    for (const std::string& box : program.boxes()) {
-        results.push_back({false, inOneLine(box)});
+    for (const Box& box : program.boxes().distinct()) {
+        results.push_back({false, boxText(box)});
     }
     return results;
 }

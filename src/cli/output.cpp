@@ -124,16 +124,6 @@ void complain(std::string_view file, std::string_view message) {
     complain(std::string(file) + ": " + std::string(message));
 }
 
-void complainOfBoxes(std::string_view file, const std::vector<std::string>& boxes) {
-    for (auto box = boxes.begin(); box != boxes.end(); ++box) {
-        if (std::find(boxes.begin(), box, *box) == box) {
-            const auto times = std::count(box, boxes.end(), *box);
-            const std::string text = inOneLine(*box) + (times == 1 ? "" : " (" + std::to_string(times) + " times)");
-            file.empty() ? complain(text) : complain(file, text);
-        }
-    }
-}
-
 bool isControl(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }

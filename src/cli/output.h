@@ -4,7 +4,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace wb::cli {
 
@@ -48,9 +47,6 @@ void complain(std::string_view file, std::string_view message);
 bool isControl(char c);
 /// A control character as "\\x1B".
 std::string controlEscape(char c);
-
-/// The boxes that came up while a file was worked on (empty: no file), each text once with how often it came.
-void complainOfBoxes(std::string_view file, const std::vector<std::string>& boxes);
 
 /// A text of the program in one line: line ends become one blank, other control characters are escaped.
 std::string inOneLine(std::string_view text);

@@ -22,7 +22,7 @@ namespace {
 PanelEditing::PanelEditing(const Image& image) : bytes_(image.content()) {
     program_.load(image);
     complainOfBoxes(image.origin().file, program_.boxes());
-    boxesOfLoading_ = program_.boxes().size();
+    program_.clearBoxes();
     Control& modify = program_.workbench().frmMain().Command2;
     if (!input::click(modify)) {
         failUnreachable(modify);
@@ -79,8 +79,8 @@ void PanelEditing::enter(Control& input, std::string_view entry) {
 }
 
 void PanelEditing::refuseBoxes(const Control& control) const {
-    if (program_.boxes().size() > boxesOfLoading_) {
-        throw CliError(control.fullName() + ": " + inOneLine(program_.boxes()[boxesOfLoading_]));
+    if (!program_.boxes().empty()) {
+        throw CliError(control.fullName() + ": " + inOneLine(program_.boxes().distinct().front().text));
     }
 }
 

@@ -34,7 +34,6 @@ private:
     void takeOver(CellRange cells);
 
     Program program_;
-    std::size_t boxesOfLoading_ = 0;
     std::string bytes_;
 };
 

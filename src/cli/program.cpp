@@ -8,6 +8,7 @@
 #include "core/base/text.h"
 #include "core/edid_image.h"
 #include "core/input.h"
+#include "core/step.h"
 #include "files/data_file.h"
 #include "files/save.h"
 #include "report/show_report.h"
@@ -60,14 +61,16 @@ Program::Program(platform::Registry& registry, const std::optional<platform::Dat
 
 Program::Program(const std::optional<platform::DateTime>& now, platform::Registry* registry)
     : services_(withRegistry(platform_.services(), registry)), workbench_(services_, shell::wiring()) {
-    platform_.onBox = [this](const std::string& text) { boxes_.push_back(text); };
+    platform_.onBox = [this](const std::string& text) { boxes_.add(text, workbench_.step); };
     if (now) {
         platform_.setClock(*now);
     }
+    const Step step(workbench_, "starting");
     workbench_.runAction([&] { shell::Main(workbench_); });
 }
 
 void Program::loadDataFile(const Input& input) {
+    const Step step(workbench_, "opening the data file");
     bool loaded = false;
     workbench_.runAction([&] { loaded = shell::openDataFile(workbench_, input.name, input.content); });
     if (!loaded) {
@@ -76,6 +79,7 @@ void Program::loadDataFile(const Input& input) {
 }
 
 void Program::load(const Image& image) {
+    const Step step(workbench_, "loading the image");
     workbench_.runAction([&] { acquire::LoadStoredEdid(workbench_, image.content()); });
 }
 
@@ -101,7 +105,7 @@ std::optional<Image> Program::storedImage() {
 }
 
 void Program::failToLoad() const {
-    throw CliError("cannot be loaded" + (boxes_.empty() ? "" : ": " + inOneLine(boxes_.back())));
+    throw CliError("cannot be loaded" + (boxes_.empty() ? "" : ": " + inOneLine(boxes_.last())));
 }
 
 std::string Program::report() {
@@ -113,7 +117,8 @@ std::string Program::dataFile() {
     const TemporaryFolder folder("image.DAT");
     const std::string path = folder.file();
     workbench_.CurrentFileName = path;
-    const std::size_t boxesBefore = boxes_.size();
+    const Step step(workbench_, "writing the data file");
+    const std::size_t boxesBefore = boxes_.count();
     workbench_.runAction([&] { files::FileSave(workbench_); });
     return contentWithoutBox(path, boxesBefore);
 }
@@ -122,14 +127,15 @@ std::string Program::hexExport() {
     const TemporaryFolder folder("image.hex");
     const std::string path = folder.file();
     platform_.queueFileName(path);
-    const std::size_t boxesBefore = boxes_.size();
+    const Step step(workbench_, "writing the hexadecimal export");
+    const std::size_t boxesBefore = boxes_.count();
     input::choose(workbench_.frmMain().ExportHex);
     return contentWithoutBox(path, boxesBefore);
 }
 
 std::string Program::contentWithoutBox(const std::string& path, std::size_t boxesBefore) const {
-    if (boxes_.size() != boxesBefore) {
-        throw CliError("cannot be written: " + inOneLine(boxes_.back()));
+    if (boxes_.count() != boxesBefore) {
+        throw CliError("cannot be written: " + inOneLine(boxes_.last()));
     }
     return readInput(path).content;
 }

@@ -2,8 +2,8 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
+#include "cli/boxes.h"
 #include "cli/image_input.h"
 #include "cli/input.h"
 #include "core/workbench.h"
@@ -20,7 +20,9 @@ public:
     explicit Program(platform::Registry& registry, const std::optional<platform::DateTime>& now = std::nullopt);
 
     Workbench& workbench() { return workbench_; }
-    const std::vector<std::string>& boxes() const { return boxes_; }
+    const Boxes& boxes() const { return boxes_; }
+    /// Forgets the boxes that came up so far.
+    void clearBoxes() { boxes_.clear(); }
 
     /// Loads a data file as Open does. One that cannot be read is a CliError.
     void loadDataFile(const Input& input);
@@ -50,7 +52,7 @@ private:
     platform::headless::HeadlessPlatform platform_;
     platform::Services services_;
     Workbench workbench_;
-    std::vector<std::string> boxes_;
+    Boxes boxes_;
 };
 
 } // namespace wb::cli

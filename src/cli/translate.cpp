@@ -6,6 +6,7 @@
 #include <optional>
 #include <thread>
 
+#include "cli/boxes.h"
 #include "cli/cli_error.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
@@ -45,7 +46,7 @@ struct Translation {
     std::string title;  ///< of the image, for its heading
     std::string output; ///< named only where the file holds several images
     std::string report;
-    std::vector<std::string> boxes;
+    Boxes boxes;
     std::vector<std::string> omissions;
     std::optional<std::string> error;
 };

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -85,8 +86,9 @@ struct Workbench : SharedVariables {
     const platform::Services& platform;
     Focus focus;
     Windows windows;
-    View* view = nullptr; ///< who draws the screens; null where nobody does
-    bool ended = false;   ///< the program has ended; nothing is in the user's reach any more
+    View* view = nullptr;  ///< who draws the screens; null where nobody does
+    bool ended = false;    ///< the program has ended; nothing is in the user's reach any more
+    std::string_view step; ///< what it is doing, where that is named (core/step.h)
 
 private:
     class ActionDepth {

@@ -2,6 +2,7 @@
 
 #include "core/base/text.h"
 #include "core/edid_image.h"
+#include "core/step.h"
 #include "core/view.h"
 #include "files/common_dialog.h"
 #include "files/data_file.h"
@@ -24,6 +25,7 @@ void showPointer(Workbench& workbench, platform::Pointer pointer) {
 /// Hands over the lines of each block when they are built.
 template <class Take>
 void buildBlocks(Workbench& workbench, const Take& take) {
+    const Step step(workbench, "building the report");
     report::BuildBlock0Report(workbench);
     take(dataFileText(workbench.ReportBlock0Lines));
     if (hasExtensionByDecimalText(workbench)) {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/edid_image.h"
+#include "core/step.h"
 #include "report/basic_display.h"
 #include "report/checksum.h"
 #include "report/chromaticity.h"
@@ -53,6 +54,7 @@ constexpr std::array<Decoder, 19> decoders = {
 } // namespace
 
 void BuildEDIDDefinations(Workbench& workbench) {
+    const Step step(workbench, "decoding block 0");
     for (const Decoder decode : decoders) {
         decode(workbench);
     }

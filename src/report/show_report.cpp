@@ -1,6 +1,7 @@
 #include "report/show_report.h"
 
 #include "core/edid_image.h"
+#include "core/step.h"
 #include "report/block0_report.h"
 #include "report/extension_report.h"
 #include "report/report_lines.h"
@@ -46,6 +47,7 @@ void showOnce(Workbench& workbench, bool hidden) {
 } // namespace
 
 void ShowReport(Workbench& workbench, bool hidden) {
+    const Step step(workbench, "building the report");
     for (int pass = 0; pass < passes; ++pass) {
         if (workbench.EDIDLoaded != flagFalse) {
             showOnce(workbench, hidden);

@@ -54,7 +54,7 @@ TEST_F(CheckTest, ADataFileWithTooManyPairsIsWrong) {
     shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; echo '| AA' >>z.DAT");
     const Outcome outcome = shell("edidwb check z.DAT");
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_THAT(outcome.output, HasSubstr("check sum of block 1 ok, Subscript out of range\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("check sum of block 1 ok, Subscript out of range (opening the data file)\n"));
 }
 
 TEST_F(CheckTest, TellsFindingsBelowTheirFile) {

@@ -163,7 +163,8 @@ TEST_F(ConvertTest, WhatCannotBeWrittenOnTheWayIsTold) {
     const Outcome outcome = shell(
         "(ulimit -f 0; edidwb convert --to dat $SAMPLES/zarqo-z40.bin - 2>&1; echo status $?) | sed 's|.*/samples/||'");
     EXPECT_EQ(outcome.output,
-              "zarqo-z40.bin: Path/File access error\nzarqo-z40.bin: cannot be written: Path/File access error\n"
+              "zarqo-z40.bin: Path/File access error (writing the data file)\nzarqo-z40.bin: cannot be written: "
+              "Path/File access error\n"
               "status 1\n");
 }
 

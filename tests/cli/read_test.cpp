@@ -65,7 +65,8 @@ TEST_F(ReadTest, ABoxChangesNoExitStatus) {
     sysfs.addConnector("card0-DP-1", "connected", sample("zarqo-z40.bin").substr(0, 128));
     const Outcome outcome = run("read");
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.errors.substr(0, outcome.errors.find('\n')), "edidwb: Invalid procedure call or argument")
+    EXPECT_EQ(outcome.errors.substr(0, outcome.errors.find('\n')),
+              "edidwb: Invalid procedure call or argument (loading the image)")
         << "the extension block is missing";
     EXPECT_THAT(outcome.output, HasSubstr("128 BYTES OF EDID CODE:"));
 }

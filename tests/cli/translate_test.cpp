@@ -125,7 +125,7 @@ TEST_F(TranslateTest, ADataFileThatBreaksOffIsToldToo) {
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(outcome.errors,
-              "edidwb: short.DAT: Input past end of file\n"
+              "edidwb: short.DAT: Input past end of file (opening the data file)\n"
               "edidwb: short.DAT: cannot be loaded: Input past end of file\n");
 }
 
@@ -157,7 +157,7 @@ TEST_F(TranslateTest, ADataFileWhoseCellsTheDecodersRewriteIsLoaded) {
 TEST_F(TranslateTest, BoxesCountOnlyWhenStrict) {
     // The data file has one pair too many: that is told, and the rest is as good as before.
     shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; echo '| AA' >>z.DAT");
-    const std::string told = "edidwb: z.DAT: Subscript out of range\n";
+    const std::string told = "edidwb: z.DAT: Subscript out of range (opening the data file)\n";
     const Outcome lenient = shell("edidwb translate z.DAT");
     EXPECT_EQ(lenient.status, 0);
     EXPECT_EQ(lenient.errors, told);
@@ -287,7 +287,7 @@ TEST_F(TranslateTest, LargeFilesAreReadInOneGo) {
     const Outcome outcome = shell("edidwb translate bars hex dump marker");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.errors, HasSubstr("edidwb: bars: is no EDID image"));
-    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: dump: Subscript out of range\n"));
+    EXPECT_THAT(outcome.errors, HasSubstr("edidwb: dump: Subscript out of range (opening the data file)\n"));
     EXPECT_THAT(outcome.errors, HasSubstr("edidwb: marker: cannot be loaded: Input past end of file\n"));
 }
 
