@@ -41,4 +41,10 @@ public:
 /// Megahertz have two decimals, or three where they need them. There is no line end.
 std::string modelineText(const Modeline& modeline);
 
+/// The timing that a text spells: the line above, with or without the word and the name in front, lines of a comment
+/// (#) around it; or the three lines of a mode in the output of `xrandr --verbose`. Letter case does not count. Its
+/// numbers are whole and in their order, from 1 to 65535, and both polarities are told; anything else is a
+/// ModelineError.
+Modeline readModeline(std::string_view text);
+
 } // namespace wb::fields
