@@ -1,25 +1,11 @@
 #include "desktop/binder/cell_names.h"
 
 #include <QStringList>
-
-#include "core/base/digits.h"
+#include <utility>
 
 namespace wb::desktop {
 
 namespace {
-
-/// The byte that a cell holds; one that is no number counts as 0, which names its neighbours all the same.
-char byteIn(const Control& cell) {
-    constexpr std::size_t digits = 2;
-    const auto number = cell.text().size() == digits ? wholeNumber<unsigned>(cell.text(), 16) : std::nullopt;
-    return static_cast<char>(number.value_or(0));
-}
-
-void addBytes(BlockScreen& screen, std::string& bytes) {
-    for (int i = 0; i < BlockScreen::cellCount; ++i) {
-        bytes += byteIn(screen.txtEdit(i));
-    }
-}
 
 /// The fields that have bits in a byte of the image, from the highest bit down.
 std::vector<const fields::Field*> fieldsIn(const fields::Reading& reading, std::size_t byte) {
@@ -63,25 +49,14 @@ QString valuesOf(const std::vector<const fields::Field*>& fields) {
 
 } // namespace
 
-void CellNames::refresh(const Workbench& workbench) {
-    std::string bytes;
-    auto* block0 = static_cast<BlockScreen*>(workbench.loaded(ScreenId::Edid));
-    auto* extension = static_cast<BlockScreen*>(workbench.loaded(ScreenId::CeaExt));
-    if (block0 != nullptr) {
-        addBytes(*block0, bytes);
-    }
-    if (block0 != nullptr && extension != nullptr) {
-        addBytes(*extension, bytes);
-    }
-    if (bytes == named_) {
+void CellNames::refresh(const Workbench& workbench, const LiveReading& live) const {
+    const fields::Reading* reading = live.readingBesides();
+    if (reading == nullptr) {
         return;
     }
-    named_ = bytes;
-    if (const auto image = Image::fromBytes(bytes)) {
-        const fields::Reading reading = fields::read(*image);
-        name(*block0, reading, 0);
-        if (extension != nullptr) {
-            name(*extension, reading, Image::blockSize);
+    for (const auto& [id, firstByte] : {std::pair(ScreenId::Edid, 0), std::pair(ScreenId::CeaExt, blockSize)}) {
+        if (auto* screen = static_cast<BlockScreen*>(workbench.loaded(id))) {
+            name(*screen, *reading, static_cast<std::size_t>(firstByte));
         }
     }
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <functional>
-#include <string>
 
 #include "core/screens/block_screen.h"
 #include "core/workbench.h"
+#include "desktop/base/live_reading.h"
 #include "desktop/views/control_view.h"
 #include "fields/reading.h"
 
@@ -18,16 +18,13 @@ public:
 
     explicit CellNames(Find find) : find_(std::move(find)) {}
 
-    /// Names the cells of the loaded screens, unless they hold what they held the last time.
-    void refresh(const Workbench& workbench);
-    /// There are cells that have no name yet.
-    void forget() { named_.clear(); }
+    /// Names the cells of the loaded screens.
+    void refresh(const Workbench& workbench, const LiveReading& live) const;
 
 private:
     void name(BlockScreen& screen, const fields::Reading& reading, std::size_t firstByte) const;
 
     Find find_;
-    std::string named_; ///< the bytes that the names are about
 };
 
 } // namespace wb::desktop

@@ -17,7 +17,9 @@ DesktopView::DesktopView(Workbench& workbench, ModelGate& gate)
     : workbench_(workbench),
       gate_(gate),
       focus_(workbench, gate, [this](const Control& control) { return viewOf(control); }),
+      reading_(workbench),
       cellNames_([this](const Control& control) { return viewOf(control); }) {
+    reading_.listen(*this, [this] { cellNames_.refresh(workbench_, reading_); });
     workbench_.view = this;
     gate_.setObserver(this);
     makeMissing();
@@ -116,7 +118,7 @@ void DesktopView::showChanges() {
     for (const auto& [screen, view] : screens_) {
         view->refreshStates();
     }
-    cellNames_.refresh(workbench_);
+    reading_.noteCall();
     if (windowsStale_) {
         windowsStale_ = false;
         for (const auto& [screen, view] : screens_) {
@@ -141,7 +143,7 @@ void DesktopView::makeMissing() {
     for (Screen* screen : workbench_.loadedInOrder()) {
         if (viewOf(*screen) == nullptr) {
             screens_[screen] = makeView(*screen);
-            cellNames_.forget();
+            reading_.forget();
         }
     }
 }

@@ -29,6 +29,7 @@ public:
     ControlView* viewOf(const Control& control) const;
     /// Carries out a focus move that Qt has made for the user and that still waits to be reported.
     void settleFocus() override { focus_.settle(); }
+    LiveReading& liveReading() override { return reading_; }
 
     void controlChanged(Control& control) override;
     void screenChanged(Screen& screen) override;
@@ -63,6 +64,7 @@ private:
     ModelGate& gate_;
     FocusKeeper focus_;
     WayBack wayBack_;
+    LiveReading reading_;
     CellNames cellNames_;
     std::unordered_map<const Screen*, std::unique_ptr<ScreenView>> screens_;
     std::vector<std::unique_ptr<ScreenView>> gone_;

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "core/control.h"
+#include "desktop/base/live_reading.h"
 #include "desktop/base/model_gate.h"
 #include "desktop/layouts/layout.h"
 
@@ -14,11 +15,12 @@ namespace wb::desktop {
 class ControlView;
 class ScreenView;
 
-/// Where views report what the user does.
+/// Where views report what the user does, and learn what the image says.
 class UserActions {
 public:
     virtual ~UserActions() = default;
     virtual ModelGate& gate() = 0;
+    virtual LiveReading& liveReading() = 0;
     /// Qt has given its focus to the widget of that view.
     virtual void focusArrived(ControlView& view, Qt::FocusReason reason) = 0;
     /// Qt has made the window of that view the active child, or the user has pressed its title bar with the mouse.

@@ -1,0 +1,90 @@
+#include "desktop/base/live_reading.h"
+
+#include <QTimer>
+#include <utility>
+
+#include "core/base/digits.h"
+#include "core/base/image_layout.h"
+#include "core/screens/block_screen.h"
+#include "desktop/base/text_codec.h"
+
+namespace wb::desktop {
+
+namespace {
+
+std::optional<std::uint8_t> byteIn(const std::string& cell) {
+    constexpr std::size_t digits = 2;
+    return cell.size() == digits ? wholeNumber<std::uint8_t>(cell, 16) : std::nullopt;
+}
+
+void addCells(BlockScreen& screen, std::vector<std::string>& cells) {
+    for (int i = 0; i < BlockScreen::cellCount; ++i) {
+        cells.push_back(screen.txtEdit(i).text());
+    }
+}
+
+/// The texts of the cells that make up the image; none while there is no image. Touches no screen.
+std::vector<std::string> imageCells(const Workbench& workbench) {
+    std::vector<std::string> cells;
+    if (auto* block0 = static_cast<BlockScreen*>(workbench.loaded(ScreenId::Edid))) {
+        addCells(*block0, cells);
+        auto* extension = static_cast<BlockScreen*>(workbench.loaded(ScreenId::CeaExt));
+        if (extension != nullptr && byteIn(cells[extensionCountCell]) != 0) {
+            addCells(*extension, cells);
+        }
+    }
+    return cells;
+}
+
+QString complaintAbout(std::size_t number, const std::string& text) {
+    const std::size_t block = number / BlockScreen::cellCount;
+    return QString("Cell %1 of %2 holds \"%3\", which is not a byte of two hexadecimal digits.")
+        .arg(number % BlockScreen::cellCount)
+        .arg(block == 0 ? "block 0" : "the extension block", toUnicode(text));
+}
+
+} // namespace
+
+void LiveReading::listen(QObject& context, std::function<void()> listener) {
+    listeners_.push_back({&context, std::move(listener)});
+}
+
+void LiveReading::noteCall() {
+    if (!std::exchange(willUpdate_, true)) {
+        QTimer::singleShot(0, this, [this] { update(); });
+    }
+}
+
+void LiveReading::update() {
+    willUpdate_ = false;
+    std::vector<std::string> cells = imageCells(workbench_);
+    if (cells == cells_) {
+        return;
+    }
+    read(cells);
+    cells_ = std::move(cells);
+    std::erase_if(listeners_, [](const Listener& listener) { return listener.context.isNull(); });
+    for (const Listener& listener : std::vector<Listener>(listeners_)) { // a listener may make more of them
+        if (!listener.context.isNull()) {
+            listener.call();
+        }
+    }
+}
+
+void LiveReading::read(const std::vector<std::string>& cells) {
+    complaint_.clear();
+    std::string bytes;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const auto byte = byteIn(cells[i]);
+        if (!byte && complaint_.isEmpty()) {
+            complaint_ = complaintAbout(i, cells[i]);
+        }
+        bytes += static_cast<char>(byte.value_or(0));
+    }
+    reading_.reset();
+    if (const auto image = Image::fromBytes(bytes)) {
+        reading_.emplace(fields::read(*image));
+    }
+}
+
+} // namespace wb::desktop
