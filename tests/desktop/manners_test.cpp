@@ -1,3 +1,4 @@
+#include <QCheckBox>
 #include <QDropEvent>
 #include <QFile>
 #include <QLineEdit>
@@ -63,6 +64,15 @@ TEST_F(Find, GoesFromPlaceToPlaceAndMarksThemAll) {
     EXPECT_TRUE(box().hasFocus());
     EXPECT_EQ(report().selLength(), 3) << "the model knows the selection";
     EXPECT_EQ(focused(), "frmDocument.rtftext");
+}
+
+TEST_F(Find, MatchesTheCaseWhereAsked) {
+    open();
+    type("Two");
+    EXPECT_EQ(page().extraSelections().size(), 3);
+    bar().findChild<QCheckBox*>()->click();
+    EXPECT_EQ(page().extraSelections().size(), 1);
+    EXPECT_EQ(found(), "1: Two");
 }
 
 TEST_F(Find, TellsWhereThereIsNone) {

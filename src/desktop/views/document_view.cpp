@@ -57,7 +57,8 @@ void DocumentView::tellSelection() {
 }
 
 QSize ReportBox::sizeHint() const {
-    const QFontMetrics metrics(font());
+    // In the usual size of the face, whatever it is shown in.
+    const QFontMetrics metrics(fixedPitchFont().resolve(parentWidget() != nullptr ? parentWidget()->font() : font()));
     const int margins = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
     return {metrics.horizontalAdvance('0') * visibleColumns + margins + verticalScrollBar()->sizeHint().width(),
             metrics.lineSpacing() * visibleLines + margins};

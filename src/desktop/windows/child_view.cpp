@@ -7,7 +7,6 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/input.h"
@@ -19,7 +18,9 @@
 #include "desktop/windows/document_page.h"
 #include "desktop/windows/find_bar.h"
 #include "desktop/windows/frame_size.h"
+#include "desktop/windows/report_pane.h"
 #include "desktop/windows/screen_page.h"
+#include "shell/go_to_byte.h"
 
 namespace wb::desktop {
 
@@ -84,19 +85,17 @@ ChildView::ChildView(Screen& screen, UserActions& actions, QMdiArea& area)
     addKey(Qt::Key_F6, [this] { changeSide(); });
 }
 
-/// The page and, below that of the report, the bar of its search.
+/// The page, that of the report with what helps to read it.
 QWidget* ChildView::inside() {
     auto* scroller = new PageScroller(*page_);
     if (screen()->id() != ScreenId::Document) {
         return scroller;
     }
-    auto* pane = new QWidget;
-    auto* column = new QVBoxLayout(pane);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(scroller, 1);
-    findBar_ = new FindBar(static_cast<QPlainTextEdit&>(*page_->views().front()->widget()));
-    column->addWidget(findBar_);
+    auto& report = static_cast<QPlainTextEdit&>(*page_->views().front()->widget());
+    auto* pane = new ReportPane(*scroller, report, [this](int byte) {
+        act([byte](Screen& target) { shell::goToByte(target.workbench(), byte); });
+    });
+    findBar_ = &pane->findBar();
     addKey(Qt::Key_F3, [this] { findBar_->next(); });
     addKey(Qt::SHIFT | Qt::Key_F3, [this] { findBar_->previous(); });
     return pane;

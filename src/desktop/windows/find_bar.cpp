@@ -1,5 +1,6 @@
 #include "desktop/windows/find_bar.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
@@ -20,7 +21,8 @@ void addKey(QWidget& owner, const QKeySequence& keys, const std::function<void()
 
 } // namespace
 
-FindBar::FindBar(QPlainTextEdit& text) : text_(text), box_(new QLineEdit), outcome_(new QLabel) {
+FindBar::FindBar(QPlainTextEdit& text)
+    : text_(text), box_(new QLineEdit), case_(new QCheckBox("Match &case")), outcome_(new QLabel) {
     markOwnFocus(*this);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(row->spacing(), row->spacing(), row->spacing(), row->spacing());
@@ -31,13 +33,14 @@ FindBar::FindBar(QPlainTextEdit& text) : text_(text), box_(new QLineEdit), outco
     auto* next = new QPushButton("&Next");
     auto* previous = new QPushButton("&Previous");
     auto* close = new QPushButton("Close");
-    for (QWidget* widget :
-         {static_cast<QWidget*>(words), static_cast<QWidget*>(box_), static_cast<QWidget*>(next),
-          static_cast<QWidget*>(previous), static_cast<QWidget*>(outcome_), static_cast<QWidget*>(close)}) {
+    for (QWidget* widget : {static_cast<QWidget*>(words), static_cast<QWidget*>(box_), static_cast<QWidget*>(next),
+                            static_cast<QWidget*>(previous), static_cast<QWidget*>(case_),
+                            static_cast<QWidget*>(outcome_), static_cast<QWidget*>(close)}) {
         row->addWidget(widget);
     }
     row->setStretchFactor(box_, 1);
     QObject::connect(box_, &QLineEdit::textChanged, this, [this] { look(); });
+    QObject::connect(case_, &QCheckBox::toggled, this, [this] { look(); });
     QObject::connect(box_, &QLineEdit::returnPressed, this, [this] { step(1); });
     QObject::connect(next, &QPushButton::clicked, this, [this] { step(1); });
     QObject::connect(previous, &QPushButton::clicked, this, [this] { step(-1); });
@@ -70,11 +73,13 @@ void FindBar::hideEvent(QHideEvent* event) {
     text_.setExtraSelections({});
 }
 
-/// Looks for the text, whatever the case of its letters, and selects the place at the cursor or the next one.
+/// Looks for the text and selects the place at the cursor or the next one.
 void FindBar::look() {
     places_.clear();
     QTextCursor place(text_.document());
-    while (!box_->text().isEmpty() && !(place = text_.document()->find(box_->text(), place)).isNull()) {
+    const QTextDocument::FindFlags how =
+        case_->isChecked() ? QTextDocument::FindCaseSensitively : QTextDocument::FindFlags();
+    while (!box_->text().isEmpty() && !(place = text_.document()->find(box_->text(), place, how)).isNull()) {
         places_.append(place);
     }
     mark();

@@ -6,6 +6,8 @@
 #include <QTextCursor>
 #include <QWidget>
 
+class QCheckBox;
+
 namespace wb::desktop {
 
 /// The search in a text: all places are marked, the current one is selected. Hidden until it is opened.
@@ -30,6 +32,7 @@ private:
 
     QPlainTextEdit& text_;
     QLineEdit* box_;
+    QCheckBox* case_;
     QLabel* outcome_;
     QList<QTextCursor> places_;
 };
