@@ -22,10 +22,6 @@ constexpr std::array<std::string_view, 13> skippedMonitors = {
     "IN-SB-8XX-PLATFORMS", "NVWIN2KDUALVIEW", "SI-164",          "NTativmd34", "NTativrv34",
     "NTativmd40",          "NTativrv40",      "MTX0000"};
 
-bool isSkipped(std::string_view name) {
-    return std::find(skippedMonitors.begin(), skippedMonitors.end(), name) != skippedMonitors.end();
-}
-
 /// One walk through the tree, depth first. It keeps its own stack, so that the depth of a foreign tree is no danger.
 class Walk {
 public:
@@ -81,7 +77,7 @@ private:
         if (registry_.enumerateKey(level.key.key(), level.next++, name) != RegistryCode::Ok || name.empty()) {
             return {};
         }
-        return isSkipped(name) ? std::string() : visit(name);
+        return isVirtualMonitor(name) ? std::string() : visit(name);
     }
 
     std::string visit(const std::string& name) {
@@ -117,6 +113,10 @@ private:
 };
 
 } // namespace
+
+bool isVirtualMonitor(std::string_view name) {
+    return std::find(skippedMonitors.begin(), skippedMonitors.end(), name) != skippedMonitors.end();
+}
 
 std::string SearchRegistryForEDID(Workbench& workbench, const std::string& path, bool walkKeys) {
     return trappedOr(workbench, std::string(), [&] { return Walk(workbench, path, walkKeys).run(); });

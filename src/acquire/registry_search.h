@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/workbench.h"
 
@@ -8,6 +9,9 @@
 /// the monitor models, below these their device instances. An instance in use has the sub-keys "Control" and "Device
 /// Parameters", the latter with the EDID as a binary value.
 namespace wb::acquire {
+
+/// Whether the search passes over a monitor model of that name and all below it, as over entries of display adapters.
+bool isVirtualMonitor(std::string_view name);
 
 /// With `walkKeys`: the path of the "Device Parameters" of the first instance below `path`, in the registry's order,
 /// that has a sub-key "Control"; for a "Control" in another spelling the path of the instance itself. Without: the raw

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "platform/services.h"
@@ -24,13 +25,20 @@ void addSystemOptions(CLI::App& command, SystemOptions& options);
 /// The registry tree that holds the stored EDIDs. A folder that is not there is a CliError, as below.
 std::unique_ptr<platform::Registry> systemRegistry(const SystemOptions& options);
 
+/// A place where a monitor is or can be attached.
 struct Monitor {
     std::string name;
-    std::string source;    ///< where its EDID comes from
-    std::size_t bytes = 0; ///< length of the EDID, 0 where there is none
+    std::string source; ///< where its EDID comes from
+    bool attached = true;
+    bool isVirtual = false;  ///< one that the search for a stored EDID never takes
+    std::string edid{};      ///< empty where none is stored, and where it cannot be read
+    std::error_code error{}; ///< why it cannot be read
 };
 
-/// The attached monitors, in the order in which the search for a stored EDID meets them.
-std::vector<Monitor> attachedMonitors(const SystemOptions& options);
+/// All places, in the order in which the search for a stored EDID meets them.
+std::vector<Monitor> monitorPlaces(const SystemOptions& options);
+
+/// What keeps the system's monitors from being known, a sentence each; none where all is told.
+std::vector<std::string> obstaclesOf(const SystemOptions& options);
 
 } // namespace wb::cli

@@ -29,17 +29,28 @@ std::unique_ptr<platform::Registry> systemRegistry(const SystemOptions& options)
     return std::make_unique<platform::linux_system::SysfsRegistry>(options.sysfs);
 }
 
-std::vector<Monitor> attachedMonitors(const SystemOptions& options) {
+std::vector<Monitor> monitorPlaces(const SystemOptions& options) {
     requireFolder(options.sysfs);
     const platform::linux_system::DrmConnectors connectors(options.sysfs);
     std::vector<Monitor> monitors;
     for (const std::string& name : connectors.names()) {
-        if (connectors.connected(name)) {
-            const std::string edid = connectors.edid(name, connectors.longestEdid).value_or("");
-            monitors.push_back({name, connectors.edidPath(name).string(), edid.size()});
-        }
+        Monitor monitor{
+            .name = name, .source = connectors.edidPath(name).string(), .attached = connectors.connected(name)};
+        monitor.edid = connectors.edid(name, connectors.longestEdid, monitor.error).value_or("");
+        monitors.push_back(std::move(monitor));
     }
     return monitors;
+}
+
+std::vector<std::string> obstaclesOf(const SystemOptions& options) {
+    std::vector<std::string> sentences;
+    for (const auto& [path, error] : platform::linux_system::DrmConnectors(options.sysfs).obstacles()) {
+        std::string sentence = path.string();
+        sentence += ": ";
+        sentence += error.message();
+        sentences.push_back(std::move(sentence));
+    }
+    return sentences;
 }
 
 } // namespace wb::cli

@@ -1,3 +1,6 @@
+#include <utility>
+
+#include "acquire/registry_search.h"
 #include "cli/system.h"
 #include "platform/open_key.h"
 #include "platform/windows/win32_registry.h"
@@ -20,10 +23,16 @@ std::vector<std::string> subKeys(platform::Registry& registry, const std::string
     return names;
 }
 
-std::size_t edidLength(platform::Registry& registry, const std::string& parameters) {
+void readEdid(platform::Registry& registry, const std::string& parameters, Monitor& monitor) {
     const platform::OpenKey key(registry, parameters);
     platform::RegistryValue value;
-    return key.isOpen() && registry.readValue(key.key(), "EDID", value) == RegistryCode::Ok ? value.data.size() : 0;
+    const RegistryCode code = key.isOpen() ? registry.readValue(key.key(), "EDID", value) : key.code();
+    if (code == RegistryCode::Ok) {
+        monitor.edid = std::move(value.data);
+    } else if (code != RegistryCode::NotFound) {
+        monitor.error =
+            std::make_error_code(code == RegistryCode::Refused ? std::errc::permission_denied : std::errc::io_error);
+    }
 }
 
 } // namespace
@@ -34,21 +43,32 @@ std::unique_ptr<platform::Registry> systemRegistry(const SystemOptions&) {
     return std::make_unique<platform::windows::Win32Registry>();
 }
 
-std::vector<Monitor> attachedMonitors(const SystemOptions&) {
+std::vector<Monitor> monitorPlaces(const SystemOptions&) {
     platform::windows::Win32Registry registry;
     std::vector<Monitor> monitors;
     for (const std::string& model : subKeys(registry, displayKey)) {
         for (const std::string& instance : subKeys(registry, std::string(displayKey) + '\\' + model)) {
             const std::string name = model + '\\' + instance;
             const std::string path = std::string(displayKey) + '\\' + name;
-            if (platform::OpenKey(registry, path + "\\Control").isOpen()) {
-                const std::string parameters = path + "\\Device Parameters";
-                monitors.push_back(
-                    {name, "HKEY_LOCAL_MACHINE\\" + parameters + "\\EDID", edidLength(registry, parameters)});
-            }
+            const std::string parameters = path + "\\Device Parameters";
+            Monitor monitor{.name = name, .source = "HKEY_LOCAL_MACHINE\\" + parameters + "\\EDID"};
+            monitor.attached = platform::OpenKey(registry, path + "\\Control").isOpen();
+            monitor.isVirtual = acquire::isVirtualMonitor(model);
+            readEdid(registry, parameters, monitor);
+            monitors.push_back(std::move(monitor));
         }
     }
     return monitors;
+}
+
+std::vector<std::string> obstaclesOf(const SystemOptions&) {
+    platform::windows::Win32Registry registry;
+    const platform::OpenKey key(registry, displayKey);
+    if (key.isOpen()) {
+        return {};
+    }
+    return {std::string("HKEY_LOCAL_MACHINE\\") + displayKey +
+            (key.code() == RegistryCode::NotFound ? ": is not there" : ": cannot be read")};
 }
 
 } // namespace wb::cli

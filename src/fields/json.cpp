@@ -50,14 +50,6 @@ void writeBlocks(JsonWriter& json, const Reading& reading) {
     json.endArray();
 }
 
-void writeMode(JsonWriter& json, const Mode& mode) {
-    json.beginObject().member("source", sourceName(mode.source));
-    json.member("width_px", mode.width).member("height_px", mode.height).member("interlaced", mode.interlaced);
-    json.member("refresh_mhz", mode.refreshMilliHertz).member("pixel_clock_khz", mode.pixelClockKilohertz);
-    json.member("h_total", mode.horizontalTotal).member("v_total", mode.verticalTotal);
-    json.member("native", mode.native).endObject();
-}
-
 void writePoint(JsonWriter& json, std::string_view name, const Point& point) {
     json.key(name).beginArray().value(point.x).value(point.y).endArray();
 }
@@ -89,12 +81,7 @@ void writeRange(JsonWriter& json, const Summary& summary) {
 }
 
 void writeModes(JsonWriter& json, const Summary& summary) {
-    json.key("preferred_mode");
-    if (summary.preferredMode) {
-        writeMode(json, *summary.preferredMode);
-    } else {
-        json.null();
-    }
+    writeMode(json.key("preferred_mode"), summary.preferredMode);
     json.key("modes").beginArray();
     for (const Mode& mode : summary.modes) {
         writeMode(json, mode);
@@ -222,6 +209,18 @@ void writeFindings(JsonWriter& json, std::span<const Finding> findings) {
 }
 
 } // namespace
+
+void writeMode(JsonWriter& json, const std::optional<Mode>& mode) {
+    if (!mode) {
+        json.null();
+        return;
+    }
+    json.beginObject().member("source", sourceName(mode->source));
+    json.member("width_px", mode->width).member("height_px", mode->height).member("interlaced", mode->interlaced);
+    json.member("refresh_mhz", mode->refreshMilliHertz).member("pixel_clock_khz", mode->pixelClockKilohertz);
+    json.member("h_total", mode->horizontalTotal).member("v_total", mode->verticalTotal);
+    json.member("native", mode->native).endObject();
+}
 
 void writeValue(JsonWriter& json, const Value& value) {
     std::visit(ValueWriter{json}, value);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 
@@ -19,6 +20,9 @@ std::string summaryToJson(const Reading& reading);
 
 /// The value of a field as its member "value" has it.
 void writeValue(JsonWriter& json, const Value& value);
+
+/// A mode as the summary has it; null where there is none.
+void writeMode(JsonWriter& json, const std::optional<Mode>& mode);
 
 /// Version of the schema: raised where a member is taken away or changes its meaning.
 inline constexpr int jsonSchema = 1;

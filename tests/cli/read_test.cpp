@@ -85,24 +85,5 @@ TEST_F(ReadTest, RefusesAnUnknownFormat) {
     EXPECT_EQ(run("read file").status, 2);
 }
 
-TEST_F(ReadTest, ListsTheConnectedMonitors) {
-    sysfs.addConnector("card1-DP-1", "connected", std::string(384, 'x'));
-    sysfs.addConnector("card0-VGA-1", "connected", "");
-    sysfs.addConnector("card0-DP-1", "disconnected", "left over");
-    sysfs.write("card0-eDP-1", "edid", "x");
-    const Outcome outcome = run("monitors");
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.errors, "");
-    const std::string folder = sysfs.drm().string();
-    EXPECT_EQ(outcome.output, "card0-VGA-1: " + folder + "/card0-VGA-1/edid, no EDID\n" + "card1-DP-1: " + folder +
-                                  "/card1-DP-1/edid, 384 bytes\n");
-}
-
-TEST_F(ReadTest, ListsNothingWhereNothingIsAttached) {
-    const Outcome outcome = run("monitors");
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.output + outcome.errors, "");
-}
-
 } // namespace
 } // namespace wb::test

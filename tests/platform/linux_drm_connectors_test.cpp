@@ -1,6 +1,7 @@
 #include "platform/linux/drm_connectors.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "platform/linux/device_tool.h"
 #include "platform/sysfs_folder.h"
@@ -80,6 +81,76 @@ TEST_F(Connectors, GiveTheirEdidUpToALimit) {
     EXPECT_EQ(connectors.edid("d", 100), std::nullopt) << "cannot be read";
     EXPECT_TRUE(connectors.hasEdid("a") && connectors.hasEdid("b"));
     EXPECT_FALSE(connectors.hasEdid("c") || connectors.hasEdid("d"));
+}
+
+/// Takes from the process what root may, while it lives.
+class AsAnyone {
+public:
+    AsAnyone() : before_(geteuid()) { taken_ = before_ != 0 || seteuid(nobody) == 0; }
+    AsAnyone(const AsAnyone&) = delete;
+    AsAnyone& operator=(const AsAnyone&) = delete;
+    ~AsAnyone() { [[maybe_unused]] const int back = seteuid(before_); }
+
+    bool taken() const { return taken_; }
+
+private:
+    static constexpr uid_t nobody = 65534;
+    uid_t before_;
+    bool taken_ = false;
+};
+
+TEST_F(Connectors, TellWhyAnEdidCannotBeRead) {
+    sysfs.addConnector("a", "connected", "12345");
+    sysfs.write("b", "status", "connected\n");
+    std::filesystem::create_directories(sysfs.drm() / "c" / "edid");
+    std::filesystem::permissions(sysfs.drm() / "a" / "edid", std::filesystem::perms::none);
+    const AsAnyone anyone;
+    ASSERT_TRUE(anyone.taken());
+    std::error_code error;
+    EXPECT_EQ(connectors.edid("a", 100, error), std::nullopt);
+    EXPECT_EQ(error, std::errc::permission_denied);
+    EXPECT_EQ(connectors.edid("b", 100, error), std::nullopt);
+    EXPECT_FALSE(error) << "there is none";
+    EXPECT_EQ(connectors.edid("c", 100, error), std::nullopt);
+    EXPECT_EQ(error, std::errc::not_supported) << "a folder";
+}
+
+TEST_F(Connectors, TellWhatKeepsThemFromBeingKnown) {
+    sysfs.addConnector("b", "connected", "");
+    sysfs.write("c", "edid", "");
+    sysfs.write("card0", "uevent", "MAJOR=226\n");
+    std::ofstream(sysfs.drm() / "version") << "drm 1.1.0\n";
+    EXPECT_TRUE(connectors.obstacles().empty());
+    std::filesystem::permissions(sysfs.drm() / "b" / "status", std::filesystem::perms::none);
+    sysfs.addConnector("a", "connected", "");
+    std::filesystem::permissions(sysfs.drm() / "a", std::filesystem::perms::none);
+    {
+        const AsAnyone anyone;
+        ASSERT_TRUE(anyone.taken());
+        const auto found = connectors.obstacles();
+        ASSERT_EQ(found.size(), 2U);
+        EXPECT_EQ(found[0].path, sysfs.drm() / "a" / "status");
+        EXPECT_EQ(found[0].error, std::errc::permission_denied);
+        EXPECT_EQ(found[1].path, sysfs.drm() / "b" / "status");
+        EXPECT_EQ(found[1].error, std::errc::permission_denied);
+    }
+    std::filesystem::permissions(sysfs.drm() / "a", std::filesystem::perms::owner_all);
+}
+
+TEST_F(Connectors, TellThatTheirFolderCannotBeRead) {
+    const auto missing = DrmConnectors(sysfs.root() / "missing").obstacles();
+    ASSERT_EQ(missing.size(), 1U);
+    EXPECT_EQ(missing[0].path, sysfs.root() / "missing" / "class" / "drm");
+    EXPECT_EQ(missing[0].error, std::errc::no_such_file_or_directory);
+    std::filesystem::permissions(sysfs.drm(), std::filesystem::perms::none);
+    {
+        const AsAnyone anyone;
+        ASSERT_TRUE(anyone.taken());
+        const auto closed = connectors.obstacles();
+        ASSERT_EQ(closed.size(), 1U);
+        EXPECT_EQ(closed[0].error, std::errc::permission_denied);
+    }
+    std::filesystem::permissions(sysfs.drm(), std::filesystem::perms::owner_all);
 }
 
 TEST_F(Connectors, EndlessFilesAreNotRead) {

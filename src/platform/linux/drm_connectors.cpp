@@ -1,8 +1,10 @@
 #include "platform/linux/drm_connectors.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <fstream>
-#include <system_error>
+#include <memory>
 
 #include "core/base/text.h"
 
@@ -12,27 +14,52 @@ namespace {
 
 constexpr std::size_t longestStatus = 64;
 
-/// Attributes are ordinary files; anything else might block or never end.
-bool isFile(const std::filesystem::path& path) {
-    std::error_code error;
-    return std::filesystem::is_regular_file(path, error);
+/// Attributes are ordinary files; anything else might block or never end. No error where there is nothing of that name.
+bool isFile(const std::filesystem::path& path, std::error_code& error) {
+    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    if (!std::filesystem::exists(status)) {
+        if (status.type() == std::filesystem::file_type::not_found) {
+            error.clear();
+        }
+        return false;
+    }
+    if (!std::filesystem::is_regular_file(status)) {
+        error = std::make_error_code(std::errc::not_supported);
+        return false;
+    }
+    return true;
 }
 
-std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t limit) {
-    if (!isFile(path)) {
+std::error_code lastError() {
+    return {errno, std::generic_category()};
+}
+
+struct Closer {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+/// At most `limit` bytes; nothing, and the reason, where the file cannot be read.
+std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t limit, std::error_code& error) {
+    if (!isFile(path, error)) {
         return std::nullopt;
     }
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
+    const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
+    if (file == nullptr) {
+        error = lastError();
         return std::nullopt;
     }
     std::string data(limit, '\0');
-    file.read(data.data(), static_cast<std::streamsize>(limit));
-    if (file.bad()) {
+    data.resize(std::fread(data.data(), 1, limit, file.get()));
+    if (std::ferror(file.get()) != 0) {
+        error = lastError();
         return std::nullopt;
     }
-    data.resize(static_cast<std::size_t>(file.gcount()));
     return data;
+}
+
+std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t limit) {
+    std::error_code ignored;
+    return readFile(path, limit, ignored);
 }
 
 } // namespace
@@ -68,6 +95,25 @@ std::optional<std::string> DrmConnectors::find(std::string_view name) const {
     return std::nullopt;
 }
 
+std::vector<DrmConnectors::Obstacle> DrmConnectors::obstacles() const {
+    std::vector<Obstacle> obstacles;
+    std::error_code error;
+    std::filesystem::directory_iterator entries(folder_, error);
+    for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
+        const std::filesystem::path status = entries->path() / "status";
+        std::error_code reason;
+        if (!readFile(status, longestStatus, reason) && reason) {
+            obstacles.push_back({status, reason});
+        }
+    }
+    if (error) {
+        obstacles.push_back({folder_, error});
+    }
+    std::sort(obstacles.begin(), obstacles.end(),
+              [](const Obstacle& one, const Obstacle& other) { return one.path < other.path; });
+    return obstacles;
+}
+
 std::string DrmConnectors::status(const std::string& name) const {
     std::string text = readFile(folder_ / name / "status", longestStatus).value_or("");
     text.erase(std::min(text.find('\n'), text.size()));
@@ -82,10 +128,16 @@ std::optional<std::string> DrmConnectors::edid(const std::string& name, std::siz
     return readFile(edidPath(name), limit);
 }
 
+std::optional<std::string> DrmConnectors::edid(const std::string& name, std::size_t limit,
+                                               std::error_code& error) const {
+    return readFile(edidPath(name), limit, error);
+}
+
 void DrmConnectors::detect() const {
     for (const std::string& name : names()) {
         const std::filesystem::path status = folder_ / name / "status";
-        if (isFile(status)) {
+        std::error_code ignored;
+        if (isFile(status, ignored)) {
             std::ofstream(status) << "detect";
         }
     }
