@@ -106,15 +106,16 @@ std::string tsvLine(const std::vector<std::string_view>& columns) {
 
 bool forEachFile(const FileOptions& options, const std::function<void(const std::string& name)>& work) {
     bool good = true;
-    for (const BatchFile& file : filesOf(options, good)) {
+    FileList files(options);
+    while (const std::optional<BatchFile> file = files.next()) {
         try {
-            work(file.name);
+            work(file->name);
         } catch (const CliError& error) {
-            complain(file.name, error.what());
+            complain(file->name, error.what());
             good = false;
         }
     }
-    return good;
+    return good && files.complete();
 }
 
 bool usesColour() {

@@ -18,7 +18,7 @@ constexpr const char* clearLine = "\r\x1B[K";
 
 } // namespace
 
-Progress::Progress(std::size_t total) : wanted_(isTerminal(stderr)), total_(total) {}
+Progress::Progress(std::optional<std::size_t> total) : wanted_(isTerminal(stderr)), total_(total) {}
 
 Progress::~Progress() {
     clear();
@@ -46,11 +46,15 @@ void Progress::show(Clock::time_point now) {
     shown_ = true;
 }
 
-std::string progressText(std::size_t done, std::size_t total, double seconds) {
+std::string progressText(std::size_t done, std::optional<std::size_t> total, double seconds) {
     const double rate = static_cast<double>(done) / seconds;
-    const double left = static_cast<double>(total - done) / rate;
-    return std::to_string(done) + " of " + std::to_string(total) + " files, " + std::to_string(std::lround(rate)) +
-           " a second, " + std::to_string(std::lround(std::ceil(left))) + " s left";
+    const std::string rateText = std::to_string(std::lround(rate)) + " a second";
+    if (!total) {
+        return std::to_string(done) + " files found, " + rateText;
+    }
+    const double left = static_cast<double>(*total - done) / rate;
+    return std::to_string(done) + " of " + std::to_string(*total) + " files, " + rateText + ", " +
+           std::to_string(std::lround(std::ceil(left))) + " s left";
 }
 
 } // namespace wb::cli

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <set>
 #include <utility>
 
 #include "cli/input.h"
@@ -12,9 +11,6 @@ namespace wb::cli {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Groups of files, by what would be their name.
-using Groups = std::map<std::string, std::set<std::string>>;
 
 std::string stemOf(const std::string& file) {
     return file == standardStream ? "stdin" : fs::path(file).stem().string();
@@ -41,47 +37,120 @@ std::string withFolders(const std::string& name, const std::vector<std::string>&
     return result + name;
 }
 
-/// As many folders as tell all files of the group apart; the most there are where nothing does.
-std::size_t foldersNeeded(const std::string& name, const std::set<std::string>& files) {
-    std::size_t most = 0;
-    for (const std::string& file : files) {
-        most = std::max(most, foldersOf(file).size());
+std::string fileNameOf(const std::string& file) {
+    return fs::path(file).filename().string();
+}
+
+using Pair = std::pair<NameKey, NameKey>;
+
+/// Each pair once, in order.
+std::vector<Pair> inOrder(std::vector<Pair> pairs) {
+    std::sort(pairs.begin(), pairs.end());
+    pairs.erase(std::unique(pairs.begin(), pairs.end()), pairs.end());
+    return pairs;
+}
+
+/// Calls `take` with each first key and how many second ones it has.
+void countSeconds(const std::vector<Pair>& pairs, const std::function<void(NameKey first, std::size_t count)>& take) {
+    for (auto begin = pairs.begin(); begin != pairs.end();) {
+        const auto end = std::find_if(begin, pairs.end(), [&](const Pair& pair) { return pair.first != begin->first; });
+        take(begin->first, static_cast<std::size_t>(end - begin));
+        begin = end;
     }
-    for (std::size_t count = 0; count < most; ++count) {
-        std::set<std::string> names;
-        for (const std::string& file : files) {
-            names.insert(withFolders(name, foldersOf(file), count));
-        }
-        if (names.size() == files.size()) {
-            return count;
-        }
-    }
-    return most;
 }
 
 } // namespace
 
+ReportNames::ReportNames(const Walk& walk, std::string extension) : extension_(std::move(extension)) {
+    findSharedStems(walk);
+    findGroups(walk);
+    tellApart(walk);
+}
+
 ReportNames::ReportNames(const std::vector<std::string>& files, std::string extension)
-    : extension_(std::move(extension)) {
-    Groups fileNamesOfStem;
-    for (const std::string& file : files) {
-        fileNamesOfStem[stemOf(file)].insert(fs::path(file).filename().string());
+    : ReportNames([&](const auto& take) { std::for_each(files.begin(), files.end(), take); }, std::move(extension)) {}
+
+std::string ReportNames::nameOf(const std::string& file, const std::string& output) const {
+    std::string name = commonName(file);
+    const std::size_t group = groupOf(name);
+    if (group < groups_.size() && file != standardStream) {
+        name = withFolders(name, foldersOf(file), groups_[group].folders);
     }
-    Groups filesOfName;
-    for (const std::string& file : files) {
-        const bool shared = file != standardStream && fileNamesOfStem.at(stemOf(file)).size() > 1;
-        filesOfName[shared ? fs::path(file).filename().string() : stemOf(file)].insert(file);
-    }
-    for (const auto& [name, sharing] : filesOfName) {
-        const std::size_t folders = foldersNeeded(name, sharing);
-        for (const std::string& file : sharing) {
-            stems_[file] = file == standardStream ? name : withFolders(name, foldersOf(file), folders);
+    return name + (output.empty() ? "" : '-' + output) + extension_;
+}
+
+/// The name without folders, which other files may have too.
+std::string ReportNames::commonName(const std::string& file) const {
+    const std::string stem = stemOf(file);
+    const bool shared = std::binary_search(sharedStems_.begin(), sharedStems_.end(), nameKey(stem));
+    return shared && file != standardStream ? fileNameOf(file) : stem;
+}
+
+/// The place of a name among the groups; behind their end where no two files share it.
+std::size_t ReportNames::groupOf(const std::string& name) const {
+    const NameKey key = nameKey(name);
+    const auto group = std::lower_bound(groups_.begin(), groups_.end(), key,
+                                        [](const Group& a, NameKey sought) { return a.name < sought; });
+    const bool found = group != groups_.end() && group->name == key;
+    return found ? static_cast<std::size_t>(group - groups_.begin()) : groups_.size();
+}
+
+void ReportNames::findSharedStems(const Walk& walk) {
+    std::vector<Pair> pairs;
+    walk([&](const std::string& file) { pairs.emplace_back(nameKey(stemOf(file)), nameKey(fileNameOf(file))); });
+    countSeconds(inOrder(std::move(pairs)), [&](NameKey stem, std::size_t names) {
+        if (names > 1) {
+            sharedStems_.push_back(stem);
         }
+    });
+}
+
+void ReportNames::findGroups(const Walk& walk) {
+    std::vector<Pair> pairs;
+    walk([&](const std::string& file) { pairs.emplace_back(nameKey(commonName(file)), nameKey(file)); });
+    countSeconds(inOrder(std::move(pairs)), [&](NameKey name, std::size_t files) {
+        if (files > 1) {
+            groups_.push_back({.name = name, .files = files});
+        }
+    });
+}
+
+/// As many folders as tell all files of a group apart; the most there are where nothing does.
+void ReportNames::tellApart(const Walk& walk) {
+    if (groups_.empty()) {
+        return;
+    }
+    walk([&](const std::string& file) {
+        const std::size_t group = groupOf(commonName(file));
+        if (group < groups_.size()) {
+            groups_[group].most = std::max(groups_[group].most, foldersOf(file).size());
+        }
+    });
+    const auto isSettled = [](const Group& group) { return group.settled; };
+    for (std::size_t folders = 1; !std::all_of(groups_.begin(), groups_.end(), isSettled); ++folders) {
+        settle(walk, folders);
     }
 }
 
-std::string ReportNames::nameOf(const std::string& file, const std::string& output) const {
-    return stems_.at(file) + (output.empty() ? "" : '-' + output) + extension_;
+void ReportNames::settle(const Walk& walk, std::size_t folders) {
+    for (Group& group : groups_) {
+        if (!group.settled) {
+            group.folders = std::min(folders, group.most);
+            group.settled = folders >= group.most;
+        }
+    }
+    std::vector<Pair> pairs;
+    walk([&](const std::string& file) {
+        const std::size_t group = groupOf(commonName(file));
+        if (group < groups_.size() && !groups_[group].settled) {
+            pairs.emplace_back(groups_[group].name, nameKey(withFolders("", foldersOf(file), folders)));
+        }
+    });
+    auto group = groups_.begin();
+    countSeconds(inOrder(std::move(pairs)), [&](NameKey name, std::size_t names) {
+        group = std::find_if(group, groups_.end(), [&](const Group& other) { return other.name == name; });
+        group->settled = names == group->files;
+    });
 }
 
 } // namespace wb::cli

@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
-#include <map>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <thread>
@@ -16,9 +16,8 @@
 #include "cli/plain_reading.h"
 #include "cli/program.h"
 #include "cli/progress.h"
-#include "cli/report_names.h"
+#include "cli/report_places.h"
 #include "core/base/digits.h"
-#include "core/base/text.h"
 #include "fields/json.h"
 
 namespace wb::cli {
@@ -39,6 +38,7 @@ struct Options {
     bool keepTree = false;
 
     bool json() const { return outputFormatOf(format) == OutputFormat::Json; }
+    std::string extension() const { return json() ? ".json" : ".txt"; }
 };
 
 /// What became of one image.
@@ -103,51 +103,49 @@ std::vector<Translation> translateFile(const std::string& name, const Options& o
     return results;
 }
 
+/// The files of a batch, and where their reports go.
+struct Batch {
+    explicit Batch(const FileOptions& options) : list(options) {}
+
+    std::optional<BatchFile> next() { return kept ? kept->next() : list.next(); }
+    bool several() { return kept ? kept->count() > 1 : list.several(); }
+
+    FileList list;
+    std::optional<KeptFiles> kept; ///< there where the reports are written to a folder, for which names must be known
+};
+
 /// Takes the results one after the other, in the order of the input.
 class Collector {
 public:
-    Collector(const Options& options, const std::vector<BatchFile>& files)
+    Collector(const Options& options, Batch& batch)
         : options_(options),
-          files_(files),
-          names_(namesOf(files), extensionOf(options)),
-          progress_(files.size()),
-          headed_(!options.json() && (options.heading == "always" || (options.heading == "auto" && files.size() > 1))) {
-        for (const BatchFile& file : files) {
-            if (options.outputFolder && file.name != standardStream) {
-                inputs_.emplace(placeKey(file.name), file.name);
-            }
+          headed_(!options.json() && (options.heading == "always" || (options.heading == "auto" && batch.several()))) {
+        if (options.outputFolder) {
+            places_.emplace(*batch.kept, ReportPlaces::Options{.folder = *options.outputFolder,
+                                                               .extension = options.extension(),
+                                                               .keepTree = options.keepTree});
+            progress_.emplace(batch.kept->count());
         }
     }
 
-    void take(const std::vector<Translation>& translations) {
-        const BatchFile& file = files_[next_++];
+    void take(const BatchFile& file, const std::vector<Translation>& translations) {
         const bool severalOutputs = translations.size() > 1 && options_.heading == "auto" && !options_.json();
         for (const Translation& translation : translations) {
             take(file, translation, headed_ || severalOutputs);
         }
-        if (options_.outputFolder) {
-            progress_.step();
+        if (progress_) {
+            progress_->step();
         }
     }
 
     bool failed() const { return failed_; }
 
 private:
-    static std::string extensionOf(const Options& options) { return options.json() ? ".json" : ".txt"; }
-
-    static std::vector<std::string> namesOf(const std::vector<BatchFile>& files) {
-        std::vector<std::string> names;
-        names.reserve(files.size());
-        for (const BatchFile& file : files) {
-            names.push_back(file.name);
-        }
-        return names;
-    }
-
     void take(const BatchFile& file, const Translation& translation, bool headed) {
         const std::string& name = file.name;
-        if (!translation.boxes.empty() || !translation.omissions.empty() || translation.error) {
-            progress_.clear();
+        const bool hasMessages = !translation.boxes.empty() || !translation.omissions.empty() || translation.error;
+        if (progress_ && hasMessages) {
+            progress_->clear();
         }
         complainOfBoxes(name, translation.boxes);
         for (const std::string& omission : translation.omissions) {
@@ -156,7 +154,7 @@ private:
         failed_ = failed_ || (options_.strict && !translation.boxes.empty());
         if (translation.error) {
             fail(name, *translation.error);
-        } else if (options_.outputFolder) {
+        } else if (places_) {
             writeReport(file, translation);
         } else {
             printReport(translation, headed);
@@ -176,62 +174,28 @@ private:
         failed_ = true;
     }
 
-    /// Below the folder of the results, the same folders as those of the input where they are to be kept.
-    std::string targetOf(const BatchFile& file, const Translation& translation) const {
-        const fs::path folder = *options_.outputFolder;
-        if (!options_.keepTree) {
-            return (folder / names_.nameOf(file.name, translation.output)).string();
-        }
-        const std::string output = translation.output.empty() ? "" : '-' + translation.output;
-        return (folder / (file.below + output + extensionOf(options_))).string();
-    }
-
     void writeReport(const BatchFile& file, const Translation& translation) {
-        const std::string& name = file.name;
-        const std::string target = targetOf(file, translation);
-        const auto [other, isNew] = writtenBy_.try_emplace(target, name);
-        if (!isNew) {
-            fail(name, "its report '" + target + "' is already that of '" + other->second + "'");
-            return;
-        }
-        if (isInput(target)) {
-            fail(name, "its report '" + target + "' would replace a file that is to be read");
+        std::string place;
+        try {
+            place = places_->take(file, translation.output);
+        } catch (const CliError& error) {
+            fail(file.name, error.what());
             return;
         }
         try {
             std::error_code ignored; // what is missing then is told by the writing
-            fs::create_directories(fs::path(target).parent_path(), ignored);
-            writeFile(target, translation.report, Existing::Replace);
+            fs::create_directories(fs::path(place).parent_path(), ignored);
+            writeFile(place, translation.report, Existing::Replace);
         } catch (const CliError& error) {
-            fail(target, error.what());
+            fail(place, error.what());
         }
     }
 
-    /// The name of the file behind all symbolic links, in one letter case: the same for whatever leads to that name.
-    /// Empty where there is none. A hard link has a name of its own, and to replace it does the file no harm.
-    static std::string placeKey(const std::string& name) {
-        std::error_code ignored;
-        return upperCase(fs::canonical(name, ignored).filename().string());
-    }
-
-    bool isInput(const std::string& target) const {
-        const std::string key = placeKey(target);
-        const auto [begin, end] = inputs_.equal_range(key);
-        return !key.empty() && std::any_of(begin, end, [&](const auto& input) {
-            std::error_code error;
-            return fs::equivalent(input.second, target, error) && !error;
-        });
-    }
-
     const Options& options_;
-    const std::vector<BatchFile>& files_;
-    ReportNames names_;
-    Progress progress_;
-    bool headed_;       ///< every report has the name of its file above it
-    bool first_ = true; ///< nothing was printed yet
-    std::size_t next_ = 0;
-    std::multimap<std::string, std::string> inputs_; ///< by placeKey, as there may be many
-    std::map<std::string, std::string> writtenBy_;
+    bool headed_;                        ///< every report has the name of its file above it
+    bool first_ = true;                  ///< nothing was printed yet
+    std::optional<ReportPlaces> places_; ///< there where reports are written to a folder, as is the next
+    std::optional<Progress> progress_;
     bool failed_ = false;
 };
 
@@ -243,12 +207,22 @@ std::size_t jobsOf(const Options& options) {
     return *jobs == 0 ? std::max(std::thread::hardware_concurrency(), 1U) : *jobs;
 }
 
+/// Reads the names to their end, which may take a while for a large folder.
+void keepNames(Batch& batch) {
+    batch.kept.emplace();
+    Progress progress(std::nullopt);
+    while (const std::optional<BatchFile> file = batch.list.next()) {
+        batch.kept->add(*file);
+        progress.step();
+    }
+}
+
 int run(const Options& options) {
     const std::size_t jobs = jobsOf(options);
     const std::optional<platform::DateTime> now = clockOf(options.date);
-    bool complete = true;
-    const std::vector<BatchFile> files = filesOf(options.files, complete);
+    Batch batch(options.files);
     if (options.outputFolder) {
+        keepNames(batch);
         std::error_code error;
         fs::create_directories(*options.outputFolder, error);
         if (error) {
@@ -256,11 +230,14 @@ int run(const Options& options) {
             return somethingFailed;
         }
     }
-    Collector collector(options, files);
-    OrderedJobs<std::vector<Translation>>::run(
-        files.size(), jobs, [&](std::size_t i) { return translateFile(files[i].name, options, now); },
-        [&](const std::vector<Translation>& translations) { collector.take(translations); });
-    return collector.failed() || !complete ? somethingFailed : success;
+    Collector collector(options, batch);
+    OrderedJobs<BatchFile, std::vector<Translation>>::run(
+        [&] { return batch.next(); }, jobs,
+        [&](const BatchFile& file) { return translateFile(file.name, options, now); },
+        [&](const BatchFile& file, const std::vector<Translation>& translations) {
+            collector.take(file, translations);
+        });
+    return collector.failed() || !batch.list.complete() ? somethingFailed : success;
 }
 
 } // namespace

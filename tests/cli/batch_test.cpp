@@ -48,5 +48,27 @@ TEST_F(BatchTest, TakesNamesFromAFile) {
     EXPECT_EQ(shell("edidwb check --files-from - -").status, 2);
 }
 
+/// Whoever writes the list may wait for what is told of a file before naming the next one.
+TEST_F(BatchTest, ReadsTheListAsItComes) {
+    const Outcome outcome = shell(
+        "mkfifo list\n"
+        "coproc { exec timeout 60 " EDIDWB
+        " check --files-from list 2>&1; }\n"
+        "exec 9>list\n"
+        "for name in one two; do echo $name >&9; read -ru ${COPROC[0]} line; echo $line; done");
+    EXPECT_EQ(outcome.output, "edidwb: one: No such file or directory\nedidwb: two: No such file or directory\n");
+}
+
+/// 200 MB of names go through 128 MB.
+TEST_F(BatchTest, NeedsNoMemoryForEachFile) {
+    const std::string limit = "ulimit -v 131072; ";
+    if (shell(limit + "edidwb --version").status != 0) {
+        GTEST_SKIP() << "a sanitizer takes more than that for itself";
+    }
+    const Outcome outcome = shell("name=$(printf %04000d 0); yes $name | head -n 50000 | (" + limit +
+                                  "edidwb check --files-from - 2>&1) | cut -c 1-12,4009- | uniq -c");
+    EXPECT_EQ(outcome.output, "  50000 edidwb: 0000: File name too long\n") << outcome.errors;
+}
+
 } // namespace
 } // namespace wb::test

@@ -10,5 +10,9 @@ TEST(Progress, TellsRateAndTimeLeft) {
     EXPECT_EQ(progressText(820, 820, 4.0), "820 of 820 files, 205 a second, 0 s left");
 }
 
+TEST(Progress, TellsCountAndRateWhileTheTotalIsUnknown) {
+    EXPECT_EQ(progressText(9000, std::nullopt, 3.0), "9000 files found, 3000 a second");
+}
+
 } // namespace
 } // namespace wb::cli

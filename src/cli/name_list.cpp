@@ -1,0 +1,53 @@
+#include "cli/name_list.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "cli/cli_error.h"
+#include "cli/input.h"
+
+namespace wb::cli {
+
+NameList::NameList(std::string file, char end) : file_(std::move(file)), end_(end) {
+    if (file_ == standardStream) {
+        stream_ = stdin;
+        return;
+    }
+    std::error_code ignored;
+    if (std::filesystem::is_directory(file_, ignored)) {
+        fail(EISDIR);
+    }
+    handle_.reset(std::fopen(file_.c_str(), "rb"));
+    if (handle_ == nullptr) {
+        fail(errno);
+    }
+    stream_ = handle_.get();
+}
+
+std::optional<std::string> NameList::next() {
+    std::string name;
+    for (int c = 0; c != EOF;) {
+        name.clear();
+        while ((c = std::getc(stream_)) != EOF && c != static_cast<unsigned char>(end_)) {
+            name += static_cast<char>(c);
+        }
+        if (std::ferror(stream_) != 0) {
+            fail(errno);
+        }
+        if (end_ == '\n' && name.ends_with('\r')) {
+            name.pop_back();
+        }
+        if (!name.empty()) {
+            return name;
+        }
+    }
+    return std::nullopt;
+}
+
+void NameList::fail(int error) const {
+    throw CliError(file_ + ": " + std::generic_category().message(error));
+}
+
+} // namespace wb::cli

@@ -1,0 +1,72 @@
+#include "cli/report_places.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include "cli/cli_error.h"
+#include "cli/input.h"
+#include "core/base/text.h"
+
+namespace wb::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The name of the file behind all symbolic links, in one letter case: the same for whatever leads to that name.
+/// Empty where there is none. A hard link has a name of its own, and to replace it does the file no harm.
+std::string lastNameOf(const std::string& name) {
+    std::error_code ignored;
+    return upperCase(fs::canonical(name, ignored).filename().string());
+}
+
+} // namespace
+
+ReportPlaces::ReportPlaces(KeptFiles& files, Options options)
+    : files_(files),
+      options_(std::move(options)),
+      names_([&](const auto& take) { files.forEach([&](const BatchFile& file) { take(file.name); }); },
+             options_.extension) {
+    inputs_.reserve(files.count());
+    files.forEach([&](const BatchFile& file) {
+        if (file.name != standardStream) {
+            inputs_.emplace_back(nameKey(lastNameOf(file.name)), file.place);
+        }
+    });
+    std::sort(inputs_.begin(), inputs_.end());
+}
+
+std::string ReportPlaces::take(const BatchFile& file, const std::string& output) {
+    std::string place = placeOf(file, output);
+    const auto [other, isNew] = takenBy_.try_emplace(nameKey(place), file.place);
+    if (!isNew) {
+        throw CliError("its report '" + place + "' is already that of '" + files_.at(other->second).name + "'");
+    }
+    if (isInput(place)) {
+        throw CliError("its report '" + place + "' would replace a file that is to be read");
+    }
+    return place;
+}
+
+std::string ReportPlaces::placeOf(const BatchFile& file, const std::string& output) const {
+    if (!options_.keepTree) {
+        return (options_.folder / names_.nameOf(file.name, output)).string();
+    }
+    const std::string ending = output.empty() ? "" : '-' + output;
+    return (options_.folder / (file.below + ending + options_.extension)).string();
+}
+
+bool ReportPlaces::isInput(const std::string& place) {
+    const std::string last = lastNameOf(place);
+    const NameKey key = nameKey(last);
+    for (auto input = std::lower_bound(inputs_.begin(), inputs_.end(), std::pair(key, std::uint64_t{0}));
+         !last.empty() && input != inputs_.end() && input->first == key; ++input) {
+        std::error_code error;
+        if (fs::equivalent(files_.at(input->second).name, place, error) && !error) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace wb::cli
