@@ -48,16 +48,10 @@ const SplitField& layoutOf(int field) {
     return report::timingFields[static_cast<std::size_t>(field)];
 }
 
-/// The cell that stands for a field in the dispatch. Both vertical sync fields have their lower bits in one cell, which
-/// is that of the offset.
-int cellOfField(int field) {
-    return field == report::VSyncWidth ? layoutOf(field).upper.cell : layoutOf(field).lower.cell;
-}
-
 /// The field of a cell, or timingFieldCount.
 int fieldOfCell(int cell) {
     int field = 0;
-    while (field < report::timingFieldCount && cellOfField(field) != cell) {
+    while (field < report::timingFieldCount && cellOfTimingField(field) != cell) {
         ++field;
     }
     return field;
@@ -127,6 +121,10 @@ void changeFlags(const BlockScreenRules& rules, Workbench& workbench, Change&& c
 
 } // namespace
 
+int cellOfTimingField(int field) {
+    return field == report::VSyncWidth ? layoutOf(field).upper.cell : layoutOf(field).lower.cell;
+}
+
 std::string detailedTimingCaption(int base) {
     return "Detailed Timing (" + std::to_string(base) + '-' + std::to_string(base + detailedBlockSize - 1) + ')';
 }
@@ -161,7 +159,7 @@ void showDetailedTimingField(const Statements& run, BlockScreen& screen, int off
 void DT_Click(const BlockScreenRules& rules, Workbench& workbench, int index) {
     procedure(rules, workbench, [&](BlockScreen& screen, const Statements& run) {
         if (screen.InFocusDispatch == flagFalse) {
-            const int cell = screen.CurrentBlockBase + cellOfField(index);
+            const int cell = screen.CurrentBlockBase + cellOfTimingField(index);
             run([&] { workbench.focus.moveTo(screen.txtEdit(cell)); });
         }
     });

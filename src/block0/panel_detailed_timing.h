@@ -11,6 +11,10 @@ namespace wb::block0 {
 /// "Detailed Timing (54-71)" for the block that begins at cell 54.
 std::string detailedTimingCaption(int base);
 
+/// The cell of the block that stands for a field, by its number among report::timingFields, in the dispatch. Both
+/// vertical sync fields have their lower bits in one cell, which is that of the offset.
+int cellOfTimingField(int field);
+
 /// The controls of both panels without a choice: no field, no stereo up to `lastStereo`, no sync kind, not interlaced,
 /// an empty input box.
 void resetDetailedTiming(BlockScreen& screen, int lastStereo);

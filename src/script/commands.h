@@ -21,6 +21,7 @@ void modify(Session& session, const Arguments& arguments);
 void close(Session& session, const Arguments& arguments);
 void drop(Session& session, const Arguments& arguments);
 void goToByte(Session& session, const Arguments& arguments);
+void timing(Session& session, const Arguments& arguments);
 
 // What is read from the program and written into it, past the user.
 void poke(Session& session, const Arguments& arguments);

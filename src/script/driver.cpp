@@ -31,6 +31,7 @@ constexpr auto rows = std::to_array<CommandRow>({
     {"close", "S", 1, 1, &commands::close, "presses the window's own close button"},
     {"drop", "\"PATH\"", 1, 1, &commands::drop, "drops a file on the frame"},
     {"goto", "BYTE", 1, 1, &commands::goToByte, "picks a byte of the image, counted from 0"},
+    {"timing", "BYTE \"MODELINE\"", 2, 2, &commands::timing, "enters a timing at the block that begins at a byte"},
     {"poke", "S.C(i) \"TEXT\"", 2, 2, &commands::poke, "sets a text without any event"},
     {"get", "S.C(i).PROP", 1, 1, &commands::get, "prints a property"},
     {"expect", "S.C(i).PROP \"TEXT\"", 2, 2, &commands::expect, "fails where a property is another"},

@@ -1,6 +1,7 @@
 #include "script/front_end.h"
 
 #include "core/input.h"
+#include "shell/enter_timing.h"
 #include "shell/go_to_byte.h"
 #include "shell/lifecycle.h"
 #include "shell/startup.h"
@@ -57,6 +58,10 @@ bool ModelFrontEnd::drop(const std::string& name) {
 
 bool ModelFrontEnd::goToByte(int byte) {
     return shell::goToByte(*workbench_, byte);
+}
+
+bool ModelFrontEnd::enterTiming(int byte, const fields::Modeline& modeline) {
+    return shell::enterTiming(*workbench_, byte, modeline);
 }
 
 } // namespace wb::script

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/workbench.h"
+#include "fields/modeline.h"
 
 namespace wb::script {
 
@@ -34,6 +35,8 @@ public:
     virtual bool drop(const std::string& name) = 0;
     /// Picks a byte of the image where something tells of it.
     virtual bool goToByte(int byte) = 0;
+    /// Enters a timing into the detailed block that begins at a byte of the image.
+    virtual bool enterTiming(int byte, const fields::Modeline& modeline) = 0;
 };
 
 /// Acts on the model directly, without any view.
@@ -54,6 +57,7 @@ public:
     bool close(Screen& screen) override;
     bool drop(const std::string& name) override;
     bool goToByte(int byte) override;
+    bool enterTiming(int byte, const fields::Modeline& modeline) override;
 
 private:
     Workbench* workbench_;

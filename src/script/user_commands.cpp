@@ -137,4 +137,15 @@ void goToByte(Session& session, const Arguments& arguments) {
     }
 }
 
+void timing(Session& session, const Arguments& arguments) {
+    const int byte = numberIn(arguments[0]);
+    try {
+        if (!session.frontEnd.enterTiming(byte, fields::readModeline(arguments[1].text))) {
+            refuse(session, "timing at byte " + std::to_string(byte));
+        }
+    } catch (const fields::ModelineError& error) {
+        throw ScriptError(error.what());
+    }
+}
+
 } // namespace wb::script::commands

@@ -13,6 +13,13 @@ Control* cellOf(const Workbench& workbench, int byte) {
     return screen != nullptr && byte >= 0 && byte < imageSize ? &screen->txtEdit(byte % blockSize) : nullptr;
 }
 
+/// With Auto Cell Seek the focus goes on from a cell to the input box of its panel.
+bool arrivedAt(const Control& cell) {
+    const Control* holder = cell.screen().workbench().focus.current();
+    return holder == &cell || (holder != nullptr && &holder->screen() == &cell.screen() &&
+                               holder->name() != "txtEdit" && cell.screen().workbench().AutoCellSeekOn != flagFalse);
+}
+
 bool reportTookTheFocus(const Workbench& workbench) {
     const Control* holder = workbench.focus.current();
     return holder != nullptr && holder->screen().id() == ScreenId::Document;
@@ -33,7 +40,7 @@ bool goToByte(Workbench& workbench, int byte) {
     if (input::moveFocus(*cell) && reportTookTheFocus(workbench)) {
         input::moveFocus(*cell);
     }
-    return workbench.focus.current() == cell;
+    return arrivedAt(*cell);
 }
 
 } // namespace wb::shell

@@ -5,9 +5,9 @@
 namespace wb::shell {
 
 /// The user picks byte `byte` of the image where something tells of it, such as in the report: the focus goes to its
-/// cell. The extension screen is opened by the button of the frame, as the user would. Gives whether the cell has the
-/// focus then; it has not where no screen holds the byte, where the screen is out of reach, and where the focus is
-/// called back.
+/// cell. The extension screen is opened by the button of the frame, as the user would. Gives whether the cell, or with
+/// Auto Cell Seek the input box of its panel, has the focus then; it has not where no screen holds the byte, where the
+/// screen is out of reach, and where the focus is called back.
 bool goToByte(Workbench& workbench, int byte);
 
 } // namespace wb::shell

@@ -19,6 +19,7 @@
 #include "desktop/base/text_codec.h"
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/visibility.h"
+#include "shell/enter_timing.h"
 #include "shell/go_to_byte.h"
 
 namespace wb::test {
@@ -238,6 +239,12 @@ bool WidgetFrontEnd::drop(const std::string& name) {
 bool WidgetFrontEnd::goToByte(int byte) {
     bool done = false;
     program_.act([&] { done = shell::goToByte(program_.workbench, byte); });
+    return done;
+}
+
+bool WidgetFrontEnd::enterTiming(int byte, const fields::Modeline& modeline) {
+    bool done = false;
+    program_.act([&] { done = shell::enterTiming(program_.workbench, byte, modeline); });
     return done;
 }
 

@@ -24,6 +24,7 @@ public:
     bool close(Screen& screen) override;
     bool drop(const std::string& name) override;
     bool goToByte(int byte) override;
+    bool enterTiming(int byte, const fields::Modeline& modeline) override;
 
 private:
     /// The widget of the control where the user can reach it, else null.

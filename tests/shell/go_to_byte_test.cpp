@@ -61,6 +61,14 @@ TEST_F(GoToByte, ArrivesThoughTheReportIsOutOfDate) {
     EXPECT_EQ(focused(), "frmEDID.txtEdit(30)");
 }
 
+TEST_F(GoToByte, ArrivesInThePanelWithTheSeek) {
+    newImage(platform::Answer::No);
+    input::click(workbench.frmMain().Command2);
+    input::click(workbench.frmMain().Command3);
+    EXPECT_TRUE(goToByte(workbench, 16));
+    EXPECT_EQ(focused(), "frmEDID.VendorInfo");
+}
+
 TEST_F(GoToByte, LeavesTheFocusInACellThatCallsItBack) {
     newImage(platform::Answer::No);
     input::click(workbench.frmMain().Command2);
