@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,14 +37,16 @@ void translateBatch(benchmark::State& state) {
     const std::vector<Input> inputs = samples();
     const std::size_t count = repeats * inputs.size();
     for ([[maybe_unused]] auto _ : state) {
-        OrderedJobs<std::string>::run(
-            count, static_cast<std::size_t>(state.range(0)),
+        std::size_t begun = 0;
+        OrderedJobs<std::size_t, std::string>::run(
+            [&] { return begun < count ? std::optional(begun++) : std::nullopt; },
+            static_cast<std::size_t>(state.range(0)),
             [&](std::size_t i) {
                 Program program;
                 program.load(contentsOf(inputs[i % inputs.size()], {}));
                 return program.report();
             },
-            [](const std::string& report) { benchmark::DoNotOptimize(report.data()); });
+            [](std::size_t, const std::string& report) { benchmark::DoNotOptimize(report.data()); });
     }
     state.SetItemsProcessed(static_cast<std::int64_t>(count) * static_cast<std::int64_t>(state.iterations()));
 }
