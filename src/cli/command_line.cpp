@@ -28,7 +28,7 @@ constexpr auto commands = std::to_array<Command>({
     {"diff", "Tell the fields in which two images differ", &addDiff},
     {"repair", "Put the check sums of each image right", &addRepair},
     {"scrub", "Take the serial numbers out of each image", &addScrub},
-    {"read", "Print what the running system stored of its first monitor", &addRead},
+    {"read", "Print what the running system stored of a monitor", &addRead},
     {"monitors", "List the attached monitors, and where their EDID comes from", &addMonitors},
     {"script", "Drive the screens of the program by a script", &addScript},
 });

@@ -33,6 +33,10 @@ bool isFormOfBytes(const std::string& format) {
     return forms::writtenForm(format) != nullptr;
 }
 
+std::string extensionOf(const std::string& format) {
+    return format == report ? ".txt" : format == dataFile ? ".DAT" : '.' + format;
+}
+
 std::string contentAs(const std::string& format, const Image& image) {
     return forms::writtenForm(format)->write(image);
 }

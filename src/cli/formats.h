@@ -19,6 +19,9 @@ std::string formatHelp();
 /// save or report after decoding, of two blocks.
 bool isFormOfBytes(const std::string& format);
 
+/// The extension of a file in that format, with its point.
+std::string extensionOf(const std::string& format);
+
 /// An image in a form of bytes.
 std::string contentAs(const std::string& format, const Image& image);
 /// What is loaded, as a data file or a report. What cannot be written so is a CliError.

@@ -1,46 +1,214 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <filesystem>
 #include <memory>
 
 #include "cli/cli_error.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
 #include "cli/formats.h"
+#include "cli/monitor_list.h"
 #include "cli/output.h"
 #include "cli/program.h"
+#include "cli/report_names.h"
+#include "cli/stored_edid.h"
 #include "cli/system.h"
 
 namespace wb::cli {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 struct Options {
-    std::string format = "report";
+    std::string connector;
+    std::optional<std::string> format;
     std::string date;
+    std::optional<std::string> outputFolder;
     SystemOptions system;
+    bool all = false;
+    bool force = false;
+
+    std::string formatOr(const std::string& other) const { return format.value_or(other); }
 };
 
-std::string contentOf(const Options& options, Program& program, const Image& image) {
-    if (isFormOfBytes(options.format)) {
-        return contentAs(options.format, image);
+/// The content of an image in a format. What the program shows meanwhile, and what the format leaves out, is told;
+/// `name` is that of its monitor where there are several.
+std::string contentOf(const Image& image, const std::string& format, Program& program, const std::string& name) {
+    if (isFormOfBytes(format)) {
+        complainOfBoxes(name, program.boxes());
+        return contentAs(format, image);
     }
     program.load(image);
-    return contentAs(options.format, program);
+    std::string content = contentAs(format, program);
+    complainOfBoxes(name, program.boxes());
+    for (const std::string& omission : omissionsOf(image)) {
+        name.empty() ? complain(omission) : complain(name, omission);
+    }
+    return content;
+}
+
+int printImage(const Image& image, Program& program, const Options& options) {
+    const std::string format = options.formatOr("report");
+    const std::string content = contentOf(image, format, program, {});
+    format == "report" ? printText(content) : print(content);
+    return success;
+}
+
+/// Tells why no image comes from the monitors up to `end`; of the virtual ones nobody expects any.
+void tellPassedOver(const std::vector<Monitor>& monitors, const Monitor* end) {
+    for (const Monitor& monitor : monitors) {
+        if (&monitor == end) {
+            return;
+        }
+        try {
+            storedImageOf(monitor);
+        } catch (const CliError& error) {
+            if (!monitor.isVirtual) {
+                complain(monitor.name, std::string("passed over: ") + error.what());
+            }
+        }
+    }
+}
+
+/// Where the program's own search finds no image: the first monitor that has one all the same.
+int readAnother(const Options& options, const Boxes& boxes) {
+    const std::vector<Monitor> monitors = attachedMonitors(options.system);
+    if (const Monitor* const taken = takenByRead(monitors)) {
+        tellPassedOver(monitors, taken);
+        Program program(clockOf(options.date));
+        return printImage(storedImageOf(*taken), program, options);
+    }
+    complainOfBoxes({}, boxes);
+    if (const std::string help = helpWithoutEdid(options.system, !monitors.empty()); !help.empty()) {
+        complain(help);
+    }
+    tellPassedOver(monitors, nullptr);
+    return somethingFailed;
+}
+
+int readFirst(const Options& options) {
+    const std::unique_ptr<platform::Registry> registry = systemRegistry(options.system);
+    Program program(*registry, clockOf(options.date));
+    try {
+        if (const std::optional<Image> image = program.storedImage()) {
+            return printImage(*image, program, options);
+        }
+    } catch (const CliError&) {
+        if (takenByRead(attachedMonitors(options.system)) == nullptr) {
+            throw;
+        }
+    }
+    return readAnother(options, program.boxes());
+}
+
+int readNamed(const Options& options) {
+    try {
+        const std::vector<Monitor> places = monitorPlaces(options.system);
+        Program program(clockOf(options.date));
+        return printImage(storedImageOf(monitorNamed(places, options.connector)), program, options);
+    } catch (const CliError& error) {
+        complain(options.connector, error.what());
+        return somethingFailed;
+    }
+}
+
+/// A name of a connector as that of a file.
+std::string fileNameOf(const Monitor& monitor) {
+    std::string name = monitor.name;
+    std::replace(name.begin(), name.end(), '\\', '_');
+    return name;
+}
+
+/// Writes a file for each monitor.
+class Collection {
+public:
+    Collection(const Options& options, const std::vector<Monitor>& monitors)
+        : options_(options), format_(options.formatOr("bin")), names_(namesOf(monitors), extensionOf(format_)) {}
+
+    void take(const Monitor& monitor) {
+        if (!monitor.error && monitor.edid.empty()) {
+            complain(monitor.name, "no EDID is stored");
+            return;
+        }
+        try {
+            Program program(clockOf(options_.date));
+            write(names_.nameOf(fileNameOf(monitor), ""),
+                  contentOf(storedImageOf(monitor), format_, program, monitor.name));
+        } catch (const CliError& error) {
+            complain(monitor.name, error.what());
+            failed_ = true;
+        }
+    }
+
+    /// Whether nothing went wrong and something was written.
+    bool good() const { return !failed_ && written_ > 0; }
+
+private:
+    static std::vector<std::string> namesOf(const std::vector<Monitor>& monitors) {
+        std::vector<std::string> names;
+        names.reserve(monitors.size());
+        for (const Monitor& monitor : monitors) {
+            names.push_back(fileNameOf(monitor));
+        }
+        return names;
+    }
+
+    void write(const std::string& name, const std::string& content) {
+        const std::string place = (fs::path(*options_.outputFolder) / name).string();
+        try {
+            writeFile(place, content, options_.force ? Existing::Replace : Existing::Refuse);
+        } catch (const CliError& error) {
+            throw CliError(place + ": " + error.what());
+        }
+        ++written_;
+    }
+
+    const Options& options_;
+    std::string format_;
+    ReportNames names_;
+    std::size_t written_ = 0;
+    bool failed_ = false;
+};
+
+int readAll(const Options& options) {
+    const std::vector<Monitor> monitors = attachedMonitors(options.system);
+    std::error_code error;
+    fs::create_directories(*options.outputFolder, error);
+    if (error) {
+        complain(*options.outputFolder, error.message());
+        return somethingFailed;
+    }
+    const std::vector<std::string> obstacles = obstaclesOf(options.system);
+    for (const std::string& obstacle : obstacles) {
+        complain(obstacle);
+    }
+    if (monitors.empty() && obstacles.empty()) {
+        complain("no monitor is attached");
+    }
+    Collection collection(options, monitors);
+    for (const Monitor& monitor : monitors) {
+        collection.take(monitor);
+    }
+    return collection.good() && obstacles.empty() ? success : somethingFailed;
+}
+
+void checkOptions(const Options& options) {
+    if (options.all && !options.connector.empty()) {
+        throw UsageError("--all and a connector exclude each other");
+    }
+    if (options.all != options.outputFolder.has_value()) {
+        throw UsageError("--all and --output-dir belong together");
+    }
+    if (options.force && !options.all) {
+        throw UsageError("--force belongs to --all");
+    }
 }
 
 int run(const Options& options) {
+    checkOptions(options);
     try {
-        const std::unique_ptr<platform::Registry> registry = systemRegistry(options.system);
-        Program program(*registry, clockOf(options.date));
-        const std::optional<Image> image = program.storedImage();
-        const std::string content = image ? contentOf(options, program, *image) : "";
-        complainOfBoxes({}, program.boxes());
-        if (image && !isFormOfBytes(options.format)) {
-            for (const std::string& omission : omissionsOf(*image)) {
-                complain(omission);
-            }
-        }
-        options.format == "report" ? printText(content) : print(content);
-        return image ? success : somethingFailed;
+        return options.all ? readAll(options) : options.connector.empty() ? readFirst(options) : readNamed(options);
     } catch (const CliError& error) {
         complain(error.what());
         return somethingFailed;
@@ -51,12 +219,32 @@ int run(const Options& options) {
 
 Run addRead(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command.add_option("--to", options->format, formatHelp() + "; report is the default")
+    command
+        .add_option("CONNECTOR", options->connector,
+                    "The monitor to read, as \"monitors\" names it, with or without \"card0-\", in any letter case; "
+                    "without it the first that has an EDID")
+        ->type_name("")
+        ->check(refuseEmpty);
+    command.add_option("--to", options->format, formatHelp() + "; report is the default, with --all bin")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(formatNames()))
         ->take_last();
+    command.add_flag("--all", options->all, "Write a file for each attached monitor, called after its connector")
+        ->disable_flag_override();
+    command.add_option("-o,--output-dir", options->outputFolder, "With --all, the folder of these files")
+        ->type_name("DIR")
+        ->check(refuseEmpty)
+        ->take_last();
+    command.add_flag("-f,--force", options->force, "With --all, replace files that exist already")
+        ->disable_flag_override();
     addClockOption(command, options->date);
     addSystemOptions(command, options->system);
+    command.footer(
+        "What is read is what the system stored when the monitor was attached.\n\n"
+        "  edidwb read --to bin HDMI-A-1 >tv.bin\n"
+        "  edidwb read --all -o monitors --to dat\n\n"
+        "Exit status: 0 all went well (with --all a monitor without an EDID is only told), 1 there is no EDID, or it\n"
+        "cannot be read or written, 2 wrong usage.");
     return [options] { return run(*options); };
 }
 

@@ -41,4 +41,8 @@ std::vector<Monitor> monitorPlaces(const SystemOptions& options);
 /// What keeps the system's monitors from being known, a sentence each; none where all is told.
 std::vector<std::string> obstaclesOf(const SystemOptions& options);
 
+/// A line that helps further where no attached monitor has an EDID, or where none is attached; empty where the
+/// program's own box does.
+std::string helpWithoutEdid(const SystemOptions& options, bool anyAttached);
+
 } // namespace wb::cli

@@ -53,4 +53,17 @@ std::vector<std::string> obstaclesOf(const SystemOptions& options) {
     return sentences;
 }
 
+std::string helpWithoutEdid(const SystemOptions& options, bool anyAttached) {
+    const std::vector<std::string> obstacles = obstaclesOf(options);
+    if (!obstacles.empty()) {
+        return "On Linux the kernel stores the EDID, and where it does so cannot be read: " + obstacles.front();
+    }
+    if (anyAttached) {
+        return "On Linux the kernel stores the EDID when a monitor is attached: plug it out and in again, and check "
+               "cable and adapters";
+    }
+    return "On Linux the kernel stores the EDID, and it knows of no attached monitor below " + options.sysfs +
+           "/class/drm: check cable and power of the monitor, and the driver of the graphics adapter";
+}
+
 } // namespace wb::cli

@@ -71,4 +71,8 @@ std::vector<std::string> obstaclesOf(const SystemOptions&) {
             (key.code() == RegistryCode::NotFound ? ": is not there" : ": cannot be read")};
 }
 
+std::string helpWithoutEdid(const SystemOptions&, bool) {
+    return {};
+}
+
 } // namespace wb::cli

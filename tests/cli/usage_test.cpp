@@ -43,7 +43,13 @@ TEST_F(UsageTest, WrongUseHasStatus2) {
                                   "translate --jobs= 2 x",
                                   "convert --force=0 --to bin a b",
                                   "--version=",
-                                  "read x",
+                                  "read a b",
+                                  "read ''",
+                                  "read --all",
+                                  "read -o nd",
+                                  "read --all -o nd x",
+                                  "read --force x",
+                                  "read --all -o ''",
                                   "read --to",
                                   "monitors x",
                                   "monitors --frob",
@@ -111,7 +117,7 @@ TEST_F(UsageTest, NamesWhatIsWrong) {
     };
     for (const Case& c : {Case{"nosuch", "not expected: nosuch"}, Case{"--no", "not expected: --no"},
                           Case{"--no check", "not expected: --no"}, Case{"", "A subcommand is required"},
-                          Case{"script a b c", "not expected: b c"}, Case{"read a b", "not expected: a b"},
+                          Case{"script a b c", "not expected: b c"}, Case{"read a b", "not expected: b"},
                           Case{"check --frob", "not expected: --frob"}, Case{"check", "FILE is required"},
                           Case{"translate --output-dir= nd a", "no value in '--output-dir='"},
                           Case{"translate --date '' a", "--date: the value is empty"}}) {
