@@ -105,7 +105,7 @@ void print(std::string_view text) {
 }
 
 void printText(std::string_view text) {
-    print(isTerminal(stdout) ? withoutControls(text) : std::string(text));
+    isTerminal(stdout) ? print(withoutControls(text)) : print(text);
 }
 
 void flushOutput() {

@@ -1,5 +1,7 @@
 #include "cli/program.h"
 
+#include <utility>
+
 #include "acquire/get_edid.h"
 #include "cli/cli_error.h"
 #include "cli/output.h"
@@ -27,12 +29,11 @@ std::string withPlatformLineEnds(std::string_view text) {
 #else
     std::string result;
     result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.substr(i, crLf.size()) != crLf) {
-            result += text[i];
-        }
+    for (std::size_t end = text.find(crLf); end != std::string_view::npos; end = text.find(crLf)) {
+        result += text.substr(0, end);
+        text.remove_prefix(end + 1); // the line feed stays, as the first of the next piece
     }
-    return result;
+    return result += text;
 #endif
 }
 
@@ -60,10 +61,21 @@ Program::Program(platform::Registry& registry, const std::optional<platform::Dat
     : Program(now, &registry) {}
 
 Program::Program(const std::optional<platform::DateTime>& now, platform::Registry* registry)
-    : services_(withRegistry(platform_.services(), registry)), workbench_(services_, shell::wiring()) {
-    platform_.onBox = [this](const std::string& text) { boxes_.add(text, workbench_.step); };
+    : services_(withRegistry(platform_->services(), registry)), workbench_(services_, shell::wiring()) {
+    start(now);
+}
+
+void Program::startOver(const std::optional<platform::DateTime>& now) {
+    workbench_.startOver();
+    platform_.emplace();
+    boxes_.clear();
+    start(now);
+}
+
+void Program::start(const std::optional<platform::DateTime>& now) {
+    platform_->onBox = [this](const std::string& text) { boxes_.add(text, workbench_.step); };
     if (now) {
-        platform_.setClock(*now);
+        platform_->setClock(*now);
     }
     const Step step(workbench_, "starting");
     workbench_.runAction([&] { shell::Main(workbench_); });
@@ -126,7 +138,7 @@ std::string Program::dataFile() {
 std::string Program::hexExport() {
     const TemporaryFolder folder("image.hex");
     const std::string path = folder.file();
-    platform_.queueFileName(path);
+    platform_->queueFileName(path);
     const Step step(workbench_, "writing the hexadecimal export");
     const std::size_t boxesBefore = boxes_.count();
     input::choose(workbench_.frmMain().ExportHex);
@@ -138,6 +150,27 @@ std::string Program::contentWithoutBox(const std::string& path, std::size_t boxe
         throw CliError("cannot be written: " + inOneLine(boxes_.last()));
     }
     return readInput(path).content;
+}
+
+std::unique_ptr<Program> Programs::take() {
+    std::unique_ptr<Program> program;
+    {
+        const std::lock_guard lock(mutex_);
+        if (!idle_.empty()) {
+            program = std::move(idle_.back());
+            idle_.pop_back();
+        }
+    }
+    if (program == nullptr) {
+        return std::make_unique<Program>(now_);
+    }
+    program->startOver(now_);
+    return program;
+}
+
+void Programs::giveBack(std::unique_ptr<Program> program) {
+    const std::lock_guard lock(mutex_);
+    idle_.push_back(std::move(program));
 }
 
 } // namespace wb::cli

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/boxes.h"
 #include "cli/image_input.h"
@@ -18,6 +21,10 @@ public:
     explicit Program(const std::optional<platform::DateTime>& now = std::nullopt);
     /// The program looks for stored EDIDs in that registry, which must outlive it.
     explicit Program(platform::Registry& registry, const std::optional<platform::DateTime>& now = std::nullopt);
+
+    /// Puts the program back to how it stands after start-up, with that clock: what it costs to make one anew is mostly
+    /// its screens. A registry of its own stays.
+    void startOver(const std::optional<platform::DateTime>& now);
 
     Workbench& workbench() { return workbench_; }
     const Boxes& boxes() const { return boxes_; }
@@ -45,14 +52,30 @@ public:
 private:
     Program(const std::optional<platform::DateTime>& now, platform::Registry* registry);
 
+    void start(const std::optional<platform::DateTime>& now);
     [[noreturn]] void failToLoad() const;
     /// What a command has written to that file; a box that came up meanwhile told of a failure and is a CliError.
     std::string contentWithoutBox(const std::string& path, std::size_t boxesBefore) const;
 
-    platform::headless::HeadlessPlatform platform_;
+    std::optional<platform::headless::HeadlessPlatform> platform_{std::in_place}; ///< always there, made anew in place
     platform::Services services_;
     Workbench workbench_;
     Boxes boxes_;
+};
+
+/// Programs for the images of a batch, each of which finds one as it stands after start-up. For several threads.
+class Programs {
+public:
+    explicit Programs(const std::optional<platform::DateTime>& now) : now_(now) {}
+
+    std::unique_ptr<Program> take();
+    /// A program that has done its work, for the next image.
+    void giveBack(std::unique_ptr<Program> program);
+
+private:
+    const std::optional<platform::DateTime> now_; ///< the clock of each
+    std::mutex mutex_;
+    std::vector<std::unique_ptr<Program>> idle_;
 };
 
 } // namespace wb::cli

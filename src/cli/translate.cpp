@@ -51,57 +51,66 @@ struct Translation {
     std::optional<std::string> error;
 };
 
-Translation reportOf(const Contents& contents, const Image* image, const std::optional<platform::DateTime>& now) {
-    Translation result;
-    Program program(now);
-    try {
-        if (image == nullptr) {
-            program.loadDataFile(contents.input);
+/// Translates the files of a batch, on several threads.
+class Translator {
+public:
+    explicit Translator(const Options& options) : options_(options), programs_(clockOf(options.date)) {}
+
+    /// One translation for each image of a file.
+    std::vector<Translation> translateFile(const std::string& name) {
+        std::vector<Translation> results;
+        try {
+            const Contents contents = contentsOf(readInput(name), options_.images);
+            if (contents.isDataFile && !options_.json()) {
+                results.push_back(translate(contents, nullptr)); // whatever its cells are
+                return results;
+            }
+            for (const Image& image : imagesOf(contents)) {
+                results.push_back(translate(contents, &image));
+            }
+        } catch (const CliError& error) {
+            Translation failed;
+            failed.error = error.what();
+            results.push_back(failed);
+        }
+        return results;
+    }
+
+private:
+    Translation translate(const Contents& contents, const Image* image) {
+        Translation result;
+        if (options_.json()) {
+            result.report = fields::summaryToJson(fields::read(*image)) + '\n';
         } else {
-            program.load(*image);
-            result.omissions = omissionsOf(*image);
+            result = reportOf(contents, contents.isDataFile ? nullptr : image);
         }
-        result.report = program.report();
-    } catch (const CliError& error) {
-        result.error = error.what();
+        result.title = image == nullptr ? contents.input.name : titleOf(*image);
+        result.output = contents.images.size() > 1 ? image->origin().output : "";
+        return result;
     }
-    result.boxes = program.boxes();
-    return result;
-}
 
-Translation translate(const Contents& contents, const Image* image, const Options& options,
-                      const std::optional<platform::DateTime>& now) {
-    Translation result;
-    if (options.json()) {
-        result.report = fields::summaryToJson(fields::read(*image)) + '\n';
-    } else {
-        result = reportOf(contents, contents.isDataFile ? nullptr : image, now);
+    Translation reportOf(const Contents& contents, const Image* image) {
+        Translation result;
+        std::unique_ptr<Program> program = programs_.take();
+        try {
+            if (image == nullptr) {
+                program->loadDataFile(contents.input);
+            } else {
+                program->load(*image);
+                result.omissions = omissionsOf(*image);
+            }
+            result.report = program->report();
+        } catch (const CliError& error) {
+            result.error = error.what();
+        }
+        result.boxes = program->boxes();
+        programs_.giveBack(std::move(program));
+        return result;
     }
-    result.title = image == nullptr ? contents.input.name : titleOf(*image);
-    result.output = contents.images.size() > 1 ? image->origin().output : "";
-    return result;
-}
 
-/// One translation for each image of a file.
-std::vector<Translation> translateFile(const std::string& name, const Options& options,
-                                       const std::optional<platform::DateTime>& now) {
-    std::vector<Translation> results;
-    try {
-        const Contents contents = contentsOf(readInput(name), options.images);
-        if (contents.isDataFile && !options.json()) {
-            results.push_back(translate(contents, nullptr, options, now)); // whatever its cells are
-            return results;
-        }
-        for (const Image& image : imagesOf(contents)) {
-            results.push_back(translate(contents, &image, options, now));
-        }
-    } catch (const CliError& error) {
-        Translation failed;
-        failed.error = error.what();
-        results.push_back(failed);
-    }
-    return results;
-}
+    const Options& options_;
+    Programs programs_;
+};
 
 /// The files of a batch, and where their reports go.
 struct Batch {
@@ -219,7 +228,7 @@ void keepNames(Batch& batch) {
 
 int run(const Options& options) {
     const std::size_t jobs = jobsOf(options);
-    const std::optional<platform::DateTime> now = clockOf(options.date);
+    Translator translator(options);
     Batch batch(options.files);
     if (options.outputFolder) {
         keepNames(batch);
@@ -232,8 +241,7 @@ int run(const Options& options) {
     }
     Collector collector(options, batch);
     OrderedJobs<BatchFile, std::vector<Translation>>::run(
-        [&] { return batch.next(); }, jobs,
-        [&](const BatchFile& file) { return translateFile(file.name, options, now); },
+        [&] { return batch.next(); }, jobs, [&](const BatchFile& file) { return translator.translateFile(file.name); },
         [&](const BatchFile& file, const std::vector<Translation>& translations) {
             collector.take(file, translations);
         });

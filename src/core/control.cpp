@@ -1,6 +1,7 @@
 #include "core/control.h"
 
 #include <algorithm>
+#include <memory>
 
 #include "core/screen.h"
 
@@ -188,7 +189,31 @@ void Control::setHeight(int height) {
     changed();
 }
 
+void Control::takeBack(const Control& asMade) {
+    if (!touched_) {
+        return;
+    }
+    value_ = asMade.value_;
+    maxLength_ = asMade.maxLength_;
+    tag_ = asMade.tag_;
+    selStart_ = asMade.selStart_;
+    selLength_ = asMade.selLength_;
+    bounds_ = asMade.bounds_;
+    backColor_ = asMade.backColor_;
+    visible_ = asMade.visible_;
+    enabled_ = asMade.enabled_;
+    locked_ = asMade.locked_;
+    fontBold_ = asMade.fontBold_;
+    text_ = asMade.text_;
+    caption_ = asMade.caption_;
+    if (rows_ != asMade.rows_) {
+        rows_ = asMade.rows_;
+    }
+    touched_ = false;
+}
+
 void Control::changed() {
+    touched_ = true;
     screen_->controlChanged(*this);
 }
 
@@ -202,11 +227,18 @@ SingleControl::SingleControl(Screen& screen, std::string_view name, ControlKind 
 
 ControlArray::ControlArray(Screen& screen, std::string_view name, ControlKind kind, int first, int count,
                            Control* container)
-    : name_(name), first_(first), count_(count) {
-    elements_.reserve(static_cast<std::size_t>(count));
-    for (int i = first; i < first + count; ++i) {
-        elements_.push_back(std::make_unique<Control>(screen, name, kind, container, on, this, i));
+    : name_(name),
+      first_(first),
+      count_(count),
+      elements_(std::allocator<Control>().allocate(static_cast<std::size_t>(count))) {
+    for (int i = 0; i < count; ++i) {
+        std::construct_at(elements_ + i, screen, name, kind, container, on, this, first + i);
     }
+}
+
+ControlArray::~ControlArray() {
+    std::destroy_n(elements_, count_);
+    std::allocator<Control>().deallocate(elements_, static_cast<std::size_t>(count_));
 }
 
 int ControlArray::firstSelected(int from, int to, int none) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -99,14 +98,20 @@ public:
     void setMaxLength(int length);
     /// A number that the program keeps with the control; it has no effect of its own.
     int tag() const { return tag_; }
-    void setTag(int tag) { tag_ = tag; }
+    void setTag(int tag) {
+        tag_ = tag;
+        touched_ = true;
+    }
     /// The selection in characters of the text; what lies outside the text is cut off.
     int selStart() const { return selStart_; }
     int selLength() const { return selLength_; }
     void setSelection(int start, int length);
     /// The rows of a combo; setting them changes neither value nor text.
     const std::vector<std::string>& rows() const { return rows_; }
-    void setRows(std::vector<std::string> rows) { rows_ = std::move(rows); }
+    void setRows(std::vector<std::string> rows) {
+        rows_ = std::move(rows);
+        touched_ = true;
+    }
     /// All 0 where the logic never moves or sizes the control.
     const Bounds& bounds() const { return bounds_; }
     void setBounds(const Bounds& bounds);
@@ -114,6 +119,12 @@ public:
     void setHeight(int height);
     /// For the members of an array that stand in another container than the array's.
     void placeIn(Control& container) { container_ = &container; }
+
+    /// From here on the control counts as unchanged.
+    void markAsMade() { touched_ = false; }
+    /// Takes every property over from the same control of a screen of the same kind, unless none has changed since the
+    /// mark; no view is told.
+    void takeBack(const Control& asMade);
 
 private:
     void changed();
@@ -136,6 +147,7 @@ private:
     bool enabled_ = true;
     bool locked_ = false;
     bool fontBold_ = false;
+    bool touched_ = false; ///< a property was set since the mark
     std::string text_;
     std::string caption_;
     std::vector<std::string> rows_;
@@ -158,13 +170,14 @@ public:
                  Control* container = nullptr);
     ControlArray(const ControlArray&) = delete;
     ControlArray& operator=(const ControlArray&) = delete;
+    ~ControlArray();
 
     /// The element; an index outside the array is a ControlElementMissing failure.
     Control& operator()(int index) {
         if (index < first_ || index >= first_ + count_) {
             throw Failure(FailureKind::ControlElementMissing);
         }
-        return *elements_[static_cast<std::size_t>(index - first_)];
+        return elements_[index - first_];
     }
     std::string_view name() const { return name_; }
     int first() const { return first_; }
@@ -185,7 +198,7 @@ private:
     std::string_view name_;
     int first_;
     int count_;
-    std::vector<std::unique_ptr<Control>> elements_;
+    Control* elements_; ///< side by side: a screen has hundreds of them, made and gone through all the time
 };
 
 /// Selection start 0, selection length the length of the text.

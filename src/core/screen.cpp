@@ -62,6 +62,22 @@ Control* Screen::focusTarget() const {
     return nullptr;
 }
 
+void Screen::markAsMade() {
+    for (Control* control : controls_) {
+        control->markAsMade();
+    }
+}
+
+void Screen::takeBack(const Screen& asMade) {
+    shown_ = false;
+    caption_ = asMade.caption_;
+    lastFocus_ = nullptr;
+    for (std::size_t i = 0; i < controls_.size(); ++i) {
+        controls_[i]->takeBack(*asMade.controls_[i]);
+    }
+    resetFields();
+}
+
 void Screen::controlChanged(Control& control) {
     if (workbench_->view != nullptr) {
         workbench_->view->controlChanged(control);

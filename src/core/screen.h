@@ -64,7 +64,14 @@ public:
     void add(Control& control) { controls_.push_back(&control); }
     void controlChanged(Control& control);
 
+    /// The screen is made and connected: what follows counts as a change of its controls.
+    void markAsMade();
+    /// Puts the screen back to how it was made, which another one of its kind still is. Nobody may draw it.
+    void takeBack(const Screen& asMade);
+
 protected:
+    /// Gives the fields of the form the values with which they were made.
+    virtual void resetFields() {}
     void setFirstInTabOrder(Control& control) { firstInTabOrder_ = &control; }
 
 private:

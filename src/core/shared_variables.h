@@ -28,6 +28,7 @@ public:
     /// Creates the array anew with empty elements 0 to count - 1.
     void create(int count) { texts_.assign(static_cast<std::size_t>(count > 0 ? count : 0), std::string()); }
     int size() const { return static_cast<int>(texts_.size()); }
+    bool operator==(const TextArray&) const = default;
     std::string& operator()(int index) { return texts_[checked(index)]; }
     const std::string& operator()(int index) const { return texts_[checked(index)]; }
 
@@ -138,6 +139,8 @@ struct SharedVariables {
     // Report buffers, closed by an entry "END REPORT".
     TextArray ReportBlock0Lines;
     TextArray ReportExtLines;
+
+    bool operator==(const SharedVariables&) const = default;
 };
 
 /// Whether a visit of a cell goes on to the input box of its panel: editing and seeking are both switched on.

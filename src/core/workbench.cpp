@@ -35,16 +35,45 @@ std::unique_ptr<Screen> Workbench::makeScreen(ScreenId id) {
     return std::make_unique<FrmAbout>(*this);
 }
 
+std::unique_ptr<Screen> Workbench::makeConnected(ScreenId id) {
+    std::unique_ptr<Screen> screen = makeScreen(id);
+    if (const ScreenLife& life = lifeOf(id); life.connect != nullptr) {
+        life.connect(*screen);
+    }
+    screen->markAsMade();
+    return screen;
+}
+
+std::unique_ptr<Screen> Workbench::takeSpare(ScreenId id) {
+    const auto place = static_cast<std::size_t>(id);
+    if (asMade_[place] == nullptr) {
+        asMade_[place] = makeConnected(id);
+    }
+    spare_[place]->takeBack(*asMade_[place]);
+    return std::move(spare_[place]);
+}
+
+void Workbench::startOver() {
+    static const SharedVariables initial;
+    static_cast<SharedVariables&>(*this) = initial;
+    focus = Focus(*this);
+    windows = Windows(*this);
+    ended = false;
+    creationOrder_.clear();
+    for (std::size_t place = 0; place < screens_.size(); ++place) {
+        if (screens_[place] != nullptr) {
+            spare_[place] = std::move(screens_[place]);
+        }
+    }
+}
+
 Screen& Workbench::touch(ScreenId id) {
     auto& slot = screens_[static_cast<std::size_t>(id)];
     if (slot == nullptr) {
-        slot = makeScreen(id);
+        slot = spare_[static_cast<std::size_t>(id)] == nullptr ? makeConnected(id) : takeSpare(id);
         Screen& screen = *slot;
         creationOrder_.push_back(&screen);
         const ScreenLife& life = lifeOf(id);
-        if (life.connect != nullptr) {
-            life.connect(screen);
-        }
         if (life.load != nullptr) {
             life.load(*this);
         }

@@ -64,6 +64,10 @@ struct Workbench : SharedVariables {
     /// Takes the screen out of the program. The object itself lives until the outermost action has returned.
     void discard(ScreenId id);
 
+    /// Puts the program back to how it was before its start, for the next image of many. The screens are kept and put
+    /// back when they are touched next. For a program that nobody draws, and between actions.
+    void startOver();
+
     /// Shows the box of a failure: its text, an OK button, no title.
     void showFailure(const Failure& failure);
     /// Shows a text with an OK button.
@@ -111,12 +115,17 @@ private:
         return static_cast<ScreenType&>(touch(id));
     }
 
+    std::unique_ptr<Screen> makeConnected(ScreenId id);
+    std::unique_ptr<Screen> takeSpare(ScreenId id);
+
     const ScreenLife& lifeOf(ScreenId id) const { return (*wiring_)[static_cast<std::size_t>(id)]; }
 
     const Wiring* wiring_;
     std::array<std::unique_ptr<Screen>, screenCount> screens_;
     std::vector<Screen*> creationOrder_;
     std::vector<std::unique_ptr<Screen>> retired_;
+    std::array<std::unique_ptr<Screen>, screenCount> spare_;  ///< of the starts before, as they were left
+    std::array<std::unique_ptr<Screen>, screenCount> asMade_; ///< what a spare one is put back to
     int actionDepth_ = 0;
 };
 

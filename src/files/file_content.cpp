@@ -1,9 +1,9 @@
 #include "files/file_content.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
-#include <vector>
 
 #include "files/text_file.h"
 
@@ -32,20 +32,24 @@ std::string readFile(const std::string& path) {
 }
 
 std::string readStream(std::FILE* stream) {
-    std::vector<char> buffer(std::size_t{1} << 16U);
+    constexpr std::size_t firstPiece = std::size_t{1} << 12U; // holds most files
+    constexpr std::size_t largestPiece = std::size_t{1} << 20U;
     std::string content;
-    std::size_t count = 0;
-    do {
-        count = std::fread(buffer.data(), 1, buffer.size(), stream);
+    for (std::size_t piece = firstPiece;; piece = std::min(piece * 2, largestPiece)) {
+        const std::size_t size = content.size();
+        content.resize(size + piece);
+        const std::size_t count = std::fread(content.data() + size, 1, piece, stream);
+        content.resize(size + count);
         if (std::ferror(stream) != 0) {
             fail(errno);
         }
-        content.append(buffer.data(), count);
         if (content.size() > largestFile) {
             fail(EFBIG);
         }
-    } while (count == buffer.size());
-    return content;
+        if (count < piece) {
+            return content;
+        }
+    }
 }
 
 } // namespace wb::files

@@ -159,20 +159,22 @@ void putEnd(Workbench& workbench, TextArray& lines, int entry) {
 
 } // namespace
 
+void layOutBlock0Report(Workbench& workbench) {
+    TextArray& lines = workbench.ReportBlock0Lines;
+    lines.create(reportEntries);
+    putHead(workbench, lines, HeadEntry);
+    putTitles(workbench, lines);
+    putLayout(lines);
+    putDump(workbench.frmEDID(), lines, DumpEntry);
+    putFieldLines(workbench, lines);
+    putDecodedTexts(workbench, lines);
+    const int blocks = putStandardTimings(workbench, lines);
+    const int end = putDetailedBlocks(workbench, lines, blocks);
+    putEnd(workbench, lines, end);
+}
+
 void BuildBlock0Report(Workbench& workbench) {
-    trapped(workbench, [&] {
-        TextArray& lines = workbench.ReportBlock0Lines;
-        lines.create(reportEntries);
-        putHead(workbench, lines, HeadEntry);
-        putTitles(workbench, lines);
-        putLayout(lines);
-        putDump(workbench.frmEDID(), lines, DumpEntry);
-        putFieldLines(workbench, lines);
-        putDecodedTexts(workbench, lines);
-        const int blocks = putStandardTimings(workbench, lines);
-        const int end = putDetailedBlocks(workbench, lines, blocks);
-        putEnd(workbench, lines, end);
-    });
+    trapped(workbench, [&] { layOutBlock0Report(workbench); });
 }
 
 } // namespace wb::report

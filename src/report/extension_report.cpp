@@ -201,6 +201,8 @@ void moveOn(std::int16_t& entry) {
     entry = int16From(entry + 1);
 }
 
+constexpr int entriesOfTiming = 3;
+
 /// The running entry is a cell number of the block, and stays moved on.
 void putTimings(Workbench& workbench, TextArray& lines) {
     std::int16_t& entry = workbench.ExtDtdStart;
@@ -236,25 +238,38 @@ void putEnd(const Workbench& workbench, TextArray& lines) {
 
 } // namespace
 
+void layOutExtensionReport(Workbench& workbench) {
+    TextArray& lines = workbench.ReportExtLines;
+    lines.create(reportEntries);
+    FrmCeaExt& screen = workbench.frmCEA_EXT();
+    const std::string tag = screen.txtEdit(extensionCells::tag).text();
+    putBlockHead(workbench, lines, kindOf(tag));
+    if (tag == repeatedBlockTag) {
+        return;
+    }
+    if (tag == blockMapTagText) {
+        putBlockMap(screen, lines);
+    } else if (tag == ceaTagText) {
+        putCeaHead(workbench, lines);
+    }
+    putDataBlocks(workbench, lines);
+    putTimings(workbench, lines);
+    putEnd(workbench, lines);
+}
+
 void BuildExtensionReport(Workbench& workbench) {
-    trapped(workbench, [&] {
-        TextArray& lines = workbench.ReportExtLines;
-        lines.create(reportEntries);
-        FrmCeaExt& screen = workbench.frmCEA_EXT();
-        const std::string tag = screen.txtEdit(extensionCells::tag).text();
-        putBlockHead(workbench, lines, kindOf(tag));
-        if (tag == repeatedBlockTag) {
-            return;
-        }
-        if (tag == blockMapTagText) {
-            putBlockMap(screen, lines);
-        } else if (tag == ceaTagText) {
-            putCeaHead(workbench, lines);
-        }
-        putDataBlocks(workbench, lines);
-        putTimings(workbench, lines);
-        putEnd(workbench, lines);
-    });
+    trapped(workbench, [&] { layOutExtensionReport(workbench); });
+}
+
+void skipExtensionReports(Workbench& workbench, int builds) {
+    if (workbench.frmCEA_EXT().txtEdit(extensionCells::tag).text() == repeatedBlockTag) {
+        return;
+    }
+    int entries = 1;
+    for (int i = 0; i <= workbench.ExtDtdSlotCount; ++i) {
+        entries += workbench.ExtDetailedBlockText(i).empty() ? 0 : entriesOfTiming;
+    }
+    workbench.ExtDtdStart = int16From(workbench.ExtDtdStart + builds * entries);
 }
 
 } // namespace wb::report

@@ -9,5 +9,9 @@ namespace wb::report {
 /// among them cuts the report. Each build moves ExtDtdStart on, by 1 and 3 for each timing. A failure is shown and
 /// leaves the buffer as it stands.
 void BuildExtensionReport(Workbench& workbench);
+/// The same, but a failure is thrown.
+void layOutExtensionReport(Workbench& workbench);
+/// Moves ExtDtdStart on as that many builds without a failure do. What does not fit into it is an Overflow failure.
+void skipExtensionReports(Workbench& workbench, int builds);
 
 } // namespace wb::report

@@ -34,17 +34,24 @@ std::string columnHead() {
     return line(std::move(head));
 }
 
+void appendPadded(std::string& text, std::string_view part, int width) {
+    text += part;
+    const int missing = width - static_cast<int>(part.size());
+    text.append(static_cast<std::size_t>(std::max(missing, 0)), ' ');
+}
+
 std::string dumpRow(BlockScreen& screen, int row) {
     const int first = row * columns;
     const int end = std::min(first + columns, BlockScreen::cellCount);
     std::string text;
     text.reserve(6 + columns * cellWidth + crLf.size());
-    text += PadRight(std::to_string(first), 3);
+    appendPadded(text, std::to_string(first), 3);
     text += "  |";
     for (int cell = first; cell < end; ++cell) {
-        text += PadRight(screen.txtEdit(cell).text(), cellWidth);
+        appendPadded(text, screen.txtEdit(cell).text(), cellWidth);
     }
-    return line(std::move(text));
+    text += crLf;
+    return text;
 }
 
 } // namespace
@@ -91,8 +98,10 @@ void putHead(Workbench& workbench, TextArray& lines, int first) {
 
 void putDump(BlockScreen& screen, TextArray& lines, int first) {
     constexpr int rows = (BlockScreen::cellCount + columns - 1) / columns;
-    lines(first) = columnHead();
-    lines(first + 1) = line(IndentText(RepeatText("_", cellWidth * columns), 6));
+    static const std::string head = columnHead();
+    static const std::string rule = line(IndentText(RepeatText("_", cellWidth * columns), 6));
+    lines(first) = head;
+    lines(first + 1) = rule;
     for (int row = 0; row < rows; ++row) {
         lines(first + 2 + row) = dumpRow(screen, row);
     }

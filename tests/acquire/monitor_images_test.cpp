@@ -99,10 +99,11 @@ protected:
         ASSERT_FALSE(images.empty());
     }
     /// Loads an image into a program of its own and shows its report.
-    static void translate(Program& program, const Image& image) {
+    static void translate(Program& program, const Image& image,
+                          report::Passes passes = report::Passes::LastWhereAlike) {
         program.workbench.runAction([&] {
             acquire::LoadStoredEdid(program.workbench, image.bytes);
-            report::ShowReport(program.workbench, false);
+            report::ShowReport(program.workbench, false, passes);
         });
     }
 
@@ -174,6 +175,72 @@ TEST_P(MonitorImages, AreToldInFull) {
         }
         const std::string words = sum % 256 == 0 ? "CheckSum OK" : "CheckSum Is Invalid";
         EXPECT_THAT(report, HasSubstr("\r\n  (127)  " + words + "\r\n"));
+    }
+}
+
+/// All that a user or a script can see of the controls.
+std::vector<std::string> controlsOf(Workbench& workbench) {
+    std::vector<std::string> result;
+    for (const Screen* screen : workbench.loadedInOrder()) {
+        result.push_back(std::string(screen->name()) + (screen->shown() ? " shown " : " ") + screen->caption());
+        for (const Control* control : screen->controls()) {
+            std::string line = control->fullName() + " [" + control->text() + "] [" + control->caption() + "]";
+            for (const int state : {control->value(), int{control->ownVisible()}, int{control->enabled()},
+                                    int{control->locked()}, static_cast<int>(control->backColor()),
+                                    int{control->fontBold()}, control->maxLength(), control->tag(), control->selStart(),
+                                    control->selLength(), static_cast<int>(control->rows().size())}) {
+                line += ' ' + std::to_string(state);
+            }
+            result.push_back(line);
+        }
+    }
+    return result;
+}
+
+std::vector<std::string> childrenOf(Workbench& workbench) {
+    std::vector<std::string> names;
+    for (const Screen* child : workbench.windows.children()) {
+        names.emplace_back(child->name());
+    }
+    return names;
+}
+
+void expectAlike(Program& a, Program& b) {
+    EXPECT_EQ(a.boxes, b.boxes);
+    EXPECT_EQ(a.lines, b.lines);
+    EXPECT_TRUE(static_cast<const SharedVariables&>(a.workbench) == b.workbench);
+    EXPECT_EQ(controlsOf(a.workbench), controlsOf(b.workbench));
+    EXPECT_EQ(childrenOf(a.workbench), childrenOf(b.workbench));
+    ASSERT_EQ(a.workbench.focus.current() != nullptr, b.workbench.focus.current() != nullptr);
+    if (a.workbench.focus.current() != nullptr) {
+        EXPECT_EQ(a.workbench.focus.current()->fullName(), b.workbench.focus.current()->fullName());
+    }
+}
+
+TEST_P(MonitorImages, LookAlikeWhetherEachPassOfTheReportRunsOrTheLastAlone) {
+    for (const Image& image : images) {
+        SCOPED_TRACE(image.name);
+        Program each;
+        Program last;
+        translate(each, image, report::Passes::Each);
+        translate(last, image, report::Passes::LastWhereAlike);
+        expectAlike(each, last);
+    }
+}
+
+// One program for all of them, as a batch has it, against one for each.
+TEST_P(MonitorImages, LeaveNothingBehindInAProgramThatStartsOver) {
+    Program again;
+    for (const Image& image : images) {
+        SCOPED_TRACE(image.name);
+        again.workbench.startOver();
+        again.boxes.clear();
+        again.lines.clear();
+        shell::Main(again.workbench);
+        translate(again, image);
+        Program fresh;
+        translate(fresh, image);
+        expectAlike(fresh, again);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "core/base/failure.h"
 
@@ -31,7 +32,7 @@ Integer checkedRound(double value) {
 
 /// Integer part and decimals of a number that is not negative, rounded half away from zero at `decimals` on the
 /// double's exact value.
-std::string roundedDecimals(double magnitude, int decimals) {
+std::string roundedByGuardDigits(double magnitude, int decimals) {
     // A double of the sizes met here that is no exact half differs from one within this many further digits.
     constexpr int guardDigits = 60;
     std::array<char, 512> buffer{}; // room for 451 digits, the point and the guard
@@ -60,6 +61,42 @@ std::string roundedDecimals(double magnitude, int decimals) {
         digits.insert(digits.begin(), '1');
     }
     return digits;
+}
+
+/// The same for the sizes that are met most: at most three decimals of a number whose bits reach 64 places behind the
+/// point at most. Nothing for others.
+std::optional<std::string> roundedExactly(double magnitude, int decimals) {
+    constexpr std::array<std::uint64_t, 4> powers = {1, 10, 100, 1000};
+    constexpr double least = 1.0 / 2048; // 53 bits from the eleventh place on
+    constexpr double limit = 1e15;
+    if (decimals >= static_cast<int>(powers.size()) || !(magnitude < limit) || (magnitude < least && magnitude != 0)) {
+        return std::nullopt;
+    }
+    const std::uint64_t power = powers[static_cast<std::size_t>(decimals)];
+    auto whole = static_cast<std::uint64_t>(magnitude);
+    // The product of the fraction, 64 bits behind the point, and the power, in two halves.
+    const auto fraction = static_cast<std::uint64_t>(std::ldexp(magnitude - static_cast<double>(whole), 64));
+    const std::uint64_t low = (fraction & 0xFFFFFFFFU) * power;
+    const std::uint64_t high = (fraction >> 32U) * power + (low >> 32U);
+    std::uint64_t part = (high >> 32U) + ((high >> 31U) & 1U); // half a unit or more rounds up
+    if (part == power) {
+        part = 0;
+        ++whole;
+    }
+    std::array<char, 24> buffer{};
+    char* end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), whole).ptr;
+    *end++ = '.';
+    for (std::uint64_t place = power / 10; place > 0; place /= 10) {
+        *end++ = static_cast<char>('0' + part / place % 10);
+    }
+    return std::string(buffer.data(), end);
+}
+
+std::string roundedDecimals(double magnitude, int decimals) {
+    if (std::optional<std::string> digits = roundedExactly(magnitude, decimals)) {
+        return *std::move(digits);
+    }
+    return roundedByGuardDigits(magnitude, decimals);
 }
 
 } // namespace

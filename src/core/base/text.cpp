@@ -77,11 +77,11 @@ int HexDigitValue(std::string_view text) {
 }
 
 std::string ByteToHex2(long long value) {
-    std::string digits = hexadecimal16(int16From(value));
-    if (digits.size() == 1) {
-        digits.insert(digits.begin(), '0');
+    if (value >= 0 && value <= 255) { // what nearly all callers have, and the grid 256 times
+        static constexpr std::string_view digits = "0123456789ABCDEF";
+        return {digits[static_cast<std::size_t>(value / 16)], digits[static_cast<std::size_t>(value % 16)]};
     }
-    return digits;
+    return hexadecimal16(int16From(value));
 }
 
 std::string HexToBinaryText(std::string_view text) {

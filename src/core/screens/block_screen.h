@@ -8,9 +8,17 @@
 
 namespace wb {
 
+/// Form-level fields of a block screen.
+struct BlockScreenFields {
+    Flag InFocusDispatch = flagFalse;
+    std::int16_t CurrentBlockBase = 0; ///< first cell of the 18-byte block shown; second cell of a standard timing pair
+    std::int16_t CurrentBlockNumber = 0; ///< which of the blocks or slots is shown, from 0
+    Flag CurrentBlockIsDescriptor = flagFalse;
+};
+
 /// What the screens of the two blocks have in common: the identity texts, the grid of cells, the panels, and among
 /// these the panels of a version and of a detailed timing.
-class BlockScreen : public Screen {
+class BlockScreen : public Screen, public BlockScreenFields {
 public:
     static constexpr int cellCount = blockSize;
     static constexpr int timingValuePanel = 9; ///< of `Hints`
@@ -57,11 +65,8 @@ public:
     SingleControl VSyncLine{*this, "VSyncLine", ControlKind::Label, &Frame2};
     SingleControl Label7{*this, "Label7", ControlKind::Label, &Frame2};
 
-    // Form-level fields.
-    Flag InFocusDispatch = flagFalse;
-    std::int16_t CurrentBlockBase = 0; ///< first cell of the 18-byte block shown; second cell of a standard timing pair
-    std::int16_t CurrentBlockNumber = 0; ///< which of the blocks or slots is shown, from 0
-    Flag CurrentBlockIsDescriptor = flagFalse;
+protected:
+    void resetFields() override { static_cast<BlockScreenFields&>(*this) = {}; }
 };
 
 } // namespace wb

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "core/screen.h"
@@ -9,8 +10,22 @@
 
 namespace wb {
 
+/// Form-level fields of the frame.
+struct FrmMainFields {
+    /// Position and size of the frame in twips; `input::placed` keeps them up to date.
+    float Left = 0;
+    float Top = 0;
+    float Width = 0;
+    float Height = 0;
+    bool minimised = false;
+    Flag FirstActivation = flagFalse;
+    /// The shared file dialog dlgCommonDialog keeps these between calls.
+    std::string dialogFilter;
+    std::string dialogFileName;
+};
+
 /// The multi-document frame: its menu, tool bar, command buttons and status bar.
-class FrmMain : public Screen {
+class FrmMain : public Screen, public FrmMainFields {
 public:
     explicit FrmMain(Workbench& workbench);
 
@@ -70,18 +85,10 @@ public:
     SingleControl Command5{*this, "Command5", ControlKind::Button, nullptr, "Scan+Read EDID"};
     SingleControl sbStatusBar{*this, "sbStatusBar", ControlKind::Label, nullptr, "Status"};
 
-    /// Position and size of the frame in twips; `input::placed` keeps them up to date.
-    float Left = 0;
-    float Top = 0;
-    float Width = 0;
-    float Height = 0;
-    bool minimised = false;
-    Flag FirstActivation = flagFalse;
     void setPosition(float left, float top, float width, float height);
 
-    /// The shared file dialog dlgCommonDialog keeps these between calls.
-    std::string dialogFilter;
-    std::string dialogFileName;
+protected:
+    void resetFields() override { static_cast<FrmMainFields&>(*this) = {}; }
 };
 
 } // namespace wb

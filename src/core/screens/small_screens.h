@@ -11,22 +11,36 @@ public:
     explicit FrmSplash(Workbench& workbench);
 };
 
+/// Form-level fields of the report window: the inner size in twips; `input::resized` keeps it up to date.
+struct FrmDocumentFields {
+    int innerWidth = 0;
+    int innerHeight = 0;
+};
+
 /// The report window.
-class FrmDocument : public Screen {
+class FrmDocument : public Screen, public FrmDocumentFields {
 public:
     explicit FrmDocument(Workbench& workbench);
 
     SingleControl rtftext{*this, "rtftext", ControlKind::Document};
 
-    static constexpr int margin = 100; ///< of rtftext on all sides, in twips
-    /// Inner size in twips; `input::resized` keeps it up to date.
-    int innerWidth = 0;
-    int innerHeight = 0;
+    static constexpr int margin = 100;    ///< of rtftext on all sides, in twips
     void (*resize)(Workbench&) = nullptr; ///< called after the inner size has changed
+
+protected:
+    void resetFields() override { static_cast<FrmDocumentFields&>(*this) = {}; }
+};
+
+/// Form-level fields of the calculator.
+struct FrmHexCalculatorFields {
+    std::int16_t CalcMode = 1; ///< 0 hexadecimal, 1 decimal, 2 binary
+    std::string PendingOperator;
+    Flag OperatorPressed = flagFalse;
+    std::string PreviousCurrent;
 };
 
 /// The calculator.
-class FrmHexCalculator : public Screen {
+class FrmHexCalculator : public Screen, public FrmHexCalculatorFields {
 public:
     explicit FrmHexCalculator(Workbench& workbench);
 
@@ -37,10 +51,8 @@ public:
     SingleControl CurrentCell{*this, "CurrentCell", ControlKind::Text};
     SingleControl ResultsCell{*this, "ResultsCell", ControlKind::Text};
 
-    std::int16_t CalcMode = 1; ///< 0 hexadecimal, 1 decimal, 2 binary
-    std::string PendingOperator;
-    Flag OperatorPressed = flagFalse;
-    std::string PreviousCurrent;
+protected:
+    void resetFields() override { static_cast<FrmHexCalculatorFields&>(*this) = {}; }
 };
 
 /// Where the standards can be had.

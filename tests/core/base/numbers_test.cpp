@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <charconv>
+#include <cmath>
 #include <functional>
 #include <limits>
+#include <random>
 
 #include "core/base/failure.h"
 
@@ -62,6 +66,56 @@ INSTANTIATE_TEST_SUITE_P(
                     PatternCase{0.5, "##0.000", "0.500"}, PatternCase{0.9990234375, "##0.000", "0.999"},
                     PatternCase{0.0625, "##0.000", "0.063"}, PatternCase{-0.001, "0.00", "0.00"},
                     PatternCase{1e20, "0", "100000000000000000000"}));
+
+/// The decimal expansion of a double is finite: with enough digits to_chars gives all of it, and rounding is a matter
+/// of one digit.
+std::string roundedByAllDigits(double value, int decimals) {
+    std::array<char, 1200> buffer{};
+    const auto result =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 1080);
+    std::string digits(buffer.data(), result.ptr);
+    const std::size_t end = digits.find('.') + 1 + static_cast<std::size_t>(decimals);
+    const bool up = digits[end] >= '5';
+    digits.resize(end);
+    for (std::size_t at = end; up && at-- > 0;) {
+        if (digits[at] == '.') {
+            continue;
+        }
+        if (digits[at] != '9') {
+            ++digits[at];
+            return decimals == 0 ? digits.substr(0, end - 1) : digits;
+        }
+        digits[at] = '0';
+    }
+    digits.insert(0, up ? "1" : "");
+    return decimals == 0 ? digits.substr(0, digits.size() - 1) : digits;
+}
+
+TEST(Numbers, RoundOnTheExactValueWhateverItIs) {
+    constexpr std::array<const char*, 4> patterns = {"0", "0.0", "0.00", "0.000"};
+    std::mt19937_64 random(20);
+    const auto expectRounded = [&](double value) {
+        for (int decimals = 0; decimals < 4; ++decimals) {
+            ASSERT_EQ(formatNumber(value, patterns[static_cast<std::size_t>(decimals)]),
+                      roundedByAllDigits(value, decimals))
+                << value;
+        }
+    };
+    // Pixel clocks, coordinates and gammas, and what lies just beside each.
+    for (const int divisor : {1, 8, 100, 1000, 1024}) {
+        for (int number = 0; number < 5000; ++number) {
+            const double value = static_cast<double>(number) / divisor;
+            expectRounded(value);
+            expectRounded(std::nextafter(value, 1e9));
+            expectRounded(std::nextafter(value, 0.0));
+        }
+    }
+    std::uniform_real_distribution<double> exponent(-13, 52);
+    std::uniform_real_distribution<double> mantissa(1, 2);
+    for (int i = 0; i < 20000; ++i) {
+        expectRounded(std::ldexp(mantissa(random), static_cast<int>(exponent(random))));
+    }
+}
 
 struct ValueCase {
     const char* text;
