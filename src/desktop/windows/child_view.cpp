@@ -137,6 +137,7 @@ void ChildView::refresh() {
 void ChildView::refreshStates() {
     const bool showsImage = screen()->id() == ScreenId::Edid || screen()->id() == ScreenId::CeaExt;
     window_->setWindowModified(showsImage && screen()->workbench().EDIDModified != flagFalse);
+    page_->refreshPicture();
 }
 
 QList<QMdiSubWindow*> ChildView::neighbours() const {

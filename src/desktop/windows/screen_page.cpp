@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "core/screen.h"
+#include "core/screens/block_screen.h"
 #include "desktop/drawing/colours.h"
 #include "desktop/views/choice_views.h"
 #include "desktop/views/document_view.h"
@@ -96,6 +96,15 @@ ScreenPage::ScreenPage(Screen& screen, UserActions& actions)
         view->refresh();
     }
     refreshTabStops();
+    if (auto* block = dynamic_cast<BlockScreen*>(&screen)) {
+        picture_ = std::make_unique<PanelPicture>(*block, views_, actions);
+    }
+}
+
+void ScreenPage::refreshPicture() {
+    if (picture_ != nullptr) {
+        picture_->refreshSoon();
+    }
 }
 
 void ScreenPage::refreshTabStops() {

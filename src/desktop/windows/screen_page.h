@@ -6,6 +6,7 @@
 
 #include "desktop/layouts/layout.h"
 #include "desktop/views/control_view.h"
+#include "desktop/windows/panel_picture.h"
 
 class QGridLayout;
 
@@ -19,6 +20,8 @@ public:
 
     const std::vector<std::unique_ptr<ControlView>>& views() const { return views_; }
     void refreshTabStops();
+    /// A call into the model has returned.
+    void refreshPicture();
     /// The first control of the shown panel in tab order or, from inside the panel, the cell of the field shown: where
     /// the focus goes to change between the two. Null where there is none.
     Control* otherSide(const Control* from) const;
@@ -43,6 +46,7 @@ private:
     const ScreenLayout& layout_;
     UserActions& actions_;
     std::vector<std::unique_ptr<ControlView>> views_;
+    std::unique_ptr<PanelPicture> picture_; ///< of a block screen
     mutable QSize largest_;
 };
 
