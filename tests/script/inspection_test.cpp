@@ -110,7 +110,8 @@ std::vector<std::string> sharedVariables() {
         if (std::smatch match; std::regex_match(line, match, member)) {
             names.push_back(match[1].str());
         } else {
-            EXPECT_EQ(line, "") << "a member that this does not see";
+            EXPECT_TRUE(line.empty() || line.find(" operator==(") != std::string::npos)
+                << line << ": a member that this does not see";
         }
     }
     return names;
