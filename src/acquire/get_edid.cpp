@@ -82,8 +82,9 @@ std::optional<std::string> readStoredEdid(Workbench& workbench) {
 
 void LoadStoredEdid(Workbench& workbench, std::string data) {
     trapped(workbench, [&] {
-        data.resize(std::min<std::size_t>(data.size(), imageSize));
         openScreen(workbench);
+        workbench.LoadedBytes = data;
+        data.resize(std::min<std::size_t>(data.size(), imageSize));
         FrmEdid& screen = workbench.frmEDID();
         for (int i = 0; i < BlockScreen::cellCount; ++i) {
             screen.txtEdit(i).setText(cellTextOf(data, i));

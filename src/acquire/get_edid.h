@@ -16,8 +16,8 @@ void GetEDIDData(Workbench& workbench);
 /// none a box says so.
 std::optional<std::string> readStoredEdid(Workbench& workbench);
 
-/// Loads the raw EDID, one character a byte; what stands behind the first 256 is dropped. Where bytes are missing, the
-/// load ends with a box at the first of them and the cells filled so far stay.
+/// Loads the raw EDID, one character a byte; what stands behind the first 256 is kept in LoadedBytes alone. Where bytes
+/// are missing, the load ends with a box at the first of them and the cells filled so far stay.
 void LoadStoredEdid(Workbench& workbench, std::string data);
 
 } // namespace wb::acquire

@@ -42,8 +42,7 @@ Image fitted(const Options& options, Image image, Remarks& remarks) {
     }
     if (!isFormOfBytes(options.format) && image.blockCount() > Image::editedBlocks) {
         if (!options.cut) {
-            throw CliError(std::to_string(image.blockCount()) + " blocks; a data file holds " +
-                           std::to_string(Image::editedBlocks) + "; --cut leaves the others out");
+            throw CliError(tooManyBlocks(image.blockCount()) + "; --cut leaves the others out");
         }
         remarks.push_back(blocksText(Image::editedBlocks, image.blockCount() - 1) + " left out");
         image = image.cutTo(Image::editedBlocks);

@@ -1,5 +1,7 @@
 #include "cli/edited_image.h"
 
+#include <algorithm>
+
 #include "cli/cli_error.h"
 #include "core/base/digits.h"
 #include "core/base/image_layout.h"
@@ -22,25 +24,60 @@ std::string bytesOf(BlockScreen& screen, int first) {
     return bytes;
 }
 
+/// The number of blocks that byte 126 announces; nothing where its cell is no byte.
+std::optional<std::size_t> announcedBlocks(BlockScreen& screen) {
+    const auto extensions = wholeNumber<std::size_t>(screen.txtEdit(extensionCountCell).text(), 16);
+    return extensions ? std::optional(*extensions + 1) : std::nullopt;
+}
+
+FrmEdid& openScreen(const Workbench& workbench) {
+    auto* const screen = static_cast<FrmEdid*>(workbench.loaded(ScreenId::Edid));
+    if (screen == nullptr || workbench.EDIDLoaded == flagFalse) {
+        throw CliError("no image is open");
+    }
+    return *screen;
+}
+
+/// How many blocks are to be written: those that byte 126 announces. Blocks that it did not announce when the image was
+/// loaded stay until a user announces another number.
+std::size_t blockCount(const std::optional<Image>& loaded, std::size_t announced) {
+    const bool asLoaded = loaded && loaded->announcedExtensions() + 1 == announced;
+    return asLoaded ? std::max(announced, loaded->blockCount()) : announced;
+}
+
 } // namespace
 
 Image editedImage(const Workbench& workbench) {
-    auto* const edid = static_cast<FrmEdid*>(workbench.loaded(ScreenId::Edid));
-    if (edid == nullptr || workbench.EDIDLoaded == flagFalse) {
-        throw CliError("no image is open");
-    }
-    std::string bytes = bytesOf(*edid, 0);
-    const std::size_t announced = static_cast<unsigned char>(bytes[extensionCountCell]) + std::size_t{1};
+    FrmEdid& edid = openScreen(workbench);
+    std::string bytes = bytesOf(edid, 0);
+    const std::size_t announced = *announcedBlocks(edid);
+    const std::optional<Image> loaded = Image::fromBytes(workbench.LoadedBytes);
     auto* const extension = static_cast<FrmCeaExt*>(workbench.loaded(ScreenId::CeaExt));
-    const std::size_t held = extension == nullptr ? 1 : Image::editedBlocks;
+    const std::size_t shown = extension == nullptr ? 1 : Image::editedBlocks;
+    const std::size_t held = std::max(shown, loaded ? loaded->blockCount() : 0);
     if (announced > held) {
         throw CliError("announces " + std::to_string(announced) + " blocks, and the program holds " +
                        std::to_string(held));
     }
-    if (announced == Image::editedBlocks) {
-        bytes += bytesOf(*extension, BlockScreen::cellCount);
+    for (std::size_t block = 1; block < blockCount(loaded, announced); ++block) {
+        if (block < std::min(shown, announced)) {
+            bytes += bytesOf(*extension, BlockScreen::cellCount);
+        } else {
+            const auto kept = loaded->block(block);
+            bytes.append(kept.begin(), kept.end());
+        }
     }
     return *Image::fromBytes(bytes);
+}
+
+std::size_t furtherBlocks(const Workbench& workbench) {
+    const std::optional<Image> loaded = Image::fromBytes(workbench.LoadedBytes);
+    if (!loaded) {
+        return 0;
+    }
+    const std::size_t announced = announcedBlocks(openScreen(workbench)).value_or(loaded->announcedExtensions() + 1);
+    const std::size_t count = std::min(loaded->blockCount(), blockCount(loaded, announced));
+    return count - std::min(count, Image::editedBlocks);
 }
 
 } // namespace wb::cli

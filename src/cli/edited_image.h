@@ -5,8 +5,13 @@
 
 namespace wb::cli {
 
-/// The bytes of the cells of the open image: block 0 and, where its byte 126 announces one, the extension block. A cell
-/// that is no byte is a CliError, and so is an announced block that the program does not hold.
+/// The bytes of the cells of the open image, block 0 and, where its byte 126 announces one, the extension block, and
+/// behind them the other blocks as they were loaded: all of them, or as many as byte 126 announces where that was
+/// changed. A cell that is no byte is a CliError, and so is an announced block that the program does not hold.
 Image editedImage(const Workbench& workbench);
+
+/// How many blocks of the open image there are that the cells do not hold and editedImage gives. Without an open image
+/// it is a CliError.
+std::size_t furtherBlocks(const Workbench& workbench);
 
 } // namespace wb::cli

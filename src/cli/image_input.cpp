@@ -94,6 +94,10 @@ std::string titleOf(const Image& image) {
     return origin.output.empty() ? origin.file : origin.file + " (" + origin.output + ')';
 }
 
+std::string tooManyBlocks(std::size_t blocks) {
+    return std::to_string(blocks) + " blocks; a data file holds " + std::to_string(Image::editedBlocks);
+}
+
 std::string blocksText(std::size_t first, std::size_t last) {
     return first == last ? "block " + std::to_string(first)
                          : "blocks " + std::to_string(first) + " to " + std::to_string(last);

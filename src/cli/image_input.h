@@ -47,6 +47,9 @@ std::string titleOf(const Image& image);
 /// blocks that byte 126 announces and that are not there. A sentence without an end mark each.
 std::vector<std::string> omissionsOf(const Image& image);
 
+/// What is wrong with a data file for an image of that many blocks: "3 blocks; a data file holds 2".
+std::string tooManyBlocks(std::size_t blocks);
+
 /// "block 2" or "blocks 2 to 4".
 std::string blocksText(std::size_t first, std::size_t last);
 

@@ -83,17 +83,30 @@ void open(Session& session, const Arguments& arguments) {
     });
 }
 
+/// Tells the blocks that were loaded and that byte 126 does not announce any more.
+void tellOmitted(const Workbench& workbench, const std::string& name, const Image& saved) {
+    const auto loaded = Image::fromBytes(workbench.LoadedBytes);
+    if (loaded && loaded->blockCount() > saved.blockCount()) {
+        complain(name, blocksText(saved.blockCount(), loaded->blockCount() - 1) + " left out");
+    }
+}
+
 void save(Session& session, const Arguments& arguments) {
     const std::string& name = arguments[0].text;
     const std::string form = formFor(arguments);
     Workbench& workbench = session.workbench;
     onFile(name, [&] {
         if (form != dataFile) {
-            writeFile(name, contentAs(form, editedImage(workbench)), Existing::Replace);
+            const Image image = editedImage(workbench);
+            writeFile(name, contentAs(form, image), Existing::Replace);
+            tellOmitted(workbench, name, image);
             return;
         }
         if (workbench.EDIDLoaded == flagFalse) {
             throw CliError("no image is open");
+        }
+        if (const std::size_t further = furtherBlocks(workbench); further != 0) {
+            throw CliError(tooManyBlocks(Image::editedBlocks + further));
         }
         writeFile(name, files::dataFileContent(workbench), Existing::Replace);
         workbench.CurrentFileName = name;

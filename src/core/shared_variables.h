@@ -48,6 +48,8 @@ private:
 struct SharedVariables {
     // The open image.
     TextArray EDIDCells{imageSize}; ///< transfer buffer: block 0, then block 1
+    std::string LoadedBytes; ///< of the image, with the blocks that the cells do not hold; empty for a data file and a
+                             ///< new image
     std::string CurrentFileName;
     Flag EDIDLoaded = flagFalse;
     Flag DocumentOpen = flagFalse;

@@ -47,6 +47,7 @@ void LoadExtensionCells(Workbench& workbench) {
 
 void InitNewImage(Workbench& workbench) {
     FrmEdid& screen = workbench.frmEDID();
+    workbench.LoadedBytes.clear();
     fillCells(screen, "00");
     if (workbench.askYesNo("CEA 861 EDID Timing Extension?")) {
         screen.txtEdit(extensionCountCell).setText("01");

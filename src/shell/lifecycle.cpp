@@ -36,6 +36,7 @@ void openNamed(Workbench& workbench, const std::string& name, Read&& read) {
     if (!std::forward<Read>(read)()) {
         return;
     }
+    workbench.LoadedBytes.clear();
     files::LoadBlock0Cells(workbench);
     workbench.focus.moveTo(workbench.frmEDID().txtEdit(0));
     if (block0::UpdateExtensionButton(workbench)) {
@@ -119,6 +120,7 @@ void frmEDID_Load(Workbench& workbench) {
         for (int i = 0; i < BlockScreen::cellCount; ++i) {
             screen.txtEdit(i).setText("00");
         }
+        workbench.LoadedBytes.clear();
         workbench.EDIDModified = flagFalse;
         workbench.EDIDRedecodeNeeded = flagFalse;
         workbench.EDIDLoaded = flagTrue;

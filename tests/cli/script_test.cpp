@@ -117,6 +117,64 @@ TEST_F(ScriptTest, SavesADataFileAsSaveDoes) {
     EXPECT_EQ(read("again.bin").size(), sample("zarqo-z40.bin").size());
 }
 
+TEST_F(ScriptTest, BlocksThatCannotBeEditedTravelWithTheImage) {
+    std::string image = sample("zarqo-z40.bin");
+    image[126] = 3;
+    image[127] = static_cast<char>(image[127] - 2);
+    image += std::string(127, 'x') + "y" + std::string(128, '\x9C');
+    write("four.bin", image);
+    write("a.script",
+          "open four.bin\npoke frmEDID.txtEdit(8) \"04\"\npoke frmCEA_EXT.txtEdit(3) \"F1\"\nsave new.$FORM\n");
+    std::string edited = image;
+    edited[8] = 4;
+    edited[128 + 3] = '\xF1';
+    for (const std::string form : {"bin", "hex", "c", "base64", "reg", "inf", "xxd"}) {
+        const Outcome outcome = shell("edidwb script --set FORM=" + form + " a.script");
+        EXPECT_EQ(outcome.status, 0) << form;
+        EXPECT_EQ(outcome.errors, "edidwb: four.bin: blocks 2 to 3 left out\n") << "of what the screens show";
+        EXPECT_EQ(shell("edidwb convert --to bin new." + form + " -").output, edited) << form;
+    }
+}
+
+TEST_F(ScriptTest, BlocksOfAnotherImageDoNotTravel) {
+    write("three.bin", sample("zarqo-z40.bin") + std::string(128, 'x'));
+    for (const std::string other : {"open $IN", "answer Yes No\nmenu mnuFileNew", "dialog $IN\nmenu mnuFileOpen"}) {
+        for (const std::string in : {"halvorine-hv19.bin", "halvorine-hv19.DAT"}) {
+            write("a.script", "open three.bin\n" + other + "\nsave new.bin\n");
+            const Outcome outcome = shell("edidwb script --set IN=$SAMPLES/" + in + " a.script");
+            EXPECT_EQ(outcome.status, 0) << other << outcome.errors;
+            const bool isOpened = other.starts_with("open") || (other.starts_with("dialog") && in.ends_with("DAT"));
+            EXPECT_EQ(read("new.bin") == sample("halvorine-hv19.bin"), isOpened) << other << in;
+            const bool stays = other.starts_with("dialog") && !isOpened; // what is no data file is not opened
+            EXPECT_EQ(read("new.bin").size(), stays ? 384 : 128) << other << in;
+        }
+    }
+}
+
+TEST_F(ScriptTest, Byte126TellsHowManyBlocksAreSavedWhereItWasChanged) {
+    std::string image = sample("zarqo-z40.bin");
+    write("more.bin", image + std::string(128, 'x')); // one more than it announces
+    image[126] = 0;
+    write("none.bin", image);
+    struct Case {
+        const char* file;
+        const char* count; ///< what is put into byte 126
+        std::size_t size;
+        const char* errors;
+    };
+    for (const Case& c : {Case{"more.bin", "01", 384, ""}, Case{"more.bin", "02", 384, ""},
+                          Case{"more.bin", "00", 128, "edidwb: new.bin: blocks 1 to 2 left out\n"},
+                          Case{"none.bin", "00", 256, ""}, Case{"none.bin", "01", 256, ""}}) {
+        write("a.script",
+              "open " + std::string(c.file) + "\npoke frmEDID.txtEdit(126) \"" + c.count + "\"\nsave new.bin\n");
+        const Outcome outcome = shell("edidwb script a.script");
+        EXPECT_EQ(outcome.status, 0) << outcome.errors;
+        EXPECT_EQ(read("new.bin").size(), c.size) << c.file << c.count;
+        EXPECT_TRUE(outcome.errors.ends_with(c.errors)) << outcome.errors;
+        EXPECT_EQ(read("new.bin").substr(128), read(c.file).substr(128, c.size - 128)) << "as they were";
+    }
+}
+
 TEST_F(ScriptTest, AFileThatCannotBeOpenedOrSavedIsAFailure) {
     std::string announced = sample("zarqo-z40.bin");
     announced[126] = 2;
@@ -135,7 +193,11 @@ TEST_F(ScriptTest, AFileThatCannotBeOpenedOrSavedIsAFailure) {
           Case{"save old", 2, "1: in which form? One of dat, bin, hex, c, base64, reg, inf, xxd"},
           Case{"save old.bin report", 2,
                "1: unknown form 'report', not one of dat, bin, hex, c, base64, reg, inf, xxd"},
-          Case{"open three.bin\nsave old.bin", 1, "2: old.bin: announces 3 blocks, and the program holds 2"},
+          Case{"open three.bin\nsave old.dat", 1, "2: old.dat: 3 blocks; a data file holds 2"},
+          Case{"open three.bin\npoke frmEDID.txtEdit(126) \"03\"\nsave old.bin", 1,
+               "3: old.bin: announces 4 blocks, and the program holds 3"},
+          Case{"answer No\nmenu mnuFileNew\npoke frmEDID.txtEdit(126) \"01\"\nsave old.bin", 1,
+               "4: old.bin: announces 2 blocks, and the program holds 1"},
           Case{"answer No\nmenu mnuFileNew\npoke frmEDID.txtEdit(5) \"G0\"\nsave old.bin", 1,
                "4: old.bin: cell 5 is no byte: \"G0\""},
           Case{"answer No\nmenu mnuFileNew\nsave no/such/x.bin", 1, "3: no/such/x.bin: No such file or directory"}}) {
