@@ -19,6 +19,7 @@ struct SharedName {
 
 constexpr auto sharedNames = std::to_array<SharedName>({
     {"EDIDCells", &Shared::EDIDCells},
+    {"LoadedBytes", &Shared::LoadedBytes},
     {"CurrentFileName", &Shared::CurrentFileName},
     {"EDIDLoaded", &Shared::EDIDLoaded},
     {"DocumentOpen", &Shared::DocumentOpen},
