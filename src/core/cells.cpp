@@ -1,5 +1,7 @@
 #include "core/cells.h"
 
+#include <algorithm>
+
 #include "core/base/numbers.h"
 #include "core/base/text.h"
 
@@ -36,6 +38,11 @@ double Value(Workbench& workbench, std::string_view text) {
 }
 
 int byteOf(Workbench& workbench, std::string_view cellText) {
+    const int code = HexDigitValue(cellText.substr(0, 1)) * 16 +
+                     HexDigitValue(cellText.substr(std::min<std::size_t>(cellText.size(), 1), 1));
+    if (code >= 0 && code <= 255) {
+        return code;
+    }
     return characterCode(HexTextToChar(workbench, cellText));
 }
 

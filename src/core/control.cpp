@@ -41,8 +41,13 @@ void Control::setText(std::string text) {
     changed();
 }
 
-void Control::setCaption(std::string caption) {
-    caption_ = std::move(caption);
+void Control::setCaption(std::string_view caption) {
+    caption_ = caption;
+    changed();
+}
+
+void Control::setCaption(Texts texts) {
+    join(caption_, texts);
     changed();
 }
 
@@ -221,7 +226,7 @@ SingleControl::SingleControl(Screen& screen, std::string_view name, ControlKind 
                              std::string_view caption)
     : Control(screen, name, kind, container, on, nullptr, noIndex) {
     if (!caption.empty()) {
-        setCaption(std::string(caption));
+        setCaption(caption);
     }
 }
 
@@ -259,7 +264,7 @@ void ControlArray::deselect(int to) {
 void ControlArray::setCaptions(std::initializer_list<std::string_view> captions) {
     int index = first_;
     for (const std::string_view caption : captions) {
-        (*this)(index++).setCaption(std::string(caption));
+        (*this)(index++).setCaption(caption);
     }
 }
 

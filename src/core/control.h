@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/base/failure.h"
+#include "core/base/text.h"
 
 namespace wb {
 
@@ -62,7 +63,9 @@ public:
     /// Puts the selection to 0, 0. On a combo the row follows where a row has that text; no event is raised.
     void setText(std::string text);
     const std::string& caption() const { return caption_; }
-    void setCaption(std::string caption);
+    void setCaption(std::string_view caption);
+    /// The texts one behind the other.
+    void setCaption(Texts texts);
 
     /// Options 0 or -1, checks 0 or 1, combos the row (-1 none).
     int value() const { return value_; }

@@ -73,17 +73,17 @@ constexpr std::array<HeadingLine, 7> headingLines = {{
 constexpr std::array<int, 3> ruleEntries = {11, 12, 32};
 constexpr std::array<int, 11> emptyEntries = {15, 31, 33, 42, 45, 49, 53, 57, 60, 63, 66};
 
-std::string indented(std::string_view text) {
-    return line(IndentText(text, reportIndent));
+void putIndented(std::string& entry, std::string_view text) {
+    putLine(entry, {blanks(reportIndent), text});
 }
 
 void putTitles(Workbench& workbench, TextArray& lines) {
     FrmEdid& screen = workbench.frmEDID();
-    lines(VersionEntry) =
-        centredLine("EDID Version # " + workbench.EDIDVersionText + ",  Revision # " + workbench.EDIDRevisionText);
-    lines(ModelEntry) = centredLine("Vantrel For: " + screen.txtBrand.text() + " " + screen.txtModel.text());
-    lines(BlockEntry) = line("EDID Block 0, Bytes 0-127");
-    lines(CodeEntry) = line("128 BYTES OF EDID CODE:");
+    putCentred(lines(VersionEntry),
+               joined({"EDID Version # ", workbench.EDIDVersionText, ",  Revision # ", workbench.EDIDRevisionText}));
+    putCentred(lines(ModelEntry), joined({"Vantrel For: ", screen.txtBrand.text(), " ", screen.txtModel.text()}));
+    putLine(lines(BlockEntry), {"EDID Block 0, Bytes 0-127"});
+    putLine(lines(CodeEntry), {"128 BYTES OF EDID CODE:"});
 }
 
 void putLayout(TextArray& lines) {
@@ -91,34 +91,38 @@ void putLayout(TextArray& lines) {
         lines(entry) = ruleLine();
     }
     for (const int entry : emptyEntries) {
-        lines(entry) = line();
+        lines(entry) = crLf;
     }
     for (const HeadingLine& heading : headingLines) {
-        lines(heading.entry) = line(placeTag(heading.place) + std::string(heading.words));
+        putLine(lines(heading.entry), {padding(heading.place, placeWidth), heading.place, heading.words});
     }
 }
 
 void putFieldLines(Workbench& workbench, TextArray& lines) {
     for (const FieldLine& field : identityLines) {
-        lines(field.entry) =
-            line(placeTag(field.place) + std::string(field.words) + PadRight("=", 3) + " " + workbench.*field.text);
+        putLine(lines(field.entry),
+                {padding(field.place, placeWidth), field.place, field.words, "=   ", workbench.*field.text});
     }
     for (const FieldLine& field : sizeLines) {
-        lines(field.entry) =
-            line(placeTag(field.place) + std::string(field.words) + PadRight("=", 5) + "  " + workbench.*field.text);
+        putLine(lines(field.entry),
+                {padding(field.place, placeWidth), field.place, field.words, "=      ", workbench.*field.text});
     }
 }
 
 void putDecodedTexts(Workbench& workbench, TextArray& lines) {
-    lines(VideoInputEntry) = indented(PadRight(workbench.VideoInputText, 10));
-    lines(FeaturesEntry) = indented(workbench.PowerFeatureText);
-    lines(DisplayTypeEntry) = indented("Display Type = " + workbench.DisplayTypeText);
-    lines(ChromaXEntry) = indented(workbench.ChromaText1);
-    lines(ChromaYEntry) = indented(workbench.ChromaText2);
-    lines(Established1Entry) = line(workbench.EstablishedTiming1Text);
-    lines(Established2Entry) = line(workbench.EstablishedTiming2Text);
-    lines(ReservedEntry) =
-        workbench.ReservedTimingText.empty() ? indented("  None Specified") : line(workbench.ReservedTimingText);
+    const std::string& videoInput = workbench.VideoInputText;
+    putLine(lines(VideoInputEntry), {blanks(reportIndent), videoInput, padding(videoInput, 10)});
+    putIndented(lines(FeaturesEntry), workbench.PowerFeatureText);
+    putLine(lines(DisplayTypeEntry), {blanks(reportIndent), "Display Type = ", workbench.DisplayTypeText});
+    putIndented(lines(ChromaXEntry), workbench.ChromaText1);
+    putIndented(lines(ChromaYEntry), workbench.ChromaText2);
+    putLine(lines(Established1Entry), {workbench.EstablishedTiming1Text});
+    putLine(lines(Established2Entry), {workbench.EstablishedTiming2Text});
+    if (workbench.ReservedTimingText.empty()) {
+        putIndented(lines(ReservedEntry), "  None Specified");
+    } else {
+        putLine(lines(ReservedEntry), {workbench.ReservedTimingText});
+    }
 }
 
 /// Gives the entry after the last line. Each line lies one entry further from the one before than that from its own
@@ -127,7 +131,7 @@ int putStandardTimings(Workbench& workbench, TextArray& lines) {
     int entry = StandardTimingsEntry;
     for (int i = 0; i < workbench.StandardTimingText.size(); ++i) {
         entry += i;
-        lines(entry) = indented(workbench.StandardTimingText(i));
+        putIndented(lines(entry), workbench.StandardTimingText(i));
     }
     return entry + 1;
 }
@@ -141,19 +145,18 @@ int putDetailedBlocks(Workbench& workbench, TextArray& lines, int entry) {
         }
         const int base = detailedBlockBase(block);
         lines(entry++) = ruleLine();
-        lines(entry++) = line();
-        lines(entry++) = line("(" + placeRange(base, base + detailedBlockSize - 1) +
-                              ") Detailed Timing / Descriptor Block " + std::to_string(block + 1) + ":") +
-                         line(text);
-        lines(entry) = line();
+        lines(entry++) = crLf;
+        putLine(lines(entry++), {"(", placeRange(base, base + detailedBlockSize - 1),
+                                 ") Detailed Timing / Descriptor Block ", std::to_string(block + 1), ":", crLf, text});
+        lines(entry) = crLf;
     }
     return entry;
 }
 
 void putEnd(Workbench& workbench, TextArray& lines, int entry) {
-    lines(entry) = line();
-    lines(entry + 1) = placeTag(extensionCountCell) + "  " + workbench.ExtensionFlagText;
-    lines(entry + 2) = placeTag(checksumCell) + "  " + workbench.Block0ChecksumText;
+    lines(entry) = crLf;
+    join(lines(entry + 1), {placeTag(extensionCountCell), "  ", workbench.ExtensionFlagText});
+    join(lines(entry + 2), {placeTag(checksumCell), "  ", workbench.Block0ChecksumText});
     lines(entry + 3) = endOfReport;
 }
 

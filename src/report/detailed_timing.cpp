@@ -140,12 +140,10 @@ private:
 
     void convertField(int i) {
         const int value = fieldValue(timingFields[static_cast<std::size_t>(i)]);
-        const std::string number = i == PixelClock ? formatNumber(value / 100.0, "0.00") : formatNumber(value, "0");
+        const std::string number = i == PixelClock ? formatNumber(value / 100.0, "0.00") : std::to_string(value);
         const FieldWords& field = fieldWords[static_cast<std::size_t>(i)];
-        const std::string words(field.words);
-        const std::string amount = number + std::string(field.unit);
-        screen_.DT(i).setCaption(words + " - " + amount);
-        texts_.fields[static_cast<std::size_t>(i)] = words + ": " + amount;
+        screen_.DT(i).setCaption({field.words, " - ", number, field.unit});
+        texts_.fields[static_cast<std::size_t>(i)] = {field.words, number, field.unit};
         keep(i, value, number);
     }
 
@@ -158,7 +156,7 @@ private:
                 hTotal_ = value;
                 texts_.width = number;
                 // Seen only if the run fails before the report is complete.
-                reportText() += line("Horizontal:") + line();
+                reportText() += "Horizontal:\r\n\r\n";
                 break;
             case HBlanking:
                 hTotal_ += value;
@@ -186,13 +184,13 @@ private:
     }
 
     void showNormalDisplay() {
-        screen_.frmStereo.setCaption(std::string(normalDisplay));
+        screen_.frmStereo.setCaption(normalDisplay);
         texts_.stereo = normalDisplay;
     }
 
     void convertStereo() {
         screen_.DTStereo.deselect(lastStereo);
-        screen_.frmStereo.setCaption(std::string(stereoDisplay));
+        screen_.frmStereo.setCaption(stereoDisplay);
         texts_.stereo = stereoDisplay;
         if (rules_.testsStereoDigit) {
             const std::string digit = leftPart(screen_.txtEdit(base_ + timingFlagCell).text(), 1);
@@ -219,21 +217,20 @@ private:
         screen_.SyncSerrate.setVisible(true);
         const int detail = bits(flags_, syncDetailBits);
         const SyncWords& words = syncWords[static_cast<std::size_t>(kind)][static_cast<std::size_t>(detail)];
-        screen_.SyncLine.setCaption(std::string(words.line));
+        screen_.SyncLine.setCaption(words.line);
         if (!words.vertical.empty()) {
-            screen_.VSyncLine.setCaption(std::string(words.vertical));
+            screen_.VSyncLine.setCaption(words.vertical);
         }
         // A change of the check decodes the block inside this run, so the words below come from the controls.
         screen_.SyncSerrate.setValue(words.serrate);
         if (kind == separateSync) {
-            texts_.sync = "Digital Separate, " + screen_.SyncLine.caption() + " " + screen_.VSyncLine.caption();
+            join(texts_.sync, {"Digital Separate, ", screen_.SyncLine.caption(), " ", screen_.VSyncLine.caption()});
             screen_.VSyncLine.setVisible(true);
             screen_.SyncSerrate.setValue(0);
             screen_.SyncSerrate.setVisible(false);
         } else {
             const std::size_t serrated = screen_.SyncSerrate.value() == 1 ? 1 : 0;
-            texts_.sync =
-                std::string(compositeWords[static_cast<std::size_t>(kind)][serrated]) + screen_.SyncLine.caption();
+            join(texts_.sync, {compositeWords[static_cast<std::size_t>(kind)][serrated], screen_.SyncLine.caption()});
         }
     }
 
@@ -247,15 +244,15 @@ private:
         if (vTotal_ == 0) {
             vTotal_ = 1;
         }
-        const std::string horizontal = formatNumber(1000 / lineTime, "0.00") + " KHz";
-        const std::string vertical = formatNumber(1 / (vTotal_ * lineTime) * 1000000, "0.00") + " Hz";
-        screen_.Freq(0).setCaption("Horizontal - " + horizontal);
-        screen_.Freq(1).setCaption("Vertical - " + vertical);
-        texts_.horizontalRate = "Frequency: " + horizontal;
-        texts_.verticalRate = "Frequency: " + vertical;
+        const std::string horizontal = formatNumber(1000 / lineTime, "0.00");
+        const std::string vertical = formatNumber(1 / (vTotal_ * lineTime) * 1000000, "0.00");
+        screen_.Freq(0).setCaption({"Horizontal - ", horizontal, " KHz"});
+        screen_.Freq(1).setCaption({"Vertical - ", vertical, " Hz"});
+        join(texts_.horizontalRate, {"Frequency: ", horizontal, " KHz"});
+        join(texts_.verticalRate, {"Frequency: ", vertical, " Hz"});
     }
 
-    void writeReport() { reportText() = timingReport(texts_); }
+    void writeReport() { putTimingReport(reportText(), texts_); }
 
     void finish() {
         screen_.InFocusDispatch = flagFalse;

@@ -7,34 +7,82 @@ namespace wb::report {
 
 namespace {
 
-std::string twoColumns(const std::string& left, const std::string& right) {
-    return line(IndentText(PadRight(left, 34) + right, reportIndent));
+constexpr int leftColumn = 34;
+constexpr int imageColumn = 23; ///< of the horizontal size
+
+void addBlanksUpTo(std::string& lines, std::size_t start, int width) {
+    lines += blanks(width - static_cast<int>(lines.size() - start));
 }
 
-std::string titlePart(const TimingTexts& texts) {
-    const std::string size = texts.width + "x" + texts.height + texts.scan;
-    const std::string image =
-        "Horizontal " + PadRight(texts.fields[HImageSize], 23) + "Vertical " + texts.fields[VImageSize];
-    return centredLine(size + "  " + texts.fields[PixelClock]) + ruleLine() + line(IndentText(image, reportIndent)) +
-           twoColumns(texts.refresh, texts.stereo) + line();
+void add(std::string& lines, std::string_view text) {
+    lines += text;
 }
 
-std::string horizontalPart(const TimingTexts& texts) {
-    return line("Horizontal:") + twoColumns(texts.fields[HActive], texts.fields[HBlanking]) +
-           twoColumns(texts.fields[HSyncOffset], texts.fields[HSyncWidth]) +
-           twoColumns(texts.fields[HBorder], texts.horizontalRate) + line();
+void add(std::string& lines, const TimingFieldText& field) {
+    if (field.words.empty()) {
+        return;
+    }
+    lines += field.words;
+    lines += ": ";
+    lines += field.number;
+    lines += field.unit;
 }
 
-std::string verticalPart(const TimingTexts& texts) {
-    return line("Vertical:") + twoColumns(texts.fields[VActive], texts.fields[VBlanking]) +
-           twoColumns(texts.fields[VSyncOffset], texts.fields[VSyncWidth]) +
-           twoColumns(texts.fields[VBorder], texts.verticalRate) + line();
+template <class Left, class Right>
+void addColumns(std::string& lines, const Left& left, const Right& right) {
+    lines += blanks(reportIndent);
+    const std::size_t start = lines.size();
+    add(lines, left);
+    addBlanksUpTo(lines, start, leftColumn);
+    add(lines, right);
+    lines += crLf;
+}
+
+void addTitle(std::string& lines, const TimingTexts& texts) {
+    std::string title = joined({texts.width, "x", texts.height, texts.scan, "  "});
+    add(title, texts.fields[PixelClock]);
+    lines += centredLine(title);
+    lines += ruleLine();
+    lines += blanks(reportIndent);
+    lines += "Horizontal ";
+    const std::size_t start = lines.size();
+    add(lines, texts.fields[HImageSize]);
+    addBlanksUpTo(lines, start, imageColumn);
+    lines += "Vertical ";
+    add(lines, texts.fields[VImageSize]);
+    lines += crLf;
+    addColumns(lines, texts.refresh, texts.stereo);
+    lines += crLf;
+}
+
+struct Direction {
+    std::string_view heading;
+    TimingField active, blanking, syncOffset, syncWidth, border;
+    std::string TimingTexts::*rate;
+};
+
+constexpr Direction horizontal = {
+    "Horizontal:", HActive, HBlanking, HSyncOffset, HSyncWidth, HBorder, &TimingTexts::horizontalRate};
+constexpr Direction vertical = {
+    "Vertical:", VActive, VBlanking, VSyncOffset, VSyncWidth, VBorder, &TimingTexts::verticalRate};
+
+void addDirection(std::string& lines, const TimingTexts& texts, const Direction& direction) {
+    addLine(lines, {direction.heading});
+    addColumns(lines, texts.fields[direction.active], texts.fields[direction.blanking]);
+    addColumns(lines, texts.fields[direction.syncOffset], texts.fields[direction.syncWidth]);
+    addColumns(lines, texts.fields[direction.border], texts.*direction.rate);
+    lines += crLf;
 }
 
 } // namespace
 
-std::string timingReport(const TimingTexts& texts) {
-    return titlePart(texts) + horizontalPart(texts) + verticalPart(texts) + line(texts.sync) + line();
+void putTimingReport(std::string& report, const TimingTexts& texts) {
+    report.clear();
+    addTitle(report, texts);
+    addDirection(report, texts, horizontal);
+    addDirection(report, texts, vertical);
+    addLine(report, {texts.sync});
+    report += crLf;
 }
 
 } // namespace wb::report

@@ -18,12 +18,12 @@ std::string twoDigits(int number) {
 }
 
 std::string timeText(const platform::DateTime& now) {
-    return twoDigits(now.hour) + ":" + twoDigits(now.minute) + ":" + twoDigits(now.second);
+    return joined({"Time:  ", twoDigits(now.hour), ":", twoDigits(now.minute), ":", twoDigits(now.second)});
 }
 
 std::string dateText(const platform::Clock& clock, const platform::DateTime& now) {
-    return clock.dayName(now) + " " + clock.monthName(now) + " " + twoDigits(now.day) + ", " +
-           formatNumber(now.year, "0000");
+    return joined({"Date:  ", clock.dayName(now), " ", clock.monthName(now), " ", twoDigits(now.day), ", ",
+                   formatNumber(now.year, "0000")});
 }
 
 std::string columnHead() {
@@ -34,24 +34,17 @@ std::string columnHead() {
     return line(std::move(head));
 }
 
-void appendPadded(std::string& text, std::string_view part, int width) {
-    text += part;
-    const int missing = width - static_cast<int>(part.size());
-    text.append(static_cast<std::size_t>(std::max(missing, 0)), ' ');
-}
-
-std::string dumpRow(BlockScreen& screen, int row) {
+void putDumpRow(std::string& entry, BlockScreen& screen, int row) {
     const int first = row * columns;
     const int end = std::min(first + columns, BlockScreen::cellCount);
-    std::string text;
-    text.reserve(6 + columns * cellWidth + crLf.size());
-    appendPadded(text, std::to_string(first), 3);
-    text += "  |";
+    const std::string place = std::to_string(first);
+    join(entry, {place, padding(place, 3), "  |"});
     for (int cell = first; cell < end; ++cell) {
-        appendPadded(text, screen.txtEdit(cell).text(), cellWidth);
+        const std::string& text = screen.txtEdit(cell).text();
+        entry += text;
+        entry += padding(text, cellWidth);
     }
-    text += crLf;
-    return text;
+    entry += crLf;
 }
 
 } // namespace
@@ -61,17 +54,40 @@ std::string line(std::string text) {
     return text;
 }
 
-std::string ruleLine() {
+void putLine(std::string& entry, Texts texts) {
+    entry.clear();
+    addLine(entry, texts);
+}
+
+void addLine(std::string& lines, Texts texts) {
+    for (const std::string_view text : texts) {
+        lines += text;
+    }
+    lines += crLf;
+}
+
+void putCentred(std::string& entry, std::string_view text) {
+    const int length = static_cast<int>(text.size());
+    if (length == 0 || length >= reportWidth) {
+        entry.clear();
+        return;
+    }
+    putLine(entry, {blanks(static_cast<int>(roundHalfEven(reportWidth / 2.0 - length / 2.0))), text});
+}
+
+const std::string& ruleLine() {
     static const std::string rule = line(std::string(reportWidth, '_'));
     return rule;
 }
 
 std::string centredLine(std::string_view text) {
-    return CenterText(line(std::string(text)), reportWidth);
+    std::string entry;
+    putCentred(entry, text);
+    return entry;
 }
 
 std::string placeTag(std::string_view place) {
-    return PadLeft(place, 7);
+    return PadLeft(place, placeWidth);
 }
 
 std::string placeTag(int cell) {
@@ -85,15 +101,15 @@ std::string placeRange(int first, int last) {
 void putHead(Workbench& workbench, TextArray& lines, int first) {
     const platform::Clock& clock = workbench.platform.clock;
     const platform::DateTime now = clock.now();
-    lines(first) = line();
-    lines(first + 1) = line();
-    lines(first + 2) = line();
-    lines(first + 3) = centredLine("Time:  " + timeText(now));
-    lines(first + 4) = centredLine("Date:  " + dateText(clock, now));
+    lines(first) = crLf;
+    lines(first + 1) = crLf;
+    lines(first + 2) = crLf;
+    putCentred(lines(first + 3), timeText(now));
+    putCentred(lines(first + 4), dateText(clock, now));
     lines(first + 5) = ruleLine();
     lines(first + 6) = ruleLine();
-    lines(first + 7) = line();
-    lines(first + 8) = centredLine("HALVORINE CORPORATION");
+    lines(first + 7) = crLf;
+    putCentred(lines(first + 8), "HALVORINE CORPORATION");
 }
 
 void putDump(BlockScreen& screen, TextArray& lines, int first) {
@@ -103,7 +119,7 @@ void putDump(BlockScreen& screen, TextArray& lines, int first) {
     lines(first) = head;
     lines(first + 1) = rule;
     for (int row = 0; row < rows; ++row) {
-        lines(first + 2 + row) = dumpRow(screen, row);
+        putDumpRow(lines(first + 2 + row), screen, row);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/base/text.h"
 #include "core/workbench.h"
 
 /// What the reports of both blocks share: the buffer's size and end mark, the pieces of the layout, and how a buffer is
@@ -14,10 +15,18 @@ inline constexpr int reportIndent = 9;    ///< blanks before the words of a fiel
 inline constexpr int reportEntries = 301; ///< of a report buffer, index 0 to 300
 inline constexpr std::string_view endOfReport = "END REPORT";
 
+inline constexpr int placeWidth = 7; ///< of the column of places
+
 /// `text` and a line end.
 std::string line(std::string text = {});
 /// A line of underscores over the whole width.
-std::string ruleLine();
+const std::string& ruleLine();
+/// Puts the texts and a line end into an entry, which lends its room.
+void putLine(std::string& entry, Texts texts);
+/// Adds the texts and a line end.
+void addLine(std::string& lines, Texts texts);
+/// Puts a line into an entry as centredLine gives it.
+void putCentred(std::string& entry, std::string_view text);
 /// `text` and its line end, centred. A text that fills the width is lost: the result is empty.
 std::string centredLine(std::string_view text);
 /// The place of a field in the block, such as "(126)", right-justified in its column of seven.

@@ -1,5 +1,6 @@
 #include "core/base/text.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/base/numbers.h"
@@ -16,6 +17,37 @@ std::string upperCase(std::string_view text) {
         c = upperCase(c);
     }
     return result;
+}
+
+std::string joined(Texts texts) {
+    std::string result;
+    join(result, texts);
+    return result;
+}
+
+void join(std::string& target, Texts texts) {
+    std::size_t size = 0;
+    for (const std::string_view text : texts) {
+        size += text.size();
+    }
+    target.clear();
+    target.reserve(size);
+    for (const std::string_view text : texts) {
+        target += text;
+    }
+}
+
+std::string_view blanks(int count) {
+    static constexpr auto room = [] {
+        std::array<char, 128> filled{};
+        filled.fill(' ');
+        return filled;
+    }();
+    return {room.data(), static_cast<std::size_t>(std::clamp(count, 0, static_cast<int>(room.size())))};
+}
+
+std::string_view padding(std::string_view text, int width) {
+    return blanks(width - static_cast<int>(text.size()));
 }
 
 std::string PadRight(std::string_view text, int width) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,17 @@ inline constexpr std::string_view crLf = "\r\n";
 /// Upper case of the letters a to z only.
 char upperCase(char c);
 std::string upperCase(std::string_view text);
+
+using Texts = std::initializer_list<std::string_view>;
+
+/// The texts one behind the other.
+std::string joined(Texts texts);
+/// Puts the texts one behind the other into `target`, which lends its room; none of them may be a part of it.
+void join(std::string& target, Texts texts);
+/// `count` blanks, at most 128; none for a count below 1.
+std::string_view blanks(int count);
+/// The blanks that `text` lacks to be `width` wide.
+std::string_view padding(std::string_view text, int width);
 
 /// `text` followed by blanks up to `width` characters; a text that is not shorter stays whole.
 std::string PadRight(std::string_view text, int width);

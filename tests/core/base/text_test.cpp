@@ -7,6 +7,25 @@
 namespace wb {
 namespace {
 
+TEST(Text, JoinsTextsInTheRoomThatThereIs) {
+    EXPECT_EQ(joined({}), "");
+    EXPECT_EQ(joined({"a", "", "bc"}), "abc");
+    std::string target(100, 'x');
+    const auto room = target.capacity();
+    join(target, {"one ", "two"});
+    EXPECT_EQ(target, "one two");
+    EXPECT_EQ(target.capacity(), room);
+}
+
+TEST(Text, BlanksAreAsManyAsAreMissing) {
+    EXPECT_EQ(blanks(-1), "");
+    EXPECT_EQ(blanks(3), "   ");
+    EXPECT_EQ(blanks(129).size(), 128U) << "no more than there are";
+    EXPECT_EQ(padding("ab", 4), "  ");
+    EXPECT_EQ(padding("abcd", 4), "");
+    EXPECT_EQ(padding("abcde", 4), "");
+}
+
 TEST(Text, PaddingNeverCuts) {
     EXPECT_EQ(PadRight("ab", 4), "ab  ");
     EXPECT_EQ(PadRight("abcd", 3), "abcd");
