@@ -30,6 +30,7 @@ constexpr auto commands = std::to_array<Command>({
     {"scrub", "Take the serial numbers out of each image", &addScrub},
     {"read", "Print what the running system stored of a monitor", &addRead},
     {"monitors", "List the attached monitors, and where their EDID comes from", &addMonitors},
+    {"override", "Tell how to have Linux take an image for that of a monitor", &addOverride},
     {"script", "Drive the screens of the program by a script", &addScript},
 });
 

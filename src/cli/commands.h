@@ -26,6 +26,7 @@ Run addRepair(CLI::App& command);
 Run addScrub(CLI::App& command);
 Run addRead(CLI::App& command);
 Run addMonitors(CLI::App& command);
+Run addOverride(CLI::App& command);
 Run addScript(CLI::App& command);
 
 } // namespace wb::cli

@@ -54,16 +54,21 @@ std::string_view withoutAdapter(std::string_view connector) {
     return has ? connector.substr(end + 1) : connector;
 }
 
-const Monitor& monitorNamed(const std::vector<Monitor>& places, std::string_view name) {
+const Monitor* findMonitor(const std::vector<Monitor>& places, std::string_view name) {
     const Places found = meantBy(places, name);
     if (found.size() > 1) {
         throw CliError("may be any of " + namesOf(found));
     }
-    if (found.empty()) {
+    return found.empty() ? nullptr : found.front();
+}
+
+const Monitor& monitorNamed(const std::vector<Monitor>& places, std::string_view name) {
+    const Monitor* const found = findMonitor(places, name);
+    if (found == nullptr) {
         const std::string names = namesOf(placesThat(places, [](const std::string&) { return true; }));
         throw CliError("no connector has this name" + (names.empty() ? ", and no other" : "; there are " + names));
     }
-    return *found.front();
+    return *found;
 }
 
 Image storedImageOf(const Monitor& monitor) {

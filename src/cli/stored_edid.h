@@ -14,8 +14,11 @@ namespace wb::cli {
 /// it: "DP-1" of "card0-DP-1". Any other name as it stands.
 std::string_view withoutAdapter(std::string_view connector);
 
-/// The place of that name in any letter case, with or without the adapter. None and several are a CliError, which tells
-/// the names there are.
+/// The place of that name in any letter case, with or without the adapter; null where there is none. Several are a
+/// CliError, which tells their names.
+const Monitor* findMonitor(const std::vector<Monitor>& places, std::string_view name);
+
+/// The same, but none is a CliError too, which tells the names there are.
 const Monitor& monitorNamed(const std::vector<Monitor>& places, std::string_view name);
 
 /// The image that is stored of a monitor; a CliError tells why there is none.

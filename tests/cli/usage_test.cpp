@@ -13,7 +13,7 @@ TEST_F(UsageTest, TellsItsVersionAndHelp) {
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output.substr(0, 7), "edidwb ");
     for (const char* command : {"", "translate ", "convert ", "check ", "inspect ", "diff ", "repair ", "scrub ",
-                                "read ", "monitors ", "script "}) {
+                                "read ", "monitors ", "override ", "script "}) {
         const Outcome help = shell("edidwb " + std::string(command) + "--help");
         EXPECT_EQ(help.status, 0) << command;
         EXPECT_THAT(help.output, HasSubstr("Usage: edidwb " + std::string(command)));
@@ -79,6 +79,13 @@ TEST_F(UsageTest, WrongUseHasStatus2) {
                                   "repair -o '' x",
                                   "scrub -o nd",
                                   "scrub x",
+                                  "override DP-1",
+                                  "override DP-1 a b",
+                                  "override --root . DP-1 x",
+                                  "override --force DP-1 x",
+                                  "override --name a/b DP-1 x",
+                                  "override --name .b DP-1 x",
+                                  "override '' x",
                                   "script a b"}) {
         const Outcome outcome = shell("edidwb " + std::string(arguments));
         EXPECT_EQ(outcome.status, 2) << arguments;
