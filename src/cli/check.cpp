@@ -160,6 +160,8 @@ Run addCheck(CLI::App& command) {
     addFormatOption(command, options->format);
     addImageOptions(command, options->images);
     command.footer(
+        "  edidwb check monitor.bin\n"
+        "  edidwb check -r --quiet --fail-on warning images\n\n"
         "Exit status: 0 nothing that counts was found, 1 something was found or a file could not be\n"
         "read, 2 wrong usage. Header, length and check sums always count.");
     return [options] { return run(*options); };

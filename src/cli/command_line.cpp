@@ -3,11 +3,13 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <optional>
 
 #include "cli/cli_error.h"
 #include "cli/commands.h"
 #include "cli/output.h"
+#include "cli/usage_sentences.h"
 #include "core/version.h"
 
 namespace wb::cli {
@@ -19,6 +21,8 @@ struct Command {
     const char* description;
     Run (*addOptions)(CLI::App& command);
 };
+
+Run addHelp(CLI::App& command);
 
 constexpr auto commands = std::to_array<Command>({
     {"translate", "Print the report of each file", &addTranslate},
@@ -32,6 +36,7 @@ constexpr auto commands = std::to_array<Command>({
     {"monitors", "List the attached monitors, and where their EDID comes from", &addMonitors},
     {"override", "Tell how to have Linux take an image for that of a monitor", &addOverride},
     {"script", "Drive the screens of the program by a script", &addScript},
+    {"help", "Tell how the program or one of its commands is used", &addHelp},
 });
 
 /// What the option library takes for something else is put right: it reads "[...]" and "{}" as lists, which are names
@@ -67,8 +72,7 @@ std::optional<int> parse(CLI::App& app, std::vector<std::string> arguments) {
     } catch (const CLI::CallForVersion& version) {
         print(version.what() + std::string("\n"));
     } catch (const CLI::ParseError& error) {
-        const bool extra = app.remaining_size() > 0;
-        return complainOfUsage(extra ? "not expected: " + CLI::detail::join(app.remaining(), " ") : error.what());
+        return complainOfUsage(sentenceOf(error, app));
     }
     return success;
 }
@@ -82,6 +86,20 @@ int runCommand(const Command& command, const std::vector<std::string>& arguments
     return status ? *status : run();
 }
 
+const Command* commandOf(std::string_view name) {
+    const auto* const command =
+        std::find_if(commands.begin(), commands.end(), [&](const Command& known) { return known.name == name; });
+    return command == commands.end() ? nullptr : command;
+}
+
+std::vector<std::string> commandNames() {
+    std::vector<std::string> names;
+    for (const Command& command : commands) {
+        names.emplace_back(command.name);
+    }
+    return names;
+}
+
 int runWithoutCommand(const std::vector<std::string>& arguments) {
     CLI::App app("Reads, explains and converts the EDID of monitors.", "edidwb");
     app.set_version_flag("--version", std::string("edidwb ") + programVersion());
@@ -89,8 +107,33 @@ int runWithoutCommand(const std::vector<std::string>& arguments) {
     for (const Command& command : commands) {
         app.add_subcommand(std::string(command.name), command.description);
     }
+    app.footer("'edidwb help COMMAND' tells the options of a command, what its exit status means, and examples.");
+    if (!arguments.empty() && !arguments.front().starts_with('-')) {
+        throw UsageError(unknownCommand(arguments.front(), commandNames()));
+    }
     const bool any = !arguments.empty();
     return parse(app, any ? std::vector{arguments.front()} : arguments).value_or(wrongUse);
+}
+
+int runHelp(const std::string& name) {
+    if (name.empty()) {
+        return runWithoutCommand({"--help"});
+    }
+    const Command* const command = commandOf(name);
+    if (command == nullptr) {
+        throw UsageError(unknownCommand(name, commandNames()));
+    }
+    return runCommand(*command, {"--help"});
+}
+
+Run addHelp(CLI::App& command) {
+    const auto name = std::make_shared<std::string>();
+    command.add_option("COMMAND", *name, "The command to tell of; without it all are listed")->type_name("");
+    command.footer(
+        "  edidwb help\n"
+        "  edidwb help convert\n\n"
+        "Exit status: 0 all went well, 2 wrong usage.");
+    return [name] { return runHelp(*name); };
 }
 
 } // namespace
@@ -98,11 +141,9 @@ int runWithoutCommand(const std::vector<std::string>& arguments) {
 int runCommandLine(std::vector<std::string> arguments) {
     try {
         putRight(arguments);
-        const std::string name = arguments.empty() ? "" : arguments.front();
-        const auto* const command =
-            std::find_if(commands.begin(), commands.end(), [&](const Command& known) { return known.name == name; });
-        return command == commands.end() ? runWithoutCommand(arguments)
-                                         : runCommand(*command, {arguments.begin() + 1, arguments.end()});
+        const Command* const command = arguments.empty() ? nullptr : commandOf(arguments.front());
+        return command == nullptr ? runWithoutCommand(arguments)
+                                  : runCommand(*command, {arguments.begin() + 1, arguments.end()});
     } catch (const UsageError& error) {
         return complainOfUsage(error.what());
     }

@@ -130,7 +130,10 @@ Run addConvert(CLI::App& command) {
     command.footer(
         "Forms of bytes get every block as it is in IN. A data file and a report get two blocks as the\n"
         "program holds them after decoding: a flag of a detailed timing may differ from IN, and the\n"
-        "check sum stays as it is.");
+        "check sum stays as it is.\n\n"
+        "  edidwb convert --to dat monitor.bin monitor.DAT\n"
+        "  xrandr --verbose | edidwb convert --output-name HDMI-1 --to c - -\n\n"
+        "Exit status: 0 all went well, 1 a file could not be read or written or is no image, 2 wrong usage.");
     return [options] { return run(*options); };
 }
 

@@ -150,7 +150,10 @@ Run addDiff(CLI::App& command) {
     command.add_option("B", options->second, "The file to compare it with")->type_name("")->required();
     addFormatOption(command, options->format, {"text", "json"});
     addImageOptions(command, options->images);
-    command.footer("Exit status: 0 the images are the same, 1 they differ, 2 trouble.");
+    command.footer(
+        "  edidwb diff before.bin after.bin\n"
+        "  edidwb diff --format json before.bin after.bin\n\n"
+        "Exit status: 0 the images are the same, 1 they differ, 2 trouble.");
     return [options] { return run(*options); };
 }
 

@@ -119,7 +119,10 @@ Run addInspect(CLI::App& command) {
     addImageOptions(command, options->images);
     command.footer(
         "Tells every field of every block by the standards: where it stands (bytes in hexadecimal,\n"
-        "bits in brackets), what it is called and what it means.");
+        "bits in brackets), what it is called and what it means.\n\n"
+        "  edidwb inspect monitor.bin\n"
+        "  edidwb inspect --format json *.bin | jq .fields\n\n"
+        "Exit status: 0 all went well, 1 a file could not be read or is no image, 2 wrong usage.");
     return [options] { return run(*options); };
 }
 

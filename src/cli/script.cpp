@@ -98,6 +98,11 @@ Run addScript(CLI::App& command) {
     command.add_option("--set", options->settings, "Put VALUE where the script says $NAME; may be given several times")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
+    command.footer(
+        "The command \"help\" of a script lists the commands of scripts.\n\n"
+        "  edidwb script session.script\n"
+        "  edidwb script --strict --set IN=monitor.bin session.script\n\n"
+        "Exit status: 0 all went well, 1 something failed in a right line, 2 wrong usage or a mistake in the script.");
     return [options] { return run(*options); };
 }
 

@@ -274,6 +274,11 @@ Run addTranslate(CLI::App& command) {
     command.add_flag("--strict", options->strict, "Count the boxes that the program shows as failures")
         ->disable_flag_override();
     addImageOptions(command, options->images);
+    command.footer(
+        "The report is that of the desktop program, of the first two blocks; what it leaves out is told.\n\n"
+        "  edidwb translate monitor.bin\n"
+        "  edidwb translate -r -j 0 --keep-tree -o reports images\n\n"
+        "Exit status: 0 all went well, 1 a file could not be read or written or is no image, 2 wrong usage.");
     return [options] { return run(*options); };
 }
 

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <sstream>
+
 #include "cli/edidwb.h"
 
 namespace wb::test {
@@ -12,13 +14,36 @@ TEST_F(UsageTest, TellsItsVersionAndHelp) {
     const Outcome version = shell("edidwb --version");
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output.substr(0, 7), "edidwb ");
-    for (const char* command : {"", "translate ", "convert ", "check ", "inspect ", "diff ", "repair ", "scrub ",
-                                "read ", "monitors ", "override ", "script "}) {
-        const Outcome help = shell("edidwb " + std::string(command) + "--help");
-        EXPECT_EQ(help.status, 0) << command;
-        EXPECT_THAT(help.output, HasSubstr("Usage: edidwb " + std::string(command)));
-        EXPECT_EQ(help.errors, "") << command;
+}
+
+TEST_F(UsageTest, TellsTheStatusesOfEachCommandAndTwoExamples) {
+    const Outcome all = shell("edidwb --help");
+    EXPECT_EQ(all.status, 0);
+    EXPECT_THAT(all.output, HasSubstr("Usage: edidwb "));
+    EXPECT_EQ(shell("edidwb help").output, all.output);
+    // The commands are the first words of the lines below that heading, to the empty line.
+    std::istringstream lines(all.output.substr(all.output.find("Subcommands:\n")));
+    std::string line;
+    std::getline(lines, line);
+    std::size_t commands = 0;
+    for (; std::getline(lines, line) && !line.empty(); ++commands) {
+        const std::string name = line.substr(2, line.find(' ', 2) - 2);
+        SCOPED_TRACE(name);
+        const Outcome help = shell("edidwb " + name + " --help");
+        EXPECT_EQ(help.status, 0);
+        EXPECT_EQ(help.errors, "");
+        EXPECT_THAT(help.output, HasSubstr("Usage: edidwb " + name));
+        EXPECT_THAT(help.output, HasSubstr("\nExit status: 0 "));
+        EXPECT_THAT(help.output, HasSubstr(", 2 "));
+        std::size_t examples = 0;
+        for (std::size_t place = 0; (place = help.output.find("\n  ", place)) != std::string::npos; ++place) {
+            const std::string example = help.output.substr(place, help.output.find('\n', place + 1) - place);
+            examples += example.find("edidwb " + name) != std::string::npos ? 1 : 0;
+        }
+        EXPECT_GE(examples, 2U);
+        EXPECT_EQ(shell("edidwb help " + name).output, help.output);
     }
+    EXPECT_GE(commands, 12U);
 }
 
 TEST_F(UsageTest, WrongUseHasStatus2) {
@@ -122,12 +147,36 @@ TEST_F(UsageTest, NamesWhatIsWrong) {
         const char* arguments;
         const char* message;
     };
-    for (const Case& c : {Case{"nosuch", "not expected: nosuch"}, Case{"--no", "not expected: --no"},
-                          Case{"--no check", "not expected: --no"}, Case{"", "A subcommand is required"},
-                          Case{"script a b c", "not expected: b c"}, Case{"read a b", "not expected: b"},
-                          Case{"check --frob", "not expected: --frob"}, Case{"check", "FILE is required"},
-                          Case{"translate --output-dir= nd a", "no value in '--output-dir='"},
-                          Case{"translate --date '' a", "--date: the value is empty"}}) {
+    for (const Case& c :
+         {Case{"nosuch", "there is no command 'nosuch'"},
+          Case{"transalte", "there is no command 'transalte'; did you mean 'translate'?"},
+          Case{"insp x", "there is no command 'insp'; did you mean 'inspect'?"},
+          Case{"help chek", "there is no command 'chek'; did you mean 'check'?"},
+          Case{"help check read", "not expected: read"},
+          Case{"--no", "there is no option '--no'"},
+          Case{"--no check", "there is no option '--no'"},
+          Case{"--verson", "there is no option '--verson'; did you mean '--version'?"},
+          Case{"", "no command is given; 'edidwb help' lists them"},
+          Case{"script a b c", "not expected: b c"},
+          Case{"read a b", "not expected: b"},
+          Case{"diff a b c d", "not expected: c d"},
+          Case{"check --frob", "there is no option '--frob'; did you mean '--from'?"},
+          Case{"check --recusrive x", "there is no option '--recusrive'; did you mean '--recursive'?"},
+          Case{"check --lvel=note x", "there is no option '--lvel'; did you mean '--level'?"},
+          Case{"check -z x", "there is no option '-z'"},
+          Case{"check", "FILE is required"},
+          Case{"convert a b", "--to is required"},
+          Case{"convert --to", "--to needs a value"},
+          Case{"translate -j", "--jobs needs a value"},
+          Case{"translate --strict=yes x", "--strict takes no value"},
+          Case{"convert --to pdf a b", "'pdf' is no format: dat, report, bin, hex, c, base64, reg, inf, xxd"},
+          Case{"diff --format tsv a b", "'tsv' is no format: text, json"},
+          Case{"check --level bad x", "'bad' is no level: error, warning, note"},
+          Case{"check --from 'a not in {b}' x",
+               "'a not in {b}' is no form: gzip, bin, dat, base64, decimal, string, dump, hex"},
+          Case{"translate --heading now x", "'now' is no value of --heading: auto, always, never"},
+          Case{"translate --output-dir= nd a", "no value in '--output-dir='"},
+          Case{"translate --date '' a", "--date: the value is empty"}}) {
         EXPECT_EQ(shell("edidwb " + std::string(c.arguments)).errors,
                   "edidwb: " + std::string(c.message) + "\nTry 'edidwb --help' for more information.\n");
     }
