@@ -5,10 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
-#include <cstdlib>
-#include <filesystem>
 #include <vector>
 
 #include "acquire/get_edid.h"
@@ -16,6 +13,7 @@
 #include "core/edid_image.h"
 #include "files/data_file.h"
 #include "report/show_report.h"
+#include "support/monitor_images.h"
 #include "support/program.h"
 #include "support/temporary_folder.h"
 
@@ -24,25 +22,7 @@ namespace {
 
 using testing::HasSubstr;
 
-namespace fs = std::filesystem;
-
-constexpr const char* foreignFolder = "WORKBENCH_MONITOR_IMAGES";
-
-struct Image {
-    std::string name;
-    std::string bytes;
-};
-
-std::vector<Image> imagesIn(const fs::path& folder) {
-    std::vector<Image> found;
-    for (const auto& entry : fs::directory_iterator(folder)) {
-        if (entry.path().extension() == ".bin") {
-            found.push_back({entry.path().filename().string(), TemporaryFolder::read(entry.path().string())});
-        }
-    }
-    std::sort(found.begin(), found.end(), [](const Image& a, const Image& b) { return a.name < b.name; });
-    return found;
-}
+using Image = MonitorImage;
 
 /// An image with other bytes in block 0, whose check sum fits again.
 std::string changed(std::string image, std::size_t first, std::string_view bytes) {
@@ -66,7 +46,7 @@ std::string extended(std::string image, int blocks, char tag) {
 /// timing extension, and many of them.
 std::vector<Image> variedImages() {
     std::vector<Image> varied;
-    for (const auto& [name, bytes] : imagesIn(WORKBENCH_SOURCE_DIR "/samples")) {
+    for (const auto& [name, bytes] : sampleImages()) {
         varied.push_back({name + ", revision 4", changed(bytes, 19, "\x04")});
         for (const char tag : {'\xF7', '\xF8'}) {
             const std::string descriptor{'\0', '\0', '\0', tag, '\0', '\x01'};
@@ -88,13 +68,13 @@ class MonitorImages : public testing::TestWithParam<Collection> {
 protected:
     void SetUp() override {
         if (GetParam() == Collection::Foreign) {
-            const char* folder = std::getenv(foreignFolder);
-            if (folder == nullptr) {
+            const auto foreign = foreignImages();
+            if (!foreign) {
                 GTEST_SKIP() << "set " << foreignFolder << " to a folder of raw images to translate them too";
             }
-            images = imagesIn(folder);
+            images = *foreign;
         } else {
-            images = GetParam() == Collection::Samples ? imagesIn(WORKBENCH_SOURCE_DIR "/samples") : variedImages();
+            images = GetParam() == Collection::Samples ? sampleImages() : variedImages();
         }
         ASSERT_FALSE(images.empty());
     }

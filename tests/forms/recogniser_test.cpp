@@ -113,6 +113,8 @@ const std::vector<Form>& forms() {
     using S = std::string;
     static const std::vector<Form> all = {
         {"Binary", "bin", [](const S& b) { return b; }},
+        {"DataFile", "dat",
+         [](const S& b) { return "128 BYTES OF EDID CODE:\r\n\r\n\r\n" + plainRows(b, "0 | ", " ", "\r", "%02X"); }},
         {"PairsInOneLine", "hex", [](const S& b) { return each(b, "%02X", " "); }},
         {"PairsInRows", "hex", [](const S& b) { return plainRows(b, "", " ", ""); }},
         {"DigitsInOneLine", "hex", [](const S& b) { return each(b, "%02x"); }},
@@ -135,6 +137,7 @@ const std::vector<Form>& forms() {
         {"OctalString", "string", [](const S& b) { return "'" + each(b, "\\%03o") + "'"; }},
         {"PythonBytes", "string", [](const S& b) { return "edid = b'" + each(b, "\\x%02x") + "'\n"; }},
         {"JsonList", "decimal", [](const S& b) { return "{\"size\": 256, \"edid\": [" + each(b, "%u", ", ") + "]}"; }},
+        {"PythonDecimalList", "decimal", [](const S& b) { return "edid = bytes([" + each(b, "%u", ", ") + "])\n"; }},
         {"PythonHexList", "hex", [](const S& b) { return "edid = [" + each(b, "0x%02x", ", ") + "]"; }},
         {"Inf", "hex",
          [](const S& b) {
@@ -237,6 +240,13 @@ const std::vector<Form>& forms() {
                     plainRows(b, "\t\t", "", "") + "\tBroadcast RGB: Automatic \n  1920x1080 (0x45) 148.500MHz\n";
          },
          "HDMI-1"},
+        {"XrandrProperties", "hex",
+         [](const S& b) {
+             return "eDP-1 connected (normal left inverted right x axis y axis)\n\tEDID: \n" +
+                    plainRows(b, "\t\t", "", "") +
+                    "\tscaling mode: Full aspect \n\t\tsupported: Full, Center, Full aspect\n";
+         },
+         "eDP-1"},
         {"Decoder", "hex",
          [](const S& b) {
              return "edid-decode (hex):\n\n" + plainRows(b.substr(0, 128), "", " ", "") + '\n' +

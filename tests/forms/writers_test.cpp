@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "core/base/image.h"
 #include "forms/recogniser.h"
-#include "support/temporary_folder.h"
+#include "support/monitor_images.h"
 
 namespace wb::forms {
 namespace {
@@ -28,6 +29,34 @@ TEST_P(EveryWrittenForm, IsReadBackToTheSameBytes) {
         ASSERT_EQ(result.images.size(), 1U) << form.name << ' ' << blocks << ": " << result.refusal;
         EXPECT_EQ(result.images[0].content(), image.content()) << form.name << ' ' << blocks;
     }
+}
+
+/// Those with the header; a file without it is an image for nobody.
+void expectRoundTrips(const WrittenForm& form, const std::vector<test::MonitorImage>& images) {
+    std::size_t tried = 0;
+    for (const test::MonitorImage& monitor : images) {
+        const auto image = Image::fromBytes(monitor.bytes);
+        if (!image || !monitor.bytes.starts_with(imageHeader)) {
+            continue;
+        }
+        ++tried;
+        const Recognition result = recognise(form.write(*image));
+        ASSERT_EQ(result.images.size(), 1U) << form.name << ' ' << monitor.name << ": " << result.refusal;
+        EXPECT_EQ(result.images[0].content(), monitor.bytes) << form.name << ' ' << monitor.name;
+    }
+    EXPECT_GT(tried, 0U);
+}
+
+TEST_P(EveryWrittenForm, ChangesNoByteOfTheSamples) {
+    expectRoundTrips(writtenForms().at(GetParam()), test::sampleImages());
+}
+
+TEST_P(EveryWrittenForm, ChangesNoByteOfRealMonitors) {
+    const auto images = test::foreignImages();
+    if (!images) {
+        GTEST_SKIP() << "set " << test::foreignFolder << " to a folder of raw images to write them too";
+    }
+    expectRoundTrips(writtenForms().at(GetParam()), *images);
 }
 
 INSTANTIATE_TEST_SUITE_P(Writers, EveryWrittenForm, testing::Range(std::size_t{0}, writtenForms().size()),
