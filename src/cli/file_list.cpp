@@ -8,6 +8,7 @@
 #include "cli/cli_error.h"
 #include "cli/input.h"
 #include "cli/output.h"
+#include "core/base/file_names.h"
 
 namespace wb::cli {
 
@@ -66,11 +67,11 @@ std::optional<BatchFile> FileList::find() {
             return std::nullopt;
         }
         std::error_code ignored;
-        if (!options_.recursive || *name == standardStream || !fs::is_directory(*name, ignored)) {
-            std::string below = fs::path(*name).filename().string();
+        if (!options_.recursive || *name == standardStream || !fs::is_directory(pathOf(*name), ignored)) {
+            std::string below = nameOf(pathOf(*name).filename());
             return BatchFile{.name = std::move(*name), .below = std::move(below)};
         }
-        folder_ = std::move(*name);
+        folder_ = pathOf(*name);
         walk_.emplace(folder_);
     }
 }
@@ -82,7 +83,7 @@ std::optional<BatchFile> FileList::nextBelow() {
         walk_.reset();
         return std::nullopt;
     }
-    return BatchFile{.name = (folder_ / *below).string(), .below = below->string()};
+    return BatchFile{.name = nameOf(folder_ / *below), .below = nameOf(*below)};
 }
 
 /// First those of the command line, then those of the list.

@@ -59,7 +59,7 @@ private:
     std::size_t nextOption_ = 0;
     std::optional<NameList> list_;
     std::size_t standardInputs_ = 0;
-    std::string folder_;             ///< the one that stands for its files
+    std::filesystem::path folder_;   ///< the one that stands for its files
     std::optional<FolderWalk> walk_; ///< below it
     std::deque<BatchFile> ahead_;    ///< found already
     bool complete_ = true;

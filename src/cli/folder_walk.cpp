@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cli/output.h"
+#include "core/base/file_names.h"
 
 namespace wb::cli {
 
@@ -26,7 +27,7 @@ std::optional<fs::path> FolderWalk::next() {
         }
         const Entry entry = std::move(level.entries.back());
         level.entries.pop_back();
-        const fs::path below = level.below / entry.name;
+        const fs::path below = level.below / pathOf(entry.name);
         if (!entry.isFolder) {
             return below;
         }
@@ -44,7 +45,7 @@ void FolderWalk::readPart(Level& level) {
     for (fs::directory_iterator entry(folder, fs::directory_options::skip_permission_denied, error), end;
          !error && entry != end; entry.increment(error)) {
         std::error_code ignored;
-        Entry found{entry->path().filename().string(), false};
+        Entry found{nameOf(entry->path().filename()), false};
         const bool isPast = !isFirst && found.name <= level.last;
         const bool isFar = level.entries.size() == part_ && !(found < level.entries.front());
         level.more = level.more || (isFar && !isPast);
@@ -64,7 +65,7 @@ void FolderWalk::readPart(Level& level) {
         std::push_heap(level.entries.begin(), level.entries.end());
     }
     if (error) {
-        complain(folder.string(), error.message());
+        complain(nameOf(folder), reasonOf(error));
         complete_ = false;
     }
     std::sort(level.entries.rbegin(), level.entries.rend());

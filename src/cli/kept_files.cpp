@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "cli/cli_error.h"
+#include "core/base/file_names.h"
 
 namespace wb::cli {
 
@@ -65,7 +66,7 @@ void KeptFiles::append(std::string_view bytes) {
 
 void KeptFiles::moveToFile() {
     folder_.emplace("names");
-    file_.reset(std::fopen(folder_->file().c_str(), "w+b"));
+    file_.reset(openStream(pathOf(folder_->file()), "w+b"));
     if (file_ == nullptr || std::fwrite(memory_.data(), 1, memory_.size(), file_.get()) != memory_.size()) {
         fail();
     }

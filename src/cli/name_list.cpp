@@ -7,6 +7,7 @@
 
 #include "cli/cli_error.h"
 #include "cli/input.h"
+#include "core/base/file_names.h"
 
 namespace wb::cli {
 
@@ -15,11 +16,12 @@ NameList::NameList(std::string file, char end) : file_(std::move(file)), end_(en
         stream_ = stdin;
         return;
     }
+    const std::filesystem::path path = pathOf(file_);
     std::error_code ignored;
-    if (std::filesystem::is_directory(file_, ignored)) {
+    if (std::filesystem::is_directory(path, ignored)) {
         fail(EISDIR);
     }
-    handle_.reset(std::fopen(file_.c_str(), "rb"));
+    handle_.reset(openStream(path, "rb"));
     if (handle_ == nullptr) {
         fail(errno);
     }

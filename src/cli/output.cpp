@@ -19,6 +19,7 @@
 #include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/temporary.h"
+#include "core/base/file_names.h"
 #include "core/base/text.h"
 
 namespace wb::cli {
@@ -31,8 +32,8 @@ namespace fs = std::filesystem;
     throw OutputError(std::string("standard output: ") + std::strerror(errno), errno == EPIPE);
 }
 
-void writeDirectly(const std::string& name, std::string_view content) {
-    std::FILE* const file = std::fopen(name.c_str(), "wb");
+void writeDirectly(const fs::path& path, std::string_view content) {
+    std::FILE* const file = openStream(path, "wb");
     if (file == nullptr) {
         throw CliError(std::strerror(errno));
     }
@@ -40,10 +41,10 @@ void writeDirectly(const std::string& name, std::string_view content) {
 }
 
 /// The place of an existing file behind its links, so that a link stays one; of a new file the name as it stands.
-fs::path finalPlace(const std::string& name) {
+fs::path finalPlace(const fs::path& path) {
     std::error_code error;
-    const fs::path place = fs::canonical(name, error);
-    return error ? fs::path(name) : place;
+    fs::path place = fs::canonical(path, error);
+    return error ? path : place;
 }
 
 /// The permissions that a new file gets, or those of the file that is replaced.
@@ -158,19 +159,24 @@ void writeFile(const std::string& name, std::string_view content, Existing exist
         print(content);
         return;
     }
+    const fs::path path = pathOf(name);
+    if (namesDevice(path)) {
+        writeDirectly(path, content);
+        return;
+    }
     std::error_code error;
-    const fs::file_status status = fs::status(name, error);
+    const fs::file_status status = fs::status(path, error);
     if (fs::is_directory(status)) {
         throw CliError(std::strerror(EISDIR));
     }
-    if (existing == Existing::Refuse && fs::exists(fs::symlink_status(name, error))) { // a link that leads nowhere too
+    if (existing == Existing::Refuse && fs::exists(fs::symlink_status(path, error))) { // a link that leads nowhere too
         throw CliError("exists already (--force replaces it)");
     }
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        writeDirectly(name, content);
+        writeDirectly(path, content);
         return;
     }
-    const fs::path place = finalPlace(name);
+    const fs::path place = finalPlace(path);
     TemporaryFile temporary(place.parent_path());
     temporary.write(content);
     if (existing == Existing::Refuse) {

@@ -13,6 +13,7 @@
 #include "cli/report_names.h"
 #include "cli/stored_edid.h"
 #include "cli/system.h"
+#include "core/base/file_names.h"
 
 namespace wb::cli {
 
@@ -155,7 +156,7 @@ private:
     }
 
     void write(const std::string& name, const std::string& content) {
-        const std::string place = (fs::path(*options_.outputFolder) / name).string();
+        const std::string place = nameOf(pathOf(*options_.outputFolder) / pathOf(name));
         try {
             writeFile(place, content, options_.force ? Existing::Replace : Existing::Refuse);
         } catch (const CliError& error) {
@@ -174,9 +175,9 @@ private:
 int readAll(const Options& options) {
     const std::vector<Monitor> monitors = attachedMonitors(options.system);
     std::error_code error;
-    fs::create_directories(*options.outputFolder, error);
+    fs::create_directories(pathOf(*options.outputFolder), error);
     if (error) {
-        complain(*options.outputFolder, error.message());
+        complain(*options.outputFolder, reasonOf(error));
         return somethingFailed;
     }
     const std::vector<std::string> obstacles = obstaclesOf(options.system);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cli/input.h"
+#include "core/base/file_names.h"
 
 namespace wb::cli {
 
@@ -13,16 +14,16 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string stemOf(const std::string& file) {
-    return file == standardStream ? "stdin" : fs::path(file).stem().string();
+    return file == standardStream ? "stdin" : nameOf(pathOf(file).stem());
 }
 
 /// The folders of a file from the innermost outwards.
 std::vector<std::string> foldersOf(const std::string& file) {
     std::error_code error;
-    const fs::path place = fs::absolute(file, error).lexically_normal().parent_path();
+    const fs::path place = fs::absolute(pathOf(file), error).lexically_normal().parent_path();
     std::vector<std::string> folders;
     for (const fs::path& part : place.relative_path()) {
-        folders.push_back(part.string());
+        folders.push_back(nameOf(part));
     }
     std::reverse(folders.begin(), folders.end());
     return folders;
@@ -38,7 +39,7 @@ std::string withFolders(const std::string& name, const std::vector<std::string>&
 }
 
 std::string fileNameOf(const std::string& file) {
-    return fs::path(file).filename().string();
+    return nameOf(pathOf(file).filename());
 }
 
 using Pair = std::pair<NameKey, NameKey>;

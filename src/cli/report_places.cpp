@@ -5,6 +5,7 @@
 
 #include "cli/cli_error.h"
 #include "cli/input.h"
+#include "core/base/file_names.h"
 #include "core/base/text.h"
 
 namespace wb::cli {
@@ -17,7 +18,7 @@ namespace fs = std::filesystem;
 /// Empty where there is none. A hard link has a name of its own, and to replace it does the file no harm.
 std::string lastNameOf(const std::string& name) {
     std::error_code ignored;
-    return upperCase(fs::canonical(name, ignored).filename().string());
+    return upperCase(nameOf(fs::canonical(pathOf(name), ignored).filename()));
 }
 
 } // namespace
@@ -50,10 +51,10 @@ std::string ReportPlaces::take(const BatchFile& file, const std::string& output)
 
 std::string ReportPlaces::placeOf(const BatchFile& file, const std::string& output) const {
     if (!options_.keepTree) {
-        return (options_.folder / names_.nameOf(file.name, output)).string();
+        return nameOf(options_.folder / pathOf(names_.nameOf(file.name, output)));
     }
     const std::string ending = output.empty() ? "" : '-' + output;
-    return (options_.folder / (file.below + ending + options_.extension)).string();
+    return nameOf(options_.folder / pathOf(file.below + ending + options_.extension));
 }
 
 bool ReportPlaces::isInput(const std::string& place) {
@@ -62,7 +63,7 @@ bool ReportPlaces::isInput(const std::string& place) {
     for (auto input = std::lower_bound(inputs_.begin(), inputs_.end(), std::pair(key, std::uint64_t{0}));
          !last.empty() && input != inputs_.end() && input->first == key; ++input) {
         std::error_code error;
-        if (fs::equivalent(files_.at(input->second).name, place, error) && !error) {
+        if (fs::equivalent(pathOf(files_.at(input->second).name), pathOf(place), error) && !error) {
             return true;
         }
     }

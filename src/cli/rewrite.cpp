@@ -9,6 +9,7 @@
 #include "cli/commands.h"
 #include "cli/output.h"
 #include "cli/report_names.h"
+#include "core/base/file_names.h"
 #include "core/base/text.h"
 #include "forms/writers.h"
 
@@ -79,9 +80,9 @@ bool makeFolder(const RewriteOptions& options) {
         return true;
     }
     std::error_code error;
-    fs::create_directories(*options.outputFolder, error);
+    fs::create_directories(pathOf(*options.outputFolder), error);
     if (error) {
-        complain(*options.outputFolder, error.message());
+        complain(*options.outputFolder, reasonOf(error));
     }
     return !error;
 }
@@ -136,25 +137,25 @@ private:
         const std::string backup = input.name + backupExtension;
         writeBeside(backup, input.content);
         std::error_code ignored;
-        fs::permissions(backup, fs::status(input.name, ignored).permissions(), ignored);
+        fs::permissions(pathOf(backup), fs::status(pathOf(input.name), ignored).permissions(), ignored);
     }
 
     /// The file of the output folder for one of the input; its extension stays where its form does.
     std::string newPlace(const std::string& file, bool formStays) {
         const std::string extension =
-            formStays && file != standardStream ? fs::path(file).extension().string() : std::string(binaryExtension);
+            formStays && file != standardStream ? nameOf(pathOf(file).extension()) : std::string(binaryExtension);
         std::string name = names_.nameOf(file, "");
         if (!name.ends_with(extension)) {
             name += extension;
         }
-        std::string place = (fs::path(*options_.outputFolder) / name).string();
+        std::string place = nameOf(pathOf(*options_.outputFolder) / pathOf(name));
         const auto [other, isNew] = writtenBy_.try_emplace(place, file);
         if (!isNew) {
             throw CliError("its new file '" + place + "' is already that of '" + other->second + "'");
         }
         for (const std::string& input : options_.files) {
             std::error_code error;
-            if (fs::equivalent(input, place, error) && !error) {
+            if (fs::equivalent(pathOf(input), pathOf(place), error) && !error) {
                 throw CliError("its new file '" + place + "' would replace one that is to be read");
             }
         }

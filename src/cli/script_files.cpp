@@ -10,6 +10,7 @@
 #include "cli/formats.h"
 #include "cli/image_input.h"
 #include "cli/output.h"
+#include "core/base/file_names.h"
 #include "core/base/text.h"
 #include "files/save.h"
 #include "shell/lifecycle.h"
@@ -33,7 +34,7 @@ std::vector<std::string> savedForms() {
 
 /// The form whose name is the ending of the file's, in any letter case; that ending where there is none.
 std::string formOfEnding(const std::string& name) {
-    const std::string ending = std::filesystem::path(name).extension().string();
+    const std::string ending = nameOf(pathOf(name).extension());
     const std::string text = ending.substr(std::min<std::size_t>(ending.size(), 1));
     const std::vector<std::string> forms = savedForms();
     const auto form = std::find_if(forms.begin(), forms.end(),

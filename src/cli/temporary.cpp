@@ -5,6 +5,7 @@
 #include <random>
 
 #include "cli/cli_error.h"
+#include "core/base/file_names.h"
 
 namespace wb::cli {
 
@@ -29,8 +30,8 @@ std::string randomName() {
 TemporaryFile::TemporaryFile(const std::filesystem::path& folder) {
     for (int i = 0; i < tries && file_ == nullptr; ++i) {
         path_ = folder / randomName();
-        mark_.emplace(CleanupMark::Kind::File, path_.string());
-        file_ = std::fopen(path_.string().c_str(), "wbx");
+        mark_.emplace(CleanupMark::Kind::File, nameOf(path_));
+        file_ = openStream(path_, "wbx");
         if (file_ == nullptr && errno != EEXIST) {
             break;
         }
@@ -58,7 +59,7 @@ void TemporaryFile::moveTo(const std::filesystem::path& place) {
     std::error_code error;
     std::filesystem::rename(path_, place, error);
     if (error) {
-        throw CliError(error.message());
+        throw CliError(reasonOf(error));
     }
 }
 
@@ -66,7 +67,7 @@ void TemporaryFile::moveToNew(const std::filesystem::path& place) {
     std::error_code error;
     std::filesystem::create_hard_link(path_, place, error);
     if (error == std::errc::file_exists) {
-        throw CliError(error.message());
+        throw CliError(reasonOf(error));
     }
     if (error) {
         moveTo(place);
@@ -80,16 +81,16 @@ TemporaryFolder::TemporaryFolder(const std::string& fileName) {
     bool created = false;
     for (int i = 0; i < tries && !error && !created; ++i) {
         path_ = parent / randomName();
-        mark_.emplace(CleanupMark::Kind::Folder, path_.string());
+        mark_.emplace(CleanupMark::Kind::Folder, nameOf(path_));
         created = fs::create_directory(path_, error);
     }
-    file_ = path_ / fileName;
-    fileMark_.emplace(CleanupMark::Kind::File, file_.string());
+    file_ = path_ / pathOf(fileName);
+    fileMark_.emplace(CleanupMark::Kind::File, nameOf(file_));
     if (!error && created) {
         fs::permissions(path_, fs::perms::owner_all, error);
     }
     if (error || !created) {
-        throw CliError("no temporary folder: " + error.message());
+        throw CliError("no temporary folder: " + reasonOf(error));
     }
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/cleanup.h"
+#include "core/base/file_names.h"
 
 namespace wb::cli {
 
@@ -46,7 +47,7 @@ public:
     ~TemporaryFolder();
 
     /// The path of the one file in it.
-    std::string file() const { return file_.string(); }
+    std::string file() const { return nameOf(file_); }
 
 private:
     std::filesystem::path path_;

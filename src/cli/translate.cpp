@@ -18,6 +18,7 @@
 #include "cli/progress.h"
 #include "cli/report_places.h"
 #include "core/base/digits.h"
+#include "core/base/file_names.h"
 #include "fields/json.h"
 
 namespace wb::cli {
@@ -130,7 +131,7 @@ public:
         : options_(options),
           headed_(!options.json() && (options.heading == "always" || (options.heading == "auto" && batch.several()))) {
         if (options.outputFolder) {
-            places_.emplace(*batch.kept, ReportPlaces::Options{.folder = *options.outputFolder,
+            places_.emplace(*batch.kept, ReportPlaces::Options{.folder = pathOf(*options.outputFolder),
                                                                .extension = options.extension(),
                                                                .keepTree = options.keepTree});
             progress_.emplace(batch.kept->count());
@@ -193,7 +194,7 @@ private:
         }
         try {
             std::error_code ignored; // what is missing then is told by the writing
-            fs::create_directories(fs::path(place).parent_path(), ignored);
+            fs::create_directories(pathOf(place).parent_path(), ignored);
             writeFile(place, translation.report, Existing::Replace);
         } catch (const CliError& error) {
             fail(place, error.what());
@@ -233,9 +234,9 @@ int run(const Options& options) {
     if (options.outputFolder) {
         keepNames(batch);
         std::error_code error;
-        fs::create_directories(*options.outputFolder, error);
+        fs::create_directories(pathOf(*options.outputFolder), error);
         if (error) {
-            complain(*options.outputFolder, error.message());
+            complain(*options.outputFolder, reasonOf(error));
             return somethingFailed;
         }
     }

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "core/base/file_names.h"
 #include "files/text_file.h"
 
 namespace wb::files {
@@ -20,11 +21,12 @@ constexpr std::size_t largestFile = std::size_t{1} << 30U;
 } // namespace
 
 std::string readFile(const std::string& path) {
+    const std::filesystem::path place = pathOf(path);
     std::error_code ignored;
-    if (std::filesystem::is_directory(path, ignored)) {
+    if (std::filesystem::is_directory(place, ignored)) {
         fail(EISDIR);
     }
-    const FileHandle file(std::fopen(path.c_str(), "rb"));
+    const FileHandle file(openStream(place, "rb"));
     if (file == nullptr) {
         fail(errno);
     }

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "core/base/failure.h"
+#include "core/base/file_names.h"
 
 namespace wb::files {
 
@@ -32,11 +33,11 @@ bool folderExists(const std::filesystem::path& folder) {
 
 std::FILE* openFile(const std::string& name, const char* mode) {
     std::error_code error;
-    const std::filesystem::path path(name);
+    const std::filesystem::path path = pathOf(name);
     if (name.empty() || std::filesystem::is_directory(path, error)) {
         throw Failure(FailureKind::PathFileAccess);
     }
-    std::FILE* file = std::fopen(name.c_str(), mode);
+    std::FILE* file = openStream(path, mode);
     if (file == nullptr) {
         const std::error_code code = lastError();
         const bool missing = code == std::errc::no_such_file_or_directory && folderExists(path.parent_path());
@@ -49,12 +50,12 @@ std::FILE* openFile(const std::string& name, const char* mode) {
 
 bool fileExists(const std::string& name) {
     std::error_code error;
-    return std::filesystem::is_regular_file(name, error);
+    return std::filesystem::is_regular_file(pathOf(name), error);
 }
 
 void deleteFile(const std::string& name) {
     std::error_code error;
-    if (!std::filesystem::remove(name, error)) {
+    if (!std::filesystem::remove(pathOf(name), error)) {
         throw Failure(error ? kindOf(error) : FailureKind::FileNotFound);
     }
 }

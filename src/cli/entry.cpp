@@ -1,0 +1,33 @@
+#include "cli/entry.h"
+
+#include <cstdio>
+#include <exception>
+#include <utility>
+
+#include "cli/cleanup.h"
+#include "cli/command_line.h"
+#include "cli/commands.h"
+#include "cli/output.h"
+
+namespace wb::cli {
+
+int runProgram(std::vector<std::string> arguments) {
+    prepareStreams();
+    removeTemporariesOnSignals();
+    try {
+        const int status = runCommandLine(std::move(arguments));
+        flushOutput();
+        return status;
+    } catch (const OutputError& error) {
+        if (error.readerGone()) {
+            endByBrokenPipe();
+        }
+        std::fprintf(stderr, "edidwb: %s\n", error.what());
+        return somethingFailed;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "edidwb: %s\n", error.what());
+        return somethingFailed;
+    }
+}
+
+} // namespace wb::cli
