@@ -1,30 +1,34 @@
 #include "core/base/file_names.h"
 
-#ifdef _WIN32
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#include <windows.h>
-#endif
+#include <algorithm>
 
 namespace wb {
 
 #ifdef _WIN32
 
 std::filesystem::path pathOf(std::string_view name) {
-    const int size = static_cast<int>(name.size());
-    std::wstring wide(static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, name.data(), size, nullptr, 0)), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, name.data(), size, wide.data(), static_cast<int>(wide.size()));
-    return wide;
+    try {
+        return std::u8string(name.begin(), name.end());
+    } catch (const std::filesystem::filesystem_error&) {
+        std::wstring wide(name.begin(), name.end());
+        std::replace_if(
+            wide.begin(), wide.end(), [](wchar_t c) { return c > 0x7F; }, L'\xFFFD');
+        return wide;
+    }
 }
 
 std::string nameOf(const std::filesystem::path& path) {
-    const std::wstring& wide = path.native();
-    const int size = static_cast<int>(wide.size());
-    const int length = WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, nullptr, 0, nullptr, nullptr);
-    std::string name(static_cast<std::size_t>(length), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, name.data(), length, nullptr, nullptr);
-    return name;
+    // Halves of surrogate pairs that stand alone have no UTF-8.
+    try {
+        const std::u8string name = path.u8string();
+        return {name.begin(), name.end()};
+    } catch (const std::filesystem::filesystem_error&) {
+        std::wstring wide = path.native();
+        std::replace_if(
+            wide.begin(), wide.end(), [](wchar_t c) { return c >= 0xD800 && c <= 0xDFFF; }, L'\xFFFD');
+        const std::u8string name = std::filesystem::path(wide).u8string();
+        return {name.begin(), name.end()};
+    }
 }
 
 std::FILE* openStream(const std::filesystem::path& path, const char* mode) {
@@ -32,13 +36,8 @@ std::FILE* openStream(const std::filesystem::path& path, const char* mode) {
 }
 
 bool namesDevice(const std::filesystem::path& path) {
-    std::wstring full(MAX_PATH, L'\0');
-    const DWORD length = GetFullPathNameW(path.c_str(), MAX_PATH, full.data(), nullptr);
-    if (length >= MAX_PATH) { // no device has so long a name
-        return false;
-    }
-    full.resize(length);
-    return full.starts_with(L"\\\\.\\");
+    std::error_code ignored;
+    return std::filesystem::absolute(path, ignored).native().starts_with(L"\\\\.\\");
 }
 
 #else

@@ -10,7 +10,7 @@
 /// bytes that the system has.
 namespace wb {
 
-/// The path of a file name. What is no UTF-8 on Windows becomes U+FFFD there.
+/// The path of a file name. Of what is no UTF-8, Windows gets U+FFFD for each byte outside ASCII.
 std::filesystem::path pathOf(std::string_view name);
 /// The name of a path, with the separators of the system.
 std::string nameOf(const std::filesystem::path& path);
