@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "cli/bus_read.h"
 #include "cli/cli_error.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
@@ -26,6 +27,7 @@ struct Options {
     std::optional<std::string> format;
     std::string date;
     std::optional<std::string> outputFolder;
+    std::optional<std::string> bus;
     SystemOptions system;
     bool all = false;
     bool force = false;
@@ -114,6 +116,20 @@ int readNamed(const Options& options) {
     }
 }
 
+int readBus(const Options& options) {
+    const std::string device = busDevice(*options.bus);
+    try {
+        const Image image = imageFromBus(*openBus(device), device);
+        Program program(clockOf(options.date));
+        return printImage(image, program, options);
+    } catch (const CliError& error) {
+        complain(device, error.what());
+    } catch (const std::system_error& error) {
+        complain(device, busTrouble(error.code()));
+    }
+    return somethingFailed;
+}
+
 /// A name of a connector as that of a file.
 std::string fileNameOf(const Monitor& monitor) {
     std::string name = monitor.name;
@@ -198,6 +214,9 @@ void checkOptions(const Options& options) {
     if (options.all && !options.connector.empty()) {
         throw UsageError("--all and a connector exclude each other");
     }
+    if (options.bus && (options.all || !options.connector.empty())) {
+        throw UsageError("--i2c excludes --all and a connector");
+    }
     if (options.all != options.outputFolder.has_value()) {
         throw UsageError("--all and --output-dir belong together");
     }
@@ -208,6 +227,9 @@ void checkOptions(const Options& options) {
 
 int run(const Options& options) {
     checkOptions(options);
+    if (options.bus) {
+        return readBus(options);
+    }
     try {
         return options.all ? readAll(options) : options.connector.empty() ? readFirst(options) : readNamed(options);
     } catch (const CliError& error) {
@@ -238,10 +260,17 @@ Run addRead(CLI::App& command) {
         ->take_last();
     command.add_flag("-f,--force", options->force, "With --all, replace files that exist already")
         ->disable_flag_override();
+    command
+        .add_option("--i2c", options->bus,
+                    "Ask the monitor itself, on the bus /dev/i2c-N of Linux: reads at address 50h, up to two blocks")
+        ->type_name("N")
+        ->check(refuseEmpty)
+        ->take_last();
     addClockOption(command, options->date);
     addSystemOptions(command, options->system);
     command.footer(
-        "What is read is what the system stored when the monitor was attached.\n\n"
+        "What is read is what the system stored when the monitor was attached, and only with --i2c the monitor "
+        "itself.\n\n"
         "  edidwb read --to bin HDMI-A-1 >tv.bin\n"
         "  edidwb read --all -o monitors --to dat\n\n"
         "Exit status: 0 all went well (with --all a monitor without an EDID is only told), 1 there is no EDID, or it\n"

@@ -6,6 +6,7 @@
 #include <system_error>
 #include <vector>
 
+#include "platform/ddc_bus.h"
 #include "platform/services.h"
 
 namespace CLI {
@@ -44,5 +45,9 @@ std::vector<std::string> obstaclesOf(const SystemOptions& options);
 /// A line that helps further where no attached monitor has an EDID, or where none is attached; empty where the
 /// program's own box does.
 std::string helpWithoutEdid(const SystemOptions& options, bool anyAttached);
+
+/// The wires to a monitor, by the name of their device. A failure is a std::system_error; where the system has no such
+/// devices it is a CliError.
+std::unique_ptr<platform::DdcBus> openBus(const std::string& device);
 
 } // namespace wb::cli

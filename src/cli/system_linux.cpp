@@ -3,6 +3,7 @@
 
 #include "cli/cli_error.h"
 #include "cli/system.h"
+#include "platform/linux/i2c_bus.h"
 #include "platform/linux/sysfs_registry.h"
 
 namespace wb::cli {
@@ -64,6 +65,10 @@ std::string helpWithoutEdid(const SystemOptions& options, bool anyAttached) {
     }
     return "On Linux the kernel stores the EDID, and it knows of no attached monitor below " + options.sysfs +
            "/class/drm: check cable and power of the monitor, and the driver of the graphics adapter";
+}
+
+std::unique_ptr<platform::DdcBus> openBus(const std::string& device) {
+    return std::make_unique<platform::linux_system::I2cBus>(device);
 }
 
 } // namespace wb::cli

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "acquire/registry_search.h"
+#include "cli/cli_error.h"
 #include "cli/system.h"
 #include "platform/open_key.h"
 #include "platform/windows/win32_registry.h"
@@ -73,6 +74,10 @@ std::vector<std::string> obstaclesOf(const SystemOptions&) {
 
 std::string helpWithoutEdid(const SystemOptions&, bool) {
     return {};
+}
+
+std::unique_ptr<platform::DdcBus> openBus(const std::string&) {
+    throw CliError("only Linux has such buses");
 }
 
 } // namespace wb::cli

@@ -193,6 +193,14 @@ TEST_F(ReadTest, OfAllMonitorsOmissionsAreToldByName) {
     EXPECT_THAT(outcome.errors, HasSubstr("block 2"));
 }
 
+TEST_F(ReadTest, ABusThatIsNotThereIsTold) {
+    const Outcome outcome = run("read --i2c 1048575");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors,
+              "edidwb: /dev/i2c-1048575: there is no such bus; the kernel's module i2c-dev makes them\n");
+}
+
 TEST_F(ReadTest, ItsHelpTellsStatusesAndExamples) {
     EXPECT_THAT(run("read --help").output, AllOf(HasSubstr("Exit status: 0 "), HasSubstr("\n  edidwb read --all -o ")));
 }
