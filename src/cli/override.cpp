@@ -131,7 +131,7 @@ fs::path placeBelow(const fs::path& root, const std::string& fileName) {
     if (!fs::is_directory(root, error)) {
         throw CliError(root.string() + ": no such directory");
     }
-    const fs::path place = root / edidFirmwareFolder / fileName;
+    fs::path place = root / edidFirmwareFolder / fileName;
     const fs::path top = fs::canonical(root, error);
     const fs::path resolved = error ? fs::path() : fs::weakly_canonical(place, error);
     if (error) {
