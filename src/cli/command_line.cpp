@@ -32,6 +32,7 @@ constexpr auto commands = std::to_array<Command>({
     {"diff", "Tell the fields in which two images differ", &addDiff},
     {"repair", "Put the check sums of each image right", &addRepair},
     {"scrub", "Take the serial numbers out of each image", &addScrub},
+    {"set", "Set maker, name, timings and more of each image, or of a new one", &addSet},
     {"read", "Print what the running system stored of a monitor", &addRead},
     {"monitors", "List the attached monitors, and where their EDID comes from", &addMonitors},
     {"override", "Tell how to have Linux take an image for that of a monitor", &addOverride},

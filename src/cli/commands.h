@@ -24,6 +24,7 @@ Run addInspect(CLI::App& command);
 Run addDiff(CLI::App& command);
 Run addRepair(CLI::App& command);
 Run addScrub(CLI::App& command);
+Run addSet(CLI::App& command);
 Run addRead(CLI::App& command);
 Run addMonitors(CLI::App& command);
 Run addOverride(CLI::App& command);

@@ -87,6 +87,17 @@ bool makeFolder(const RewriteOptions& options) {
     return !error;
 }
 
+/// The form of bytes whose name is the ending of the file's, else binary.
+const forms::WrittenForm& formOfEnding(const std::string& name) {
+    std::string ending = upperCase(fs::path(name).extension().string());
+    for (const forms::WrittenForm& form : forms::writtenForms()) {
+        if (ending == '.' + upperCase(form.name)) {
+            return form;
+        }
+    }
+    return *forms::writtenForm("bin");
+}
+
 /// Takes one file after the other.
 class Rewriter {
 public:
@@ -226,6 +237,24 @@ int rewriteFiles(const RewriteOptions& options, const Changer& change) {
         }
     }
     return status;
+}
+
+int writeNewImage(const RewriteOptions& options, const std::string& name, const std::function<Change()>& make) {
+    if (!makeFolder(options)) {
+        return somethingFailed;
+    }
+    const std::string place = options.outputFolder ? (fs::path(*options.outputFolder) / name).string() : name;
+    try {
+        const Change change = make();
+        if (!options.dryRun) {
+            writeFile(place, formOfEnding(name).write(change.image), existingOf(options));
+        }
+        tell(place, change);
+        return success;
+    } catch (const CliError& error) {
+        complain(place, error.what());
+        return somethingFailed;
+    }
 }
 
 Image withBytes(const Image& image, const std::string& bytes) {

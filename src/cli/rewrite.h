@@ -46,6 +46,10 @@ using Changer = std::function<Change(const Image&)>;
 /// writes it. Gives the exit status.
 int rewriteFiles(const RewriteOptions& options, const Changer& change);
 
+/// Writes one new image, in the form of bytes that the ending of its name tells, or as binary; with an output folder
+/// there. Gives the exit status.
+int writeNewImage(const RewriteOptions& options, const std::string& name, const std::function<Change()>& make);
+
 /// An image with other bytes, at least one block of them.
 Image withBytes(const Image& image, const std::string& bytes);
 

@@ -9,18 +9,10 @@
 #include "core/base/text.h"
 #include "fields/descriptors.h"
 #include "fields/reading.h"
-#include "report/descriptor_layout.h"
 
 namespace wb::cli {
 
 namespace {
-
-/// Whether a detailed block of block 0 is a descriptor with that tag.
-bool isDescriptor(const Image& image, int block, std::uint8_t tag) {
-    const auto base = static_cast<std::size_t>(detailedBlockBase(block));
-    return image.byte(base) == 0 && image.byte(base + 1) == 0 && image.byte(base + 2) == 0 &&
-           image.byte(base + report::descriptorTagCell) == tag;
-}
 
 /// What is left that may tell one monitor from another.
 std::vector<std::string> leftOf(const Image& image) {
@@ -33,7 +25,7 @@ std::vector<std::string> leftOf(const Image& image) {
         }
     }
     for (int block = 0; block < detailedBlockCount; ++block) {
-        if (isDescriptor(image, block, fields::textTag)) {
+        if (holdsDescriptor(image, block, fields::textTag)) {
             sentences.push_back("left as it is: the text of descriptor " + std::to_string(block + 1) +
                                 ", which may hold a serial number");
         }
@@ -55,7 +47,7 @@ Change scrubbed(const Image& image) {
         change.done.emplace_back("serial number blanked");
     }
     for (int block = 0; block < detailedBlockCount; ++block) {
-        if (isDescriptor(image, block, fields::serialTextTag)) {
+        if (holdsDescriptor(image, block, fields::serialTextTag)) {
             const auto base = static_cast<std::size_t>(detailedBlockBase(block));
             editing.enterDescriptorText(block, "");
             if (editing.bytes().compare(base, detailedBlockSize, before, base, detailedBlockSize) != 0) {

@@ -60,14 +60,6 @@ std::vector<Line> linesOf(std::string_view text) {
     return lines;
 }
 
-/// The number of a whole text without a sign.
-std::optional<double> decimalNumber(std::string_view text) {
-    double number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    const bool isNumber = error == std::errc() && end == text.data() + text.size() && std::isfinite(number);
-    return isNumber && !std::signbit(number) ? std::optional(number) : std::nullopt;
-}
-
 std::int64_t clockOf(std::string_view megahertz) {
     const std::optional<double> number = decimalNumber(megahertz);
     const std::int64_t kilohertz = number && *number <= mostMegahertz ? std::llround(*number * 1000) : 0;

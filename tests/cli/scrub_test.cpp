@@ -1,24 +1,12 @@
 #include <gmock/gmock.h>
 
-#include <numeric>
-
+#include "cli/changed_image.h"
 #include "cli/edidwb.h"
 
 namespace wb::test {
 namespace {
 
 using testing::HasSubstr;
-
-/// The image with the right check sum in a block.
-std::string withSum(std::string image, std::size_t block) {
-    const std::size_t start = block * 128;
-    unsigned sum = 0;
-    for (std::size_t i = start; i < start + 127; ++i) {
-        sum += static_cast<unsigned char>(image[i]);
-    }
-    image[start + 127] = static_cast<char>(256 - sum % 256);
-    return image;
-}
 
 /// The text of a descriptor that holds none: a line feed, and blanks to the end.
 const std::string blankText = "\x0A            ";

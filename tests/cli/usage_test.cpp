@@ -114,6 +114,11 @@ TEST_F(UsageTest, WrongUseHasStatus2) {
                                   "override --name a/b DP-1 x",
                                   "override --name .b DP-1 x",
                                   "override '' x",
+                                  "set --maker ABC",
+                                  "set x -o nd",
+                                  "set --maker ABC x",
+                                  "set --maker '' x -o nd",
+                                  "set --frob x -o nd",
                                   "script a b"}) {
         const Outcome outcome = shell("edidwb " + std::string(arguments));
         EXPECT_EQ(outcome.status, 2) << arguments;

@@ -31,4 +31,12 @@ std::optional<Number> wholeNumber(std::string_view text, int base = 10) {
     return number;
 }
 
+/// The decimal number without sign and exponent that the whole text spells, or nothing.
+inline std::optional<double> decimalNumber(std::string_view text) {
+    const bool isPlain = text.find_first_not_of("0123456789.") == std::string_view::npos;
+    double number{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+    return isPlain && error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
 } // namespace wb
