@@ -1,5 +1,4 @@
 #include <CLI/CLI.hpp>
-#include <map>
 #include <memory>
 #include <optional>
 
@@ -8,14 +7,16 @@
 #include "cli/output.h"
 #include "cli/plain_reading.h"
 #include "core/base/json_writer.h"
+#include "fields/difference.h"
 #include "fields/json.h"
 
 namespace wb::cli {
 
 namespace {
 
-using fields::Field;
+using fields::FieldPair;
 using fields::Reading;
+using fields::Side;
 
 /// Exit statuses, as those of other programs that compare files.
 constexpr int same = 0;
@@ -29,63 +30,8 @@ struct Options {
     ImageOptions images;
 };
 
-struct Side {
-    const Reading* reading;
-    const Field* field; ///< null where the image has no such field
-};
-
-struct Difference {
-    Side first;
-    Side second;
-
-    const Field& any() const { return first.field != nullptr ? *first.field : *second.field; }
-};
-
-bool differ(const Side& a, const Side& b) {
-    return rawText(a.reading->image, *a.field) != rawText(b.reading->image, *b.field);
-}
-
-/// In the order of the first image, then what only the second has.
-std::vector<Difference> differences(const Reading& first, const Reading& second) {
-    std::map<std::string_view, const Field*> others;
-    for (const Field& field : second.fields) {
-        others.emplace(field.path, &field);
-    }
-    std::vector<Difference> found;
-    for (const Field& field : first.fields) {
-        const auto other = others.find(field.path);
-        const Difference pair = {{&first, &field}, {&second, other == others.end() ? nullptr : other->second}};
-        if (pair.second.field == nullptr || differ(pair.first, pair.second)) {
-            found.push_back(pair);
-        }
-        if (other != others.end()) {
-            others.erase(other);
-        }
-    }
-    for (const Field& field : second.fields) {
-        if (others.count(field.path) != 0) {
-            found.push_back({{&first, nullptr}, {&second, &field}});
-        }
-    }
-    return found;
-}
-
-std::string wordsOf(const Side& side) {
-    if (side.field == nullptr) {
-        return "(none)";
-    }
-    const std::string& text = side.field->text;
-    return text.empty() ? "\"\"" : inOneLine(text);
-}
-
-/// Both texts, with the raw bits behind them where the words alone would look the same.
-std::string lineOf(const Difference& difference) {
-    std::string before = wordsOf(difference.first);
-    std::string after = wordsOf(difference.second);
-    if (before == after) {
-        before += " (" + rawText(difference.first.reading->image, *difference.first.field) + ')';
-        after += " (" + rawText(difference.second.reading->image, *difference.second.field) + ')';
-    }
+std::string lineOf(const FieldPair& difference) {
+    const auto [before, after] = difference.texts(&inOneLine);
     return difference.any().path + ": " + before + " -> " + after + '\n';
 }
 
@@ -95,16 +41,16 @@ void writeSide(JsonWriter& json, std::string_view key, const Side& side) {
         json.null();
         return;
     }
-    json.beginObject().member("raw", rawText(side.reading->image, *side.field)).key("value");
+    json.beginObject().member("raw", side.raw()).key("value");
     fields::writeValue(json, side.field->value);
     json.member("text", side.field->text).endObject();
 }
 
-std::string toJson(const Options& options, const std::vector<Difference>& found) {
+std::string toJson(const Options& options, const std::vector<FieldPair>& found) {
     JsonWriter json;
     json.beginObject().member("schema", fields::jsonSchema);
     json.member("a", options.first).member("b", options.second).key("differences").beginArray();
-    for (const Difference& difference : found) {
+    for (const FieldPair& difference : found) {
         json.beginObject().member("path", difference.any().path).member("label", difference.any().label);
         writeSide(json, "a", difference.first);
         writeSide(json, "b", difference.second);
@@ -131,11 +77,11 @@ int run(const Options& options) {
     if (!first || !second) {
         return trouble;
     }
-    const std::vector<Difference> found = differences(*first, *second);
+    const std::vector<FieldPair> found = fields::differencesOf(*first, *second);
     if (outputFormatOf(options.format) == OutputFormat::Json) {
         print(toJson(options, found));
     } else {
-        for (const Difference& difference : found) {
+        for (const FieldPair& difference : found) {
             print(lineOf(difference));
         }
     }

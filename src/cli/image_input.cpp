@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <utility>
 
-#include "adapters/gzip.h"
+#include "adapters/recognise.h"
 #include "cli/cli_error.h"
 #include "forms/recogniser.h"
 
@@ -49,11 +49,8 @@ void addImageOptions(CLI::App& command, ImageOptions& options) {
 }
 
 Contents contentsOf(Input input, const ImageOptions& options) {
-    const forms::RecognitionOptions how{
-        .anyHeader = options.anyHeader, .form = options.form, .inflate = [](std::string_view bytes) {
-            return adapters::uncompressGzip(bytes);
-        }};
-    forms::Recognition recognition = forms::recognise(input.content, how);
+    forms::Recognition recognition =
+        adapters::recognise(input.content, {.anyHeader = options.anyHeader, .form = options.form, .inflate = {}});
     if (recognition.images.empty() && !recognition.isDataFile) {
         throw CliError(input.content.empty() ? "is empty" : "is no EDID image: " + recognition.refusal);
     }

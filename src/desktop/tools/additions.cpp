@@ -3,11 +3,13 @@
 #include <memory>
 
 #include "desktop/tools/keys_entry.h"
+#include "desktop/tools/tools_menu.h"
 
 namespace wb::desktop {
 
 void addTools(MainView& frame) {
     frame.attach(std::make_unique<KeysEntry>(frame));
+    frame.attach(std::make_unique<ToolsMenu>(frame));
 }
 
 } // namespace wb::desktop

@@ -45,6 +45,7 @@ public:
     QMenu& menu(const Control& top) const;
     /// Of a menu, an entry or a tool bar button, before which additions are inserted.
     QAction& entry(const Control& control) const;
+    LiveReading& liveReading() const { return actions().liveReading(); }
     void attach(std::unique_ptr<FrameAddition> addition);
     void refreshAdditions();
 

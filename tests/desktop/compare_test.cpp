@@ -1,0 +1,194 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTreeView>
+
+#include "core/base/text.h"
+#include "desktop/desktop_test.h"
+#include "desktop/tools/compare_window.h"
+#include "support/temporary_folder.h"
+
+namespace wb::test {
+namespace {
+
+/// The open image beside that of a file.
+class Compare : public DesktopTest {
+protected:
+    static std::string sample() { return TemporaryFolder::read(WORKBENCH_SOURCE_DIR "/samples/zarqo-z40.bin"); }
+    static std::string inHex(const std::string& bytes) {
+        std::string text;
+        for (const char byte : bytes) {
+            text += ByteToHex2(static_cast<unsigned char>(byte));
+            text += ' ';
+        }
+        return text;
+    }
+    QAction& entry() { return *program.frame().window().findChild<QAction*>("toolsCompare"); }
+    void compareWith(const std::string& file) {
+        program.platform.queueFileName(file);
+        entry().trigger();
+        DesktopProgram::settle();
+    }
+    desktop::CompareWindow* window() { return program.frame().window().findChild<desktop::CompareWindow*>(); }
+    QTreeView& table() { return *window()->findChild<QTreeView*>(); }
+    QPushButton& go() {
+        for (QPushButton* button : window()->findChildren<QPushButton*>()) {
+            if (button->text().remove('&') == "Go to Cell") {
+                return *button;
+            }
+        }
+        throw std::logic_error("no such button");
+    }
+    std::string text(int row, int column) {
+        return table().model()->index(row, column).data().toString().toStdString();
+    }
+    /// Label, both values and path of each row.
+    std::vector<std::string> rows() {
+        std::vector<std::string> found;
+        for (int row = 0; row < table().model()->rowCount(); ++row) {
+            found.push_back(text(row, 3) + ": " + text(row, 1) + " | " + text(row, 2));
+        }
+        return found;
+    }
+    bool says(const QString& words) {
+        for (const QLabel* label : window()->findChildren<QLabel*>()) {
+            if (label->text() == words) {
+                return true;
+            }
+        }
+        return false;
+    }
+    void choose(int row) { table().setCurrentIndex(table().model()->index(row, 0)); }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(Compare, StandsInAMenuBeforeHelp) {
+    QStringList titles;
+    for (const QAction* top : program.frame().window().menuBar()->actions()) {
+        titles += top->text();
+    }
+    EXPECT_EQ(titles.indexOf("&Tools"), titles.indexOf("&Help") - 1);
+    EXPECT_FALSE(entry().isEnabled()) << "nothing is open";
+    program.openSample("zarqo-z40.bin");
+    EXPECT_TRUE(entry().isEnabled());
+}
+
+TEST_F(Compare, ListsTheFieldsThatDiffer) {
+    program.openSample("zarqo-z40.bin");
+    std::string other = sample();
+    other[16] = 7; // a week of 1 in the sample
+    other[127] = static_cast<char>(other[127] - 6);
+    compareWith(folder.write("other.bin", other));
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(text(0, 3), "base.vendor.week");
+    EXPECT_EQ(table().model()->rowCount(), 2) << "and the check sum";
+    EXPECT_NE(text(0, 1), text(0, 2));
+    EXPECT_TRUE(says("2 fields differ."));
+    EXPECT_TRUE(says("The open image and other.bin"));
+    window()->findChild<QCheckBox*>()->click();
+    EXPECT_GT(table().model()->rowCount(), 100);
+    EXPECT_TRUE(says("2 fields differ."));
+}
+
+TEST_F(Compare, FollowsTheCells) {
+    program.openSample("zarqo-z40.bin");
+    compareWith(folder.write("same.bin", sample()));
+    EXPECT_TRUE(says("The images are the same."));
+    EXPECT_EQ(table().model()->rowCount(), 0);
+    program.act([&] { edid().txtEdit(23).setText("64"); }); // 100 in place of 120: gamma 2.00
+    EXPECT_TRUE(says("1 field differs."));
+    EXPECT_EQ(rows(), std::vector<std::string>{"base.basic.gamma: 2.00 | 2.20"});
+    program.act([&] { edid().txtEdit(23).setText("6"); });
+    EXPECT_TRUE(says("Cell 23 of block 0 holds \"6\", which is not a byte of two hexadecimal digits."));
+    EXPECT_EQ(table().model()->rowCount(), 0);
+    program.act([&] { edid().txtEdit(23).setText("78"); });
+    EXPECT_TRUE(says("The images are the same."));
+    program.act([&] { program.workbench.EDIDModified = flagFalse; });
+    program.act([&] { input::close(edid()); });
+    EXPECT_TRUE(says("No image is open."));
+}
+
+TEST_F(Compare, LeadsToTheCell) {
+    program.openSample("zarqo-z40.bin");
+    std::string other = sample();
+    other[23] = 100;
+    other[128 + 3] = 0; // the flags of the extension: F2 in the sample
+    compareWith(folder.write("other.bin", other));
+    choose(0);
+    ASSERT_EQ(text(0, 3), "base.basic.gamma");
+    go().click();
+    DesktopProgram::settle();
+    EXPECT_EQ(focused(), "frmEDID.txtEdit(23)");
+    choose(table().model()->rowCount() - 1);
+    emit table().activated(table().currentIndex());
+    DesktopProgram::settle();
+    EXPECT_EQ(focused(), "frmCEA_EXT.txtEdit(3)");
+    EXPECT_EQ(program.workbench.windows.activeChild()->name(), "frmCEA_EXT");
+}
+
+TEST_F(Compare, TakesNoPartInTheFocusOfTheProgram) {
+    program.openSample("zarqo-z40.bin");
+    focus(edid().txtEdit(40));
+    const std::vector<Screen*> children = program.workbench.windows.children();
+    std::string other = sample();
+    other[23] = 100;
+    compareWith(folder.write("other.bin", other));
+    EXPECT_EQ(focused(), "frmEDID.txtEdit(40)");
+    EXPECT_EQ(program.workbench.windows.children(), children);
+    table().setFocus();
+    DesktopProgram::settle();
+    EXPECT_TRUE(table().hasFocus()) << "until the user goes elsewhere";
+    window()->close();
+    DesktopProgram::settle();
+    EXPECT_EQ(focused(), "frmEDID.txtEdit(40)");
+}
+
+TEST_F(Compare, LetsTheUserPickOneOfSeveralImages) {
+    program.openSample("zarqo-z40.bin");
+    std::string other = sample().substr(0, 128);
+    other[126] = 0;
+    const std::string text =
+        "HDMI-1 connected\n\tEDID:\n\t\t" + inHex(sample()) + "\nDP-2 connected\n\tEDID:\n\t\t" + inHex(other) + "\n";
+    compareWith(folder.write("two.txt", text));
+    QComboBox& choice = *window()->findChild<QComboBox*>();
+    ASSERT_EQ(choice.count(), 2);
+    EXPECT_TRUE(choice.isVisible());
+    EXPECT_EQ(choice.itemText(0), "HDMI-1, 256 bytes");
+    EXPECT_EQ(choice.itemText(1), "DP-2, 128 bytes");
+    EXPECT_TRUE(says("The images are the same."));
+    choice.setCurrentIndex(1);
+    emit choice.activated(1);
+    EXPECT_EQ(this->text(0, 3), "base.extension_count");
+    EXPECT_EQ(this->text(table().model()->rowCount() - 1, 2), "(none)");
+    compareWith(folder.write("one.txt", inHex(sample())));
+    EXPECT_FALSE(choice.isVisible()) << "the same window, with another file";
+    EXPECT_EQ(program.frame().window().findChildren<desktop::CompareWindow*>().size(), 1);
+}
+
+TEST_F(Compare, AFieldThatOnlyTheFileHasLeadsNowhere) {
+    program.newImage(false);
+    compareWith(folder.write("sample.bin", sample()));
+    choose(table().model()->rowCount() - 1);
+    EXPECT_EQ(text(table().model()->rowCount() - 1, 1), "(none)");
+    EXPECT_FALSE(go().isEnabled());
+    choose(0);
+    EXPECT_TRUE(go().isEnabled());
+}
+
+TEST_F(Compare, TellsWhyThereIsNoImage) {
+    program.openSample("zarqo-z40.bin");
+    compareWith(folder.file("missing.bin"));
+    compareWith(folder.write("words.txt", "no image at all"));
+    compareWith({});
+    EXPECT_EQ(window(), nullptr);
+    const auto told = takeBoxes();
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_EQ(told[0], "missing.bin cannot be read: No such file or directory.");
+    EXPECT_EQ(told[1].rfind("words.txt holds no EDID image: ", 0), 0U);
+}
+
+} // namespace
+} // namespace wb::test
