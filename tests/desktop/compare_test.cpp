@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeView>
 
 #include "core/base/text.h"
@@ -91,6 +92,20 @@ TEST_F(Compare, ListsTheFieldsThatDiffer) {
     window()->findChild<QCheckBox*>()->click();
     EXPECT_GT(table().model()->rowCount(), 100);
     EXPECT_TRUE(says("2 fields differ."));
+}
+
+TEST_F(Compare, StandsOnTheScreenAndBesideTheFrameWhereThereIsRoom) {
+    program.openSample("zarqo-z40.bin");
+    compareWith(folder.write("same.bin", sample()));
+    const QRect room = window()->screen()->availableGeometry();
+    EXPECT_TRUE(room.contains(window()->geometry()));
+    const QRect frameNow = program.frame().window().frameGeometry();
+    const int needed = window()->width();
+    if (room.right() - frameNow.right() > needed + 100 && room.contains(frameNow)) {
+        EXPECT_FALSE(window()->geometry().intersects(frameNow));
+    } else {
+        EXPECT_GT(window()->x(), room.x());
+    }
 }
 
 TEST_F(Compare, FollowsTheCells) {

@@ -33,13 +33,13 @@ TEST_F(Frame, HasTheMenusWithTheirMnemonics) {
     for (const QAction* menu : window().menuBar()->actions()) {
         top += menu->text();
     }
-    EXPECT_EQ(top, QStringList({"&File", "&Window", "&Help"}));
+    EXPECT_EQ(top, QStringList({"&File", "&Window", "&Tools", "&Help"}));
     EXPECT_EQ(entriesOf(0),
               QStringList({"&New", "&Open...", "&Close", "-", "&Save", "Save &As...", "-", "Page Set&up...",
                            "Print Pre&view", "&Print...", "-", "&Export Hexadecimal EDID File", "&Hex Calculator",
                            "Retreive EDID Data", "Windows 2000 Base Location", "-", "E&xit"}));
     EXPECT_EQ(entriesOf(1), QStringList({"&Cascade", "Tile &Horizontal", "Tile &Vertical", "&Arrange Icons"}));
-    EXPECT_EQ(entriesOf(2), QStringList({"&Information", "&About ", "&Keys"}));
+    EXPECT_EQ(entriesOf(3), QStringList({"&Information", "&About ", "&Keys"}));
 }
 
 TEST_F(Frame, HasNothingToReadInASeparator) {

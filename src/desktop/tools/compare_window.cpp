@@ -11,6 +11,7 @@
 
 #include "desktop/base/own_focus.h"
 #include "desktop/base/text_codec.h"
+#include "desktop/tools/beside.h"
 #include "shell/go_to_byte.h"
 
 namespace wb::desktop {
@@ -49,6 +50,7 @@ CompareWindow::CompareWindow(MainView& frame)
     constexpr int high = 30;
     const QSize wanted(fontMetrics().averageCharWidth() * wide, fontMetrics().lineSpacing() * high);
     resize(wanted.boundedTo(frame.window().screen()->availableSize() * 0.9));
+    placeBeside(*this, frame.window());
 }
 
 void CompareWindow::makeHead(QBoxLayout& column) {
@@ -79,8 +81,8 @@ void CompareWindow::makeTable() {
 }
 
 void CompareWindow::sizeColumns() {
-    constexpr int labelCharacters = 34;
-    constexpr int valueCharacters = 28;
+    constexpr int labelCharacters = 30;
+    constexpr int valueCharacters = 24;
     const int character = table_->fontMetrics().averageCharWidth();
     table_->header()->resizeSection(CompareModel::Label, labelCharacters * character);
     table_->header()->resizeSection(CompareModel::Mine, valueCharacters * character);

@@ -11,6 +11,7 @@
 #include "core/base/image_layout.h"
 #include "desktop/base/live_reading.h"
 #include "desktop/base/own_focus.h"
+#include "desktop/tools/beside.h"
 #include "fields/modeline_timing.h"
 #include "shell/enter_timing.h"
 
@@ -56,6 +57,8 @@ TimingCalculator::TimingCalculator(MainView& frame)
     makeAnswer(*column);
     makeButtons(*column);
     takeShownTiming();
+    adjustSize();
+    placeBeside(*this, frame.window());
 }
 
 void TimingCalculator::makeQuestion(QBoxLayout& column) {
@@ -115,6 +118,8 @@ void TimingCalculator::makeAnswer(QBoxLayout& column) {
     column.addLayout(grid);
     line_->setReadOnly(true);
     line_->setAccessibleName("Modeline");
+    constexpr int lineCharacters = 84;
+    line_->setMinimumWidth(fontMetrics().averageCharWidth() * lineCharacters);
     column.addWidget(line_);
 }
 
