@@ -83,6 +83,28 @@ TEST_F(PanelPictures, PickOptions) {
     EXPECT_TRUE(edid().chkChroma(2).selected()); // Green X
 }
 
+TEST_F(PanelPictures, PickChecksAsAClickDoes) {
+    focus(edid().txtEdit(35)); // 21h: 640 x 480 and 800 x 600 at 60 Hz
+    clickAt("720x400 words");
+    EXPECT_TRUE(edid().ET1(0).selected());
+    EXPECT_EQ(edid().txtEdit(35).text(), "A1");
+    clickAt("720x400 words");
+    EXPECT_EQ(edid().txtEdit(35).text(), "21");
+}
+
+TEST_F(PanelPictures, HaveRoomOnTheScreenOfTheExtensionToo) {
+    program.platform.queueFileName(WORKBENCH_SOURCE_DIR "/samples/zarqo-z40.DAT");
+    program.act([&] { input::choose(frame().mnuFileOpen); });
+    program.act([&] { input::click(frame().Command4); });
+    focus(cea().txtEdit(29)); // its first timing
+    ASSERT_NE(shownIn(cea()), nullptr);
+    EXPECT_EQ(shownIn(cea())->accessibleName().toStdString(), "Detailed timing");
+    program.act([&] { input::click(frame().Command1); }); // which finds the places of the data blocks
+    focus(cea().txtEdit(19));                             // speakers
+    ASSERT_NE(shownIn(cea()), nullptr);
+    EXPECT_EQ(shownIn(cea())->accessibleDescription().toStdString(), "Front left/right.");
+}
+
 TEST_F(PanelPictures, PickNothingWhileEditingIsOff) {
     modify(); // off
     focus(edid().txtEdit(27));

@@ -26,7 +26,7 @@ constexpr std::array<Point, 3> standardTriangle = {{{0.64, 0.33}, {0.30, 0.60}, 
 constexpr QSizeF allColours(0.8, 0.9);
 constexpr int noOption = -1;
 
-/// White as red, green and blue; the others are extra white points of a descriptor.
+/// The first points are the corners of the triangle; white and the white points of descriptors follow.
 constexpr std::size_t primaryCount = 3;
 
 double areaOf(const Point& a, const Point& b, const Point& c) {
@@ -165,7 +165,7 @@ Picture drawChromaticity(const Values& values, const Canvas& canvas) {
     const bool hasTriangle = points.size() > primaryCount;
     Sketch sketch(canvas.size, canvas.font);
     drawLegend(sketch, points);
-    sketch.leave(sketch.width("0.0 "), sketch.lineHeight() / 2, 0, sketch.lineHeight());
+    sketch.leave(sketch.width("0.0 "), sketch.lineHeight() / 2, sketch.width("0.0") / 2, sketch.lineHeight());
     const Diagram diagram(sketch.room(), rangeOf(points));
     drawAxes(sketch, diagram);
     sketch.area(diagram.at(spectralLocus), Ink::None, Ink::Text).name = "locus";

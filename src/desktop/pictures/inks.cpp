@@ -43,6 +43,8 @@ QColor inkColour(Ink ink, const QPalette& palette) {
         }
     }
     switch (ink) {
+        case Ink::Ground:
+            return ground;
         case Ink::Faint:
             return between(text, ground, faintness);
         case Ink::Grid:

@@ -16,8 +16,9 @@ namespace wb::desktop {
 enum class Ink : std::uint8_t {
     None,
     Text,
-    Faint, ///< axes, and what the image does not have
-    Grid,  ///< lines that help to read
+    Ground, ///< hides what is below
+    Faint,  ///< axes, and what the image does not have
+    Grid,   ///< lines that help to read
     Screen,
     Blanking,
     Sync,

@@ -43,24 +43,38 @@ Shape& Sketch::words(const QPointF& point, Qt::Alignment alignment, const QStrin
         Shape{.kind = Shape::Kind::Words, .points = QPolygonF(box), .line = ink, .words = words});
 }
 
-void Sketch::addLegend(const std::vector<LegendLine>& lines) {
+double Sketch::widthOf(const std::vector<LegendLine>& lines) const {
     double widest = 0;
     for (const LegendLine& line : lines) {
         widest = std::max(widest, width(line.words));
     }
-    const double em = lineHeight();
-    const double wide = (swatchWidth + swatchGap) * em + widest;
-    const double high = static_cast<double>(lines.size()) * em;
-    const bool isBeside = room_.width() - wide >= room_.height() - high;
-    QPointF at = isBeside ? QPointF(room_.right() - wide, room_.top()) : QPointF(room_.left(), room_.bottom() - high);
+    return (swatchWidth + swatchGap) * lineHeight() + widest;
+}
+
+void Sketch::addLegend(const std::vector<LegendLine>& lines) {
+    const double high = static_cast<double>(lines.size()) * lineHeight();
+    if (room_.width() - widthOf(lines) >= room_.height() - high) {
+        addLegendBeside(lines);
+        return;
+    }
+    addLegendAt({room_.left(), room_.bottom() - high}, lines);
+    leave(0, 0, 0, high + legendGap * lineHeight() / 2);
+}
+
+void Sketch::addLegendBeside(const std::vector<LegendLine>& lines) {
+    const double wide = widthOf(lines);
+    addLegendAt({room_.right() - wide, room_.top()}, lines);
+    leave(0, 0, wide + legendGap * lineHeight(), 0);
+}
+
+void Sketch::addLegendAt(QPointF at, const std::vector<LegendLine>& lines) {
     const double end = room_.bottom() + 1; // lengths that add up to the room may miss it by a rounding
     for (const LegendLine& line : lines) {
-        if (at.y() + em <= end) {
-            addLegendLine(line, at + QPointF(0, em / 2));
+        if (at.y() + lineHeight() <= end) {
+            addLegendLine(line, at + QPointF(0, lineHeight() / 2));
         }
-        at.ry() += em;
+        at.ry() += lineHeight();
     }
-    leave(0, 0, isBeside ? wide + legendGap * em : 0, isBeside ? 0 : high + legendGap * em / 2);
 }
 
 void Sketch::addLegendLine(const LegendLine& line, const QPointF& left) {

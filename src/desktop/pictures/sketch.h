@@ -41,10 +41,14 @@ public:
     /// Puts the lines beside the drawing or, where the room is high, below it, and takes their room away. Lines that
     /// find no room are left out.
     void addLegend(const std::vector<LegendLine>& lines);
+    /// The same beside the drawing in any case.
+    void addLegendBeside(const std::vector<LegendLine>& lines);
 
     std::vector<Shape> take() { return std::move(shapes_); }
 
 private:
+    double widthOf(const std::vector<LegendLine>& lines) const;
+    void addLegendAt(QPointF at, const std::vector<LegendLine>& lines);
     void addLegendLine(const LegendLine& line, const QPointF& left);
     void addSwatch(const LegendLine& line, const QRectF& place);
 

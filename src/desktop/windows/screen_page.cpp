@@ -14,6 +14,7 @@
 #include "desktop/views/document_view.h"
 #include "desktop/views/label_view.h"
 #include "desktop/views/text_view.h"
+#include "desktop/windows/panel_picture.h"
 
 namespace wb::desktop {
 
@@ -100,6 +101,8 @@ ScreenPage::ScreenPage(Screen& screen, UserActions& actions)
         picture_ = std::make_unique<PanelPicture>(*block, views_, actions);
     }
 }
+
+ScreenPage::~ScreenPage() = default;
 
 void ScreenPage::refreshPicture() {
     if (picture_ != nullptr) {
@@ -218,8 +221,12 @@ Control* ScreenPage::otherSide(const Control* from) const {
     return nullptr;
 }
 
+// A panel of block 0 leaves room for a picture below a timing, as another one is much higher; one of the extension
+// would not.
 QSize ScreenPage::sizeHint() const {
-    return minimumSizeHint();
+    constexpr int pictureLines = 11;
+    const int lines = screen_.id() == ScreenId::CeaExt ? pictureLines : 0;
+    return minimumSizeHint() + QSize(0, lines * fontMetrics().height());
 }
 
 QSize ScreenPage::minimumSizeHint() const {

@@ -6,17 +6,19 @@
 
 #include "desktop/layouts/layout.h"
 #include "desktop/views/control_view.h"
-#include "desktop/windows/panel_picture.h"
 
 class QGridLayout;
 
 namespace wb::desktop {
+
+class PanelPicture;
 
 /// The inside of a window: the widgets of one screen, placed by its layout table. It never asks for less room than it
 /// once did, so that panels that come and go do not shake the window.
 class ScreenPage : public QWidget {
 public:
     ScreenPage(Screen& screen, UserActions& actions);
+    ~ScreenPage() override;
 
     const std::vector<std::unique_ptr<ControlView>>& views() const { return views_; }
     void refreshTabStops();
