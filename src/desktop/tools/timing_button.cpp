@@ -28,7 +28,15 @@ QToolButton* makeButton(QWidget& box, QAction& command) {
     auto* grid = static_cast<QGridLayout*>(box.parentWidget()->layout());
     GridPlace place{};
     grid->getItemPosition(grid->indexOf(&box), &place.row, &place.column, &place.rows, &place.columns);
-    grid->addWidget(button, place.row, place.column + place.columns, Qt::AlignLeft);
+    grid->removeWidget(&box);
+    auto* row = new QHBoxLayout;
+    row->addWidget(&box);
+    row->addWidget(button);
+    row->addStretch(1);
+    grid->addLayout(row, place.row, place.column, place.rows, place.columns);
+    QSizePolicy policy = box.sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // fields without a box of their own hide it
+    box.setSizePolicy(policy);
     return button;
 }
 

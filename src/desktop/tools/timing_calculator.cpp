@@ -118,8 +118,9 @@ void TimingCalculator::makeAnswer(QBoxLayout& column) {
     column.addLayout(grid);
     line_->setReadOnly(true);
     line_->setAccessibleName("Modeline");
-    constexpr int lineCharacters = 84;
-    line_->setMinimumWidth(fontMetrics().averageCharWidth() * lineCharacters);
+    const QString example(
+        R"( Modeline "3840x2160_60.00"  712.75  3840 4160 4576 5312  2160 2163 2168 2237 -hsync +vsync )");
+    line_->setMinimumWidth(fontMetrics().horizontalAdvance(example));
     column.addWidget(line_);
 }
 
