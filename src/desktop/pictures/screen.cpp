@@ -44,7 +44,7 @@ Picture drawSize(double width, double height, const Canvas& canvas) {
     sketch.leave(1, 1, sketch.width(high) + em / 2, em * 1.2);
     const QRectF place = fitted(sketch.room(), width / height);
     sketch.area(QPolygonF(place), Ink::Screen, Ink::Text).name = "screen";
-    sketch.path(QPolygonF({place.bottomLeft(), place.topRight()}), Ink::Grid).name = "diagonal";
+    sketch.path(QPolygonF({place.bottomLeft(), place.topRight()}), Ink::Faint).name = "diagonal";
     drawRuler(sketch, place.bottomLeft() + QPointF(em / 2, -em / 2), rulerFor(width), place.width() / width);
     sketch.words(place.center(), Qt::AlignCenter, diagonalText(width, height)).name = "diagonal words";
     Shape& wide = sketch.words({place.center().x(), place.bottom() + em * 0.1}, Qt::AlignHCenter | Qt::AlignTop,
