@@ -38,8 +38,9 @@ std::string edidFromReader(Workbench& workbench) {
 }
 
 /// The cell text for the byte at `index`; a missing byte is a failure.
-std::string cellTextOf(const std::string& data, int index) {
-    return ByteToHex2(characterCode(middlePart(data, static_cast<std::size_t>(index) + 1, 1)));
+std::string cellTextOf(std::string_view data, int index) {
+    const auto place = std::min(static_cast<std::size_t>(index), data.size());
+    return ByteToHex2(characterCode(data.substr(place, 1)));
 }
 
 void openScreen(Workbench& workbench) {

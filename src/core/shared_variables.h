@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
@@ -19,16 +20,28 @@ constexpr Flag flag(bool value) {
 }
 
 /// An array of texts with a checked index: outside it is a SubscriptOutOfRange failure. It has no elements until it is
-/// created.
+/// created. What it once held lends its room to what it holds next.
 class TextArray {
 public:
     TextArray() = default;
-    explicit TextArray(int count) : texts_(static_cast<std::size_t>(count)) {}
+    explicit TextArray(int count) { create(count); }
+    TextArray(const TextArray& other) { *this = other; }
+    TextArray& operator=(const TextArray& other) {
+        resize(other.size_);
+        std::copy_n(other.texts_.begin(), size_, texts_.begin());
+        return *this;
+    }
+    ~TextArray() = default;
 
     /// Creates the array anew with empty elements 0 to count - 1.
-    void create(int count) { texts_.assign(static_cast<std::size_t>(count > 0 ? count : 0), std::string()); }
-    int size() const { return static_cast<int>(texts_.size()); }
-    bool operator==(const TextArray&) const = default;
+    void create(int count) {
+        resize(count);
+        std::for_each_n(texts_.begin(), size_, [](std::string& text) { text.clear(); });
+    }
+    int size() const { return size_; }
+    bool operator==(const TextArray& other) const {
+        return size_ == other.size_ && std::equal(texts_.begin(), texts_.begin() + size_, other.texts_.begin());
+    }
     std::string& operator()(int index) { return texts_[checked(index)]; }
     const std::string& operator()(int index) const { return texts_[checked(index)]; }
 
@@ -39,8 +52,13 @@ private:
         }
         return static_cast<std::size_t>(index);
     }
+    void resize(int count) {
+        size_ = std::max(count, 0);
+        texts_.resize(std::max(texts_.size(), static_cast<std::size_t>(size_)));
+    }
 
-    std::vector<std::string> texts_;
+    int size_ = 0;
+    std::vector<std::string> texts_; ///< that many, or more from before
 };
 
 /// The shared variables of the running program. Decoded texts and block locations live as long as the program, not as

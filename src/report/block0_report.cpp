@@ -1,5 +1,6 @@
 #include "report/block0_report.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/base/image_layout.h"
@@ -136,6 +137,9 @@ int putStandardTimings(Workbench& workbench, TextArray& lines) {
     return entry + 1;
 }
 
+constexpr int entriesOfBlock = 3;
+constexpr int entriesOfEnd = 4;
+
 /// Gives the entry after the last block, which holds an empty line that the next part overwrites.
 int putDetailedBlocks(Workbench& workbench, TextArray& lines, int entry) {
     for (int block = 0; block < detailedBlockCount; ++block) {
@@ -161,6 +165,18 @@ void putEnd(Workbench& workbench, TextArray& lines, int entry) {
 }
 
 } // namespace
+
+bool fitsBlock0Report(const Workbench& workbench) {
+    const int timings = workbench.StandardTimingText.size();
+    if (timings > reportEntries || workbench.DetailedBlockText.size() < detailedBlockCount) {
+        return false;
+    }
+    int entry = StandardTimingsEntry + timings * std::max(timings - 1, 0) / 2 + 1;
+    for (int block = 0; block < detailedBlockCount; ++block) {
+        entry += workbench.DetailedBlockText(block).empty() ? 0 : entriesOfBlock;
+    }
+    return entry + entriesOfEnd <= reportEntries;
+}
 
 void layOutBlock0Report(Workbench& workbench) {
     TextArray& lines = workbench.ReportBlock0Lines;

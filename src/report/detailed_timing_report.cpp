@@ -77,7 +77,9 @@ void addDirection(std::string& lines, const TimingTexts& texts, const Direction&
 } // namespace
 
 void putTimingReport(std::string& report, const TimingTexts& texts) {
+    constexpr std::size_t usualSize = 800;
     report.clear();
+    report.reserve(usualSize);
     addTitle(report, texts);
     addDirection(report, texts, horizontal);
     addDirection(report, texts, vertical);

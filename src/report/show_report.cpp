@@ -30,8 +30,7 @@ void openWindow(Workbench& workbench, bool hidden) {
     workbench.platform.eventLoop.processPending();
 }
 
-void begin(Workbench& workbench, bool hidden) {
-    BuildBlock0Report(workbench);
+void openWindowIfClosed(Workbench& workbench, bool hidden) {
     if (workbench.DocumentOpen == flagFalse) {
         openWindow(workbench, hidden);
     }
@@ -103,15 +102,19 @@ bool showLastPass(Workbench& workbench, bool hidden, int count) {
 void ShowReport(Workbench& workbench, bool hidden, Passes how) {
     const Step step(workbench, "building the report");
     for (int pass = 0; pass < passes; ++pass) {
-        if (how == Passes::LastWhereAlike && showLastPass(workbench, hidden, passes - pass)) {
-            return;
-        }
         if (workbench.EDIDLoaded == flagFalse) {
             continue;
         }
-        begin(workbench, hidden);
-        if (how == Passes::LastWhereAlike && showLastPass(workbench, hidden, passes - pass)) {
-            return;
+        const bool skip = how == Passes::LastWhereAlike && fitsBlock0Report(workbench);
+        if (!skip) {
+            BuildBlock0Report(workbench);
+        }
+        openWindowIfClosed(workbench, hidden);
+        if (skip) {
+            if (showLastPass(workbench, hidden, passes - pass)) {
+                return;
+            }
+            BuildBlock0Report(workbench);
         }
         finish(workbench, hidden);
     }
