@@ -101,7 +101,7 @@ void LoadStoredEdid(Workbench& workbench, std::string data) {
             cea::BuildCEA_EXT_Definations(workbench);
         }
         workbench.CurrentFileName.clear();
-        rememberChecksum(workbench);
+        noteLoaded(workbench);
         workbench.focus.moveTo(screen);
         workbench.EDIDModified = flagFalse;
     });

@@ -12,6 +12,7 @@
 #include "cli/output.h"
 #include "core/base/file_names.h"
 #include "core/base/text.h"
+#include "core/edid_image.h"
 #include "files/save.h"
 #include "shell/lifecycle.h"
 
@@ -111,7 +112,7 @@ void save(Session& session, const Arguments& arguments) {
         }
         writeFile(name, files::dataFileContent(workbench), Existing::Replace);
         workbench.CurrentFileName = name;
-        workbench.EDIDModified = flagFalse;
+        noteSaved(workbench);
     });
 }
 

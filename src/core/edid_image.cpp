@@ -24,9 +24,19 @@ void noteChecksum(Workbench& workbench, const std::string& checksumText) {
     }
 }
 
-void rememberChecksum(Workbench& workbench) {
+void noteLoaded(Workbench& workbench) {
     workbench.Block0ChecksumAsLoaded = workbench.frmEDID().txtEdit(checksumCell).text();
     workbench.Block0ChecksumLast = workbench.Block0ChecksumAsLoaded;
+    if (workbench.history != nullptr) {
+        workbench.history->imageLoaded();
+    }
+}
+
+void noteSaved(Workbench& workbench) {
+    workbench.EDIDModified = flagFalse;
+    if (workbench.history != nullptr) {
+        workbench.history->imageSaved();
+    }
 }
 
 std::string checksumTextFor(int sum) {

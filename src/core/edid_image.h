@@ -23,8 +23,12 @@ void RecalcBlock0Checksum(Workbench& workbench);
 /// loaded one. Where it is not the last one that was noted, it becomes that, and EDIDRedecodeNeeded is set.
 void noteChecksum(Workbench& workbench, const std::string& checksumText);
 
-/// Takes the check sum of block 0 as that of the image as it was loaded.
-void rememberChecksum(Workbench& workbench);
+/// The cells hold another image: takes the check sum of block 0 as that of the image as it was loaded, and the
+/// history begins anew.
+void noteLoaded(Workbench& workbench);
+
+/// A data file holds the image: EDIDModified is false.
+void noteSaved(Workbench& workbench);
 
 /// The text of a check sum cell for that sum of the other cells modulo 256 (0 to 255).
 std::string checksumTextFor(int sum);

@@ -122,6 +122,9 @@ void Focus::runGotFocus(bool calledBack) {
 void Focus::enter(Control& control) {
     current_ = &control;
     control.screen().setLastFocus(&control);
+    if (workbench_->history != nullptr) {
+        workbench_->history->focusEntered(control);
+    }
     workbench_->windows.reveal(control.screen()); // a handler may have hidden it since it was asked for
     workbench_->windows.raise(control.screen());
 }

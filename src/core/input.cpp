@@ -1,5 +1,7 @@
 #include "core/input.h"
 
+#include <utility>
+
 #include "core/base/text.h"
 #include "core/keys.h"
 
@@ -63,6 +65,12 @@ void runKey(Workbench& workbench, Control& control, char character, int code) {
     keyUp(workbench, control, code);
 }
 
+/// Runs an action of the user on a control.
+template <class Action>
+void act(Control& control, Deed deed, Action&& action) {
+    control.screen().workbench().runUserAction(deed, &control, std::forward<Action>(action));
+}
+
 Control* focused(Workbench& workbench) {
     Control* control = workbench.focus.current();
     return control != nullptr && reachable(*control) ? control : nullptr;
@@ -84,7 +92,7 @@ bool click(Control& control) {
     if (!reachable(control)) {
         return false;
     }
-    control.screen().workbench().runAction([&] {
+    act(control, Deed::Other, [&] {
         if (control.takesFocus()) {
             control.screen().workbench().focus.moveTo(control);
         }
@@ -104,7 +112,7 @@ bool doubleClick(Control& control) {
     if (!reachable(control)) {
         return false;
     }
-    control.screen().workbench().runAction([&] {
+    act(control, Deed::DoubleClick, [&] {
         if (control.handlers().dblClick != nullptr) {
             control.handlers().dblClick(control.screen().workbench(), control.index());
         }
@@ -116,7 +124,7 @@ bool moveFocus(Control& control) {
     if (!reachable(control) || !control.takesFocus()) {
         return false;
     }
-    control.screen().workbench().runAction([&] { control.screen().workbench().focus.moveTo(control); });
+    act(control, Deed::Other, [&] { control.screen().workbench().focus.moveTo(control); });
     return true;
 }
 
@@ -124,7 +132,7 @@ bool pick(Control& combo, int row) {
     if (!reachable(combo)) {
         return false;
     }
-    combo.screen().workbench().runAction([&] {
+    act(combo, Deed::Other, [&] {
         combo.screen().workbench().focus.moveTo(combo);
         combo.changeValue(row);
         combo.raiseClick();
@@ -141,7 +149,7 @@ bool typeCharacter(Workbench& workbench, char character, int code) {
     if (control == nullptr) {
         return false;
     }
-    workbench.runAction([&] { runKey(workbench, *control, character, code); });
+    act(*control, Deed::Key, [&] { runKey(workbench, *control, character, code); });
     return true;
 }
 
@@ -155,7 +163,7 @@ bool keyCode(Workbench& workbench, int code) {
         return false;
     }
     Control* control = focused(workbench);
-    workbench.runAction([&] {
+    workbench.runUserAction(Deed::Key, control, [&] {
         if (control != nullptr && &control->screen() == active) {
             keyUp(workbench, *control, code);
         } else if (active->keyUp != nullptr) {
@@ -170,7 +178,7 @@ bool edit(Control& control, const std::string& text, int selectionStart, int sel
         return false;
     }
     Workbench& workbench = control.screen().workbench();
-    workbench.runAction([&] {
+    act(control, Deed::Key, [&] {
         if (!control.locked()) {
             control.setText(text);
         }
@@ -190,7 +198,7 @@ bool choose(Control& entry) {
     if (!reachable(entry)) {
         return false;
     }
-    entry.screen().workbench().runAction([&] { entry.raiseClick(); });
+    act(entry, Deed::Other, [&] { entry.raiseClick(); });
     return true;
 }
 
@@ -212,7 +220,7 @@ bool close(Screen& screen) {
         return false;
     }
     Workbench& workbench = screen.workbench();
-    workbench.runAction([&] { workbench.close(screen); });
+    workbench.runUserAction(Deed::Other, nullptr, [&] { workbench.close(screen); });
     return true;
 }
 
@@ -220,7 +228,7 @@ bool activate(Screen& screen) {
     if (!reachable(screen)) {
         return false;
     }
-    screen.workbench().runAction([&] { screen.workbench().focus.moveTo(screen); });
+    screen.workbench().runUserAction(Deed::Other, nullptr, [&] { screen.workbench().focus.moveTo(screen); });
     return true;
 }
 
@@ -240,7 +248,7 @@ void resized(FrmDocument& document, int width, int height) {
     document.innerHeight = height;
     if (document.resize != nullptr) {
         Workbench& workbench = document.workbench();
-        workbench.runAction([&] { document.resize(workbench); });
+        workbench.runUserAction(Deed::Other, nullptr, [&] { document.resize(workbench); });
     }
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/change_history.h"
 #include "core/focus.h"
 #include "core/screens/frm_cea_ext.h"
 #include "core/screens/frm_edid.h"
@@ -87,12 +88,29 @@ struct Workbench : SharedVariables {
         }
     }
 
+    /// The same for what the user caused, on a control or on none, which the history is told of. An action inside
+    /// another one is a part of it.
+    template <class Action>
+    void runUserAction(Deed deed, const Control* control, Action&& action) {
+        {
+            const UserActionDepth depth(*this);
+            if (userActionDepth_ == 1 && history != nullptr) {
+                history->actionBegins(deed, control);
+            }
+            runAction(std::forward<Action>(action));
+        }
+        if (userActionDepth_ == 0 && history != nullptr) {
+            history->actionEnded();
+        }
+    }
+
     const platform::Services& platform;
     Focus focus;
     Windows windows;
-    View* view = nullptr;  ///< who draws the screens; null where nobody does
-    bool ended = false;    ///< the program has ended; nothing is in the user's reach any more
-    std::string_view step; ///< what it is doing, where that is named (core/step.h)
+    View* view = nullptr;                   ///< who draws the screens; null where nobody does
+    bool ended = false;                     ///< the program has ended; nothing is in the user's reach any more
+    std::string_view step;                  ///< what it is doing, where that is named (core/step.h)
+    std::unique_ptr<ChangeHistory> history; ///< null where the changes of the user need not be remembered
 
 private:
     class ActionDepth {
@@ -105,6 +123,17 @@ private:
                 workbench_.retired_.clear();
             }
         }
+
+    private:
+        Workbench& workbench_;
+    };
+
+    class UserActionDepth {
+    public:
+        explicit UserActionDepth(Workbench& workbench) : workbench_(workbench) { ++workbench_.userActionDepth_; }
+        UserActionDepth(const UserActionDepth&) = delete;
+        UserActionDepth& operator=(const UserActionDepth&) = delete;
+        ~UserActionDepth() { --workbench_.userActionDepth_; }
 
     private:
         Workbench& workbench_;
@@ -127,6 +156,7 @@ private:
     std::array<std::unique_ptr<Screen>, screenCount> spare_;  ///< of the starts before, as they were left
     std::array<std::unique_ptr<Screen>, screenCount> asMade_; ///< what a spare one is put back to
     int actionDepth_ = 0;
+    int userActionDepth_ = 0;
 };
 
 /// The usual trap of a procedure: a failure is shown, the procedure is left with its state as it stands.

@@ -52,7 +52,7 @@ bool saveOnce(Workbench& workbench) {
         }
     }
     writeImage(workbench);
-    workbench.EDIDModified = flagFalse;
+    noteSaved(workbench);
     return true;
 }
 

@@ -22,6 +22,10 @@ void close(Session& session, const Arguments& arguments);
 void drop(Session& session, const Arguments& arguments);
 void goToByte(Session& session, const Arguments& arguments);
 void timing(Session& session, const Arguments& arguments);
+void undo(Session& session, const Arguments& arguments);
+void redo(Session& session, const Arguments& arguments);
+void paste(Session& session, const Arguments& arguments);
+void find(Session& session, const Arguments& arguments);
 
 // What is read from the program and written into it, past the user.
 void poke(Session& session, const Arguments& arguments);
@@ -33,6 +37,7 @@ void cells(Session& session, const Arguments& arguments);
 void focused(Session& session, const Arguments& arguments);
 void windows(Session& session, const Arguments& arguments);
 void report(Session& session, const Arguments& arguments);
+void history(Session& session, const Arguments& arguments);
 void call(Session& session, const Arguments& arguments);
 void run(Session& session, const Arguments& arguments);
 

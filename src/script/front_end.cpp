@@ -2,11 +2,18 @@
 
 #include "core/input.h"
 #include "shell/enter_timing.h"
+#include "shell/find_bytes.h"
 #include "shell/go_to_byte.h"
+#include "shell/history.h"
 #include "shell/lifecycle.h"
+#include "shell/paste_bytes.h"
 #include "shell/startup.h"
 
 namespace wb::script {
+
+ModelFrontEnd::ModelFrontEnd(Workbench& workbench) : workbench_(&workbench) {
+    shell::keepHistory(workbench);
+}
 
 void ModelFrontEnd::start() {
     workbench_->runAction([&] { shell::Main(*workbench_); });
@@ -62,6 +69,14 @@ bool ModelFrontEnd::goToByte(int byte) {
 
 bool ModelFrontEnd::enterTiming(int byte, const fields::Modeline& modeline) {
     return shell::enterTiming(*workbench_, byte, modeline);
+}
+
+bool ModelFrontEnd::paste(const std::string& text) {
+    return shell::pasteBytes(*workbench_, text).all;
+}
+
+bool ModelFrontEnd::find(const std::string& text, bool forward) {
+    return shell::findBytes(*workbench_, text, forward ? shell::Direction::Forward : shell::Direction::Backward);
 }
 
 } // namespace wb::script

@@ -37,12 +37,19 @@ public:
     virtual bool goToByte(int byte) = 0;
     /// Enters a timing into the detailed block that begins at a byte of the image.
     virtual bool enterTiming(int byte, const fields::Modeline& modeline) = 0;
+    /// Takes the last change of the image back, and makes it again.
+    virtual bool undo() = 0;
+    virtual bool redo() = 0;
+    /// Pastes pairs of digits from the cell that has the focus on; false where some are left.
+    virtual bool paste(const std::string& text) = 0;
+    /// Looks for bytes or a text in the cells, behind the one that has the focus or in front of it.
+    virtual bool find(const std::string& text, bool forward) = 0;
 };
 
-/// Acts on the model directly, without any view.
+/// Acts on the model directly, without any view. The program remembers the changes from then on.
 class ModelFrontEnd : public FrontEnd {
 public:
-    explicit ModelFrontEnd(Workbench& workbench) : workbench_(&workbench) {}
+    explicit ModelFrontEnd(Workbench& workbench);
 
     void start() override;
     bool click(Control& control) override;
@@ -58,6 +65,10 @@ public:
     bool drop(const std::string& name) override;
     bool goToByte(int byte) override;
     bool enterTiming(int byte, const fields::Modeline& modeline) override;
+    bool undo() override { return workbench_->history->undo(); }
+    bool redo() override { return workbench_->history->redo(); }
+    bool paste(const std::string& text) override;
+    bool find(const std::string& text, bool forward) override;
 
 private:
     Workbench* workbench_;

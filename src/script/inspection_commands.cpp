@@ -86,6 +86,12 @@ void report(Session& session, const Arguments&) {
     printBlock(session, "report", document == nullptr ? std::string() : document->rtftext.text());
 }
 
+void history(Session& session, const Arguments&) {
+    const auto words = [](const std::string& name) { return name.empty() ? "none" : quoted(name); };
+    printValue(session, "undo", words(session.workbench.history->undoName()));
+    printValue(session, "redo", words(session.workbench.history->redoName()));
+}
+
 void call(Session& session, const Arguments& arguments) {
     const std::string& name = arguments[0].text;
     const Callable& helper = helperNamed(name);

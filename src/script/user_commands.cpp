@@ -1,4 +1,5 @@
 #include "core/base/digits.h"
+#include "core/base/text.h"
 #include "script/commands.h"
 #include "script/control_names.h"
 #include "script/script_error.h"
@@ -134,6 +135,34 @@ void goToByte(Session& session, const Arguments& arguments) {
     const int byte = numberIn(arguments[0]);
     if (!session.frontEnd.goToByte(byte)) {
         refuse(session, "byte " + std::to_string(byte));
+    }
+}
+
+void undo(Session& session, const Arguments&) {
+    if (!session.frontEnd.undo()) {
+        refuse(session, "undo");
+    }
+}
+
+void redo(Session& session, const Arguments&) {
+    if (!session.frontEnd.redo()) {
+        refuse(session, "redo");
+    }
+}
+
+void paste(Session& session, const Arguments& arguments) {
+    if (!session.frontEnd.paste(arguments[0].text)) {
+        refuse(session, "paste at " + keyTarget(session.workbench));
+    }
+}
+
+void find(Session& session, const Arguments& arguments) {
+    const bool forward = arguments.size() == 1;
+    if (!forward && arguments[1].text != "back") {
+        throw ScriptError("a search goes on or 'back', not '" + arguments[1].text + "'");
+    }
+    if (!session.frontEnd.find(arguments[0].text, forward)) {
+        refuse(session, "find " + quoted(arguments[0].text));
     }
 }
 

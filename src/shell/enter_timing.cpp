@@ -7,6 +7,7 @@
 #include "core/input.h"
 #include "fields/modeline_timing.h"
 #include "report/detailed_timing_layout.h"
+#include "shell/cell_typing.h"
 #include "shell/go_to_byte.h"
 
 namespace wb::shell {
@@ -22,7 +23,7 @@ constexpr std::size_t lastSizeCell = 14;
 class Entry {
 public:
     Entry(Workbench& workbench, BlockScreen& screen, int firstByte, const TimingBytes& wanted)
-        : workbench_(workbench), screen_(screen), firstByte_(firstByte), wanted_(wanted) {}
+        : workbench_(workbench), typing_(workbench), screen_(screen), firstByte_(firstByte), wanted_(wanted) {}
 
     bool run();
 
@@ -33,18 +34,17 @@ private:
     bool isRight(int cell) const { return screen_.txtEdit(base() + cell).text() == ByteToHex2(wantedOf(cell)); }
     bool allRight() const;
 
-    bool goTo(int cell);
+    bool goTo(int cell) { return typing_.goTo(firstByte_ + cell); }
     void enterNumber(int field);
     void enterFlags();
     void clickWhereDifferent(BitRange bits, Control& control);
     void typeCells();
-    void type(std::string_view keys);
 
     Workbench& workbench_;
+    CellTyping typing_;
     BlockScreen& screen_;
     int firstByte_;
     const TimingBytes& wanted_;
-    bool changed_ = false;
 };
 
 /// What a cell holds; 0 where that is no byte.
@@ -61,20 +61,6 @@ bool Entry::allRight() const {
     return true;
 }
 
-void Entry::type(std::string_view keys) {
-    for (const char key : keys) {
-        input::typeCharacter(workbench_, key);
-    }
-}
-
-/// Without the report that an open window would show after each number: one at the end will do, and so many builds
-/// would move the timings of the extension out of it.
-bool Entry::goTo(int cell) {
-    changed_ = changed_ || workbench_.EDIDRedecodeNeeded != flagFalse;
-    workbench_.EDIDRedecodeNeeded = flagFalse;
-    return goToByte(workbench_, firstByte_ + cell);
-}
-
 void Entry::enterNumber(int field) {
     const SplitField& layout = report::timingFields[static_cast<std::size_t>(field)];
     const bool split = layout.upper.cell >= 0;
@@ -86,7 +72,8 @@ void Entry::enterNumber(int field) {
     }
     constexpr double stepsOfMegahertz = 100;
     input::select(screen_.DTInput, 0, static_cast<int>(screen_.DTInput.text().size()));
-    type(field == report::PixelClock ? formatNumber(number / stepsOfMegahertz, "0.00") : std::to_string(number));
+    typing_.type(field == report::PixelClock ? formatNumber(number / stepsOfMegahertz, "0.00")
+                                             : std::to_string(number));
     input::enter(workbench_);
 }
 
@@ -113,12 +100,9 @@ void Entry::typeCells() {
     constexpr int most = 3;
     for (int pass = 0; pass < most && !allRight(); ++pass) {
         for (int cell = 0; cell < detailedBlockSize; ++cell) {
-            if (isRight(cell) || !goTo(cell)) {
-                continue;
+            if (!isRight(cell)) {
+                typing_.typeCell(firstByte_ + cell, ByteToHex2(wantedOf(cell)));
             }
-            Control& text = screen_.txtEdit(base() + cell);
-            input::select(text, 0, static_cast<int>(text.text().size()));
-            type(ByteToHex2(wantedOf(cell)));
         }
     }
 }
@@ -129,9 +113,6 @@ bool Entry::run() {
     }
     enterFlags();
     typeCells();
-    if (changed_) {
-        workbench_.EDIDRedecodeNeeded = flagTrue;
-    }
     return allRight();
 }
 
@@ -173,17 +154,9 @@ bool enterTiming(Workbench& workbench, int byte, const fields::Modeline& modelin
         return false;
     }
     keepSizeAndStereo(screen, base, wanted);
-    Control& seek = workbench.frmMain().Command3;
-    const bool seeks = workbench.AutoCellSeekOn != flagFalse; // which lets nobody type into cells
     bool done = false;
-    workbench.runAction([&] {
-        if (seeks) {
-            input::click(seek);
-        }
+    workbench.runUserAction(Deed::Other, nullptr, [&] {
         done = Entry(workbench, screen, byte, wanted).run();
-        if (seeks) {
-            input::click(seek);
-        }
         goToByte(workbench, byte);
     });
     return done;

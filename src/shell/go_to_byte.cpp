@@ -43,4 +43,12 @@ bool goToByte(Workbench& workbench, int byte) {
     return arrivedAt(*cell);
 }
 
+std::optional<int> focusedByte(const Workbench& workbench) {
+    const Control* control = workbench.focus.current();
+    if (control == nullptr || control->name() != "txtEdit") {
+        return std::nullopt;
+    }
+    return control->index() + (control->screen().id() == ScreenId::Edid ? 0 : blockSize);
+}
+
 } // namespace wb::shell

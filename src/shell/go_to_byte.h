@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "core/workbench.h"
 
 namespace wb::shell {
@@ -9,5 +11,8 @@ namespace wb::shell {
 /// Auto Cell Seek the input box of its panel, has the focus then; it has not where no screen holds the byte, where the
 /// screen is out of reach, and where the focus is called back.
 bool goToByte(Workbench& workbench, int byte);
+
+/// The byte of the image whose cell has the focus; nothing where no cell has it.
+std::optional<int> focusedByte(const Workbench& workbench);
 
 } // namespace wb::shell

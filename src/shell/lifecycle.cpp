@@ -42,7 +42,7 @@ void openNamed(Workbench& workbench, const std::string& name, Read&& read) {
     if (block0::UpdateExtensionButton(workbench)) {
         files::LoadExtensionCells(workbench);
     }
-    rememberChecksum(workbench);
+    noteLoaded(workbench);
     workbench.EDIDModified = flagFalse;
 }
 
@@ -76,7 +76,7 @@ void mnuFileNew(Workbench& workbench) {
         if (block0::UpdateExtensionButton(workbench) && workbench.ModifyEDIDOn == flagFalse) {
             Command2_Click(workbench);
         }
-        rememberChecksum(workbench);
+        noteLoaded(workbench);
         workbench.focus.moveTo(workbench.frmEDID());
         workbench.EDIDModified = flagFalse;
     });
@@ -91,7 +91,7 @@ bool dropDataFile(Workbench& workbench, const std::string& name) {
     if (frame == nullptr || !input::reachable(*frame)) {
         return false;
     }
-    workbench.runAction([&] { open(workbench, [&] { return name; }); });
+    workbench.runUserAction(Deed::Other, nullptr, [&] { open(workbench, [&] { return name; }); });
     return true;
 }
 

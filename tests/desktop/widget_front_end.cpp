@@ -20,7 +20,9 @@
 #include "desktop/views/menu_view.h"
 #include "desktop/windows/visibility.h"
 #include "shell/enter_timing.h"
+#include "shell/find_bytes.h"
 #include "shell/go_to_byte.h"
+#include "shell/paste_bytes.h"
 
 namespace wb::test {
 
@@ -193,6 +195,33 @@ bool WidgetFrontEnd::chooseMenu(Control& entry) {
     }
     DesktopProgram::settle();
     return true;
+}
+
+bool WidgetFrontEnd::undo() {
+    bool done = false;
+    program_.act([&] { done = program_.workbench.history->undo(); });
+    return done;
+}
+
+bool WidgetFrontEnd::redo() {
+    bool done = false;
+    program_.act([&] { done = program_.workbench.history->redo(); });
+    return done;
+}
+
+bool WidgetFrontEnd::paste(const std::string& text) {
+    bool done = false;
+    program_.act([&] { done = shell::pasteBytes(program_.workbench, text).all; });
+    return done;
+}
+
+bool WidgetFrontEnd::find(const std::string& text, bool forward) {
+    bool found = false;
+    program_.act([&] {
+        found = shell::findBytes(program_.workbench, text,
+                                 forward ? shell::Direction::Forward : shell::Direction::Backward);
+    });
+    return found;
 }
 
 bool WidgetFrontEnd::chooseGrey(Control& entry) {

@@ -25,6 +25,10 @@ public:
     bool drop(const std::string& name) override;
     bool goToByte(int byte) override;
     bool enterTiming(int byte, const fields::Modeline& modeline) override;
+    bool undo() override;
+    bool redo() override;
+    bool paste(const std::string& text) override;
+    bool find(const std::string& text, bool forward) override;
 
 private:
     /// The widget of the control where the user can reach it, else null.

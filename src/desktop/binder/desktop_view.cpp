@@ -10,6 +10,7 @@
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/modal_view.h"
 #include "desktop/windows/splash_view.h"
+#include "shell/history.h"
 
 namespace wb::desktop {
 
@@ -21,6 +22,7 @@ DesktopView::DesktopView(Workbench& workbench, ModelGate& gate)
       cellNames_([this](const Control& control) { return viewOf(control); }) {
     reading_.listen(*this, [this] { cellNames_.refresh(workbench_, reading_); });
     workbench_.view = this;
+    shell::keepHistory(workbench_);
     gate_.setObserver(this);
     makeMissing();
 }
