@@ -8,6 +8,7 @@
 #include "cli/output.h"
 #include "cli/plain_reading.h"
 #include "fields/json.h"
+#include "fields/place_text.h"
 
 namespace wb::cli {
 

@@ -12,10 +12,6 @@ namespace wb::cli {
 
 namespace {
 
-std::string byteNumber(std::size_t number) {
-    return ByteToHex2(static_cast<long long>(number));
-}
-
 struct ValueWords {
     std::string operator()(std::monostate) const { return {}; }
     std::string operator()(bool truth) const { return truth ? "true" : "false"; }
@@ -70,22 +66,6 @@ std::vector<fields::Reading> readingsOf(const std::string& name, const ImageOpti
         readings.push_back(fields::read(image));
     }
     return readings;
-}
-
-std::string placeText(const fields::Where& where) {
-    std::string text;
-    for (const fields::BitRange& range : where) {
-        text += text.empty() ? "" : "+";
-        text += byteNumber(range.byte);
-        if (range.count > 1) {
-            text += '-' + byteNumber(range.byte + range.count - 1);
-        } else if (range.high == range.low) {
-            text += '[' + std::to_string(range.high) + ']';
-        } else if (range.high != 7 || range.low != 0) {
-            text += '[' + std::to_string(range.high) + ':' + std::to_string(range.low) + ']';
-        }
-    }
-    return text;
 }
 
 std::string valueText(const fields::Value& value) {

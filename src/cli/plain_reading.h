@@ -28,10 +28,6 @@ OutputFormat outputFormatOf(const std::string& name);
 /// The plain readings of all images of a file. One that holds no image is a CliError.
 std::vector<fields::Reading> readingsOf(const std::string& name, const ImageOptions& options);
 
-/// Where a field stands: bytes in hexadecimal, "08", "5F-6B", with the bits where they are not all of a byte,
-/// "17[4:3]", and a plus between the parts, the highest of the value first.
-std::string placeText(const fields::Where& where);
-
 /// The value of a field as one text: numbers in full, "true" or "false", lists with commas, empty where there is none.
 std::string valueText(const fields::Value& value);
 

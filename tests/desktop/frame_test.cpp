@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
+#include <algorithm>
 #include <set>
 
 #include "desktop/desktop_test.h"
@@ -19,9 +20,15 @@ class Frame : public DesktopTest {
 protected:
     QMainWindow& window() { return program.frame().window(); }
     QAction& action(Control& entry) { return dynamic_cast<desktop::MenuView&>(*program.view.viewOf(entry)).action(); }
-    QStringList entriesOf(int menu) {
+    QMenu& menu(const QString& title) {
+        const QList<QAction*> menus = window().menuBar()->actions();
+        return *(*std::find_if(menus.begin(), menus.end(), [&](const QAction* menu) {
+                    return menu->text() == title;
+                }))->menu();
+    }
+    QStringList entriesOf(const QString& title) {
         QStringList texts;
-        for (const QAction* entry : window().menuBar()->actions()[menu]->menu()->actions()) {
+        for (const QAction* entry : menu(title).actions()) {
             texts += entry->isSeparator() ? "-" : entry->text();
         }
         return texts;
@@ -33,13 +40,13 @@ TEST_F(Frame, HasTheMenusWithTheirMnemonics) {
     for (const QAction* menu : window().menuBar()->actions()) {
         top += menu->text();
     }
-    EXPECT_EQ(top, QStringList({"&File", "&Window", "&Tools", "&Help"}));
-    EXPECT_EQ(entriesOf(0),
+    EXPECT_EQ(top, QStringList({"&File", "V&iew", "&Window", "&Tools", "&Help"}));
+    EXPECT_EQ(entriesOf("&File"),
               QStringList({"&New", "&Open...", "&Close", "-", "&Save", "Save &As...", "-", "Page Set&up...",
                            "Print Pre&view", "&Print...", "-", "&Export Hexadecimal EDID File", "&Hex Calculator",
                            "Retreive EDID Data", "Windows 2000 Base Location", "-", "E&xit"}));
-    EXPECT_EQ(entriesOf(1), QStringList({"&Cascade", "Tile &Horizontal", "Tile &Vertical", "&Arrange Icons"}));
-    EXPECT_EQ(entriesOf(3), QStringList({"&Information", "&About ", "&Keys"}));
+    EXPECT_EQ(entriesOf("&Window"), QStringList({"&Cascade", "Tile &Horizontal", "Tile &Vertical", "&Arrange Icons"}));
+    EXPECT_EQ(entriesOf("&Help"), QStringList({"&Information", "&About ", "&Keys"}));
 }
 
 TEST_F(Frame, HasNothingToReadInASeparator) {
@@ -66,8 +73,8 @@ TEST_F(Frame, ClosesByTheKeyOfTheMenu) {
 TEST_F(Frame, ListsTheChildrenInTheWindowMenu) {
     program.newImage();
     program.act([&] { input::choose(frame().HexCalculator); });
-    EXPECT_EQ(entriesOf(1).mid(4), QStringList({"-", "&1 Hex Calculator", "&2 Edid Decoding Screen"}));
-    const QPointer<QAction> entry = window().menuBar()->actions()[1]->menu()->actions()[6];
+    EXPECT_EQ(entriesOf("&Window").mid(4), QStringList({"-", "&1 Hex Calculator", "&2 Edid Decoding Screen"}));
+    const QPointer<QAction> entry = menu("&Window").actions()[6];
     bool alive = false;
     QObject::connect(window().menuBar(), &QMenuBar::triggered, window().menuBar(), [&] { alive = !entry.isNull(); });
     press(Qt::Key_W, Qt::AltModifier);
@@ -76,8 +83,8 @@ TEST_F(Frame, ListsTheChildrenInTheWindowMenu) {
     EXPECT_TRUE(alive) << "the choice lists the children anew while Qt still tells of the entry";
     EXPECT_EQ(program.workbench.windows.activeChild(), &edid());
     DesktopProgram::settle();
-    EXPECT_EQ(entriesOf(1).mid(4), QStringList({"-", "&1 Edid Decoding Screen", "&2 Hex Calculator"}));
-    const QList<QAction*> entries = window().menuBar()->actions()[1]->menu()->actions();
+    EXPECT_EQ(entriesOf("&Window").mid(4), QStringList({"-", "&1 Edid Decoding Screen", "&2 Hex Calculator"}));
+    const QList<QAction*> entries = menu("&Window").actions();
     EXPECT_TRUE(entries[5]->isChecked());
     EXPECT_FALSE(entries[6]->isChecked());
 }

@@ -76,6 +76,17 @@ TEST_F(LiveReadingTest, CountsTheExtensionWhereByte126AnnouncesOne) {
     EXPECT_EQ(shown.reading()->blocks.size(), 3U) << "one that is announced and missing";
 }
 
+TEST_F(LiveReadingTest, CountsTheBlocksThatHaveNoCells) {
+    program.openSample("zarqo-z40.bin");
+    const desktop::LiveReading& shown = static_cast<desktop::UserActions&>(program.view).liveReading();
+    const std::string third = '\x40' + std::string(127, '\x55');
+    program.act([&] { program.workbench.LoadedBytes = std::string(256, '\0') + third; });
+    ASSERT_EQ(shown.reading()->image.blockCount(), 3U);
+    EXPECT_EQ(shown.reading()->image.byte(0x100), 0x40);
+    EXPECT_EQ(shown.reading()->image.byte(0x17F), 0x55);
+    EXPECT_EQ(shown.reading()->image.byte(54), 0x02) << "what has cells is read from these";
+}
+
 TEST_F(LiveReadingTest, TellsNobodyWhoHasGone) {
     int told = 0;
     {

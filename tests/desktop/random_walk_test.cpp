@@ -1,13 +1,16 @@
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTest>
+#include <functional>
 #include <random>
 
 #include "desktop/base/text_codec.h"
 #include "desktop/desktop_test.h"
 #include "desktop/drag.h"
+#include "desktop/tools/fields_dock.h"
 #include "desktop/widget_front_end.h"
 #include "desktop/windows/child_view.h"
 #include "desktop/windows/visibility.h"
@@ -63,7 +66,7 @@ private:
     }
 
     void actOnTheDesktop() {
-        switch (below(6)) {
+        switch (below(8)) {
             case 0:
             case 1:
                 changeChild();
@@ -73,6 +76,12 @@ private:
                 break;
             case 3:
                 drop();
+                break;
+            case 4:
+                toggleDock();
+                break;
+            case 5:
+                searchFields();
                 break;
             default:
                 pressEditKey();
@@ -125,6 +134,47 @@ private:
         const std::string before = cells();
         const bool closed = box.name() == "txtEdit" || box.locked();
         EXPECT_FALSE(dropText(*program_.widget(box), "dropped") && closed) << story_;
+        EXPECT_EQ(cells(), before) << story_;
+    }
+
+    /// Docks open and close without anything of it in the model.
+    void toggleDock() {
+        const QList<QDockWidget*> docks = program_.frame().window().findChildren<QDockWidget*>();
+        QDockWidget& dock = *docks[below(static_cast<int>(docks.size()))];
+        note("toggle " + dock.objectName().toStdString());
+        expectUnmoved([&dock] { dock.toggleViewAction()->trigger(); });
+    }
+    /// Typing into the search of the fields is no event of the model; after that a click on a field or Escape.
+    void searchFields() {
+        constexpr std::array<const char*, 5> texts = {"a", "active", "0", "block", ""};
+        auto& dock =
+            dynamic_cast<desktop::FieldsDock&>(*program_.frame().window().findChild<QDockWidget*>("dockFields"));
+        auto& words = *dock.findChild<QLineEdit*>();
+        const char* text = texts[static_cast<std::size_t>(below(static_cast<int>(texts.size())))];
+        note(std::string("search ") + text);
+        expectUnmoved([&] {
+            dock.find();
+            words.clear();
+            QTest::keyClicks(&words, text);
+            DesktopProgram::settle();
+            QTest::keyClick(&words, Qt::Key_Escape);
+        });
+        auto& tree = *dock.findChild<QTreeView*>();
+        const QRect lines = tree.viewport()->rect();
+        if (below(2) == 0 && lines.height() > 0) {
+            const QPoint place(lines.width() / 2, below(lines.height()));
+            note("click on the field " + tree.indexAt(place).data().toString().toStdString());
+            QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+            DesktopProgram::settle();
+        }
+    }
+    /// Does something that neither moves the focus of the model nor touches a cell.
+    void expectUnmoved(const std::function<void()>& act) {
+        const Control* focus = program_.workbench.focus.current();
+        const std::string before = cells();
+        act();
+        DesktopProgram::settle();
+        EXPECT_EQ(program_.workbench.focus.current(), focus) << story_;
         EXPECT_EQ(cells(), before) << story_;
     }
 

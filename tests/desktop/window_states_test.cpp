@@ -187,7 +187,7 @@ TEST_F(WindowStates, OfTheFrameLeaveTheFocusWhereItIs) {
 
 TEST_F(WindowStates, RestoreAnIconThatIsChosenInTheWindowMenu) {
     showAs(edid(), minimised);
-    QMenu* menu = program.frame().window().menuBar()->actions()[1]->menu();
+    QMenu* menu = &program.frame().menu(frame().mnuWindow);
     ASSERT_EQ(menu->actions().last()->text(), "&1 Edid Decoding Screen");
     menu->actions().last()->trigger();
     DesktopProgram::settle();

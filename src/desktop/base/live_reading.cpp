@@ -5,6 +5,7 @@
 
 #include "core/base/digits.h"
 #include "core/base/image_layout.h"
+#include "core/base/text.h"
 #include "core/screens/block_screen.h"
 #include "desktop/base/text_codec.h"
 
@@ -23,6 +24,13 @@ void addCells(BlockScreen& screen, std::vector<std::string>& cells) {
     }
 }
 
+/// The blocks behind those that have cells, as cells would hold them: the program keeps them as they were loaded.
+void addFurtherBlocks(const std::string& loaded, std::vector<std::string>& cells) {
+    for (std::size_t i = cells.size(); i < loaded.size(); ++i) {
+        cells.push_back(ByteToHex2(static_cast<unsigned char>(loaded[i])));
+    }
+}
+
 /// The texts of the cells that make up the image; none while there is no image. Touches no screen.
 std::vector<std::string> imageCells(const Workbench& workbench) {
     std::vector<std::string> cells;
@@ -31,6 +39,7 @@ std::vector<std::string> imageCells(const Workbench& workbench) {
         auto* extension = static_cast<BlockScreen*>(workbench.loaded(ScreenId::CeaExt));
         if (extension != nullptr && byteIn(cells[extensionCountCell]) != 0) {
             addCells(*extension, cells);
+            addFurtherBlocks(workbench.LoadedBytes, cells);
         }
     }
     return cells;

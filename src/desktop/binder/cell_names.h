@@ -11,7 +11,7 @@
 namespace wb::desktop {
 
 /// Says in words what each cell is: the byte, and by the plain reading of the image the fields that it is part of. For
-/// those who hear the screen, since a panel tells of the cell in focus only.
+/// those who hear the screen, since a panel tells of the cell in focus only, and for tool tips.
 class CellNames {
 public:
     using Find = std::function<ControlView*(const Control&)>;

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QScopeGuard>
 #include <QSignalBlocker>
+#include <QTextDocument>
 #include <limits>
 
 #include "core/input.h"
@@ -105,6 +106,11 @@ void TextView::refreshText() {
     } else {
         box_->setText(text);
     }
+}
+
+void TextView::setTip(const QString& tip) {
+    tip_ = Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal) : tip;
+    refreshTip();
 }
 
 void TextView::refreshTip() {

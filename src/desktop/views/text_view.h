@@ -39,6 +39,8 @@ public:
     void refresh() override;
     /// A line edit drops or makes a selection of its own when it loses or gets the focus.
     void focusShown() override { refreshSelection(); }
+    /// Another tool tip than the name that its place gives it, in plain text.
+    void setTip(const QString& tip);
     void refreshColours();
 
 private:
@@ -60,7 +62,7 @@ private:
     bool stepToCell(const QKeyEvent& event);
 
     TextBox* box_;
-    QString tip_;              ///< that of the place
+    QString tip_;              ///< that of the place, or what is told instead of it
     bool editing_ = false;     ///< the widget is editing and its signals need not be told
     bool keepHistory_ = false; ///< a typed key is being worked: undo takes back what it makes of the text
     bool colouring_ = false;

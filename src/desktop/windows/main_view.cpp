@@ -1,5 +1,6 @@
 #include "desktop/windows/main_view.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
@@ -18,6 +19,7 @@
 
 #include "core/input.h"
 #include "core/workbench.h"
+#include "desktop/base/own_focus.h"
 #include "desktop/base/text_codec.h"
 #include "desktop/base/titles.h"
 #include "desktop/drawing/icons.h"
@@ -113,6 +115,20 @@ QAction& MainView::entry(const Control& control) const {
 
 void MainView::attach(std::unique_ptr<FrameAddition> addition) {
     additions_.push_back(std::move(addition));
+}
+
+void MainView::fitChildren() {
+    for (QMdiSubWindow* window : area_->subWindowList()) {
+        static_cast<ChildWindow*>(window)->view().fit();
+    }
+}
+
+void MainView::giveFocusBack() {
+    QWidget* holder = QApplication::focusWidget();
+    if (keepsOwnFocus(holder)) {
+        holder->clearFocus();
+    }
+    actions().windowsSettled();
 }
 
 void MainView::refreshAdditions() {
@@ -271,9 +287,7 @@ QSize MainView::wholeSize() {
 
 bool MainView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize && watched == area_->viewport()) {
-        for (QMdiSubWindow* window : area_->subWindowList()) {
-            static_cast<ChildWindow*>(window)->view().fit();
-        }
+        fitChildren();
     }
     return ScreenView::eventFilter(watched, event);
 }

@@ -47,6 +47,10 @@ public:
     QAction& entry(const Control& control) const;
     LiveReading& liveReading() const { return actions().liveReading(); }
     void attach(std::unique_ptr<FrameAddition> addition);
+    /// Makes room in the child windows for what they show, as far as the user has not chosen their sizes.
+    void fitChildren();
+    /// Takes Qt's focus from a box of the view itself, and gives it to where the model has it.
+    void giveFocusBack();
     void refreshAdditions();
 
 protected:
