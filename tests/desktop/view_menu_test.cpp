@@ -1,5 +1,6 @@
 #include <QDockWidget>
 #include <QLabel>
+#include <QMdiArea>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <cmath>
@@ -117,6 +118,7 @@ TEST_F(ViewMenuTest, IsLightOrDarkOrAsTheSystemSays) {
     choose("Dar&k");
     EXPECT_EQ(QApplication::palette().color(QPalette::Base), desktop::darkPalette().color(QPalette::Base));
     EXPECT_EQ(window().palette().color(QPalette::Window), desktop::darkPalette().color(QPalette::Window));
+    EXPECT_LT(program.frame().area().background().color().lightness(), 64) << "behind the child windows too";
     EXPECT_EQ(program.platform.settings["MainColours"], "dark");
     choose("&Light");
     EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));

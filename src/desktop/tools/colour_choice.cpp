@@ -1,6 +1,7 @@
 #include "desktop/tools/colour_choice.h"
 
 #include <QApplication>
+#include <QMdiArea>
 #include <array>
 
 #include "core/workbench.h"
@@ -70,6 +71,8 @@ void ColourChoice::apply(const QString& name) {
     for (const Choice& choice : choices) {
         if (name == choice.name) {
             QApplication::setPalette(choice.palette());
+            // The area keeps the ground that it was made with.
+            frame_.area().setBackground(QApplication::palette().brush(QPalette::Dark));
         }
     }
 }
