@@ -7,6 +7,7 @@
 #include "cli/formats.h"
 #include "cli/output.h"
 #include "cli/program.h"
+#include "cli/read_back.h"
 
 namespace wb::cli {
 
@@ -69,7 +70,13 @@ std::string convert(const Options& options, Program& program, Remarks& remarks) 
         const Remarks omissions = omissionsOf(onlyImageOf(contents));
         remarks.insert(remarks.end(), omissions.begin(), omissions.end());
     }
-    return contentAs(options.format, program);
+    std::string content = contentAs(options.format, program);
+    if (options.format == "dat") {
+        if (const auto loss = lossOnReadingBack(program, content)) {
+            remarks.push_back("the data file does not read back as it is: " + *loss);
+        }
+    }
+    return content;
 }
 
 /// Gives the content of the new file; tells of the boxes and what else came up on the way in any case.

@@ -9,9 +9,12 @@
 #include <vector>
 
 #include "acquire/get_edid.h"
+#include "core/base/image_layout.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
 #include "files/data_file.h"
+#include "files/save.h"
+#include "files/text_file.h"
 #include "report/show_report.h"
 #include "support/monitor_images.h"
 #include "support/program.h"
@@ -42,6 +45,11 @@ std::string extended(std::string image, int blocks, char tag) {
     return changed(std::move(image), 126, std::string(1, static_cast<char>(blocks)));
 }
 
+/// An image whose last descriptor is this text of 13 characters.
+std::string withText(const std::string& image, const std::string& text) {
+    return changed(image, 108, std::string("\0\0\0\xFE\0", 5) + text);
+}
+
 /// What monitors have and the samples do not: a later revision, descriptors of other kinds, extensions that are no
 /// timing extension, and many of them.
 std::vector<Image> variedImages() {
@@ -52,6 +60,7 @@ std::vector<Image> variedImages() {
             const std::string descriptor{'\0', '\0', '\0', tag, '\0', '\x01'};
             varied.push_back({name + ", descriptor", changed(bytes, 108, descriptor)});
         }
+        varied.push_back({name + ", bars in a text", withText(bytes, "A|BC D|EF\x9C\n  ")});
         for (const char tag : {'\x40', '\x70', '\xF0'}) {
             varied.push_back({name + ", one extension", extended(bytes, 1, tag)});
         }
@@ -115,6 +124,32 @@ TEST_P(MonitorImages, KeepTheirBytes) {
     }
 }
 
+/// What a reader takes from the decoded text between two dumps: lines with a bar count as rows of a dump too, and give
+/// the visible characters behind their first bar in pairs; a last single one is dropped.
+std::vector<std::string> pairsInText(std::string_view text) {
+    std::vector<std::string> pairs;
+    for (auto lines = files::LineReader::ofText(text); !lines.atEnd();) {
+        const std::string line = lines.readLine();
+        std::string visible;
+        for (std::size_t i = line.find('|'); i < line.size(); ++i) {
+            if (static_cast<unsigned char>(line[i]) > ' ' && line[i] != '|') {
+                visible += line[i];
+            }
+        }
+        for (std::size_t i = 0; i + 1 < visible.size(); i += 2) {
+            pairs.push_back(visible.substr(i, 2));
+        }
+    }
+    return pairs;
+}
+
+/// The decoded text behind the dump of block 0, up to that of block 1 where there is one.
+std::string_view textBehindFirstDump(std::string_view report) {
+    const std::size_t lastRow = report.find("\r\n120");
+    const std::size_t start = report.find("\r\n", lastRow + 2);
+    return report.substr(start, report.find("EDID Block 1, Bytes 128-255") - start);
+}
+
 TEST_P(MonitorImages, ComeBackFromTheDumpOfTheirReport) {
     const TemporaryFolder folder;
     int withExtension = 0;
@@ -127,20 +162,46 @@ TEST_P(MonitorImages, ComeBackFromTheDumpOfTheirReport) {
         const std::string& report = workbench.frmDocument().rtftext.text();
         workbench.CurrentFileName = folder.write("report.DAT", report);
         ASSERT_TRUE(files::ReadEDIDDataFile(workbench));
-        for (int i = 0; i < BlockScreen::cellCount; ++i) {
-            EXPECT_EQ(workbench.EDIDCells(i), block0[static_cast<std::size_t>(i)]) << i;
-        }
+        std::vector<std::string> expected = block0;
+        const std::vector<std::string> between = pairsInText(textBehindFirstDump(report));
+        expected.insert(expected.end(), between.begin(), between.end());
         const bool told = hasExtensionByDecimalText(workbench);
         EXPECT_EQ(report.find("EDID Block 1, Bytes 128-255") != std::string::npos, told);
         if (told) {
             ++withExtension;
             const std::vector<std::string> block1 = texts(workbench.frmCEA_EXT());
-            for (int i = 0; i < BlockScreen::cellCount; ++i) {
-                EXPECT_EQ(workbench.EDIDCells(128 + i), block1[static_cast<std::size_t>(i)]) << 128 + i;
-            }
+            expected.insert(expected.end(), block1.begin(), block1.end());
+        }
+        expected.resize(imageSize); // what comes later is past the array; what is not there is empty
+        for (int i = 0; i < imageSize; ++i) {
+            EXPECT_EQ(workbench.EDIDCells(i), expected[static_cast<std::size_t>(i)]) << i;
         }
     }
     EXPECT_GT(withExtension, 0);
+}
+
+// "A|BCDE" gives the pairs "BC" and "DE" between the blocks: the last two cells of block 1 are past the array.
+TEST(ABarInADecodedText, MovesTheBlockBehindIt) {
+    const TemporaryFolder folder;
+    for (const Image& image : sampleImages()) {
+        SCOPED_TRACE(image.name);
+        Program program;
+        Workbench& workbench = program.workbench;
+        workbench.runAction([&] {
+            acquire::LoadStoredEdid(workbench, withText(image.bytes, "A|BCDE\n      "));
+            workbench.CurrentFileName = folder.file("image.DAT");
+            files::FileSave(workbench);
+        });
+        program.takeBoxes(); // those of decoding
+        ASSERT_TRUE(files::ReadEDIDDataFile(workbench));
+        EXPECT_EQ(workbench.EDIDCells(127), program.cell(127));
+        EXPECT_EQ(workbench.EDIDCells(128), "BC");
+        EXPECT_EQ(workbench.EDIDCells(129), "DE");
+        const bool two = image.bytes.size() == 256;
+        EXPECT_EQ(workbench.EDIDCells(130), two ? "02" : "");
+        EXPECT_EQ(workbench.EDIDCells(255), two ? ByteToHex2(static_cast<unsigned char>(image.bytes[253])) : "");
+        EXPECT_EQ(program.takeBoxes().size(), two ? 1U : 0U);
+    }
 }
 
 TEST_P(MonitorImages, AreToldInFull) {

@@ -339,6 +339,7 @@ TEST_F(Dispatch, FieldsOfARangeDescriptor) {
         const bool hasOption = offset >= 5 && offset <= 9;
         EXPECT_EQ(screen().DtaOpt.firstSelected(), hasOption ? offset - 5 : -1) << offset;
         EXPECT_FALSE(screen().Windex(0).visible());
+        EXPECT_FALSE(screen().Windex(1).visible());
     }
 }
 
@@ -374,6 +375,7 @@ TEST_F(Dispatch, FieldsOfAColourPoint) {
     }
     visit(72);
     EXPECT_FALSE(screen().Windex(0).ownVisible());
+    EXPECT_FALSE(screen().Windex(1).ownVisible());
 }
 
 TEST_F(Dispatch, FieldsOfAStandardTimingDescriptor) {

@@ -91,6 +91,23 @@ TEST_F(ConvertTest, OnlyADataFileHoldsTheImageAsItStandsAfterDecoding) {
     EXPECT_EQ(read("out"), image);
 }
 
+/// A line of decoded text with a bar counts as a row of the dump: "BC" and "DE" come between the two blocks.
+TEST_F(ConvertTest, ADataFileThatDoesNotReadBackIsWarnedOf) {
+    const std::string text("\0\0\0\xFE\0A|BCDE\n       ", 18);
+    write("two", sample("zarqo-z40.bin").replace(108, text.size(), text));
+    const Outcome shifted = shell("edidwb convert --to dat two two.DAT");
+    EXPECT_EQ(shifted.status, 0);
+    EXPECT_EQ(shifted.errors,
+              "edidwb: two: the data file does not read back as it is: cell 128 is \"02\" and comes back as \"BC\"\n");
+    EXPECT_TRUE(exists("two.DAT"));
+
+    // Behind the only block nothing is moved.
+    write("one", sample("halvorine-hv19.bin").replace(108, text.size(), text));
+    const Outcome whole = shell("edidwb convert --to dat one one.DAT");
+    EXPECT_EQ(whole.status, 0);
+    EXPECT_EQ(whole.errors, "");
+}
+
 TEST_F(ConvertTest, WritesEveryBlockBackAsItWas) {
     std::string image = sample("zarqo-z40.bin") + std::string(384, '\xA5');
     write("in", image);

@@ -155,6 +155,7 @@ TEST(RegFile, TellsTheLineOfAnError) {
                           Case{head + key + "\"x\"=dword:", "4: a dword is one to eight hexadecimal digits"},
                           Case{head + key + "\"x\"=dword:123456789", "4: a dword is one to eight hexadecimal digits"},
                           Case{head + key + "\"x\"=hex:1,\\\r\n 2,100", "5: a byte is one or two hexadecimal digits"},
+                          Case{head + key + "\"x\"=hex:1,0a0", "4: a byte is one or two hexadecimal digits"},
                           Case{head + key + "\"x\"=hex:1,,2", "4: a byte is one or two hexadecimal digits"},
                           Case{head + key + "\"x\"=hex:1,2,", "4: a byte is missing after a comma"},
                           Case{head + key + "\"x\"=hex:1,\\\r\n,2", "5: a byte is one or two hexadecimal digits"},
