@@ -11,11 +11,15 @@ namespace wb::forms {
 
 namespace {
 
+/// What may stand in a line between two rows.
+constexpr std::string_view fillers = " \t>{}[](),;\\\"'";
+
 /// The hexadecimal bytes of a line, as far as they stand together at its end.
 struct HexRun {
     std::string bytes;
     bool wholeLine = false; ///< nothing but marks stands before them
     bool marked = false;    ///< each had a mark such as "0x"
+    bool filler = false;    ///< the line has nothing but comments and brackets
 };
 
 /// One number of a line.
@@ -106,7 +110,7 @@ private:
     HexRun run() {
         const bool marked =
             std::any_of(tokens_.begin(), tokens_.end(), [](const Token& token) { return token.marked; });
-        HexRun result{.bytes = {}, .wholeLine = !other_, .marked = marked};
+        HexRun result{.bytes = {}, .wholeLine = !other_, .marked = marked, .filler = isFiller()};
         const std::size_t width = tokens_.empty() ? 0 : tokens_.front().digits.size();
         for (const Token& token : tokens_) {
             if (marked && !token.marked) {
@@ -121,6 +125,8 @@ private:
         }
         return result;
     }
+
+    bool isFiller() const { return line_.find_first_not_of(fillers) == std::string_view::npos; }
 
     static void appendPairs(std::size_t digits, std::string_view word, std::string& bytes) {
         for (std::size_t i = 0; i < word.size(); i += digits) {
@@ -176,6 +182,7 @@ private:
         rowLength_ = image_->bytes.size();
         anyLength_ = start == 0 && run.wholeLine;
         open_ = leavesOpen(line.text);
+        afterWords_ = false;
     }
 
     /// Whether a line says itself that the next one goes on with it.
@@ -193,13 +200,22 @@ private:
         if (line.text.find_first_not_of(" \t>") == std::string_view::npos) {
             return true;
         }
+        const bool complete = betweenBlocks && isComplete();
+        if (betweenBlocks && !run.wholeLine && run.bytes.size() < 2 && leavesOpen(line.text)) {
+            open_ = true; // such as HKR,EDID_OVERRIDE,"1",0x01,\ in front of the rows of the next block
+            afterWords_ = true;
+            return !complete;
+        }
         if (run.bytes.empty()) {
             // Between two rows of a list stand comments and brackets; words end it.
-            return run.wholeLine && line.text.find_first_not_of(" \t>{}[](),;\\\"'") == std::string_view::npos;
+            const bool comment = line.text.find_first_not_of(fillers) != std::string_view::npos;
+            afterWords_ = afterWords_ || comment;
+            return run.filler && !(comment && complete);
         }
-        if (betweenBlocks && isComplete() && run.bytes.starts_with(imageHeader)) {
+        if (betweenBlocks && (complete || afterWords_) && run.bytes.starts_with(imageHeader)) {
             return false; // another image
         }
+        afterWords_ = false;
         const bool fits =
             open_ || (anyLength_ && run.wholeLine) || run.bytes.size() == rowLength_ ||
             (run.bytes.size() < rowLength_ && (image_->bytes.size() + run.bytes.size()) % Image::blockSize == 0);
@@ -229,6 +245,7 @@ private:
     std::size_t lead_ = 0;      ///< bytes in front of the header in the first line
     std::size_t rowLength_ = 0; ///< bytes of the first line
     bool open_ = false;         ///< the last line taken leaves its list open
+    bool afterWords_ = false;   ///< a comment, or the head of a list, stands behind the last row
     bool anyLength_ = false;    ///< nothing but hexadecimal stands in the first line, so that rows may be of any length
     std::vector<Found> found_;
 };

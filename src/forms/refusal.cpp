@@ -13,7 +13,7 @@ namespace wb::forms {
 
 namespace {
 
-/// What a text without an image looks like, by words that stand in it.
+/// What an input without an image looks like: a text by words that stand in it, other files by those they begin with.
 struct Look {
     std::string_view words;
     std::string_view name;
@@ -64,8 +64,9 @@ std::string firstOtherWord(std::string_view text) {
 }
 
 std::string lookOf(std::string_view content) {
+    const bool text = isText(content);
     for (const Look& look : looks) {
-        if (content.find(look.words) != std::string_view::npos) {
+        if (text ? content.find(look.words) != std::string_view::npos : content.starts_with(look.words)) {
             return "; looks like " + std::string(look.name);
         }
     }
@@ -86,6 +87,9 @@ std::string refusalOf(std::string_view content, std::string_view text) {
     if (!isText(content)) {
         if (content.size() < Image::blockSize) {
             return std::to_string(content.size()) + " bytes, and an image has 128 or more" + lookOf(content);
+        }
+        if (content.starts_with(imageHeader)) {
+            return "is binary, which is not the form that was asked for";
         }
         return "begins with " + hexOf(content.substr(0, imageHeader.size())) + ", not with the header " +
                hexOf(imageHeader) + lookOf(content);

@@ -327,6 +327,27 @@ TEST(Recogniser, GivesAllImagesOfATextWithTheirOutputs) {
     EXPECT_EQ(result.images[1].origin().output, "HDMI-3");
 }
 
+TEST(Recogniser, PassesOverCommentsAndHeadsBetweenTheRows) {
+    const std::string bytes = sample("zarqo-z40.bin"); // announces its one extension
+    const std::string first = plainRows(bytes.substr(0, 128), "\t", ", ", ",", "0x%02x");
+    const std::string second = plainRows(bytes.substr(128), "\t", ", ", ",", "0x%02x");
+    for (const char* words : {"\t/* block 1 */\n", "  // the extension\n", "# block 1\n", "; block 1\n",
+                              "HKR,EDID_OVERRIDE,\"1\",0x01,\\\n", "HKR, EDID_OVERRIDE, \"1\", 1, \\\n"}) {
+        SCOPED_TRACE(words);
+        Recognition result = recognise(words + first + words + second);
+        ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+        EXPECT_EQ(result.images[0].content(), bytes);
+        // A header behind the words begins another image, even where the first one lacks its extension.
+        result = recognise(words + first + words + first);
+        ASSERT_EQ(result.images.size(), 2U);
+        EXPECT_EQ(result.images[1].content(), bytes.substr(0, 128));
+        // Behind a whole image they end it.
+        result = recognise(first + second + words + second);
+        ASSERT_EQ(result.images.size(), 1U);
+        EXPECT_EQ(result.images[0].content(), bytes);
+    }
+}
+
 TEST(Recogniser, RefusesOffsetsThatDoNotCountTheBytes) {
     const std::string bytes = sample("zarqo-z40.bin");
     const std::string text = inRows(bytes, 16, [](std::size_t place, const std::string& row) {
@@ -384,6 +405,10 @@ TEST(Recogniser, SaysWhatItSawInstead) {
     EXPECT_EQ(refusal(std::string(5, '\0')), "5 bytes, and an image has 128 or more");
     EXPECT_EQ(refusal(std::string(128, '\x01')),
               "begins with 01 01 01 01 01 01 01 01, not with the header 00 FF FF FF FF FF FF 00");
+    EXPECT_EQ(refusal('\x7F' + std::string(200, '\0') + " disconnected"),
+              "begins with 7F 00 00 00 00 00 00 00, not with the header 00 FF FF FF FF FF FF 00");
+    EXPECT_EQ(recognise(sample("zarqo-z40.bin"), {.anyHeader = false, .form = "hex", .inflate = {}}).refusal,
+              "is binary, which is not the form that was asked for");
     EXPECT_EQ(refusal("\x1F\x8B\x08"), "is gzip data that cannot be uncompressed");
 }
 
