@@ -92,7 +92,9 @@ int run(const Options& options) {
 
 Run addDiff(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command.add_option("A", options->first, "File in any format; - is standard input")->type_name("")->required();
+    command.add_option("A", options->first, "File in any form, told by its content; - is standard input")
+        ->type_name("")
+        ->required();
     command.add_option("B", options->second, "The file to compare it with")->type_name("")->required();
     addFormatOption(command, options->format, {"text", "json"});
     addImageOptions(command, options->images);

@@ -156,7 +156,7 @@ std::string inOneLine(std::string_view text) {
 
 void writeFile(const std::string& name, std::string_view content, Existing existing) {
     if (name == standardStream) {
-        print(content);
+        printText(content);
         return;
     }
     const fs::path path = pathOf(name);

@@ -54,7 +54,8 @@ std::string inOneLine(std::string_view text);
 enum class Existing { Refuse, Replace };
 
 /// Writes a file through a temporary one beside it, so that it is whole or as it was before. What is no ordinary file
-/// (a device, a pipe) is written directly. "-" is standard output. A failure is a CliError.
+/// (a device, a pipe) is written directly. "-" is standard output, of which a terminal gets no control characters. A
+/// failure is a CliError.
 void writeFile(const std::string& name, std::string_view content, Existing existing);
 
 } // namespace wb::cli
