@@ -29,18 +29,21 @@ public:
         : workbench_(workbench), registry_(workbench.platform.registry), path_(std::move(path)), walkKeys_(walkKeys) {}
 
     std::string run() {
-        if (std::string found = enter(); !found.empty() || !walkKeys_) {
-            return found;
+        if (auto found = enter(); found || !walkKeys_) {
+            return found.value_or("");
         }
         while (!levels_.empty()) {
-            if (std::string found = visitNext(); !found.empty()) {
-                return found;
+            if (auto found = visitNext()) {
+                return *std::move(found);
             }
         }
         return {};
     }
 
 private:
+    /// What ends the walk, also where it is the empty path of the root; nothing where the walk goes on.
+    using Found = std::optional<std::string>;
+
     struct Level {
         OpenKey key;
         std::size_t pathLength;
@@ -49,38 +52,39 @@ private:
     };
 
     /// Opens the key at the current path and makes it the innermost level; gives what it holds itself.
-    std::string enter() {
+    Found enter() {
         OpenKey key(registry_, path_);
         if (!key.isOpen()) {
             tellUnlessMissing(key.code());
-            return {};
+            return std::nullopt;
         }
         int subKeys = 0;
         int values = 0;
         if (registry_.queryInfo(key.key(), subKeys, values) != RegistryCode::Ok) {
-            return {};
+            return std::nullopt;
         }
         std::string found = ReadEDIDValueFromKey(registry_, key.key(), values, walkKeys_);
         levels_.push_back({.key = std::move(key), .pathLength = path_.size(), .subKeys = subKeys});
-        return found;
+        return found.empty() ? std::nullopt : Found(std::move(found));
     }
 
     /// Takes one sub-key of the innermost level, or leaves that level when it is through.
-    std::string visitNext() {
+    Found visitNext() {
         Level& level = levels_.back();
         path_.resize(level.pathLength);
         if (level.next > level.subKeys) {
             levels_.pop_back();
-            return {};
+            return std::nullopt;
         }
         std::string name;
-        if (registry_.enumerateKey(level.key.key(), level.next++, name) != RegistryCode::Ok || name.empty()) {
-            return {};
+        if (registry_.enumerateKey(level.key.key(), level.next++, name) != RegistryCode::Ok || name.empty() ||
+            isVirtualMonitor(name)) {
+            return std::nullopt;
         }
-        return isVirtualMonitor(name) ? std::string() : visit(name);
+        return visit(name);
     }
 
-    std::string visit(const std::string& name) {
+    Found visit(const std::string& name) {
         if (name == "Control") {
             return path_ + "\\Device Parameters";
         }
@@ -88,7 +92,7 @@ private:
         if (!OpenKey(registry_, path_).isOpen()) {
             tellUnlessMissing(OpenKey(registry_, path_).code());
             levels_.pop_back();
-            return {};
+            return std::nullopt;
         }
         if (upperCase(name) == "CONTROL") {
             return path_;

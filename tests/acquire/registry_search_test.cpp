@@ -130,6 +130,30 @@ TEST_F(Search, AnEmptyPathSearchesTheRoot) {
     EXPECT_EQ(find(""), "\\SYSTEM\\Device Parameters");
 }
 
+/// The instance itself is the root then, whose path is empty: what comes behind it is not looked at.
+TEST_F(Search, AControlKeyOfTheRootInOtherSpellingEndsTheSearchThere) {
+    for (const char* spelling : {"CONTROL", "control", "cONTROL"}) {
+        registry.clear();
+        registry.addKey(spelling);
+        test::addMonitor(registry, "AAA0001", "one");
+        EXPECT_EQ(find(""), "") << spelling;
+    }
+    EXPECT_TRUE(program.boxes.empty());
+}
+
+TEST_F(Search, AControlKeyOfTheRootInTheExactSpellingLeadsToItsParameters) {
+    registry.addKey("Control");
+    test::addMonitor(registry, "AAA0001", "one");
+    EXPECT_EQ(find(""), "\\Device Parameters");
+}
+
+/// An empty key holds nothing, and is no reason to end the search.
+TEST_F(Search, AnEmptyModelDoesNotEndTheSearchOfTheRoot) {
+    registry.addKey("empty");
+    registry.addKey("SYSTEM\\Control");
+    EXPECT_EQ(find(""), "\\SYSTEM\\Device Parameters");
+}
+
 TEST_F(Search, GivesTheRawValue) {
     const std::string data("\x00\xFF\x0A|", 4);
     setValue("ROOT", "EDID", data);
