@@ -47,15 +47,6 @@ fs::path finalPlace(const fs::path& path) {
     return error ? path : place;
 }
 
-/// The permissions that a new file gets, or those of the file that is replaced.
-void takePermissions(const fs::path& from, const fs::path& to) {
-    std::error_code ignored;
-    const fs::file_status status = fs::status(from, ignored);
-    if (fs::exists(status)) {
-        fs::permissions(to, status.permissions(), ignored);
-    }
-}
-
 /// Control characters but line ends and tabs as a terminal can show them.
 std::string withoutControls(std::string_view text) {
     std::string shown;
@@ -154,7 +145,7 @@ std::string inOneLine(std::string_view text) {
     return line;
 }
 
-void writeFile(const std::string& name, std::string_view content, Existing existing) {
+void writeFile(const std::string& name, std::string_view content, const WriteOptions& options) {
     if (name == standardStream) {
         printText(content);
         return;
@@ -169,7 +160,8 @@ void writeFile(const std::string& name, std::string_view content, Existing exist
     if (fs::is_directory(status)) {
         throw CliError(std::strerror(EISDIR));
     }
-    if (existing == Existing::Refuse && fs::exists(fs::symlink_status(path, error))) { // a link that leads nowhere too
+    if (options.existing == Existing::Refuse &&
+        fs::exists(fs::symlink_status(path, error))) { // a link that leads nowhere too
         throw CliError("exists already (--force replaces it)");
     }
     if (fs::exists(status) && !fs::is_regular_file(status)) {
@@ -177,14 +169,21 @@ void writeFile(const std::string& name, std::string_view content, Existing exist
         return;
     }
     const fs::path place = finalPlace(path);
-    TemporaryFile temporary(place.parent_path());
+    const fs::path model = options.accessOf.empty() ? place : pathOf(options.accessOf);
+    TemporaryFile temporary(place.parent_path(), fs::exists(model, error) ? Readers::Owner : Readers::Usual);
     temporary.write(content);
-    if (existing == Existing::Refuse) {
-        temporary.moveToNew(place);
-        return;
+    temporary.takeAccessOf(model);
+    if (options.sync) {
+        temporary.sync();
     }
-    takePermissions(place, temporary.path());
-    temporary.moveTo(place);
+    options.existing == Existing::Refuse ? temporary.moveToNew(place) : temporary.moveTo(place);
+    if (options.sync) {
+        syncFolder(place.parent_path());
+    }
+}
+
+void writeFile(const std::string& name, std::string_view content, Existing existing) {
+    writeFile(name, content, WriteOptions{.existing = existing});
 }
 
 } // namespace wb::cli

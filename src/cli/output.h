@@ -53,9 +53,19 @@ std::string inOneLine(std::string_view text);
 
 enum class Existing { Refuse, Replace };
 
-/// Writes a file through a temporary one beside it, so that it is whole or as it was before. What is no ordinary file
-/// (a device, a pipe) is written directly. "-" is standard output, of which a terminal gets no control characters. A
-/// failure is a CliError.
+struct WriteOptions {
+    Existing existing = Existing::Refuse;
+    /// Waits until the file is on the disk, before it takes the place of another one and after that.
+    bool sync = true;
+    /// The file whose owner, group and permissions the new one gets; empty: the one that is replaced.
+    std::string accessOf{};
+};
+
+/// Writes a file through a temporary one beside it, so that it is whole or as it was before, also after a power cut
+/// where it is synchronised. It keeps owner, group and permissions of the file that it replaces as takeAccess() does,
+/// and until it has them only its owner can read it. What is no ordinary file (a device, a pipe) is written directly.
+/// "-" is standard output, of which a terminal gets no control characters. A failure is a CliError.
+void writeFile(const std::string& name, std::string_view content, const WriteOptions& options);
 void writeFile(const std::string& name, std::string_view content, Existing existing);
 
 } // namespace wb::cli

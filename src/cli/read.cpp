@@ -13,6 +13,7 @@
 #include "cli/program.h"
 #include "cli/report_names.h"
 #include "cli/stored_edid.h"
+#include "cli/sync_option.h"
 #include "cli/system.h"
 #include "core/base/file_names.h"
 
@@ -31,6 +32,7 @@ struct Options {
     SystemOptions system;
     bool all = false;
     bool force = false;
+    bool sync = true;
 
     std::string formatOr(const std::string& other) const { return format.value_or(other); }
 };
@@ -174,7 +176,8 @@ private:
     void write(const std::string& name, const std::string& content) {
         const std::string place = nameOf(pathOf(*options_.outputFolder) / pathOf(name));
         try {
-            writeFile(place, content, options_.force ? Existing::Replace : Existing::Refuse);
+            writeFile(place, content,
+                      {.existing = options_.force ? Existing::Replace : Existing::Refuse, .sync = options_.sync});
         } catch (const CliError& error) {
             throw CliError(place + ": " + error.what());
         }
@@ -223,6 +226,9 @@ void checkOptions(const Options& options) {
     if (options.force && !options.all) {
         throw UsageError("--force belongs to --all");
     }
+    if (!options.sync && !options.all) {
+        throw UsageError("--no-sync belongs to --all");
+    }
 }
 
 int run(const Options& options) {
@@ -260,6 +266,7 @@ Run addRead(CLI::App& command) {
         ->take_last();
     command.add_flag("-f,--force", options->force, "With --all, replace files that exist already")
         ->disable_flag_override();
+    addSyncOption(command, options->sync);
     command
         .add_option("--i2c", options->bus,
                     "Ask the monitor itself, on the bus /dev/i2c-N of Linux: reads at address 50h, up to two blocks")

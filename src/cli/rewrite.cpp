@@ -9,6 +9,7 @@
 #include "cli/commands.h"
 #include "cli/output.h"
 #include "cli/report_names.h"
+#include "cli/sync_option.h"
 #include "core/base/file_names.h"
 #include "core/base/text.h"
 #include "forms/writers.h"
@@ -125,31 +126,26 @@ private:
     void write(const Input& input, const Image& before, const Image& after, const forms::WrittenForm* form) {
         const forms::WrittenForm& written = form != nullptr ? *form : *forms::writtenForm("bin");
         if (!options_.inPlace) {
-            writeBeside(newPlace(input.name, form != nullptr), written.write(after));
+            writeBeside(newPlace(input.name, form != nullptr), written.write(after), "");
         } else if (after.content() != before.content()) {
             if (options_.backup) {
                 keep(input);
             }
-            writeFile(input.name, written.write(after), Existing::Replace);
+            writeFile(input.name, written.write(after), {.existing = Existing::Replace, .sync = options_.sync});
         }
     }
 
     /// Writes a file other than the one that is changed; a failure names it.
-    void writeBeside(const std::string& place, const std::string& content) const {
+    void writeBeside(const std::string& place, const std::string& content, const std::string& accessOf) const {
         try {
-            writeFile(place, content, existingOf(options_));
+            writeFile(place, content, {.existing = existingOf(options_), .sync = options_.sync, .accessOf = accessOf});
         } catch (const CliError& error) {
             throw CliError(place + ": " + error.what());
         }
     }
 
     /// Writes the old content beside the file, with its permissions.
-    void keep(const Input& input) const {
-        const std::string backup = input.name + backupExtension;
-        writeBeside(backup, input.content);
-        std::error_code ignored;
-        fs::permissions(pathOf(backup), fs::status(pathOf(input.name), ignored).permissions(), ignored);
-    }
+    void keep(const Input& input) const { writeBeside(input.name + backupExtension, input.content, input.name); }
 
     /// The file of the output folder for one of the input; its extension stays where its form does.
     std::string newPlace(const std::string& file, bool formStays) {
@@ -200,6 +196,7 @@ CLI::Option* addRewriteOptions(CLI::App& command, RewriteOptions& options) {
         ->disable_flag_override();
     command.add_flag("--dry-run", options.dryRun, "Tell what would be changed and write nothing")
         ->disable_flag_override();
+    addSyncOption(command, options.sync);
     addImageOptions(command, options.images);
     return files;
 }
@@ -247,7 +244,8 @@ int writeNewImage(const RewriteOptions& options, const std::string& name, const 
     try {
         const Change change = make();
         if (!options.dryRun) {
-            writeFile(place, formOfEnding(name).write(change.image), existingOf(options));
+            writeFile(place, formOfEnding(name).write(change.image),
+                      {.existing = existingOf(options), .sync = options.sync});
         }
         tell(place, change);
         return success;

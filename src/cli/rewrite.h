@@ -24,10 +24,11 @@ struct RewriteOptions {
     bool backup = false;
     bool force = false;
     bool dryRun = false;
+    bool sync = true;
 };
 
-/// FILE, -o, --in-place, --backup, --force, --dry-run and those of addImageOptions. Gives the option of the files,
-/// which is not required.
+/// FILE, -o, --in-place, --backup, --force, --dry-run, --no-sync and those of addImageOptions. Gives the option of the
+/// files, which is not required.
 CLI::Option* addRewriteOptions(CLI::App& command, RewriteOptions& options);
 /// Where the options contradict each other it is a UsageError.
 void checkRewriteOptions(const RewriteOptions& options);

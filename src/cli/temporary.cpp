@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 #include <random>
+#include <utility>
 
 #include "cli/cli_error.h"
 #include "core/base/file_names.h"
@@ -27,11 +28,11 @@ std::string randomName() {
 
 } // namespace
 
-TemporaryFile::TemporaryFile(const std::filesystem::path& folder) {
+TemporaryFile::TemporaryFile(const std::filesystem::path& folder, Readers readers) {
     for (int i = 0; i < tries && file_ == nullptr; ++i) {
         path_ = folder / randomName();
         mark_.emplace(CleanupMark::Kind::File, nameOf(path_));
-        file_ = openStream(path_, "wbx");
+        file_ = createFile(path_, readers);
         if (file_ == nullptr && errno != EEXIST) {
             break;
         }
@@ -50,12 +51,29 @@ TemporaryFile::~TemporaryFile() {
 }
 
 void TemporaryFile::write(std::string_view content) {
-    std::FILE* const file = file_;
-    file_ = nullptr;
-    writeAndClose(file, content);
+    if (std::fwrite(content.data(), 1, content.size(), file_) != content.size() || std::fflush(file_) != 0) {
+        throw CliError(std::strerror(errno));
+    }
+}
+
+void TemporaryFile::takeAccessOf(const std::filesystem::path& other) {
+    takeAccess(file_, other);
+}
+
+void TemporaryFile::sync() {
+    if (const std::error_code error = syncFile(file_)) {
+        throw CliError(reasonOf(error));
+    }
+}
+
+void TemporaryFile::close() {
+    if (file_ != nullptr && std::fclose(std::exchange(file_, nullptr)) != 0) {
+        throw CliError(std::strerror(errno));
+    }
 }
 
 void TemporaryFile::moveTo(const std::filesystem::path& place) {
+    close();
     std::error_code error;
     std::filesystem::rename(path_, place, error);
     if (error) {
@@ -64,6 +82,7 @@ void TemporaryFile::moveTo(const std::filesystem::path& place) {
 }
 
 void TemporaryFile::moveToNew(const std::filesystem::path& place) {
+    close();
     std::error_code error;
     std::filesystem::create_hard_link(path_, place, error);
     if (error == std::errc::file_exists) {
@@ -78,20 +97,19 @@ TemporaryFolder::TemporaryFolder(const std::string& fileName) {
     namespace fs = std::filesystem;
     std::error_code error;
     const fs::path parent = fs::temp_directory_path(error);
-    bool created = false;
-    for (int i = 0; i < tries && !error && !created; ++i) {
+    if (!error) {
+        error = std::make_error_code(std::errc::file_exists);
+    }
+    for (int i = 0; i < tries && error == std::errc::file_exists; ++i) {
         path_ = parent / randomName();
         mark_.emplace(CleanupMark::Kind::Folder, nameOf(path_));
-        created = fs::create_directory(path_, error);
+        error = createOwnFolder(path_);
+    }
+    if (error) {
+        throw CliError("no temporary folder: " + reasonOf(error));
     }
     file_ = path_ / pathOf(fileName);
     fileMark_.emplace(CleanupMark::Kind::File, nameOf(file_));
-    if (!error && created) {
-        fs::permissions(path_, fs::perms::owner_all, error);
-    }
-    if (error || !created) {
-        throw CliError("no temporary folder: " + reasonOf(error));
-    }
 }
 
 TemporaryFolder::~TemporaryFolder() {

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/cleanup.h"
+#include "cli/file_access.h"
 #include "core/base/file_names.h"
 
 namespace wb::cli {
@@ -16,21 +17,27 @@ namespace wb::cli {
 class TemporaryFile {
 public:
     /// Creates it in that folder; a failure is a CliError.
-    explicit TemporaryFile(const std::filesystem::path& folder);
+    explicit TemporaryFile(const std::filesystem::path& folder, Readers readers = Readers::Owner);
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile();
 
     const std::filesystem::path& path() const { return path_; }
-    /// Writes the whole content and closes the file; a failure is a CliError.
+    /// Writes the whole content; a failure is a CliError.
     void write(std::string_view content);
-    /// Renames it, over a file of that name if there is one; a failure is a CliError.
+    /// Gives it owner, group and permissions of another file, as takeAccess() does.
+    void takeAccessOf(const std::filesystem::path& other);
+    /// Waits until the content is on the disk; a failure is a CliError.
+    void sync();
+    /// Closes and renames it, over a file of that name if there is one; a failure is a CliError.
     void moveTo(const std::filesystem::path& place);
     /// The same, but a file of that name, which another program may just have made, is a CliError too. Where the file
     /// system has no hard links it is replaced.
     void moveToNew(const std::filesystem::path& place);
 
 private:
+    void close();
+
     std::filesystem::path path_;
     std::optional<CleanupMark> mark_;
     std::FILE* file_ = nullptr;

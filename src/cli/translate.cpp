@@ -17,6 +17,7 @@
 #include "cli/program.h"
 #include "cli/progress.h"
 #include "cli/report_places.h"
+#include "cli/sync_option.h"
 #include "core/base/digits.h"
 #include "core/base/file_names.h"
 #include "fields/json.h"
@@ -37,6 +38,7 @@ struct Options {
     ImageOptions images;
     bool strict = false;
     bool keepTree = false;
+    bool sync = true;
 
     bool json() const { return outputFormatOf(format) == OutputFormat::Json; }
     std::string extension() const { return json() ? ".json" : ".txt"; }
@@ -195,7 +197,7 @@ private:
         try {
             std::error_code ignored; // what is missing then is told by the writing
             fs::create_directories(pathOf(place).parent_path(), ignored);
-            writeFile(place, translation.report, Existing::Replace);
+            writeFile(place, translation.report, {.existing = Existing::Replace, .sync = options_.sync});
         } catch (const CliError& error) {
             fail(place, error.what());
         }
@@ -261,6 +263,7 @@ Run addTranslate(CLI::App& command) {
         ->take_last();
     command.add_flag("--keep-tree", options->keepTree, "Write DIR/PATH.txt, with the path below a folder of -r")
         ->disable_flag_override();
+    addSyncOption(command, options->sync);
     command.add_option("-j,--jobs", options->jobs, "Work on up to N files at a time; 0: as many as there are cores")
         ->type_name("N")
         ->take_last();

@@ -51,6 +51,19 @@ TEST_F(RepairTest, ReplacesTheFileAndKeepsTheOldOneBesideIt) {
     EXPECT_EQ(read("a.bin.bak"), brokenImage());
 }
 
+TEST_F(RepairTest, NeedNotWaitForTheDisk) {
+    write("a.bin", brokenImage());
+    EXPECT_EQ(shell("edidwb repair --no-sync --in-place a.bin").status, 0);
+    EXPECT_EQ(read("a.bin"), wholeImage());
+}
+
+TEST_F(RepairTest, TheNewFileRunsNothingAsItsOwner) {
+    write("a.bin", brokenImage());
+    EXPECT_EQ(
+        shell("chmod 6751 a.bin; edidwb repair --in-place --backup a.bin >out; stat -c %a a.bin a.bin.bak").output,
+        "751\n751\n");
+}
+
 TEST_F(RepairTest, ABackupIsNotReplacedUnlessForced) {
     write("a.bin", brokenImage());
     write("a.bin.bak", "older");

@@ -1,6 +1,10 @@
 #include "cli/temporary.h"
 
+#include <grp.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "cli/cli_error.h"
 #include "support/temporary_folder.h"
@@ -9,6 +13,12 @@ namespace wb::cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+unsigned permissionsOf(const std::string& path) {
+    struct stat status {};
+    EXPECT_EQ(stat(path.c_str(), &status), 0);
+    return status.st_mode & 07777U;
+}
 
 TEST(TemporaryFile, GoesUnlessItWasMoved) {
     const test::TemporaryFolder folder;
@@ -38,6 +48,94 @@ TEST(TemporaryFile, MovesToANewPlaceOnly) {
     EXPECT_EQ(test::TemporaryFolder::read(folder.file("new")), "content");
     const fs::directory_iterator entries(folder.file("."));
     EXPECT_EQ(std::distance(begin(entries), end(entries)), 2);
+}
+
+TEST(TemporaryFile, IsForItsUserAloneUnlessItIsForAll) {
+    const test::TemporaryFolder folder;
+    const mode_t mask = umask(S_IWGRP | S_IWOTH);
+    const TemporaryFile own(folder.file("."));
+    const TemporaryFile usual(folder.file("."), Readers::Usual);
+    umask(mask);
+    EXPECT_EQ(permissionsOf(own.path().string()), 0600U);
+    EXPECT_EQ(permissionsOf(usual.path().string()), 0644U);
+}
+
+TEST(TemporaryFile, TakesPermissionsWithoutThoseOfAProgramThatRunsAsItsOwner) {
+    const test::TemporaryFolder folder;
+    const std::string other = folder.write("other", "");
+    ASSERT_EQ(chmod(other.c_str(), 07751), 0);
+    TemporaryFile file(folder.file("."));
+    file.takeAccessOf(other);
+    EXPECT_EQ(permissionsOf(file.path().string()), 0751U);
+    file.takeAccessOf(folder.file("missing"));
+    EXPECT_EQ(permissionsOf(file.path().string()), 0751U);
+}
+
+/// What a user other than root may do is tried in a child.
+class TemporaryFileOfRoot : public testing::Test {
+protected:
+    static constexpr uid_t user = 12345;
+    static constexpr gid_t group = 23456;
+
+    void SetUp() override {
+        if (geteuid() != 0) {
+            GTEST_SKIP() << "only root can give files away";
+        }
+        ASSERT_EQ(chmod(folder.file(".").c_str(), 0777), 0);
+    }
+
+    /// Writes a file that takes the access of "other", as a user who is in one group besides that of their own.
+    int writeAs(uid_t writer, gid_t otherGroup) const {
+        const pid_t child = fork();
+        if (child == 0) {
+            const bool changed = setgroups(1, &otherGroup) == 0 && setgid(writer) == 0 && setuid(writer) == 0;
+            TemporaryFile file(folder.file("."));
+            file.takeAccessOf(folder.file("other"));
+            file.moveTo(folder.file("new"));
+            _exit(changed ? 0 : 1);
+        }
+        int status = -1;
+        waitpid(child, &status, 0);
+        return status;
+    }
+
+    struct stat statusOf(const std::string& name) const {
+        struct stat status {};
+        EXPECT_EQ(stat(folder.file(name).c_str(), &status), 0);
+        return status;
+    }
+
+    test::TemporaryFolder folder;
+};
+
+TEST_F(TemporaryFileOfRoot, KeepsOwnerAndGroup) {
+    const std::string other = folder.write("other", "");
+    ASSERT_EQ(chown(other.c_str(), user, group), 0);
+    ASSERT_EQ(chmod(other.c_str(), 06640), 0);
+    ASSERT_EQ(writeAs(0, 0), 0);
+    EXPECT_EQ(statusOf("new").st_uid, user);
+    EXPECT_EQ(statusOf("new").st_gid, group);
+    EXPECT_EQ(permissionsOf(folder.file("new")), 0640U);
+}
+
+TEST_F(TemporaryFileOfRoot, KeepsTheGroupAloneWhereTheOwnerCannotBe) {
+    const std::string other = folder.write("other", "");
+    ASSERT_EQ(chown(other.c_str(), user, group), 0);
+    ASSERT_EQ(chmod(other.c_str(), 06664), 0);
+    ASSERT_EQ(writeAs(user + 1, group), 0);
+    EXPECT_EQ(statusOf("new").st_uid, user + 1);
+    EXPECT_EQ(statusOf("new").st_gid, group);
+    EXPECT_EQ(permissionsOf(folder.file("new")), 0664U);
+}
+
+/// A group that could not read the old file is not to read the new one.
+TEST_F(TemporaryFileOfRoot, GivesAnotherGroupNoMoreThanAll) {
+    const std::string other = folder.write("other", "");
+    ASSERT_EQ(chown(other.c_str(), user, group), 0);
+    ASSERT_EQ(chmod(other.c_str(), 0664), 0);
+    ASSERT_EQ(writeAs(user + 1, user + 1), 0);
+    EXPECT_EQ(statusOf("new").st_gid, user + 1);
+    EXPECT_EQ(permissionsOf(folder.file("new")), 0644U);
 }
 
 TEST(TemporaryFile, NeedsItsFolder) {

@@ -1,0 +1,75 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "cli/file_access.h"
+
+namespace wb::cli {
+
+namespace {
+
+constexpr mode_t allPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+
+std::error_code lastError() {
+    return {errno, std::generic_category()};
+}
+
+/// What others may, for the group.
+mode_t groupAsOthers(mode_t mode) {
+    return (mode & ~mode_t{S_IRWXG}) | (mode & S_IRWXG & ((mode & S_IRWXO) << 3U));
+}
+
+} // namespace
+
+std::FILE* createFile(const std::filesystem::path& path, Readers readers) {
+    const mode_t usual = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    const mode_t mode = readers == Readers::Owner ? S_IRUSR | S_IWUSR : usual;
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+    std::FILE* const stream = file < 0 ? nullptr : fdopen(file, "wb");
+    if (file >= 0 && stream == nullptr) {
+        const int error = errno;
+        close(file);
+        unlink(path.c_str());
+        errno = error;
+    }
+    return stream;
+}
+
+std::error_code createOwnFolder(const std::filesystem::path& path) {
+    return mkdir(path.c_str(), S_IRWXU) == 0 ? std::error_code() : lastError();
+}
+
+void takeAccess(std::FILE* file, const std::filesystem::path& from) {
+    struct stat old {};
+    struct stat now {};
+    const int descriptor = fileno(file);
+    if (stat(from.c_str(), &old) != 0 || fstat(descriptor, &now) != 0) {
+        return;
+    }
+    mode_t mode = old.st_mode & allPermissions;
+    const bool same = old.st_uid == now.st_uid && old.st_gid == now.st_gid;
+    if (!same && fchown(descriptor, old.st_uid, old.st_gid) != 0) {
+        const bool groupKept = old.st_gid == now.st_gid || fchown(descriptor, now.st_uid, old.st_gid) == 0;
+        mode = groupKept ? mode : groupAsOthers(mode);
+    }
+    fchmod(descriptor, mode);
+}
+
+std::error_code syncFile(std::FILE* file) {
+    if (fsync(fileno(file)) != 0 && errno != EINVAL && errno != ENOTSUP && errno != ENOSYS) {
+        return lastError();
+    }
+    return {};
+}
+
+void syncFolder(const std::filesystem::path& folder) {
+    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        fsync(descriptor);
+        close(descriptor);
+    }
+}
+
+} // namespace wb::cli
