@@ -4,11 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "files/file_content.h"
+
 /// What the programs ask of libraries that the logic does without.
 namespace wb::adapters {
 
 /// The content of a gzip file (RFC 1952) by zlib, up to `most` bytes of it. Nothing where it is none, is damaged, ends
 /// early or holds more.
-std::optional<std::string> uncompressGzip(std::string_view bytes, std::size_t most = std::size_t{1} << 24U);
+std::optional<std::string> uncompressGzip(std::string_view bytes, std::size_t most = files::largestInput);
 
 } // namespace wb::adapters

@@ -1,7 +1,6 @@
 #include "cli/input.h"
 
 #include <algorithm>
-#include <system_error>
 
 #include "cli/cli_error.h"
 #include "files/file_content.h"
@@ -14,8 +13,8 @@ Input readInput(const std::string& name) {
             return {name, files::readStream(stdin)};
         }
         return {name, files::readFile(name)};
-    } catch (const std::system_error& error) {
-        throw CliError(error.code().message());
+    } catch (const files::InputError& error) {
+        throw CliError(error.what());
     }
 }
 

@@ -14,7 +14,7 @@ struct Input {
     std::string content;
 };
 
-/// Reads a file whole, in binary. One that cannot be read, a folder, and one above 1 GiB are a CliError.
+/// Reads a file whole, in binary. One that cannot be read, a folder, and one above files::largestInput are a CliError.
 Input readInput(const std::string& name);
 
 /// Standard input can be read once only: naming it twice is a UsageError.

@@ -5,13 +5,12 @@
 #include "acquire/get_edid.h"
 #include "cli/cli_error.h"
 #include "cli/output.h"
-#include "cli/temporary.h"
 #include "core/base/digits.h"
 #include "core/base/text.h"
 #include "core/edid_image.h"
-#include "core/input.h"
 #include "core/step.h"
 #include "files/data_file.h"
+#include "files/export_hex.h"
 #include "files/save.h"
 #include "report/show_report.h"
 #include "shell/lifecycle.h"
@@ -126,30 +125,23 @@ std::string Program::report() {
 }
 
 std::string Program::dataFile() {
-    const TemporaryFolder folder("image.DAT");
-    const std::string path = folder.file();
-    workbench_.CurrentFileName = path;
     const Step step(workbench_, "writing the data file");
-    const std::size_t boxesBefore = boxes_.count();
-    workbench_.runAction([&] { files::FileSave(workbench_); });
-    return contentWithoutBox(path, boxesBefore);
+    return contentWithoutBox([this] { return files::dataFileContent(workbench_); });
 }
 
 std::string Program::hexExport() {
-    const TemporaryFolder folder("image.hex");
-    const std::string path = folder.file();
-    platform_->queueFileName(path);
     const Step step(workbench_, "writing the hexadecimal export");
-    const std::size_t boxesBefore = boxes_.count();
-    input::choose(workbench_.frmMain().ExportHex);
-    return contentWithoutBox(path, boxesBefore);
+    return contentWithoutBox([this] { return files::hexFileContent(workbench_); });
 }
 
-std::string Program::contentWithoutBox(const std::string& path, std::size_t boxesBefore) const {
+std::string Program::contentWithoutBox(const std::function<std::string()>& build) {
+    const std::size_t boxesBefore = boxes_.count();
+    std::string content;
+    workbench_.runAction([&] { trapped(workbench_, [&] { content = build(); }); });
     if (boxes_.count() != boxesBefore) {
         throw CliError("cannot be written: " + inOneLine(boxes_.last()));
     }
-    return readInput(path).content;
+    return content;
 }
 
 std::unique_ptr<Program> Programs::take() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -54,8 +55,8 @@ private:
 
     void start(const std::optional<platform::DateTime>& now);
     [[noreturn]] void failToLoad() const;
-    /// What a command has written to that file; a box that came up meanwhile told of a failure and is a CliError.
-    std::string contentWithoutBox(const std::string& path, std::size_t boxesBefore) const;
+    /// What is built; a box that comes up meanwhile tells of a failure and is a CliError.
+    std::string contentWithoutBox(const std::function<std::string()>& build);
 
     std::optional<platform::headless::HeadlessPlatform> platform_{std::in_place}; ///< always there, made anew in place
     platform::Services services_;

@@ -2,6 +2,7 @@
 
 #include "core/base/image_layout.h"
 #include "core/base/text.h"
+#include "files/file_content.h"
 #include "files/text_file.h"
 #include "report/report_lines.h"
 
@@ -35,7 +36,12 @@ bool readRows(Workbench& workbench, LineReader reader) {
 bool ReadEDIDDataFile(Workbench& workbench) {
     return trappedOr(workbench, false, [&] {
         workbench.EDIDCells.create(imageSize);
-        return readRows(workbench, LineReader(workbench.CurrentFileName));
+        try {
+            return readRows(workbench, LineReader(workbench.CurrentFileName));
+        } catch (const InputError& error) {
+            workbench.showMessage(std::string("This File ") + error.what());
+            return false;
+        }
     });
 }
 

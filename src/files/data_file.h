@@ -13,7 +13,7 @@ namespace wb::files {
 inline constexpr std::string_view dataFileMarker = "128 BYTES OF EDID CODE:";
 
 /// Reads CurrentFileName into EDIDCells, which is created anew. Gives whether the marker was found; a file without it
-/// is told in a box, a failure is shown and gives false.
+/// is told in a box, as is one above largestInput; a failure is shown and gives false.
 bool ReadEDIDDataFile(Workbench& workbench);
 /// The same with the content of a file that is in memory already.
 bool readDataFile(Workbench& workbench, std::string_view content);

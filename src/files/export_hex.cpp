@@ -24,6 +24,10 @@ std::string askExportName(Workbench& workbench) {
     return askSaveName(workbench, "Save As", hexFilter);
 }
 
+std::string cellText(BlockScreen& screen, int cell) {
+    return screen.txtEdit(cell).text() + ' ';
+}
+
 /// How many cells could be written.
 int writeCells(const Statements& statement, BlockScreen& screen, std::optional<Writer>& file) {
     int written = 0;
@@ -32,7 +36,7 @@ int writeCells(const Statements& statement, BlockScreen& screen, std::optional<W
             if (!file) {
                 throw Failure(FailureKind::PathFileAccess);
             }
-            file->write(screen.txtEdit(i).text() + ' ');
+            file->write(cellText(screen, i));
             ++written;
         });
     }
@@ -80,6 +84,20 @@ void ExportHex_Click(Workbench& workbench) {
         silently([&] { deleteFile(name); });
     }
     writeImage(workbench, name);
+}
+
+std::string hexFileContent(Workbench& workbench) {
+    std::string content;
+    const auto append = [&](BlockScreen& screen) {
+        for (int i = 0; i < BlockScreen::cellCount; ++i) {
+            content += cellText(screen, i);
+        }
+    };
+    append(workbench.frmEDID());
+    if (hasExtensionByDecimalText(workbench)) {
+        append(workbench.frmCEA_EXT());
+    }
+    return content;
 }
 
 } // namespace wb::files

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "core/workbench.h"
 
 namespace wb::files {
@@ -8,5 +10,8 @@ namespace wb::files {
 /// extension (byte 126 by its decimal prefix) both blocks. The name becomes that of the image. Each failure of the
 /// writing is shown, and the export goes on with the next cell.
 void ExportHex_Click(Workbench& workbench);
+
+/// What it writes where nothing fails.
+std::string hexFileContent(Workbench& workbench);
 
 } // namespace wb::files

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <filesystem>
 #include <system_error>
 
@@ -12,10 +13,12 @@ namespace wb::files {
 
 namespace {
 
-constexpr std::size_t largestFile = std::size_t{1} << 30U;
-
 [[noreturn]] void fail(int error) {
-    throw std::system_error(error, std::generic_category());
+    throw InputError(std::generic_category().message(error));
+}
+
+std::string limitText() {
+    return std::to_string(largestInput) + " bytes, which is the most that is read";
 }
 
 } // namespace
@@ -26,6 +29,7 @@ std::string readFile(const std::string& path) {
     if (std::filesystem::is_directory(place, ignored)) {
         fail(EISDIR);
     }
+    requireReadableSize(path);
     const FileHandle file(openStream(place, "rb"));
     if (file == nullptr) {
         fail(errno);
@@ -37,21 +41,38 @@ std::string readStream(std::FILE* stream) {
     constexpr std::size_t firstPiece = std::size_t{1} << 12U; // holds most files
     constexpr std::size_t largestPiece = std::size_t{1} << 20U;
     std::string content;
-    for (std::size_t piece = firstPiece;; piece = std::min(piece * 2, largestPiece)) {
+    for (std::size_t wanted = firstPiece;; wanted = std::min(wanted * 2, largestPiece)) {
         const std::size_t size = content.size();
+        const std::size_t piece = std::min(wanted, largestInput + 1 - size);
         content.resize(size + piece);
         const std::size_t count = std::fread(content.data() + size, 1, piece, stream);
         content.resize(size + count);
         if (std::ferror(stream) != 0) {
             fail(errno);
         }
-        if (content.size() > largestFile) {
-            fail(EFBIG);
+        if (content.size() > largestInput) {
+            failAboveLargestInput();
         }
         if (count < piece) {
             return content;
         }
     }
+}
+
+void requireReadableSize(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path place = pathOf(path);
+    if (!std::filesystem::is_regular_file(place, error)) {
+        return;
+    }
+    const std::uintmax_t size = std::filesystem::file_size(place, error);
+    if (!error && size > largestInput) {
+        throw InputError("has " + std::to_string(size) + " bytes, more than " + limitText());
+    }
+}
+
+void failAboveLargestInput() {
+    throw InputError("has more than " + limitText());
 }
 
 } // namespace wb::files

@@ -6,6 +6,7 @@
 
 #include "core/base/failure.h"
 #include "core/base/file_names.h"
+#include "files/file_content.h"
 
 namespace wb::files {
 
@@ -60,7 +61,9 @@ void deleteFile(const std::string& name) {
     }
 }
 
-LineReader::LineReader(const std::string& name) : file_(openFile(name, "rb")), buffer_(chunkSize) {}
+LineReader::LineReader(const std::string& name) : file_(openFile(name, "rb")), buffer_(chunkSize) {
+    requireReadableSize(name);
+}
 
 LineReader LineReader::ofText(std::string_view text) {
     LineReader reader;
@@ -75,6 +78,10 @@ bool LineReader::fill() {
     const std::size_t count = std::fread(buffer_.data(), 1, buffer_.size(), file_.get());
     if (count == 0 && std::ferror(file_.get()) != 0) {
         throw Failure(kindOf(lastError()));
+    }
+    taken_ += count;
+    if (taken_ > largestInput) {
+        failAboveLargestInput();
     }
     rest_ = {buffer_.data(), count};
     return count > 0;

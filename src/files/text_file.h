@@ -24,6 +24,7 @@ void deleteFile(const std::string& name);
 
 class LineReader {
 public:
+    /// A file above largestInput is an InputError, here or as soon as that much was read.
     explicit LineReader(const std::string& name);
     /// The lines of a text in memory, which must outlive the reader.
     static LineReader ofText(std::string_view text);
@@ -40,6 +41,7 @@ private:
 
     FileHandle file_; ///< null where all there is to read is in `rest_`
     std::vector<char> buffer_;
+    std::size_t taken_ = 0; ///< bytes of the file
     std::string_view rest_; ///< what was taken from the file and is in no line yet
 };
 

@@ -75,7 +75,9 @@ const CommandRow* find(std::span<const CommandRow> among, std::string_view name)
 Driver::Driver(Session session, std::span<const CommandRow> further) : session_(std::move(session)), further_(further) {
     session_.platform.onLine = session_.print;
     if (session_.strict) {
-        session_.platform.onUnansweredBox = [this](const std::string& text) { unansweredBoxes_.push_back(text); };
+        session_.platform.onUnansweredBox = [this](const std::string& text) {
+            unansweredBox_ = unansweredBox_.value_or(text);
+        };
     }
 }
 
@@ -134,7 +136,7 @@ void Driver::runLine(std::string_view line) {
 
 void Driver::execute(const Command& command) {
     const CommandRow& row = rowOf(command);
-    unansweredBoxes_.clear();
+    unansweredBox_.reset();
     if (!std::exchange(started_, true)) {
         session_.frontEnd.start();
     }
@@ -142,8 +144,8 @@ void Driver::execute(const Command& command) {
     if (row.name == helpCommand) {
         printHelp();
     }
-    if (!unansweredBoxes_.empty()) {
-        throw ScriptError("a box without an answer: " + quoted(unansweredBoxes_.front()), ScriptError::Kind::Failure);
+    if (unansweredBox_) {
+        throw ScriptError("a box without an answer: " + quoted(*unansweredBox_), ScriptError::Kind::Failure);
     }
 }
 

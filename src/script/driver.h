@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <istream>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -44,7 +45,7 @@ private:
 
     Session session_;
     std::span<const CommandRow> further_;
-    std::vector<std::string> unansweredBoxes_; ///< of the command that runs
+    std::optional<std::string> unansweredBox_; ///< the first one of the command that runs
     bool started_ = false;
 };
 

@@ -1,5 +1,4 @@
 #include <array>
-#include <system_error>
 #include <utility>
 
 #include "core/base/digits.h"
@@ -31,8 +30,8 @@ platform::Answer answerNamed(const std::string& name) {
 std::string contentOf(const std::string& path) {
     try {
         return files::readFile(path);
-    } catch (const std::system_error& error) {
-        throw ScriptError(path + ": " + error.code().message());
+    } catch (const files::InputError& error) {
+        throw ScriptError(path + ": " + error.what(), ScriptError::Kind::Failure);
     }
 }
 

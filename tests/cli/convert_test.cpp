@@ -36,6 +36,17 @@ TEST_F(ConvertTest, WritesWhatTheCommandsOfTheProgramWrite) {
     EXPECT_EQ(read("b.hex"), read("a.hex"));
 }
 
+/// Standard output needs no file, and so no folder for it.
+TEST_F(ConvertTest, WritesToStandardOutputWithoutATemporaryFile) {
+    for (const char* form : {"dat", "hex", "report", "bin"}) {
+        const std::string convert = "edidwb convert --to " + std::string(form) + " $SAMPLES/halvorine-hv19.bin ";
+        const Outcome outcome = shell("TMPDIR=/missing " + convert + "- >out; status=$?; " + convert + form +
+                                      " && cmp out " + form + "; exit $status");
+        EXPECT_EQ(outcome.status, 0) << form;
+        EXPECT_EQ(outcome.output + outcome.errors, "") << form;
+    }
+}
+
 TEST_F(ConvertTest, RefusesAnExistingFile) {
     write("out", "old");
     const Outcome refused = shell("edidwb convert --to bin $SAMPLES/zarqo-z40.bin out");

@@ -44,6 +44,8 @@ TEST_F(ScriptTest, ARegistryExportTellsItsOwnLine) {
               "edidwb: -:1: bad.reg:4: neither a key nor a value\n");
     EXPECT_EQ(shell("echo 'registry missing.reg' | edidwb script").errors,
               "edidwb: -:1: missing.reg: No such file or directory\n");
+    EXPECT_EQ(shell("echo 'registry missing.reg' | edidwb script").status, 1);
+    EXPECT_EQ(shell("echo 'registry bad.reg' | edidwb script").status, 2);
     EXPECT_EQ(shell("echo 'registry .' | edidwb script").errors, "edidwb: -:1: .: Is a directory\n");
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "support/program.h"
 #include "support/temporary_folder.h"
 
@@ -45,6 +47,17 @@ TEST_F(DataFile, WithoutMarkerTheEntriesStayEmpty) {
     EXPECT_FALSE(read("0 |00 01\r\n"));
     EXPECT_EQ(program.takeBoxes(), Boxes{"This File is not a Valid EDID/DDC File"});
     EXPECT_EQ(entry(0), "");
+}
+
+TEST_F(DataFile, OneThatIsTooLargeIsToldWithItsSize) {
+    program.workbench.CurrentFileName = folder.write("image.DAT", "128 BYTES OF EDID CODE:\r\n\r\n\r\n|01\r\n");
+    std::filesystem::resize_file(program.workbench.CurrentFileName, 16777217);
+    EXPECT_FALSE(ReadEDIDDataFile(program.workbench));
+    EXPECT_EQ(program.takeBoxes(),
+              Boxes{"This File has 16777217 bytes, more than 16777216 bytes, which is the most that is read"});
+    program.workbench.CurrentFileName = "/dev/zero";
+    EXPECT_FALSE(ReadEDIDDataFile(program.workbench));
+    EXPECT_EQ(program.takeBoxes(), Boxes{"This File has more than 16777216 bytes, which is the most that is read"});
 }
 
 TEST_F(DataFile, AMarkerWithoutRowsIsValid) {

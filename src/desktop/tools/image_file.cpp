@@ -1,7 +1,6 @@
 #include "desktop/tools/image_file.h"
 
 #include <QFileInfo>
-#include <system_error>
 
 #include "adapters/recognise.h"
 #include "desktop/base/text_codec.h"
@@ -20,9 +19,8 @@ ImageFile readImageFile(const std::string& name) {
         if (file.images.empty()) {
             file.refusal = QString("%1 holds no EDID image: %2.").arg(shortName, toUnicode(found.refusal));
         }
-    } catch (const std::system_error& error) {
-        file.refusal =
-            QString("%1 cannot be read: %2.").arg(shortName, QString::fromLocal8Bit(error.code().message().c_str()));
+    } catch (const files::InputError& error) {
+        file.refusal = QString("%1 cannot be read: %2.").arg(shortName, QString::fromLocal8Bit(error.what()));
     }
     return file;
 }
