@@ -63,6 +63,29 @@ void removeTemporariesOnSignals() {
 #endif
 }
 
+#ifdef __unix__
+
+SignalsStayHere::SignalsStayHere() {
+    sigset_t ending{};
+    sigemptyset(&ending);
+    for (const int signal : endingSignals) {
+        sigaddset(&ending, signal);
+    }
+    pthread_sigmask(SIG_BLOCK, &ending, &before_);
+}
+
+SignalsStayHere::~SignalsStayHere() {
+    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+}
+
+#else
+
+SignalsStayHere::SignalsStayHere() = default;
+
+SignalsStayHere::~SignalsStayHere() = default;
+
+#endif
+
 CleanupMark::CleanupMark(Kind kind, const std::string& path) {
     const std::lock_guard lock(slotsMutex);
     const auto slot = std::find_if(slots.begin(), slots.end(), [](const Slot& one) { return one.state == Slot::Free; });

@@ -12,6 +12,8 @@
 #include <utility>
 #include <vector>
 
+#include "cli/cleanup.h"
+
 namespace wb::cli {
 
 /// Runs `work` on each item that `next` gives, until it gives none, on up to `jobs` threads, as many as the system
@@ -65,6 +67,7 @@ private:
     std::vector<std::jthread> startThreads() {
         std::vector<std::jthread> threads;
         threads.reserve(threads_);
+        const SignalsStayHere signals;
         try {
             while (threads_ > 1 && threads.size() < threads_) {
                 threads.emplace_back([this] { workOn(); });

@@ -48,6 +48,32 @@ TEST_F(BatchTest, TakesNamesFromAFile) {
     EXPECT_EQ(shell("edidwb check --files-from - -").status, 2);
 }
 
+/// Signals that come at any moment: a batch leaves whole reports, and nothing that is half done.
+TEST_F(BatchTest, LeavesWholeFilesWhenASignalEndsIt) {
+    shell(
+        "mkdir in tmp; for n in $(seq 60); do cp $SAMPLES/zarqo-z40.bin in/$n.bin; done\n"
+        "edidwb translate in/1.bin >report");
+    const std::string run =
+        "set -m\n" // else the shell lets background jobs ignore INT
+        "edidwb() { exec env TMPDIR=\"$PWD/tmp\" '" EDIDWB
+        "' \"$@\"; }\n"
+        "at() { \"${@:3}\" >shown 2>&1 & sleep 0.0$1; kill -$2 $!; wait $!; status=$?\n"
+        "  case $status in 0|$((128 + $(kill -l $2)))) ;; *) echo \"$2 gave $status: $(cat shown)\" ;; esac; }\n";
+    const Outcome outcome =
+        shell(run +
+              "for delay in 0 1 2 3 4 6 8; do for signal in INT TERM HUP; do\n"
+              "  at $delay $signal edidwb translate -j 4 --no-sync -o out in/*.bin\n"
+              "  for report in out/*; do cmp report $report; done 2>&1 | grep -v 'out/\\*'\n"
+              "  cp $SAMPLES/zarqo-z40.bin a.bin; printf '\\x00' | dd of=a.bin bs=1 seek=127 conv=notrunc status=none\n"
+              "  cp a.bin before.bin\n"
+              "  at $delay $signal edidwb repair --in-place a.bin\n"
+              "  cmp -s a.bin before.bin || cmp a.bin $SAMPLES/zarqo-z40.bin\n"
+              "  rm -f a.DAT; at $delay $signal edidwb convert --to dat $SAMPLES/zarqo-z40.bin a.DAT\n"
+              "  [ ! -e a.DAT ] || [ -s a.DAT ] || echo empty\n"
+              "done; done; find . -name '.edidwb-*'; ls -A tmp");
+    EXPECT_EQ(outcome.output, "") << outcome.errors;
+}
+
 /// Whoever writes the list may wait for what is told of a file before naming the next one.
 TEST_F(BatchTest, ReadsTheListAsItComes) {
     const Outcome outcome = shell(

@@ -43,6 +43,25 @@ TEST(Cleanup, SignalsRemoveTemporaryFilesAndEndTheProgram) {
     }
 }
 
+bool takesSignals() {
+    sigset_t blocked{};
+    pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
+    return sigismember(&blocked, SIGINT) == 0 && sigismember(&blocked, SIGTERM) == 0 &&
+           sigismember(&blocked, SIGHUP) == 0;
+}
+
+TEST(Cleanup, ThreadsBesideLeaveSignalsToTheOneThatCreatesFiles) {
+    bool beside = true;
+    {
+        const SignalsStayHere signals;
+        std::thread([&] { beside = takesSignals(); }).join();
+    }
+    EXPECT_FALSE(beside);
+    EXPECT_TRUE(takesSignals());
+    std::thread([&] { beside = takesSignals(); }).join();
+    EXPECT_TRUE(beside);
+}
+
 TEST(Cleanup, ASignalThatWasIgnoredStaysIgnored) {
     const test::TemporaryFolder folder;
     std::signal(SIGHUP, SIG_IGN);
