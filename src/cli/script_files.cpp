@@ -6,7 +6,6 @@
 
 #include "acquire/get_edid.h"
 #include "cli/cli_error.h"
-#include "cli/edited_image.h"
 #include "cli/formats.h"
 #include "cli/image_input.h"
 #include "cli/output.h"
@@ -14,6 +13,7 @@
 #include "core/base/text.h"
 #include "core/edid_image.h"
 #include "files/save.h"
+#include "shell/edited_image.h"
 #include "shell/lifecycle.h"
 
 namespace wb::cli {
@@ -64,6 +64,8 @@ void onFile(const std::string& name, const Work& work) {
         work();
     } catch (const CliError& error) {
         throw ScriptError(name + ": " + error.what(), ScriptError::Kind::Failure);
+    } catch (const shell::NoImage& error) {
+        throw ScriptError(name + ": " + error.what(), ScriptError::Kind::Failure);
     }
 }
 
@@ -99,7 +101,7 @@ void save(Session& session, const Arguments& arguments) {
     Workbench& workbench = session.workbench;
     onFile(name, [&] {
         if (form != dataFile) {
-            const Image image = editedImage(workbench);
+            const Image image = shell::editedImage(workbench);
             writeFile(name, contentAs(form, image), Existing::Replace);
             tellOmitted(workbench, name, image);
             return;
@@ -107,7 +109,7 @@ void save(Session& session, const Arguments& arguments) {
         if (workbench.EDIDLoaded == flagFalse) {
             throw CliError("no image is open");
         }
-        if (const std::size_t further = furtherBlocks(workbench); further != 0) {
+        if (const std::size_t further = shell::furtherBlocks(workbench); further != 0) {
             throw CliError(tooManyBlocks(Image::editedBlocks + further));
         }
         writeFile(name, files::dataFileContent(workbench), Existing::Replace);

@@ -40,11 +40,12 @@ TEST_F(Frame, HasTheMenusWithTheirMnemonics) {
     for (const QAction* menu : window().menuBar()->actions()) {
         top += menu->text();
     }
-    EXPECT_EQ(top, QStringList({"&File", "V&iew", "&Window", "&Tools", "&Help"}));
-    EXPECT_EQ(entriesOf("&File"),
+    EXPECT_EQ(top, QStringList({"&File", "&Edit", "V&iew", "&Window", "&Tools", "&Help"}));
+    EXPECT_EQ(entriesOf("&File").mid(0, 16),
               QStringList({"&New", "&Open...", "&Close", "-", "&Save", "Save &As...", "-", "Page Set&up...",
                            "Print Pre&view", "&Print...", "-", "&Export Hexadecimal EDID File", "&Hex Calculator",
-                           "Retreive EDID Data", "Windows 2000 Base Location", "-", "E&xit"}));
+                           "Retreive EDID Data", "Windows 2000 Base Location", "-"}));
+    EXPECT_EQ(entriesOf("&File").mid(16), QStringList({"&Import...", "Export I&mage", "&Recent Files", "-", "E&xit"}));
     EXPECT_EQ(entriesOf("&Window"), QStringList({"&Cascade", "Tile &Horizontal", "Tile &Vertical", "&Arrange Icons"}));
     EXPECT_EQ(entriesOf("&Help"), QStringList({"&Information", "&About ", "&Keys"}));
 }

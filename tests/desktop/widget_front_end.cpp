@@ -197,16 +197,29 @@ bool WidgetFrontEnd::chooseMenu(Control& entry) {
     return true;
 }
 
+bool WidgetFrontEnd::chooseTool(const QString& name, const std::function<bool()>& model) {
+    program_.sync();
+    QWidget& window = program_.frame().window();
+    auto* action = window.findChild<QAction*>(name);
+    if (!window.isVisible() || isBlocked(window)) {
+        return false;
+    }
+    if (!action->isEnabled()) {
+        bool done = false;
+        program_.act([&] { done = model(); });
+        return done;
+    }
+    action->trigger();
+    DesktopProgram::settle();
+    return true;
+}
+
 bool WidgetFrontEnd::undo() {
-    bool done = false;
-    program_.act([&] { done = program_.workbench.history->undo(); });
-    return done;
+    return chooseTool("editUndo", [this] { return program_.workbench.history->undo(); });
 }
 
 bool WidgetFrontEnd::redo() {
-    bool done = false;
-    program_.act([&] { done = program_.workbench.history->redo(); });
-    return done;
+    return chooseTool("editRedo", [this] { return program_.workbench.history->redo(); });
 }
 
 bool WidgetFrontEnd::paste(const std::string& text) {

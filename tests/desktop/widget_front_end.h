@@ -36,6 +36,8 @@ private:
     /// An entry that is grey because its command would do nothing: the model runs it, and the trace tells whether that
     /// is true.
     bool chooseGrey(Control& entry);
+    /// An entry of the frame's menus that no control stands for; where it is grey, the model runs what it would do.
+    bool chooseTool(const QString& name, const std::function<bool()>& model);
     bool pressKey(int key, const QString& text, Qt::KeyboardModifiers modifiers);
 
     DesktopProgram& program_;

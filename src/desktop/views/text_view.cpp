@@ -43,6 +43,10 @@ bool isAtEdge(const QLineEdit& box, TextEdge edge) {
     return !box.hasSelectedText() && box.cursorPosition() == (edge == TextEdge::Start ? 0 : box.text().size());
 }
 
+bool undoes(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
 } // namespace
 
 TextView::TextView(Control& control, const Place& place, UserActions& actions)
@@ -223,7 +227,27 @@ bool TextView::stepToCell(const QKeyEvent& event) {
     return true;
 }
 
+bool TextBox::undoesTyping(const QKeyEvent& event) const {
+    const bool available = event.matches(QKeySequence::Undo) ? isUndoAvailable() : isRedoAvailable();
+    return available && view_.place().look != Look::Cell;
+}
+
+bool TextBox::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if (undoes(key) && !undoesTyping(key)) {
+            event->ignore(); // the key is that of the Edit menu
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
 void TextBox::keyPressEvent(QKeyEvent* event) {
+    if (undoes(*event) && !undoesTyping(*event)) {
+        event->ignore();
+        return;
+    }
     if (isEnter(*event)) {
         view_.enter(*event);
         return;

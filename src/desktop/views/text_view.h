@@ -15,6 +15,7 @@ public:
     explicit TextBox(TextView& view) : view_(view) {}
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -27,6 +28,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Whether the key takes back, or makes again, what was typed here and not entered yet. In a cell each key changes
+    /// the image, so that it never does there.
+    bool undoesTyping(const QKeyEvent& event) const;
+
     TextView& view_;
     QPointF pressed_;
 };

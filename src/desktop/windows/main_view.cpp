@@ -226,6 +226,11 @@ void MainView::tellWritten(const WrittenFile& file) {
     notice_->setToolTip(name.toHtmlEscaped());
 }
 
+void MainView::tell(const QString& notice) {
+    notice_->setText(notice);
+    notice_->setToolTip({});
+}
+
 void MainView::makeClock() {
     auto* clock = new QLabel;
     clock->setAccessibleName("Clock");

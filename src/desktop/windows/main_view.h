@@ -33,6 +33,10 @@ public:
     void refreshStates() override;
     /// Tells in the status bar what has been written, and when.
     void tellWritten(const WrittenFile& file);
+    /// Tells something else there.
+    void tell(const QString& notice);
+    /// To be told by what runs an event loop of its own inside a call.
+    ModelGate& gate() { return actions().gate(); }
     /// A file that the user has dropped.
     void openDropped(const QString& name);
     /// Lists the shown children, the active one first, in the Window menu.

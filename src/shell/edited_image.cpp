@@ -1,13 +1,12 @@
-#include "cli/edited_image.h"
+#include "shell/edited_image.h"
 
 #include <algorithm>
 
-#include "cli/cli_error.h"
 #include "core/base/digits.h"
 #include "core/base/image_layout.h"
 #include "core/base/text.h"
 
-namespace wb::cli {
+namespace wb::shell {
 
 namespace {
 
@@ -17,7 +16,7 @@ std::string bytesOf(BlockScreen& screen, int first) {
     for (int i = 0; i < BlockScreen::cellCount; ++i) {
         const std::string& text = screen.txtEdit(i).text();
         if (text.size() != 2 || hexDigit(text[0]) < 0 || hexDigit(text[1]) < 0) {
-            throw CliError("cell " + std::to_string(first + i) + " is no byte: " + quoted(text));
+            throw NoImage("cell " + std::to_string(first + i) + " is no byte: " + quoted(text));
         }
         bytes += static_cast<char>(hexDigit(text[0]) * 16 + hexDigit(text[1]));
     }
@@ -33,7 +32,7 @@ std::optional<std::size_t> announcedBlocks(BlockScreen& screen) {
 FrmEdid& openScreen(const Workbench& workbench) {
     auto* const screen = static_cast<FrmEdid*>(workbench.loaded(ScreenId::Edid));
     if (screen == nullptr || workbench.EDIDLoaded == flagFalse) {
-        throw CliError("no image is open");
+        throw NoImage("no image is open");
     }
     return *screen;
 }
@@ -56,8 +55,8 @@ Image editedImage(const Workbench& workbench) {
     const std::size_t shown = extension == nullptr ? 1 : Image::editedBlocks;
     const std::size_t held = std::max(shown, loaded ? loaded->blockCount() : 0);
     if (announced > held) {
-        throw CliError("announces " + std::to_string(announced) + " blocks, and the program holds " +
-                       std::to_string(held));
+        throw NoImage("announces " + std::to_string(announced) + " blocks, and the program holds " +
+                      std::to_string(held));
     }
     for (std::size_t block = 1; block < blockCount(loaded, announced); ++block) {
         if (block < std::min(shown, announced)) {
@@ -80,4 +79,4 @@ std::size_t furtherBlocks(const Workbench& workbench) {
     return count - std::min(count, Image::editedBlocks);
 }
 
-} // namespace wb::cli
+} // namespace wb::shell
