@@ -6,9 +6,9 @@
 
 namespace wb::files {
 
-/// The most bytes of an input that are read, 16 MiB: the largest image there can be, 256 blocks of 128 bytes, in the
-/// longest form, each byte on a line of its own of 256 characters in UTF-16.
-inline constexpr std::size_t largestInput = std::size_t{256} * 128 * 256 * 2;
+/// The most bytes of an input that are read, 32 MiB: the largest image there can be, 256 blocks of 128 bytes, in the
+/// longest form, each byte on a line of its own of 512 characters in UTF-16.
+inline constexpr std::size_t largestInput = std::size_t{256} * 128 * 512 * 2;
 
 /// Why an input cannot be read, in words for the user.
 class InputError : public std::runtime_error {

@@ -51,13 +51,13 @@ TEST_F(DataFile, WithoutMarkerTheEntriesStayEmpty) {
 
 TEST_F(DataFile, OneThatIsTooLargeIsToldWithItsSize) {
     program.workbench.CurrentFileName = folder.write("image.DAT", "128 BYTES OF EDID CODE:\r\n\r\n\r\n|01\r\n");
-    std::filesystem::resize_file(program.workbench.CurrentFileName, 16777217);
+    std::filesystem::resize_file(program.workbench.CurrentFileName, 33554433);
     EXPECT_FALSE(ReadEDIDDataFile(program.workbench));
     EXPECT_EQ(program.takeBoxes(),
-              Boxes{"This File has 16777217 bytes, more than 16777216 bytes, which is the most that is read"});
+              Boxes{"This File has 33554433 bytes, more than 33554432 bytes, which is the most that is read"});
     program.workbench.CurrentFileName = "/dev/zero";
     EXPECT_FALSE(ReadEDIDDataFile(program.workbench));
-    EXPECT_EQ(program.takeBoxes(), Boxes{"This File has more than 16777216 bytes, which is the most that is read"});
+    EXPECT_EQ(program.takeBoxes(), Boxes{"This File has more than 33554432 bytes, which is the most that is read"});
 }
 
 TEST_F(DataFile, AMarkerWithoutRowsIsValid) {

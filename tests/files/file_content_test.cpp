@@ -21,21 +21,21 @@ std::string refusalOf(const std::string& path) {
 TEST(FileContent, TakesAFileUpToTheLargestInput) {
     const test::TemporaryFolder folder;
     const std::string path = folder.write("a", "");
-    std::filesystem::resize_file(path, 16777216);
-    EXPECT_EQ(readFile(path).size(), 16777216U);
+    std::filesystem::resize_file(path, 33554432);
+    EXPECT_EQ(readFile(path).size(), 33554432U);
 }
 
 TEST(FileContent, TellsTheSizeOfALargerOne) {
     const test::TemporaryFolder folder;
     const std::string path = folder.write("a", "");
-    std::filesystem::resize_file(path, 16777217);
-    EXPECT_EQ(refusalOf(path), "has 16777217 bytes, more than 16777216 bytes, which is the most that is read");
+    std::filesystem::resize_file(path, 33554433);
+    EXPECT_EQ(refusalOf(path), "has 33554433 bytes, more than 33554432 bytes, which is the most that is read");
     std::filesystem::resize_file(path, 5000000000);
-    EXPECT_EQ(refusalOf(path), "has 5000000000 bytes, more than 16777216 bytes, which is the most that is read");
+    EXPECT_EQ(refusalOf(path), "has 5000000000 bytes, more than 33554432 bytes, which is the most that is read");
 }
 
 TEST(FileContent, GivesUpADeviceWithoutAnEnd) {
-    EXPECT_EQ(refusalOf("/dev/zero"), "has more than 16777216 bytes, which is the most that is read");
+    EXPECT_EQ(refusalOf("/dev/zero"), "has more than 33554432 bytes, which is the most that is read");
 }
 
 TEST(FileContent, TellsWhatTheSystemRefuses) {
