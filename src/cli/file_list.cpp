@@ -30,7 +30,7 @@ FileList::FileList(const FileOptions& options) : options_(options) {
     requireOneStandardInput(streams);
     if (!options.listFile.empty()) {
         list_.emplace(options.listFile, options.zeroEnded ? '\0' : '\n');
-    } else if (options.names.empty()) {
+    } else if (!options.any()) {
         throw UsageError("FILE is required");
     }
 }

@@ -21,6 +21,8 @@ struct FileOptions {
     std::string listFile;           ///< a file with further names, "-" for standard input; empty: none
     bool zeroEnded = false;         ///< the names in it end with NUL instead of line ends
     bool recursive = false;         ///< folders stand for all files below them
+
+    bool any() const { return !names.empty() || !listFile.empty(); }
 };
 
 /// A file of a batch.

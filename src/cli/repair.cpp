@@ -32,7 +32,7 @@ int run(const RewriteOptions& options) {
 
 Run addRepair(CLI::App& command) {
     const auto options = std::make_shared<RewriteOptions>();
-    addRewriteOptions(command, *options)->required();
+    addRewriteOptions(command, *options);
     command.footer(
         "The last byte of every block becomes what makes the sum of the block 0, and no other byte changes.\n"
         "An image that lacks a block, or has bytes behind its last one, is refused.\n\n"

@@ -99,11 +99,25 @@ const forms::WrittenForm& formOfEnding(const std::string& name) {
     return *forms::writtenForm("bin");
 }
 
+/// All files, before the first is changed: what is written must not be taken for one of them.
+std::vector<std::string> namesOf(const RewriteOptions& options, bool& complete) {
+    FileList list(options.files);
+    std::vector<std::string> names;
+    while (const std::optional<BatchFile> file = list.next()) {
+        if (options.inPlace && file->name == standardStream) {
+            throw UsageError("standard input cannot be changed in place");
+        }
+        names.push_back(file->name);
+    }
+    complete = list.complete();
+    return names;
+}
+
 /// Takes one file after the other.
 class Rewriter {
 public:
-    Rewriter(const RewriteOptions& options, const Changer& change)
-        : options_(options), change_(change), names_(options.files, "") {}
+    Rewriter(const RewriteOptions& options, const std::vector<std::string>& files, const Changer& change)
+        : options_(options), files_(files), change_(change), names_(files, "") {}
 
     /// A failure is a CliError.
     void rewrite(const std::string& name) {
@@ -160,7 +174,7 @@ private:
         if (!isNew) {
             throw CliError("its new file '" + place + "' is already that of '" + other->second + "'");
         }
-        for (const std::string& input : options_.files) {
+        for (const std::string& input : files_) {
             std::error_code error;
             if (fs::equivalent(pathOf(input), pathOf(place), error) && !error) {
                 throw CliError("its new file '" + place + "' would replace one that is to be read");
@@ -170,6 +184,7 @@ private:
     }
 
     const RewriteOptions& options_;
+    const std::vector<std::string>& files_;
     const Changer& change_;
     ReportNames names_;
     std::map<std::string, std::string> writtenBy_;
@@ -177,10 +192,8 @@ private:
 
 } // namespace
 
-CLI::Option* addRewriteOptions(CLI::App& command, RewriteOptions& options) {
-    CLI::Option* const files =
-        command.add_option("FILE", options.files, "File in any form, recognised by its content; - is standard input")
-            ->type_name("");
+void addRewriteOptions(CLI::App& command, RewriteOptions& options) {
+    addFileOptions(command, options.files);
     command
         .add_option("-o,--output-dir", options.outputFolder,
                     "Write each image to DIR under its name: in its form where the file holds nothing but the bytes of "
@@ -198,11 +211,9 @@ CLI::Option* addRewriteOptions(CLI::App& command, RewriteOptions& options) {
         ->disable_flag_override();
     addSyncOption(command, options.sync);
     addImageOptions(command, options.images);
-    return files;
 }
 
 void checkRewriteOptions(const RewriteOptions& options) {
-    requireOneStandardInput(options.files);
     if (options.inPlace && options.outputFolder) {
         throw UsageError("--in-place and --output-dir exclude each other");
     }
@@ -212,20 +223,17 @@ void checkRewriteOptions(const RewriteOptions& options) {
     if (options.backup && !options.inPlace) {
         throw UsageError("--backup belongs to --in-place");
     }
-    for (const std::string& file : options.files) {
-        if (options.inPlace && file == standardStream) {
-            throw UsageError("standard input cannot be changed in place");
-        }
-    }
 }
 
 int rewriteFiles(const RewriteOptions& options, const Changer& change) {
+    bool complete = true;
+    const std::vector<std::string> files = namesOf(options, complete);
     if (!makeFolder(options)) {
         return somethingFailed;
     }
-    Rewriter rewriter(options, change);
-    int status = success;
-    for (const std::string& file : options.files) {
+    Rewriter rewriter(options, files, change);
+    int status = complete ? success : somethingFailed;
+    for (const std::string& file : files) {
         try {
             rewriter.rewrite(file);
         } catch (const CliError& error) {

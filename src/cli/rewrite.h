@@ -5,19 +5,19 @@
 #include <string>
 #include <vector>
 
+#include "cli/file_list.h"
 #include "cli/image_input.h"
 #include "core/base/image.h"
 
 namespace CLI {
 class App;
-class Option;
-} // namespace CLI
+}
 
 /// What the commands that change images have in common: where the images come from and where they go.
 namespace wb::cli {
 
 struct RewriteOptions {
-    std::vector<std::string> files;
+    FileOptions files;
     std::optional<std::string> outputFolder;
     ImageOptions images;
     bool inPlace = false;
@@ -27,9 +27,8 @@ struct RewriteOptions {
     bool sync = true;
 };
 
-/// FILE, -o, --in-place, --backup, --force, --dry-run, --no-sync and those of addImageOptions. Gives the option of the
-/// files, which is not required.
-CLI::Option* addRewriteOptions(CLI::App& command, RewriteOptions& options);
+/// The options of addFileOptions and addImageOptions, -o, --in-place, --backup, --force, --dry-run and --no-sync.
+void addRewriteOptions(CLI::App& command, RewriteOptions& options);
 /// Where the options contradict each other it is a UsageError.
 void checkRewriteOptions(const RewriteOptions& options);
 

@@ -72,7 +72,7 @@ int run(const RewriteOptions& options) {
 
 Run addScrub(CLI::App& command) {
     const auto options = std::make_shared<RewriteOptions>();
-    addRewriteOptions(command, *options)->required();
+    addRewriteOptions(command, *options);
     command.footer(
         "The serial number becomes 0 and the texts of serial number descriptors blank, as the panels write them; the\n"
         "check sum of block 0 is put right. Serial numbers in other blocks stay, and are told.\n\n"

@@ -20,7 +20,7 @@ struct SetOptions {
 };
 
 void checkNewFile(const SetOptions& options, const ImageSettings& settings) {
-    if (!options.rewrite.files.empty()) {
+    if (options.rewrite.files.any()) {
         throw UsageError("--new takes no FILE besides");
     }
     if (options.rewrite.inPlace || options.rewrite.backup) {
@@ -38,7 +38,7 @@ void checkNewFile(const SetOptions& options, const ImageSettings& settings) {
 }
 
 void checkFiles(const SetOptions& options) {
-    if (options.rewrite.files.empty()) {
+    if (!options.rewrite.files.any()) {
         throw UsageError("FILE or --new is required");
     }
     checkRewriteOptions(options.rewrite);

@@ -35,6 +35,22 @@ TEST_F(RepairTest, PutsTheSumOfEveryBlockRightAndNothingElse) {
     EXPECT_EQ(read("a.bin"), brokenImage());
 }
 
+TEST_F(RepairTest, TakesFoldersAndListsAsTheOtherBatchesDo) {
+    shell("mkdir -p in/below");
+    write("in/a.bin", brokenImage());
+    write("in/below/a.bin", brokenImage());
+    const Outcome folder = shell("edidwb repair -r in -o out");
+    EXPECT_EQ(folder.status, 0) << folder.errors;
+    EXPECT_EQ(shell("ls out").output, "below_a.bin\nin_a.bin\n");
+    EXPECT_EQ(read("out/below_a.bin"), wholeImage());
+    const Outcome list = shell("printf 'in/a.bin\\0in/below/a.bin\\0' | edidwb repair --files-from - -0 --in-place");
+    EXPECT_EQ(list.status, 0) << list.errors;
+    EXPECT_EQ(read("in/a.bin"), wholeImage());
+    EXPECT_EQ(read("in/below/a.bin"), wholeImage());
+    EXPECT_EQ(shell("edidwb repair --in-place -r nowhere").status, 1);
+    EXPECT_EQ(shell("echo - | edidwb repair --in-place --files-from /dev/stdin").status, 2);
+}
+
 TEST_F(RepairTest, ASumOf0StaysByte0) {
     write("a.bin", sample("zarqo-z40.bin") + std::string(127, '\0') + '\x01');
     EXPECT_EQ(shell("edidwb repair a.bin --in-place").output, "a.bin: block 2: check sum 01 becomes 00\n");
