@@ -85,6 +85,9 @@ void ControlView::refresh() {
 }
 
 void ControlView::refreshPalette() {
+    if (control() == nullptr) {
+        return; // a window that is on its way out gets the colours of the desktop too
+    }
     const Control& model = *control();
     if (isPanel(model)) {
         widget()->setPalette(withLiveDisabledText(QApplication::palette()));
