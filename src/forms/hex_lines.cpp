@@ -150,6 +150,7 @@ public:
     explicit HexLinesReader(std::string_view text) : lines_(linesOf(text)) {}
 
     std::vector<Found> read() {
+        blankLongComments();
         for (std::size_t i = 0; i < lines_.size(); ++i) {
             takeLine(lines_[i]);
         }
@@ -158,6 +159,27 @@ public:
     }
 
 private:
+    /// Takes the lines between the ends of a C comment away; a comment that does not end is none.
+    void blankLongComments() {
+        for (auto first = lines_.begin(); first != lines_.end(); ++first) {
+            const std::size_t begin = first->text.rfind("/*");
+            if (begin == std::string_view::npos || first->text.find("*/", begin) != std::string_view::npos) {
+                continue;
+            }
+            const auto last = std::find_if(first + 1, lines_.end(), [](const Line& line) {
+                return line.text.find("*/") != std::string_view::npos;
+            });
+            if (last == lines_.end()) {
+                return;
+            }
+            std::for_each(first + 1, last, [](Line& line) { line.text = {}; });
+            const std::size_t end = last->text.find("*/") + 2;
+            last->text.remove_prefix(end);
+            last->place += end;
+            first = last - 1; // another one may begin where this one ends
+        }
+    }
+
     void takeLine(const Line& line) {
         const HexRun run = LineReader(line.text).read();
         if (image_ && line.text == "*") {

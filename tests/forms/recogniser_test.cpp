@@ -331,8 +331,9 @@ TEST(Recogniser, PassesOverCommentsAndHeadsBetweenTheRows) {
     const std::string bytes = sample("zarqo-z40.bin"); // announces its one extension
     const std::string first = plainRows(bytes.substr(0, 128), "\t", ", ", ",", "0x%02x");
     const std::string second = plainRows(bytes.substr(128), "\t", ", ", ",", "0x%02x");
-    for (const char* words : {"\t/* block 1 */\n", "  // the extension\n", "# block 1\n", "; block 1\n",
-                              "HKR,EDID_OVERRIDE,\"1\",0x01,\\\n", "HKR, EDID_OVERRIDE, \"1\", 1, \\\n"}) {
+    for (const char* words :
+         {"\t/* block 1 */\n", "/* block 1,\n   00 11 22\n * made by hand\n */\n", "  // the extension\n",
+          "# block 1\n", "; block 1\n", "HKR,EDID_OVERRIDE,\"1\",0x01,\\\n", "HKR, EDID_OVERRIDE, \"1\", 1, \\\n"}) {
         SCOPED_TRACE(words);
         Recognition result = recognise(words + first + words + second);
         ASSERT_EQ(result.images.size(), 1U) << result.refusal;
