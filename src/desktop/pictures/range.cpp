@@ -130,7 +130,7 @@ void drawBar(Sketch& sketch, const Bar& bar, double middle, double height) {
     const double end = bar.end();
     const auto at = [&](double value) { return room.left() + (end > 0 ? value / end * room.width() : 0); };
     const double half = height * 0.3;
-    sketch.path(QPolygonF({{at(0), middle}, {at(end), middle}}), Ink::Faint).name =
+    sketch.path(QPolygonF({QPointF(at(0), middle), QPointF(at(end), middle)}), Ink::Faint).name =
         std::string(bar.kind->name) + " scale";
     sketch
         .area(QPolygonF(QRectF(QPointF(at(bar.low), middle - half), QPointF(at(bar.high), middle + half)).normalized()),
@@ -139,7 +139,7 @@ void drawBar(Sketch& sketch, const Bar& bar, double middle, double height) {
     for (const Mark& mark : bar.marks) {
         const double reach = mark.inside ? half : height / 2;
         sketch
-            .path(QPolygonF({{at(mark.value), middle - reach}, {at(mark.value), middle + reach}}),
+            .path(QPolygonF({QPointF(at(mark.value), middle - reach), QPointF(at(mark.value), middle + reach)}),
                   mark.inside ? Ink::Inside : Ink::Outside)
             .name = std::string(bar.kind->name) + (mark.inside ? " inside" : " outside");
     }

@@ -91,7 +91,7 @@ void Sketch::addSwatch(const LegendLine& line, const QRectF& place) {
         case Swatch::Line:
         case Swatch::Dashes: {
             const double middle = place.center().y();
-            path(QPolygonF({{place.left(), middle}, {place.right(), middle}}), line.ink).dashed =
+            path(QPolygonF({QPointF(place.left(), middle), QPointF(place.right(), middle)}), line.ink).dashed =
                 line.swatch == Swatch::Dashes;
             break;
         }
