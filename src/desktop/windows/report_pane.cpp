@@ -10,7 +10,7 @@
 namespace wb::desktop {
 
 ReportPane::ReportPane(QWidget& page, QPlainTextEdit& report, ReportBytes::Go goToByte)
-    : report_(report), findBar_(new FindBar(report)), heads_(new ReportHeads(*report.document())) {
+    : findBar_(new FindBar(report)), heads_(new ReportHeads(*report.document())) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);

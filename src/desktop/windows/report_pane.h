@@ -21,7 +21,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QPlainTextEdit& report_;
     FindBar* findBar_;
     ReportHeads* heads_;
 };
