@@ -95,6 +95,7 @@ const Command* commandOf(std::string_view name) {
 
 std::vector<std::string> commandNames() {
     std::vector<std::string> names;
+    names.reserve(commands.size());
     for (const Command& command : commands) {
         names.emplace_back(command.name);
     }

@@ -1,6 +1,7 @@
 #include "cli/read_back.h"
 
 #include "cli/program.h"
+#include "core/base/text.h"
 
 namespace wb::cli {
 
@@ -12,7 +13,8 @@ std::optional<std::string> firstLoss(BlockScreen& written, Workbench& reader, in
         const std::string& read = reader.EDIDCells(firstCell + i);
         const std::string text = written.txtEdit(i).text();
         if (read != text) {
-            return "cell " + std::to_string(firstCell + i) + " is \"" + text + "\" and comes back as \"" + read + '"';
+            return joined(
+                {"cell ", std::to_string(firstCell + i), " is \"", text, "\" and comes back as \"", read, "\""});
         }
     }
     return std::nullopt;

@@ -112,7 +112,7 @@ std::string sentenceOf(const CLI::ParseError& error, const CLI::App& app) {
     if (app.remaining_size() > 0) {
         return extraSentence(app.remaining(), app);
     }
-    const std::string words = error.what();
+    std::string words = error.what();
     static const std::regex notAmong(R"((-\S+): ([^]*) not in \{([^]*)\})");
     std::smatch match;
     if (std::regex_match(words, match, notAmong)) {

@@ -140,6 +140,7 @@ QString areaText(const std::vector<Coordinate>& points) {
 
 void drawLegend(Sketch& sketch, const std::vector<Coordinate>& points) {
     std::vector<LegendLine> legend;
+    legend.reserve(points.size() + 2);
     for (const Coordinate& point : points) {
         legend.push_back({.words = point.words + ' ' + coordinates(point.at),
                           .swatch = Swatch::Dot,

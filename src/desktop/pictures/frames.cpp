@@ -51,6 +51,7 @@ std::vector<Shape> drawFrames(const std::vector<Frame>& frames, const QSizeF& si
     const std::vector<Frame> sizes = sizesOf(frames);
     Sketch sketch(size, font);
     std::vector<LegendLine> legend;
+    legend.reserve(frames.size());
     for (const Frame& frame : frames) {
         legend.push_back(legendOf(frame, sizes));
     }

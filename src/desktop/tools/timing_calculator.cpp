@@ -149,7 +149,7 @@ void TimingCalculator::takeShownTiming() {
     const fields::Reading* reading = frame_.liveReading().reading();
     std::optional<fields::Modeline> now;
     if (target_ && reading != nullptr &&
-        reading->image.bytes().size() >= static_cast<std::size_t>(target_->byte + detailedBlockSize)) {
+        reading->image.bytes().size() >= static_cast<std::size_t>(target_->byte) + detailedBlockSize) {
         now = fields::modelineAt(reading->image, static_cast<std::size_t>(target_->byte));
     }
     constexpr int usualWidth = 1920;
