@@ -99,13 +99,14 @@ TEST(TimingPicture, PicksTheOptionsOfItsNumbers) {
     const std::pair<const char*, int> options[] = {{"h active", 1},      {"h blanking", 2},    {"v active", 3},
                                                    {"v blanking", 4},    {"h front porch", 5}, {"h sync", 6},
                                                    {"v front porch", 7}, {"v border", 10}};
-    for (const auto& [name, option] : options) {
+    for (const auto& option : options) {
+        const char* const name = option.first;
         const auto words = std::find_if(picture.shapes.begin(), picture.shapes.end(), [&](const desktop::Shape& shape) {
             return shape.name == name && shape.kind == desktop::Shape::Kind::Words;
         });
         ASSERT_NE(words, picture.shapes.end()) << name;
         EXPECT_EQ(words->pick->control, "DT");
-        EXPECT_EQ(words->pick->index, option) << name;
+        EXPECT_EQ(words->pick->index, option.second) << name;
     }
 }
 
