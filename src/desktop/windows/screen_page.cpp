@@ -87,7 +87,10 @@ Control& controlAt(const Screen& screen, std::string_view name, int index) {
 }
 
 ScreenPage::ScreenPage(Screen& screen, UserActions& actions)
-    : screen_(screen), layout_(layoutOf(screen.id())), actions_(actions) {
+    : screen_(screen),
+      layout_(layoutOf(screen.id())),
+      actions_(actions),
+      isExtension_(screen.id() == ScreenId::CeaExt) {
     refreshPalette();
     if (const Area* area = layout_.find("")) {
         fill(*this, *area);
@@ -225,8 +228,7 @@ Control* ScreenPage::otherSide(const Control* from) const {
 // would not.
 QSize ScreenPage::sizeHint() const {
     constexpr int pictureLines = 11;
-    const int lines = screen_.id() == ScreenId::CeaExt ? pictureLines : 0;
-    return minimumSizeHint() + QSize(0, lines * fontMetrics().height());
+    return minimumSizeHint() + QSize(0, isExtension_ ? pictureLines * fontMetrics().height() : 0);
 }
 
 QSize ScreenPage::minimumSizeHint() const {

@@ -49,6 +49,7 @@ private:
     UserActions& actions_;
     std::vector<std::unique_ptr<ControlView>> views_;
     std::unique_ptr<PanelPicture> picture_; ///< of a block screen
+    bool isExtension_; ///< known still when the toolkit asks for the size of a window whose screen has gone
     mutable QSize largest_;
 };
 
