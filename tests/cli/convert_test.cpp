@@ -188,6 +188,9 @@ TEST_F(ConvertTest, TheDateOfAReportCanBeSet) {
 }
 
 TEST_F(ConvertTest, AFileSizeLimitLeavesAPipeAlone) {
+    if (shell("(ulimit -f 0; edidwb --version) | grep -q edidwb").status != 0) {
+        GTEST_SKIP() << "a sanitizer writes a file for itself";
+    }
     const Outcome outcome = shell(
         "edidwb convert --to dat $SAMPLES/zarqo-z40.bin a.DAT\n"
         "(ulimit -f 0; edidwb convert --to dat $SAMPLES/zarqo-z40.bin - 2>&1) | cmp - a.DAT");
