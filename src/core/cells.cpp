@@ -7,11 +7,24 @@
 
 namespace wb {
 
+namespace {
+
+/// 16 * first digit + second digit; a missing digit counts as 0.
+int codeOf(std::string_view text) {
+    const std::string_view rest = text.substr(std::min<std::size_t>(text.size(), 1));
+    return HexDigitValue(text.substr(0, 1)) * 16 + HexDigitValue(rest.substr(0, 1));
+}
+
+bool isByte(int code) {
+    return code >= 0 && code <= 255;
+}
+
+} // namespace
+
 std::string HexTextToChar(Workbench& workbench, std::string_view text) {
     return trappedOr(workbench, std::string(), [&] {
-        const int code = HexDigitValue(text.substr(0, 1)) * 16 +
-                         HexDigitValue(text.size() > 1 ? text.substr(1, 1) : text.substr(0, 0));
-        if (code < 0 || code > 255) {
+        const int code = codeOf(text);
+        if (!isByte(code)) {
             throw Failure(FailureKind::InvalidCall);
         }
         return std::string(1, static_cast<char>(code));
@@ -38,10 +51,9 @@ double Value(Workbench& workbench, std::string_view text) {
 }
 
 int byteOf(Workbench& workbench, std::string_view cellText) {
-    const int code = HexDigitValue(cellText.substr(0, 1)) * 16 +
-                     HexDigitValue(cellText.substr(std::min<std::size_t>(cellText.size(), 1), 1));
-    if (code >= 0 && code <= 255) {
-        return code;
+    const int code = codeOf(cellText);
+    if (isByte(code)) {
+        return code; // the usual case, which needs no text of one character
     }
     return characterCode(HexTextToChar(workbench, cellText));
 }
