@@ -5,8 +5,10 @@
 #include <cmath>
 #include <cstdlib>
 #include <memory>
+#include <system_error>
 
 #include "fields/words.h"
+#include "platform/linux/shared_library.h"
 
 namespace wb::adapters {
 
@@ -21,6 +23,18 @@ constexpr double leastHertz = 10;
 constexpr double mostHertz = 500;
 /// Section 4.2: reduced blanking is for 60 Hz; the tools of X.Org take its multiples too.
 constexpr double reducedStepHertz = 60;
+
+using Generate = decltype(libxcvt_gen_mode_info);
+
+Generate& generator() {
+    try {
+        static const platform::linux_system::SharedLibrary library("libxcvt.so.0");
+        static Generate* const generate = library.function<Generate>("libxcvt_gen_mode_info");
+        return *generate;
+    } catch (const std::system_error& error) {
+        throw ModelineError(std::string("CVT timings cannot be computed: ") + error.what());
+    }
+}
 
 struct Release {
     void operator()(void* pointer) const { std::free(pointer); }
@@ -62,8 +76,8 @@ std::string_view missingCvtLibrary() {
 fields::Modeline cvtModeline(const CvtMode& mode) {
     requireSize(mode);
     requireRate(mode);
-    const std::unique_ptr<libxcvt_mode_info, Release> timing(libxcvt_gen_mode_info(
-        mode.width, mode.height, static_cast<float>(mode.refreshHertz), mode.reducedBlanking, false));
+    const std::unique_ptr<libxcvt_mode_info, Release> timing(
+        generator()(mode.width, mode.height, static_cast<float>(mode.refreshHertz), mode.reducedBlanking, false));
     if (timing == nullptr || timing->dot_clock == 0) {
         throw ModelineError("there is no CVT timing for " + nameOf(mode));
     }

@@ -18,7 +18,7 @@ struct CvtMode {
 std::string_view missingCvtLibrary();
 
 /// The progressive timing for a mode, with a pixel clock in steps of 0.25 MHz and the name that the tool `cvt` gives
-/// it. Without the library, and for a mode that the standard has no timing for, it is a ModelineError.
+/// it. Where the library cannot be had, and for a mode that the standard has no timing for, it is a ModelineError.
 fields::Modeline cvtModeline(const CvtMode& mode);
 
 } // namespace wb::adapters

@@ -24,8 +24,8 @@ public:
 /// Whether the program was built with what watchMonitors needs.
 bool canWatchMonitors();
 
-/// The events of the kernel, by libudev; null where it is not there. While the object lives, SIGINT and SIGTERM end
-/// nothing by themselves. What cannot be had is a std::system_error.
+/// The events of the kernel, by libudev; null where the program was built without it. While the object lives, SIGINT
+/// and SIGTERM end nothing by themselves. What cannot be had is a std::system_error.
 std::unique_ptr<Hotplug> watchMonitors();
 
 } // namespace wb::adapters

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "adapters/hotplug.h"
 #include "cli/edidwb.h"
 #include "platform/sysfs_folder.h"
 
@@ -7,6 +8,7 @@ namespace wb::test {
 namespace {
 
 using testing::HasSubstr;
+using testing::StartsWith;
 
 class MonitorsTest : public Edidwb {
 protected:
@@ -45,6 +47,16 @@ TEST_F(MonitorsTest, TellsAnEdidThatCannotBeReadFromNone) {
     const Outcome outcome = run("monitors");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, "card0-DP-1: " + place("card0-DP-1") + ", cannot be read: Operation not supported\n");
+}
+
+TEST_F(MonitorsTest, TellsThatTheLibraryForWatchingCannotBeHad) {
+    write("libudev.so.1", "no library");
+    const Outcome outcome = shell("LD_LIBRARY_PATH=. edidwb monitors --watch");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_THAT(outcome.errors,
+                StartsWith(adapters::canWatchMonitors() ? "edidwb: cannot watch for changes: ./libudev.so.1: "
+                                                        : "edidwb: this edidwb was built without libudev, which"));
 }
 
 TEST_F(MonitorsTest, FailsWhereTheListCannotBeRead) {

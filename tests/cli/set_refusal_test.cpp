@@ -109,6 +109,9 @@ TEST_F(SetRefusalTest, CvtNeedsItsLibraryAndASizeThatItKnows) {
                     StartsWith("edidwb: --cvt 1: CVT widths are multiples of 8; 1366 is between 1360 and 1368\n"));
         EXPECT_THAT(shell("edidwb set -o out a.bin --cvt 1=3840x2160@120").errors,
                     StartsWith("edidwb: --cvt 1: the pixel clock does not fit"));
+        write("libxcvt.so.0", "no library");
+        EXPECT_THAT(shell("LD_LIBRARY_PATH=. edidwb set -o out a.bin --cvt 1=1920x1080").errors,
+                    StartsWith("edidwb: --cvt 1: CVT timings cannot be computed: ./libxcvt.so.0: "));
     } else {
         EXPECT_THAT(outcome.errors, StartsWith("edidwb: --cvt 1: this program was built without libxcvt, which"));
     }
