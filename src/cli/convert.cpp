@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
-#include "cli/cli_error.h"
+#include "cli/attempt.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
 #include "cli/formats.h"
@@ -93,7 +93,7 @@ std::string convertAndTell(const Options& options) {
         std::string content = convert(options, program, remarks);
         tell();
         return content;
-    } catch (const CliError&) {
+    } catch (...) {
         tell();
         throw;
     }
@@ -101,19 +101,10 @@ std::string convertAndTell(const Options& options) {
 
 int run(const Options& options) {
     std::string content;
-    try {
-        content = convertAndTell(options);
-    } catch (const CliError& error) {
-        complain(options.in, error.what());
-        return somethingFailed;
-    }
-    try {
-        writeFile(options.out, content, options.force ? Existing::Replace : Existing::Refuse);
-    } catch (const CliError& error) {
-        complain(options.out, error.what());
-        return somethingFailed;
-    }
-    return success;
+    const Existing existing = options.force ? Existing::Replace : Existing::Refuse;
+    const bool good = attempt(options.in, [&] { content = convertAndTell(options); }) &&
+                      attempt(options.out, [&] { writeFile(options.out, content, existing); });
+    return good ? success : somethingFailed;
 }
 
 } // namespace

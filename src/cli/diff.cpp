@@ -2,7 +2,7 @@
 #include <memory>
 #include <optional>
 
-#include "cli/cli_error.h"
+#include "cli/attempt.h"
 #include "cli/commands.h"
 #include "cli/output.h"
 #include "cli/plain_reading.h"
@@ -61,13 +61,24 @@ std::string toJson(const Options& options, const std::vector<FieldPair>& found) 
 }
 
 std::optional<Reading> readOrComplain(const std::string& name, const ImageOptions& options) {
-    try {
+    std::optional<Reading> reading;
+    attempt(name, [&] {
         const Contents contents = contentsOf(readInput(name), options);
-        return fields::read(onlyImageOf(contents));
-    } catch (const CliError& error) {
-        complain(name, error.what());
-        return std::nullopt;
+        reading = fields::read(onlyImageOf(contents));
+    });
+    return reading;
+}
+
+int compare(const Reading& first, const Reading& second, const Options& options) {
+    const std::vector<FieldPair> found = fields::differencesOf(first, second);
+    if (outputFormatOf(options.format) == OutputFormat::Json) {
+        print(toJson(options, found));
+    } else {
+        for (const FieldPair& difference : found) {
+            print(lineOf(difference));
+        }
     }
+    return found.empty() ? same : different;
 }
 
 int run(const Options& options) {
@@ -77,15 +88,9 @@ int run(const Options& options) {
     if (!first || !second) {
         return trouble;
     }
-    const std::vector<FieldPair> found = fields::differencesOf(*first, *second);
-    if (outputFormatOf(options.format) == OutputFormat::Json) {
-        print(toJson(options, found));
-    } else {
-        for (const FieldPair& difference : found) {
-            print(lineOf(difference));
-        }
-    }
-    return found.empty() ? same : different;
+    int status = trouble;
+    attempt(options.second, [&] { status = compare(*first, *second, options); });
+    return status;
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <exception>
 #include <utility>
 
+#include "cli/attempt.h"
 #include "cli/cleanup.h"
 #include "cli/command_line.h"
 #include "cli/commands.h"
@@ -15,7 +16,7 @@ int runProgram(std::vector<std::string> arguments) {
     prepareStreams();
     removeTemporariesOnSignals();
     try {
-        const int status = runCommandLine(std::move(arguments));
+        const int status = withinMemory([&] { return runCommandLine(std::move(arguments)); });
         flushOutput();
         return status;
     } catch (const OutputError& error) {

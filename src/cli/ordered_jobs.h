@@ -6,6 +6,7 @@
 #include <exception>
 #include <functional>
 #include <mutex>
+#include <new>
 #include <optional>
 #include <system_error>
 #include <thread>
@@ -73,6 +74,7 @@ private:
                 threads.emplace_back([this] { workOn(); });
             }
         } catch (const std::system_error&) { // the system gives no more; those that run will do
+        } catch (const std::bad_alloc&) {    // the same
         }
         return threads;
     }

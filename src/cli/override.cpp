@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "cli/cli_error.h"
+#include "cli/attempt.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
 #include "cli/image_check.h"
@@ -35,11 +35,11 @@ struct Options {
     bool force = false;
 };
 
-/// What a step gives; a CliError names what the step is about.
+/// What a step gives; a CliError, want of memory too, names what the step is about.
 template <class Step>
 auto about(const std::string& subject, const Step& step) {
     try {
-        return step();
+        return withinMemory(step);
     } catch (const CliError& error) {
         throw CliError(subject + ": " + error.what());
     }

@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <cstdlib>
 
-#include "cli/cli_error.h"
+#include "cli/attempt.h"
 #include "cli/output.h"
 #include "core/base/json_writer.h"
 #include "core/base/text.h"
@@ -88,12 +88,7 @@ bool forEachFile(const FileOptions& options, const std::function<void(const std:
     bool good = true;
     FileList files(options);
     while (const std::optional<BatchFile> file = files.next()) {
-        try {
-            work(file->name);
-        } catch (const CliError& error) {
-            complain(file->name, error.what());
-            good = false;
-        }
+        good = attempt(file->name, [&] { work(file->name); }) && good;
     }
     return good && files.complete();
 }

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <memory>
 
+#include "cli/attempt.h"
 #include "cli/bus_read.h"
-#include "cli/cli_error.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
 #include "cli/formats.h"
@@ -53,11 +53,10 @@ std::string contentOf(const Image& image, const std::string& format, Program& pr
     return content;
 }
 
-int printImage(const Image& image, Program& program, const Options& options) {
+void printImage(const Image& image, Program& program, const Options& options) {
     const std::string format = options.formatOr("report");
     const std::string content = contentOf(image, format, program, {});
     format == "report" ? printText(content) : print(content);
-    return success;
 }
 
 /// Tells why no image comes from the monitors up to `end`; of the virtual ones nobody expects any.
@@ -82,7 +81,8 @@ int readAnother(const Options& options, const Boxes& boxes) {
     if (const Monitor* const taken = takenByRead(monitors)) {
         tellPassedOver(monitors, taken);
         Program program(clockOf(options.date));
-        return printImage(storedImageOf(*taken), program, options);
+        printImage(storedImageOf(*taken), program, options);
+        return success;
     }
     complainOfBoxes({}, boxes);
     if (const std::string help = helpWithoutEdid(options.system, !monitors.empty()); !help.empty()) {
@@ -97,7 +97,8 @@ int readFirst(const Options& options) {
     Program program(*registry, clockOf(options.date));
     try {
         if (const std::optional<Image> image = program.storedImage()) {
-            return printImage(*image, program, options);
+            printImage(*image, program, options);
+            return success;
         }
     } catch (const CliError&) {
         if (takenByRead(attachedMonitors(options.system)) == nullptr) {
@@ -108,28 +109,26 @@ int readFirst(const Options& options) {
 }
 
 int readNamed(const Options& options) {
-    try {
+    const bool read = attempt(options.connector, [&] {
         const std::vector<Monitor> places = monitorPlaces(options.system);
         Program program(clockOf(options.date));
-        return printImage(storedImageOf(monitorNamed(places, options.connector)), program, options);
-    } catch (const CliError& error) {
-        complain(options.connector, error.what());
-        return somethingFailed;
-    }
+        printImage(storedImageOf(monitorNamed(places, options.connector)), program, options);
+    });
+    return read ? success : somethingFailed;
 }
 
 int readBus(const Options& options) {
     const std::string device = busDevice(*options.bus);
-    try {
-        const Image image = imageFromBus(*openBus(device), device);
-        Program program(clockOf(options.date));
-        return printImage(image, program, options);
-    } catch (const CliError& error) {
-        complain(device, error.what());
-    } catch (const std::system_error& error) {
-        complain(device, busTrouble(error.code()));
-    }
-    return somethingFailed;
+    const bool read = attempt(device, [&] {
+        try {
+            const Image image = imageFromBus(*openBus(device), device);
+            Program program(clockOf(options.date));
+            printImage(image, program, options);
+        } catch (const std::system_error& error) {
+            throw CliError(busTrouble(error.code()));
+        }
+    });
+    return read ? success : somethingFailed;
 }
 
 /// A name of a connector as that of a file.
@@ -150,14 +149,12 @@ public:
             complain(monitor.name, "no EDID is stored");
             return;
         }
-        try {
+        const bool taken = attempt(monitor.name, [&] {
             Program program(clockOf(options_.date));
             write(names_.nameOf(fileNameOf(monitor), ""),
                   contentOf(storedImageOf(monitor), format_, program, monitor.name));
-        } catch (const CliError& error) {
-            complain(monitor.name, error.what());
-            failed_ = true;
-        }
+        });
+        failed_ = failed_ || !taken;
     }
 
     /// Whether nothing went wrong and something was written.

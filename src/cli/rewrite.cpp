@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <map>
 
-#include "cli/cli_error.h"
+#include "cli/attempt.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
 #include "cli/output.h"
@@ -234,10 +234,7 @@ int rewriteFiles(const RewriteOptions& options, const Changer& change) {
     Rewriter rewriter(options, files, change);
     int status = complete ? success : somethingFailed;
     for (const std::string& file : files) {
-        try {
-            rewriter.rewrite(file);
-        } catch (const CliError& error) {
-            complain(file, error.what());
+        if (!attempt(file, [&] { rewriter.rewrite(file); })) {
             status = somethingFailed;
         }
     }
@@ -249,18 +246,15 @@ int writeNewImage(const RewriteOptions& options, const std::string& name, const 
         return somethingFailed;
     }
     const std::string place = options.outputFolder ? (fs::path(*options.outputFolder) / name).string() : name;
-    try {
+    const bool made = attempt(place, [&] {
         const Change change = make();
         if (!options.dryRun) {
             writeFile(place, formOfEnding(name).write(change.image),
                       {.existing = existingOf(options), .sync = options.sync});
         }
         tell(place, change);
-        return success;
-    } catch (const CliError& error) {
-        complain(place, error.what());
-        return somethingFailed;
-    }
+    });
+    return made ? success : somethingFailed;
 }
 
 Image withBytes(const Image& image, const std::string& bytes) {

@@ -7,7 +7,7 @@
 #include <memory>
 #include <sstream>
 
-#include "cli/cli_error.h"
+#include "cli/attempt.h"
 #include "cli/commands.h"
 #include "cli/input.h"
 #include "cli/output.h"
@@ -71,21 +71,22 @@ int runScript(std::istream& script, const Options& options, AfterError afterErro
     return status;
 }
 
-int run(const Options& options) {
-    try {
-        if (options.file == standardStream) {
-            const int status = runScript(std::cin, options, isTerminal(stdin) ? AfterError::GoOn : AfterError::End);
-            if (status == success && std::ferror(stdin) != 0) { // which std::cin reads, but takes for the end
-                throw CliError(std::strerror(errno));
-            }
-            return status;
+int runInput(const Options& options) {
+    if (options.file == standardStream) {
+        const int status = runScript(std::cin, options, isTerminal(stdin) ? AfterError::GoOn : AfterError::End);
+        if (status == success && std::ferror(stdin) != 0) { // which std::cin reads, but takes for the end
+            throw CliError(std::strerror(errno));
         }
-        std::istringstream script(readInput(options.file).content);
-        return runScript(script, options, AfterError::End);
-    } catch (const CliError& error) {
-        complain(options.file, error.what());
-        return somethingFailed;
+        return status;
     }
+    std::istringstream script(readInput(options.file).content);
+    return runScript(script, options, AfterError::End);
+}
+
+int run(const Options& options) {
+    int status = somethingFailed;
+    attempt(options.file, [&] { status = runInput(options); });
+    return status;
 }
 
 } // namespace

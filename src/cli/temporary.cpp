@@ -114,7 +114,8 @@ TemporaryFolder::TemporaryFolder(const std::string& fileName) {
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
+    std::filesystem::remove(file_, ignored);
+    std::filesystem::remove(path_, ignored);
 }
 
 void writeAndClose(std::FILE* file, std::string_view content) {

@@ -6,8 +6,8 @@
 #include <optional>
 #include <thread>
 
+#include "cli/attempt.h"
 #include "cli/boxes.h"
-#include "cli/cli_error.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
 #include "cli/file_list.h"
@@ -54,32 +54,38 @@ struct Translation {
     std::optional<std::string> error;
 };
 
+/// What became of a file.
+struct Translations {
+    std::vector<Translation> images;
+    std::optional<CliError> stop; ///< what kept the others from being translated
+};
+
 /// Translates the files of a batch, on several threads.
 class Translator {
 public:
     explicit Translator(const Options& options) : options_(options), programs_(clockOf(options.date)) {}
 
-    /// One translation for each image of a file.
-    std::vector<Translation> translateFile(const std::string& name) {
-        std::vector<Translation> results;
+    Translations translateFile(const std::string& name) {
+        Translations file;
         try {
-            const Contents contents = contentsOf(readInput(name), options_.images);
-            if (contents.isDataFile && !options_.json()) {
-                results.push_back(translate(contents, nullptr)); // whatever its cells are
-                return results;
-            }
-            for (const Image& image : imagesOf(contents)) {
-                results.push_back(translate(contents, &image));
-            }
+            withinMemory([&] { translateImages(contentsOf(readInput(name), options_.images), file.images); });
         } catch (const CliError& error) {
-            Translation failed;
-            failed.error = error.what();
-            results.push_back(failed);
+            file.stop = error;
         }
-        return results;
+        return file;
     }
 
 private:
+    void translateImages(const Contents& contents, std::vector<Translation>& results) {
+        if (contents.isDataFile && !options_.json()) {
+            results.push_back(translate(contents, nullptr)); // whatever its cells are
+            return;
+        }
+        for (const Image& image : imagesOf(contents)) {
+            results.push_back(translate(contents, &image));
+        }
+    }
+
     Translation translate(const Contents& contents, const Image* image) {
         Translation result;
         if (options_.json()) {
@@ -92,6 +98,7 @@ private:
         return result;
     }
 
+    /// A program that lacked memory in the middle of its work is not given back.
     Translation reportOf(const Contents& contents, const Image* image) {
         Translation result;
         std::unique_ptr<Program> program = programs_.take();
@@ -140,10 +147,15 @@ public:
         }
     }
 
-    void take(const BatchFile& file, const std::vector<Translation>& translations) {
-        const bool severalOutputs = translations.size() > 1 && options_.heading == "auto" && !options_.json();
-        for (const Translation& translation : translations) {
-            take(file, translation, headed_ || severalOutputs);
+    void take(const BatchFile& file, const Translations& translations) {
+        const std::vector<Translation>& images = translations.images;
+        const bool severalOutputs = images.size() > 1 && options_.heading == "auto" && !options_.json();
+        for (const Translation& translation : images) {
+            count(attempt(file.name, [&] { take(file, translation, headed_ || severalOutputs); }));
+        }
+        if (translations.stop) {
+            clearProgress();
+            fail(file.name, translations.stop->what());
         }
         if (progress_) {
             progress_->step();
@@ -156,8 +168,8 @@ private:
     void take(const BatchFile& file, const Translation& translation, bool headed) {
         const std::string& name = file.name;
         const bool hasMessages = !translation.boxes.empty() || !translation.omissions.empty() || translation.error;
-        if (progress_ && hasMessages) {
-            progress_->clear();
+        if (hasMessages) {
+            clearProgress();
         }
         complainOfBoxes(name, translation.boxes);
         for (const std::string& omission : translation.omissions) {
@@ -186,21 +198,24 @@ private:
         failed_ = true;
     }
 
+    void count(bool good) { failed_ = failed_ || !good; }
+
+    void clearProgress() {
+        if (progress_) {
+            progress_->clear();
+        }
+    }
+
     void writeReport(const BatchFile& file, const Translation& translation) {
         std::string place;
-        try {
-            place = places_->take(file, translation.output);
-        } catch (const CliError& error) {
-            fail(file.name, error.what());
-            return;
-        }
-        try {
-            std::error_code ignored; // what is missing then is told by the writing
-            fs::create_directories(pathOf(place).parent_path(), ignored);
-            writeFile(place, translation.report, {.existing = Existing::Replace, .sync = options_.sync});
-        } catch (const CliError& error) {
-            fail(place, error.what());
-        }
+        count(attempt(file.name, [&] { place = places_->take(file, translation.output); }) &&
+              attempt(place, [&] { writeReportTo(place, translation.report); }));
+    }
+
+    void writeReportTo(const std::string& place, const std::string& report) const {
+        std::error_code ignored; // what is missing then is told by the writing
+        fs::create_directories(pathOf(place).parent_path(), ignored);
+        writeFile(place, report, {.existing = Existing::Replace, .sync = options_.sync});
     }
 
     const Options& options_;
@@ -243,11 +258,9 @@ int run(const Options& options) {
         }
     }
     Collector collector(options, batch);
-    OrderedJobs<BatchFile, std::vector<Translation>>::run(
+    OrderedJobs<BatchFile, Translations>::run(
         [&] { return batch.next(); }, jobs, [&](const BatchFile& file) { return translator.translateFile(file.name); },
-        [&](const BatchFile& file, const std::vector<Translation>& translations) {
-            collector.take(file, translations);
-        });
+        [&](const BatchFile& file, const Translations& translations) { collector.take(file, translations); });
     return collector.failed() || !batch.list.complete() ? somethingFailed : success;
 }
 
