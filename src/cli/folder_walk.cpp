@@ -42,8 +42,7 @@ void FolderWalk::readPart(Level& level) {
     const bool isFirst = level.last.empty();
     const fs::path folder = level.below.empty() ? folder_ : folder_ / level.below;
     level.more = false;
-    for (fs::directory_iterator entry(folder, fs::directory_options::skip_permission_denied, error), end;
-         !error && entry != end; entry.increment(error)) {
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         std::error_code ignored;
         Entry found{nameOf(entry->path().filename()), false};
         const bool isPast = !isFirst && found.name <= level.last;

@@ -19,7 +19,7 @@ public:
     /// The path of the next file below the folder; nothing after the last.
     std::optional<std::filesystem::path> next();
 
-    /// False where a folder could not be read, which is told. Folders that may not be read are passed over.
+    /// False where a folder could not be read, which is told.
     bool complete() const { return complete_; }
 
 private:

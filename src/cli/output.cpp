@@ -40,10 +40,37 @@ void writeDirectly(const fs::path& path, std::string_view content) {
     writeAndClose(file, content);
 }
 
-/// The place of an existing file behind its links, so that a link stays one; of a new file the name as it stands.
+/// Whether there is no file of a name, or a link that leads nowhere.
+bool leadsNowhere(const std::error_code& error) {
+    return error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory ||
+           error == std::errc::too_many_symbolic_link_levels;
+}
+
+/// The status of a file as the function of the library tells it. Where it cannot be told, nothing is done to the file
+/// that might suit another kind of file: that is a CliError.
+fs::file_status statusBy(fs::file_status (*tell)(const fs::path&, std::error_code&), const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = tell(path, error);
+    if (error && leadsNowhere(error)) {
+        return fs::file_status(fs::file_type::not_found);
+    }
+    if (status.type() == fs::file_type::none) {
+        throw CliError(reasonOf(error));
+    }
+    return status;
+}
+
+/// The place of an existing file behind its links, so that a link stays one; of a new file, and of a link that leads
+/// nowhere, the name as it stands.
 fs::path finalPlace(const fs::path& path) {
+    if (!fs::is_symlink(statusBy(&fs::symlink_status, path))) {
+        return path;
+    }
     std::error_code error;
     fs::path place = fs::canonical(path, error);
+    if (error && !leadsNowhere(error)) {
+        throw CliError(reasonOf(error));
+    }
     return error ? path : place;
 }
 
@@ -155,13 +182,12 @@ void writeFile(const std::string& name, std::string_view content, const WriteOpt
         writeDirectly(path, content);
         return;
     }
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
+    const fs::file_status status = statusBy(&fs::status, path);
     if (fs::is_directory(status)) {
         throw CliError(std::strerror(EISDIR));
     }
     if (options.existing == Existing::Refuse &&
-        fs::exists(fs::symlink_status(path, error))) { // a link that leads nowhere too
+        fs::exists(statusBy(&fs::symlink_status, path))) { // a link that leads nowhere too
         throw CliError("exists already (--force replaces it)");
     }
     if (fs::exists(status) && !fs::is_regular_file(status)) {
@@ -170,7 +196,8 @@ void writeFile(const std::string& name, std::string_view content, const WriteOpt
     }
     const fs::path place = finalPlace(path);
     const fs::path model = options.accessOf.empty() ? place : pathOf(options.accessOf);
-    TemporaryFile temporary(place.parent_path(), fs::exists(model, error) ? Readers::Owner : Readers::Usual);
+    TemporaryFile temporary(place.parent_path(),
+                            fs::exists(statusBy(&fs::status, model)) ? Readers::Owner : Readers::Usual);
     temporary.write(content);
     temporary.takeAccessOf(model);
     if (options.sync) {
