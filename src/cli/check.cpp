@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 
@@ -8,6 +7,7 @@
 #include "cli/output.h"
 #include "cli/plain_reading.h"
 #include "cli/program.h"
+#include "cli/syntax.h"
 #include "core/base/text.h"
 #include "core/step.h"
 #include "fields/json.h"
@@ -39,6 +39,10 @@ struct Checked {
         return std::all_of(results.begin(), results.end(), [](const CheckResult& result) { return result.good; });
     }
 };
+
+std::vector<std::string> levels() {
+    return {"error", "warning", "note"};
+}
 
 Severity severityOf(const std::string& name) {
     for (const Severity severity : {Severity::Error, Severity::Warning}) {
@@ -141,25 +145,21 @@ int run(const Options& options) {
 
 } // namespace
 
-Run addCheck(CLI::App& command) {
+Run addCheck(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    addFileOptions(command, options->files);
-    const std::vector<std::string> levels = {"error", "warning", "note"};
-    command
-        .add_option("--level", options->level,
-                    "Tell findings of this severity and above: error, warning (the default), note")
-        ->type_name("LEVEL")
-        ->check(CLI::IsMember(levels))
-        ->take_last();
-    command
-        .add_option("--fail-on", options->failOn, "Fail for findings of this severity and above; error is the default")
-        ->type_name("LEVEL")
-        ->check(CLI::IsMember(levels))
-        ->take_last();
-    command.add_flag("-q,--quiet", options->quiet, "Tell only of files with findings")->disable_flag_override();
-    addFormatOption(command, options->format);
-    addImageOptions(command, options->images);
-    command.footer(
+    addFileOptions(syntax, options->files);
+    syntax
+        .option("--level", "LEVEL", "Tell findings of this severity and above: error, warning (the default), note",
+                &options->level)
+        .oneOf(&levels);
+    syntax
+        .option("--fail-on", "LEVEL", "Fail for findings of this severity and above; error is the default",
+                &options->failOn)
+        .oneOf(&levels);
+    syntax.flag("-q,--quiet", "Tell only of files with findings", options->quiet);
+    addFormatOption(syntax, options->format, &textJsonAndTsv);
+    addImageOptions(syntax, options->images);
+    syntax.footer(
         "  edidwb check monitor.bin\n"
         "  edidwb check -r --quiet --fail-on warning images\n\n"
         "Exit status: 0 nothing that counts was found, 1 something was found or a file could not be\n"

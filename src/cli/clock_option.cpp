@@ -1,17 +1,13 @@
 #include "cli/clock_option.h"
 
-#include <CLI/CLI.hpp>
-
 #include "cli/cli_error.h"
+#include "cli/syntax.h"
 #include "platform/date_time.h"
 
 namespace wb::cli {
 
-void addClockOption(CLI::App& command, std::string& date) {
-    command.add_option("--date", date, "Set the clock that the heading shows")
-        ->type_name("\"YYYY-MM-DD HH:MM:SS\"")
-        ->check(refuseEmpty)
-        ->take_last();
+void addClockOption(Syntax& syntax, std::string& date) {
+    syntax.option("--date", "\"YYYY-MM-DD HH:MM:SS\"", "Set the clock that the heading shows", &date).refuseEmpty();
 }
 
 std::optional<platform::DateTime> clockOf(const std::string& date) {
@@ -23,10 +19,6 @@ std::optional<platform::DateTime> clockOf(const std::string& date) {
         throw UsageError("'" + date + "' is no date and time like \"2000-01-31 23:59:59\"");
     }
     return moment;
-}
-
-std::string refuseEmpty(const std::string& value) {
-    return value.empty() ? "the value is empty" : "";
 }
 
 } // namespace wb::cli

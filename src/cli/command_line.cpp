@@ -1,6 +1,5 @@
 #include "cli/command_line.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -9,6 +8,7 @@
 #include "cli/cli_error.h"
 #include "cli/commands.h"
 #include "cli/output.h"
+#include "cli/syntax.h"
 #include "cli/usage_sentences.h"
 #include "core/version.h"
 
@@ -19,10 +19,10 @@ namespace {
 struct Command {
     std::string_view name;
     const char* description;
-    Run (*addOptions)(CLI::App& command);
+    Run (*addOptions)(Syntax& syntax);
 };
 
-Run addHelp(CLI::App& command);
+Run addHelp(Syntax& syntax);
 
 constexpr auto commands = std::to_array<Command>({
     {"translate", "Print the report of each file", &addTranslate},
@@ -61,30 +61,17 @@ int complainOfUsage(const std::string& message) {
     return wrongUse;
 }
 
-/// Reads the arguments. Gives the exit status where that is all: after help and version, and after wrong use.
-std::optional<int> parse(CLI::App& app, std::vector<std::string> arguments) {
-    app.allow_windows_style_options(false);
-    std::reverse(arguments.begin(), arguments.end()); // the order in which the option library takes them
-    try {
-        app.parse(arguments);
-        return std::nullopt;
-    } catch (const CLI::CallForHelp&) {
-        print(app.help());
-    } catch (const CLI::CallForVersion& version) {
-        print(version.what() + std::string("\n"));
-    } catch (const CLI::ParseError& error) {
-        return complainOfUsage(sentenceOf(error, app));
-    }
-    return success;
-}
-
 /// Each command is a program of its own to the option library, which would otherwise hand what it does not expect, all
 /// behind "--" included, back to the commands.
 int runCommand(const Command& command, const std::vector<std::string>& arguments) {
-    CLI::App app(command.description, "edidwb " + std::string(command.name));
-    const Run run = command.addOptions(app);
-    const std::optional<int> status = parse(app, arguments);
-    return status ? *status : run();
+    const std::string program = "edidwb " + std::string(command.name);
+    Syntax syntax(program, command.description);
+    const Run run = command.addOptions(syntax);
+    if (const std::optional<std::string> text = syntax.read(arguments)) {
+        print(*text);
+        return success;
+    }
+    return run();
 }
 
 const Command* commandOf(std::string_view name) {
@@ -103,18 +90,19 @@ std::vector<std::string> commandNames() {
 }
 
 int runWithoutCommand(const std::vector<std::string>& arguments) {
-    CLI::App app("Reads, explains and converts the EDID of monitors.", "edidwb");
-    app.set_version_flag("--version", std::string("edidwb ") + programVersion());
-    app.require_subcommand(1);
-    for (const Command& command : commands) {
-        app.add_subcommand(std::string(command.name), command.description);
-    }
-    app.footer("'edidwb help COMMAND' tells the options of a command, what its exit status means, and examples.");
     if (!arguments.empty() && !arguments.front().starts_with('-')) {
         throw UsageError(unknownCommand(arguments.front(), commandNames()));
     }
+    Syntax syntax("edidwb", "Reads, explains and converts the EDID of monitors.");
+    syntax.version(std::string("edidwb ") + programVersion());
+    for (const Command& command : commands) {
+        syntax.subcommand(command.name, command.description);
+    }
+    syntax.footer("'edidwb help COMMAND' tells the options of a command, what its exit status means, and examples.");
     const bool any = !arguments.empty();
-    return parse(app, any ? std::vector{arguments.front()} : arguments).value_or(wrongUse);
+    const std::optional<std::string> text = syntax.read(any ? std::vector{arguments.front()} : arguments);
+    print(text.value_or(""));
+    return text ? success : wrongUse;
 }
 
 int runHelp(const std::string& name) {
@@ -128,10 +116,10 @@ int runHelp(const std::string& name) {
     return runCommand(*command, {"--help"});
 }
 
-Run addHelp(CLI::App& command) {
+Run addHelp(Syntax& syntax) {
     const auto name = std::make_shared<std::string>();
-    command.add_option("COMMAND", *name, "The command to tell of; without it all are listed")->type_name("");
-    command.footer(
+    syntax.operand("COMMAND", "The command to tell of; without it all are listed", name.get());
+    syntax.footer(
         "  edidwb help\n"
         "  edidwb help convert\n\n"
         "Exit status: 0 all went well, 2 wrong usage.");

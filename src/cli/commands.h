@@ -2,13 +2,11 @@
 
 #include <functional>
 
-namespace CLI {
-class App;
-}
-
 /// The subcommands. Each adds its options to the command and gives what it does once they are read, which gives the
 /// exit status.
 namespace wb::cli {
+
+class Syntax;
 
 /// Exit statuses.
 inline constexpr int success = 0;
@@ -17,17 +15,17 @@ inline constexpr int wrongUse = 2;
 
 using Run = std::function<int()>;
 
-Run addTranslate(CLI::App& command);
-Run addConvert(CLI::App& command);
-Run addCheck(CLI::App& command);
-Run addInspect(CLI::App& command);
-Run addDiff(CLI::App& command);
-Run addRepair(CLI::App& command);
-Run addScrub(CLI::App& command);
-Run addSet(CLI::App& command);
-Run addRead(CLI::App& command);
-Run addMonitors(CLI::App& command);
-Run addOverride(CLI::App& command);
-Run addScript(CLI::App& command);
+Run addTranslate(Syntax& syntax);
+Run addConvert(Syntax& syntax);
+Run addCheck(Syntax& syntax);
+Run addInspect(Syntax& syntax);
+Run addDiff(Syntax& syntax);
+Run addRepair(Syntax& syntax);
+Run addScrub(Syntax& syntax);
+Run addSet(Syntax& syntax);
+Run addRead(Syntax& syntax);
+Run addMonitors(Syntax& syntax);
+Run addOverride(Syntax& syntax);
+Run addScript(Syntax& syntax);
 
 } // namespace wb::cli

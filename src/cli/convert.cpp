@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "cli/attempt.h"
@@ -8,6 +7,7 @@
 #include "cli/output.h"
 #include "cli/program.h"
 #include "cli/read_back.h"
+#include "cli/syntax.h"
 
 namespace wb::cli {
 
@@ -109,23 +109,17 @@ int run(const Options& options) {
 
 } // namespace
 
-Run addConvert(CLI::App& command) {
+Run addConvert(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    command.add_option("--to", options->format, formatHelp())
-        ->type_name("FORMAT")
-        ->required()
-        ->check(CLI::IsMember(formatNames()))
-        ->take_last();
-    command.add_option("IN", options->in, "File in any form; - is standard input")->type_name("")->required();
-    command.add_option("OUT", options->out, "File to be written; - is standard output")->type_name("")->required();
-    command.add_flag("-f,--force", options->force, "Replace OUT if it exists")->disable_flag_override();
-    command.add_flag("--cut", options->cut, "Leave out the blocks that a data file does not hold")
-        ->disable_flag_override();
-    command.add_flag("--pad", options->pad, "Write blocks that are announced and missing as zeros")
-        ->disable_flag_override();
-    addClockOption(command, options->date);
-    addImageOptions(command, options->images);
-    command.footer(
+    syntax.option("--to", "FORMAT", &formatHelp, &options->format).require().oneOf(&formatNames);
+    syntax.operand("IN", "File in any form; - is standard input", &options->in).require();
+    syntax.operand("OUT", "File to be written; - is standard output", &options->out).require();
+    syntax.flag("-f,--force", "Replace OUT if it exists", options->force);
+    syntax.flag("--cut", "Leave out the blocks that a data file does not hold", options->cut);
+    syntax.flag("--pad", "Write blocks that are announced and missing as zeros", options->pad);
+    addClockOption(syntax, options->date);
+    addImageOptions(syntax, options->images);
+    syntax.footer(
         "Forms of bytes get every block as it is in IN. A data file and a report get two blocks as the\n"
         "program holds them after decoding: a flag of a detailed timing may differ from IN, and the\n"
         "check sum stays as it is.\n\n"

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <optional>
 
@@ -6,6 +5,7 @@
 #include "cli/commands.h"
 #include "cli/output.h"
 #include "cli/plain_reading.h"
+#include "cli/syntax.h"
 #include "core/base/json_writer.h"
 #include "fields/difference.h"
 #include "fields/json.h"
@@ -95,15 +95,13 @@ int run(const Options& options) {
 
 } // namespace
 
-Run addDiff(CLI::App& command) {
+Run addDiff(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    command.add_option("A", options->first, "File in any form, told by its content; - is standard input")
-        ->type_name("")
-        ->required();
-    command.add_option("B", options->second, "The file to compare it with")->type_name("")->required();
-    addFormatOption(command, options->format, {"text", "json"});
-    addImageOptions(command, options->images);
-    command.footer(
+    syntax.operand("A", "File in any form, told by its content; - is standard input", &options->first).require();
+    syntax.operand("B", "The file to compare it with", &options->second).require();
+    addFormatOption(syntax, options->format, &textAndJson);
+    addImageOptions(syntax, options->images);
+    syntax.footer(
         "  edidwb diff before.bin after.bin\n"
         "  edidwb diff --format json before.bin after.bin\n\n"
         "Exit status: 0 the images are the same, 1 they differ, 2 trouble.");

@@ -1,6 +1,5 @@
 #include "cli/file_list.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
@@ -8,20 +7,19 @@
 #include "cli/cli_error.h"
 #include "cli/input.h"
 #include "cli/output.h"
+#include "cli/syntax.h"
 #include "core/base/file_names.h"
 
 namespace wb::cli {
 
 namespace fs = std::filesystem;
 
-void addFileOptions(CLI::App& command, FileOptions& options) {
-    command.add_option("FILE", options.names, "File in any form, told by its content; - is standard input")
-        ->type_name("");
-    command.add_flag("-r,--recursive", options.recursive, "Take all files below a folder")->disable_flag_override();
-    command.add_option("--files-from", options.listFile, "Take the names in FILE too, one a line; - is standard input")
-        ->type_name("FILE")
-        ->take_last();
-    command.add_flag("-0,--null", options.zeroEnded, "The names in that file end with NUL")->disable_flag_override();
+void addFileOptions(Syntax& syntax, FileOptions& options) {
+    syntax.operand("FILE", "File in any form, told by its content; - is standard input", &options.names);
+    syntax.flag("-r,--recursive", "Take all files below a folder", options.recursive);
+    syntax.option("--files-from", "FILE", "Take the names in FILE too, one a line; - is standard input",
+                  &options.listFile);
+    syntax.flag("-0,--null", "The names in that file end with NUL", options.zeroEnded);
 }
 
 FileList::FileList(const FileOptions& options) : options_(options) {

@@ -9,11 +9,9 @@
 #include "cli/folder_walk.h"
 #include "cli/name_list.h"
 
-namespace CLI {
-class App;
-}
-
 namespace wb::cli {
+
+class Syntax;
 
 /// Which files a command is to work on.
 struct FileOptions {
@@ -33,7 +31,7 @@ struct BatchFile {
 };
 
 /// FILE…, -r, --files-from and -0.
-void addFileOptions(CLI::App& command, FileOptions& options);
+void addFileOptions(Syntax& syntax, FileOptions& options);
 
 /// The files one after the other, those below a folder in the order of their paths. What it holds at a time does not
 /// grow with their number.

@@ -1,10 +1,10 @@
 #include "cli/image_input.h"
 
-#include <CLI/CLI.hpp>
 #include <utility>
 
 #include "adapters/recognise.h"
 #include "cli/cli_error.h"
+#include "cli/syntax.h"
 #include "forms/recogniser.h"
 
 namespace wb::cli {
@@ -20,6 +20,17 @@ std::string outputsOf(const std::vector<Image>& images) {
     return names;
 }
 
+std::string helpOfForms() {
+    std::string help = "Take the input for this form instead of telling by its content";
+    std::string_view between = ": ";
+    for (const std::string& name : forms::formNames()) {
+        help += between;
+        help += name;
+        between = ", ";
+    }
+    return help;
+}
+
 /// Leaves the images of one output.
 void pick(std::vector<Image>& images, const std::string& output) {
     const std::string there = outputsOf(images);
@@ -31,21 +42,10 @@ void pick(std::vector<Image>& images, const std::string& output) {
 
 } // namespace
 
-void addImageOptions(CLI::App& command, ImageOptions& options) {
-    command.add_flag("--any-header", options.anyHeader, "Take images without the header 00 FF FF FF FF FF FF 00 too")
-        ->disable_flag_override();
-    std::string names;
-    for (const std::string& name : forms::formNames()) {
-        names += (names.empty() ? "" : ", ") + name;
-    }
-    command
-        .add_option("--from", options.form, "Take the input for this form instead of telling by its content: " + names)
-        ->type_name("FORM")
-        ->check(CLI::IsMember(forms::formNames()))
-        ->take_last();
-    command.add_option("--output-name", options.output, "Of a text with several images, take that of this output")
-        ->type_name("NAME")
-        ->take_last();
+void addImageOptions(Syntax& syntax, ImageOptions& options) {
+    syntax.flag("--any-header", "Take images without the header 00 FF FF FF FF FF FF 00 too", options.anyHeader);
+    syntax.option("--from", "FORM", &helpOfForms, &options.form).oneOf(&forms::formNames);
+    syntax.option("--output-name", "NAME", "Of a text with several images, take that of this output", &options.output);
 }
 
 Contents contentsOf(Input input, const ImageOptions& options) {

@@ -6,12 +6,10 @@
 #include "cli/input.h"
 #include "core/base/image.h"
 
-namespace CLI {
-class App;
-}
-
 /// From the content of a file to the images in it.
 namespace wb::cli {
+
+class Syntax;
 
 struct ImageOptions {
     bool anyHeader = false; ///< takes images without the header too
@@ -20,7 +18,7 @@ struct ImageOptions {
 };
 
 /// --any-header, --from and --output-name.
-void addImageOptions(CLI::App& command, ImageOptions& options);
+void addImageOptions(Syntax& syntax, ImageOptions& options);
 
 /// What a file holds.
 struct Contents {

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -7,6 +6,7 @@
 #include "cli/file_list.h"
 #include "cli/output.h"
 #include "cli/plain_reading.h"
+#include "cli/syntax.h"
 #include "fields/json.h"
 #include "fields/place_text.h"
 
@@ -113,12 +113,12 @@ int run(const Options& options) {
 
 } // namespace
 
-Run addInspect(CLI::App& command) {
+Run addInspect(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    addFileOptions(command, options->files);
-    addFormatOption(command, options->format);
-    addImageOptions(command, options->images);
-    command.footer(
+    addFileOptions(syntax, options->files);
+    addFormatOption(syntax, options->format, &textJsonAndTsv);
+    addImageOptions(syntax, options->images);
+    syntax.footer(
         "Tells every field of every block by the standards: where it stands (bytes in hexadecimal,\n"
         "bits in brackets), what it is called and what it means.\n\n"
         "  edidwb inspect monitor.bin\n"

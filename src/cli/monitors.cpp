@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "adapters/hotplug.h"
@@ -8,6 +7,7 @@
 #include "cli/monitor_watch.h"
 #include "cli/output.h"
 #include "cli/plain_reading.h"
+#include "cli/syntax.h"
 #include "cli/system.h"
 
 namespace wb::cli {
@@ -71,15 +71,13 @@ int run(const Options& options) {
 
 } // namespace
 
-Run addMonitors(CLI::App& command) {
+Run addMonitors(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    addFormatOption(command, options->format, {"text", "json"});
-    command
-        .add_flag("--watch", options->watch,
-                  "Go on and tell of each monitor that is connected, changed or disconnected, until Ctrl+C")
-        ->disable_flag_override();
-    addSystemOptions(command, options->system);
-    command.footer(
+    addFormatOption(syntax, options->format, &textAndJson);
+    syntax.flag("--watch", "Go on and tell of each monitor that is connected, changed or disconnected, until Ctrl+C",
+                options->watch);
+    addSystemOptions(syntax, options->system);
+    syntax.footer(
         "A line for each attached monitor: its connector, where its EDID is stored, how many bytes of it (\"no EDID\" "
         "where\nnone is, \"not permitted\" where you may not read it), maker, model and preferred mode, and which one "
         "\"read\" takes\nwithout a name.\n\n"

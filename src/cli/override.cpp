@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <memory>
@@ -12,6 +11,7 @@
 #include "cli/output.h"
 #include "cli/override_steps.h"
 #include "cli/stored_edid.h"
+#include "cli/syntax.h"
 #include "cli/system.h"
 
 namespace wb::cli {
@@ -196,30 +196,21 @@ int run(const Options& options) {
 
 } // namespace
 
-Run addOverride(CLI::App& command) {
+Run addOverride(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    command.add_option("CONNECTOR", options->connector, "Connector of the monitor, as \"monitors\" names it")
-        ->type_name("")
-        ->check(refuseEmpty)
-        ->required();
-    command.add_option("FILE", options->file, "Image in any form, recognised by its content; - is standard input")
-        ->type_name("")
-        ->required();
-    command.add_option("--name", options->name, "Call the firmware file NAME.bin instead of after the connector")
-        ->type_name("NAME")
-        ->check(refuseEmpty)
-        ->take_last();
-    command.add_flag("--install", options->install, "Write the firmware file, and tell the steps that remain")
-        ->disable_flag_override();
-    command.add_option("--root", options->root, "With --install, write below DIR instead of /")
-        ->type_name("DIR")
-        ->check(refuseEmpty)
-        ->take_last();
-    command.add_flag("-f,--force", options->force, "With --install, replace a file that exists already")
-        ->disable_flag_override();
-    addImageOptions(command, options->images);
-    addSystemOptions(command, options->system);
-    command.footer(
+    syntax.operand("CONNECTOR", "Connector of the monitor, as \"monitors\" names it", &options->connector)
+        .refuseEmpty()
+        .require();
+    syntax.operand("FILE", "Image in any form, recognised by its content; - is standard input", &options->file)
+        .require();
+    syntax.option("--name", "NAME", "Call the firmware file NAME.bin instead of after the connector", &options->name)
+        .refuseEmpty();
+    syntax.flag("--install", "Write the firmware file, and tell the steps that remain", options->install);
+    syntax.option("--root", "DIR", "With --install, write below DIR instead of /", &options->root).refuseEmpty();
+    syntax.flag("-f,--force", "With --install, replace a file that exists already", options->force);
+    addImageOptions(syntax, options->images);
+    addSystemOptions(syntax, options->system);
+    syntax.footer(
         "Checks the image and tells the steps after which Linux takes it for that of the monitor at a connector. "
         "Nothing\n"
         "but the firmware file is ever written, and that only with --install.\n\n"

@@ -1,10 +1,10 @@
 #include "cli/plain_reading.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdlib>
 
 #include "cli/attempt.h"
 #include "cli/output.h"
+#include "cli/syntax.h"
 #include "core/base/json_writer.h"
 #include "core/base/text.h"
 
@@ -47,12 +47,16 @@ void appendEscaped(std::string& line, char c) {
 
 } // namespace
 
-void addFormatOption(CLI::App& command, std::string& format, const std::vector<std::string>& names) {
-    std::string help;
-    for (const std::string& name : names) {
-        help += (help.empty() ? "" : ", ") + name + (help.empty() ? " (the default)" : "");
-    }
-    command.add_option("--format", format, help)->type_name("FORMAT")->check(CLI::IsMember(names))->take_last();
+std::vector<std::string> textAndJson() {
+    return {"text", "json"};
+}
+
+std::vector<std::string> textJsonAndTsv() {
+    return {"text", "json", "tsv"};
+}
+
+void addFormatOption(Syntax& syntax, std::string& format, Option::Names names) {
+    syntax.option("--format", "FORMAT", "", &format).oneOf(names);
 }
 
 OutputFormat outputFormatOf(const std::string& name) {

@@ -7,20 +7,18 @@
 
 #include "cli/file_list.h"
 #include "cli/image_input.h"
+#include "cli/syntax.h"
 #include "fields/reading.h"
-
-namespace CLI {
-class App;
-}
 
 /// What the commands share that tell the plain reading of images.
 namespace wb::cli {
 
 enum class OutputFormat { Text, Json, Tsv };
 
+std::vector<std::string> textAndJson();
+std::vector<std::string> textJsonAndTsv();
 /// The option --format, which takes one of the names.
-void addFormatOption(CLI::App& command, std::string& format,
-                     const std::vector<std::string>& names = {"text", "json", "tsv"});
+void addFormatOption(Syntax& syntax, std::string& format, Option::Names names);
 
 /// The format of that name: "text", "json" or "tsv".
 OutputFormat outputFormatOf(const std::string& name);

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <memory>
@@ -14,6 +13,7 @@
 #include "cli/report_names.h"
 #include "cli/stored_edid.h"
 #include "cli/sync_option.h"
+#include "cli/syntax.h"
 #include "cli/system.h"
 #include "core/base/file_names.h"
 
@@ -241,38 +241,34 @@ int run(const Options& options) {
     }
 }
 
+std::string formatHelpOfRead() {
+    return formatHelp() + "; report is the default, with --all bin";
+}
+
 } // namespace
 
-Run addRead(CLI::App& command) {
+Run addRead(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    command
-        .add_option("CONNECTOR", options->connector,
-                    "The monitor to read, as \"monitors\" names it, with or without \"card0-\", in any letter case; "
-                    "without it the first that has an EDID")
-        ->type_name("")
-        ->check(refuseEmpty);
-    command.add_option("--to", options->format, formatHelp() + "; report is the default, with --all bin")
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember(formatNames()))
-        ->take_last();
-    command.add_flag("--all", options->all, "Write a file for each attached monitor, called after its connector")
-        ->disable_flag_override();
-    command.add_option("-o,--output-dir", options->outputFolder, "With --all, the folder of these files")
-        ->type_name("DIR")
-        ->check(refuseEmpty)
-        ->take_last();
-    command.add_flag("-f,--force", options->force, "With --all, replace files that exist already")
-        ->disable_flag_override();
-    addSyncOption(command, options->sync);
-    command
-        .add_option("--i2c", options->bus,
-                    "Ask the monitor itself, on the bus /dev/i2c-N of Linux: reads at address 50h, up to two blocks")
-        ->type_name("N")
-        ->check(refuseEmpty)
-        ->take_last();
-    addClockOption(command, options->date);
-    addSystemOptions(command, options->system);
-    command.footer(
+    syntax
+        .operand("CONNECTOR",
+                 "The monitor to read, as \"monitors\" names it, with or without \"card0-\", in any letter case; "
+                 "without it the first that has an EDID",
+                 &options->connector)
+        .refuseEmpty();
+    syntax.option("--to", "FORMAT", &formatHelpOfRead, &options->format).oneOf(&formatNames);
+    syntax.flag("--all", "Write a file for each attached monitor, called after its connector", options->all);
+    syntax.option("-o,--output-dir", "DIR", "With --all, the folder of these files", &options->outputFolder)
+        .refuseEmpty();
+    syntax.flag("-f,--force", "With --all, replace files that exist already", options->force);
+    addSyncOption(syntax, options->sync);
+    syntax
+        .option("--i2c", "N",
+                "Ask the monitor itself, on the bus /dev/i2c-N of Linux: reads at address 50h, up to two blocks",
+                &options->bus)
+        .refuseEmpty();
+    addClockOption(syntax, options->date);
+    addSystemOptions(syntax, options->system);
+    syntax.footer(
         "What is read is what the system stored when the monitor was attached, and only with --i2c the monitor "
         "itself.\n\n"
         "  edidwb read --to bin HDMI-A-1 >tv.bin\n"

@@ -1,8 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "cli/commands.h"
 #include "cli/rewrite.h"
+#include "cli/syntax.h"
 
 namespace wb::cli {
 
@@ -30,10 +30,10 @@ int run(const RewriteOptions& options) {
 
 } // namespace
 
-Run addRepair(CLI::App& command) {
+Run addRepair(Syntax& syntax) {
     const auto options = std::make_shared<RewriteOptions>();
-    addRewriteOptions(command, *options);
-    command.footer(
+    addRewriteOptions(syntax, *options);
+    syntax.footer(
         "The last byte of every block becomes what makes the sum of the block 0, and no other byte changes.\n"
         "An image that lacks a block, or has bytes behind its last one, is refused.\n\n"
         "  edidwb repair --dry-run *.bin\n"

@@ -1,6 +1,5 @@
 #include "cli/rewrite.h"
 
-#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <map>
 
@@ -10,6 +9,7 @@
 #include "cli/output.h"
 #include "cli/report_names.h"
 #include "cli/sync_option.h"
+#include "cli/syntax.h"
 #include "core/base/file_names.h"
 #include "core/base/text.h"
 #include "forms/writers.h"
@@ -192,25 +192,20 @@ private:
 
 } // namespace
 
-void addRewriteOptions(CLI::App& command, RewriteOptions& options) {
-    addFileOptions(command, options.files);
-    command
-        .add_option("-o,--output-dir", options.outputFolder,
-                    "Write each image to DIR under its name: in its form where the file holds nothing but the bytes of "
-                    "the image, else as binary")
-        ->type_name("DIR")
-        ->check(refuseEmpty)
-        ->take_last();
-    command.add_flag("--in-place", options.inPlace, "Replace each file, which must hold nothing else")
-        ->disable_flag_override();
-    command.add_flag("--backup", options.backup, "With --in-place, keep the old file as FILE.bak")
-        ->disable_flag_override();
-    command.add_flag("-f,--force", options.force, "Replace files of DIR, and backups, that exist already")
-        ->disable_flag_override();
-    command.add_flag("--dry-run", options.dryRun, "Tell what would be changed and write nothing")
-        ->disable_flag_override();
-    addSyncOption(command, options.sync);
-    addImageOptions(command, options.images);
+void addRewriteOptions(Syntax& syntax, RewriteOptions& options) {
+    addFileOptions(syntax, options.files);
+    syntax
+        .option("-o,--output-dir", "DIR",
+                "Write each image to DIR under its name: in its form where the file holds nothing but the bytes of "
+                "the image, else as binary",
+                &options.outputFolder)
+        .refuseEmpty();
+    syntax.flag("--in-place", "Replace each file, which must hold nothing else", options.inPlace);
+    syntax.flag("--backup", "With --in-place, keep the old file as FILE.bak", options.backup);
+    syntax.flag("-f,--force", "Replace files of DIR, and backups, that exist already", options.force);
+    syntax.flag("--dry-run", "Tell what would be changed and write nothing", options.dryRun);
+    addSyncOption(syntax, options.sync);
+    addImageOptions(syntax, options.images);
 }
 
 void checkRewriteOptions(const RewriteOptions& options) {

@@ -9,12 +9,10 @@
 #include "cli/image_input.h"
 #include "core/base/image.h"
 
-namespace CLI {
-class App;
-}
-
 /// What the commands that change images have in common: where the images come from and where they go.
 namespace wb::cli {
+
+class Syntax;
 
 struct RewriteOptions {
     FileOptions files;
@@ -28,7 +26,7 @@ struct RewriteOptions {
 };
 
 /// The options of addFileOptions and addImageOptions, -o, --in-place, --backup, --force, --dry-run and --no-sync.
-void addRewriteOptions(CLI::App& command, RewriteOptions& options);
+void addRewriteOptions(Syntax& syntax, RewriteOptions& options);
 /// Where the options contradict each other it is a UsageError.
 void checkRewriteOptions(const RewriteOptions& options);
 

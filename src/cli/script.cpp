@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -12,6 +11,7 @@
 #include "cli/input.h"
 #include "cli/output.h"
 #include "cli/script_files.h"
+#include "cli/syntax.h"
 #include "script/driver.h"
 #include "shell/wiring.h"
 
@@ -91,15 +91,13 @@ int run(const Options& options) {
 
 } // namespace
 
-Run addScript(CLI::App& command) {
+Run addScript(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    command.add_option("FILE", options->file, "The script; - (the default) is standard input")->type_name("");
-    command.add_flag("--strict", options->strict, "Fail where an action is refused or a box has no queued answer")
-        ->disable_flag_override();
-    command.add_option("--set", options->settings, "Put VALUE where the script says $NAME; may be given several times")
-        ->type_name("NAME=VALUE")
-        ->allow_extra_args(false);
-    command.footer(
+    syntax.operand("FILE", "The script; - (the default) is standard input", &options->file);
+    syntax.flag("--strict", "Fail where an action is refused or a box has no queued answer", options->strict);
+    syntax.option("--set", "NAME=VALUE", "Put VALUE where the script says $NAME; may be given several times",
+                  &options->settings);
+    syntax.footer(
         "The command \"help\" of a script lists the commands of scripts.\n\n"
         "  edidwb script session.script\n"
         "  edidwb script --strict --set IN=monitor.bin session.script\n\n"

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 
@@ -6,6 +5,7 @@
 #include "cli/output.h"
 #include "cli/panel_editing.h"
 #include "cli/rewrite.h"
+#include "cli/syntax.h"
 #include "core/base/text.h"
 #include "fields/descriptors.h"
 #include "fields/reading.h"
@@ -70,10 +70,10 @@ int run(const RewriteOptions& options) {
 
 } // namespace
 
-Run addScrub(CLI::App& command) {
+Run addScrub(Syntax& syntax) {
     const auto options = std::make_shared<RewriteOptions>();
-    addRewriteOptions(command, *options);
-    command.footer(
+    addRewriteOptions(syntax, *options);
+    syntax.footer(
         "The serial number becomes 0 and the texts of serial number descriptors blank, as the panels write them; the\n"
         "check sum of block 0 is put right. Serial numbers in other blocks stay, and are told.\n\n"
         "  edidwb scrub -o share *.bin\n"

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <array>
 #include <memory>
 
@@ -7,6 +6,7 @@
 #include "cli/commands.h"
 #include "cli/output.h"
 #include "cli/set_options.h"
+#include "cli/syntax.h"
 #include "core/base/text.h"
 
 namespace wb::cli {
@@ -78,32 +78,23 @@ constexpr auto textOptions = std::to_array<TextOption>({
 
 } // namespace
 
-Run addSet(CLI::App& command) {
+Run addSet(Syntax& syntax) {
     const auto options = std::make_shared<SetOptions>();
-    addRewriteOptions(command, options->rewrite);
+    addRewriteOptions(syntax, options->rewrite);
     for (const TextOption& option : textOptions) {
-        command.add_option(option.name, options->texts.*option.text, option.description)
-            ->type_name(option.type)
-            ->check(refuseEmpty)
-            ->take_last();
+        syntax.option(option.name, option.type, option.description, &(options->texts.*option.text)).refuseEmpty();
     }
-    command
-        .add_option("--timing", options->texts.timings,
-                    "Put a timing into place N, 1 to 4; MODELINE is what cvt or xrandr --verbose print of it")
-        ->type_name("N=MODELINE")
-        ->allow_extra_args(false);
-    command
-        .add_option("--cvt", options->texts.cvts,
-                    "Compute the timing for place N by the CVT standard, with R at the end with reduced blanking")
-        ->type_name("N=WxH@RATE[R]")
-        ->allow_extra_args(false);
-    command
-        .add_option("--new", options->newFile,
-                    "Make the image NAME instead of changing files: EDID 1.4, digital, sRGB, of this year")
-        ->type_name("NAME")
-        ->check(refuseEmpty)
-        ->take_last();
-    command.footer(
+    syntax.option("--timing", "N=MODELINE",
+                  "Put a timing into place N, 1 to 4; MODELINE is what cvt or xrandr --verbose print of it",
+                  &options->texts.timings);
+    syntax.option("--cvt", "N=WxH@RATE[R]",
+                  "Compute the timing for place N by the CVT standard, with R at the end with reduced blanking",
+                  &options->texts.cvts);
+    syntax
+        .option("--new", "NAME", "Make the image NAME instead of changing files: EDID 1.4, digital, sRGB, of this year",
+                &options->newFile)
+        .refuseEmpty();
+    syntax.footer(
         "Everything is typed into the panels and cells of the program: what these refuse with a box is an error of "
         "the\n"
         "file, of which nothing is written then. The name goes into its descriptor, or into the first free one. A "

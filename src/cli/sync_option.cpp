@@ -1,15 +1,14 @@
 #include "cli/sync_option.h"
 
-#include <CLI/CLI.hpp>
+#include "cli/syntax.h"
 
 namespace wb::cli {
 
-void addSyncOption(CLI::App& command, bool& sync) {
-    command
-        .add_flag_callback(
-            "--no-sync", [&sync] { sync = false; },
-            "Do not wait for the disk after each file: faster, but a power cut may leave empty ones")
-        ->disable_flag_override();
+void addSyncOption(Syntax& syntax, bool& sync) {
+    syntax
+        .flag("--no-sync", "Do not wait for the disk after each file: faster, but a power cut may leave empty ones",
+              sync)
+        .sets(false);
 }
 
 } // namespace wb::cli

@@ -9,19 +9,17 @@
 #include "platform/ddc_bus.h"
 #include "platform/services.h"
 
-namespace CLI {
-class App;
-}
-
 /// The running system and its monitors; each kind of system has a file of its own.
 namespace wb::cli {
+
+class Syntax;
 
 struct SystemOptions {
     std::string sysfs = "/sys"; ///< only where there is such a folder
 };
 
 /// The options that tell where the system keeps its monitors, where a user can say so.
-void addSystemOptions(CLI::App& command, SystemOptions& options);
+void addSystemOptions(Syntax& syntax, SystemOptions& options);
 
 /// The registry tree that holds the stored EDIDs. A folder that is not there is a CliError, as below.
 std::unique_ptr<platform::Registry> systemRegistry(const SystemOptions& options);

@@ -1,7 +1,7 @@
-#include <CLI/CLI.hpp>
 #include <filesystem>
 
 #include "cli/cli_error.h"
+#include "cli/syntax.h"
 #include "cli/system.h"
 #include "platform/linux/i2c_bus.h"
 #include "platform/linux/sysfs_registry.h"
@@ -19,10 +19,8 @@ void requireFolder(const std::string& sysfs) {
 
 } // namespace
 
-void addSystemOptions(CLI::App& command, SystemOptions& options) {
-    command.add_option("--sysfs", options.sysfs, "Look for monitors below DIR instead of /sys")
-        ->type_name("DIR")
-        ->take_last();
+void addSystemOptions(Syntax& syntax, SystemOptions& options) {
+    syntax.option("--sysfs", "DIR", "Look for monitors below DIR instead of /sys", &options.sysfs);
 }
 
 std::unique_ptr<platform::Registry> systemRegistry(const SystemOptions& options) {

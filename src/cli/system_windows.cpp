@@ -38,7 +38,7 @@ void readEdid(platform::Registry& registry, const std::string& parameters, Monit
 
 } // namespace
 
-void addSystemOptions(CLI::App&, SystemOptions&) {}
+void addSystemOptions(Syntax&, SystemOptions&) {}
 
 std::unique_ptr<platform::Registry> systemRegistry(const SystemOptions&) {
     return std::make_unique<platform::windows::Win32Registry>();

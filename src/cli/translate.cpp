@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <functional>
@@ -18,6 +17,7 @@
 #include "cli/progress.h"
 #include "cli/report_places.h"
 #include "cli/sync_option.h"
+#include "cli/syntax.h"
 #include "core/base/digits.h"
 #include "core/base/file_names.h"
 #include "fields/json.h"
@@ -226,6 +226,10 @@ private:
     bool failed_ = false;
 };
 
+std::vector<std::string> headings() {
+    return {"auto", "always", "never"};
+}
+
 std::size_t jobsOf(const Options& options) {
     const auto jobs = wholeNumber<std::size_t>(options.jobs);
     if (!jobs) {
@@ -266,32 +270,26 @@ int run(const Options& options) {
 
 } // namespace
 
-Run addTranslate(CLI::App& command) {
+Run addTranslate(Syntax& syntax) {
     const auto options = std::make_shared<Options>();
-    addFileOptions(command, options->files);
-    command
-        .add_option("-o,--output-dir", options->outputFolder, "Write each report to DIR/NAME.txt (or .json) instead")
-        ->type_name("DIR")
-        ->check(refuseEmpty)
-        ->take_last();
-    command.add_flag("--keep-tree", options->keepTree, "Write DIR/PATH.txt, with the path below a folder of -r")
-        ->disable_flag_override();
-    addSyncOption(command, options->sync);
-    command.add_option("-j,--jobs", options->jobs, "Work on up to N files at a time; 0: as many as there are cores")
-        ->type_name("N")
-        ->take_last();
-    addClockOption(command, options->date);
-    addFormatOption(command, options->format, {"text", "json"});
-    command
-        .add_option("--heading", options->heading,
-                    "Put the name of its file above each report: auto (where there are several), always, never")
-        ->type_name("WHEN")
-        ->check(CLI::IsMember({"auto", "always", "never"}))
-        ->take_last();
-    command.add_flag("--strict", options->strict, "Count the boxes that the program shows as failures")
-        ->disable_flag_override();
-    addImageOptions(command, options->images);
-    command.footer(
+    addFileOptions(syntax, options->files);
+    syntax
+        .option("-o,--output-dir", "DIR", "Write each report to DIR/NAME.txt (or .json) instead",
+                &options->outputFolder)
+        .refuseEmpty();
+    syntax.flag("--keep-tree", "Write DIR/PATH.txt, with the path below a folder of -r", options->keepTree);
+    addSyncOption(syntax, options->sync);
+    syntax.option("-j,--jobs", "N", "Work on up to N files at a time; 0: as many as there are cores", &options->jobs);
+    addClockOption(syntax, options->date);
+    addFormatOption(syntax, options->format, &textAndJson);
+    syntax
+        .option("--heading", "WHEN",
+                "Put the name of its file above each report: auto (where there are several), always, never",
+                &options->heading)
+        .oneOf(&headings);
+    syntax.flag("--strict", "Count the boxes that the program shows as failures", options->strict);
+    addImageOptions(syntax, options->images);
+    syntax.footer(
         "The report is that of the desktop program, of the first two blocks; what it leaves out is told.\n\n"
         "  edidwb translate monitor.bin\n"
         "  edidwb translate -r -j 0 --keep-tree -o reports images\n\n"
