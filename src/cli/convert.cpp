@@ -1,4 +1,5 @@
 #include <memory>
+#include <utility>
 
 #include "cli/attempt.h"
 #include "cli/clock_option.h"
@@ -51,58 +52,86 @@ Image fitted(const Options& options, Image image, Remarks& remarks) {
     return image;
 }
 
-std::string convert(const Options& options, Program& program, Remarks& remarks) {
-    const Contents contents = contentsOf(readInput(options.in), options.images);
-    const bool odd = contents.isDataFile && contents.images.empty();
-    if (odd && options.format == "hex") { // the export takes cells as they are, bytes or not
-        program.loadDataFile(contents.input);
-        return program.hexExport();
-    }
-    if (isFormOfBytes(options.format)) {
-        return contentAs(options.format, fitted(options, onlyImageOf(contents), remarks));
-    }
-    if (contents.isDataFile) {
-        program.loadDataFile(contents.input);
-    } else if (options.format == "dat") {
-        program.load(fitted(options, onlyImageOf(contents), remarks));
-    } else {
-        program.load(contents);
-        const Remarks omissions = omissionsOf(onlyImageOf(contents));
-        remarks.insert(remarks.end(), omissions.begin(), omissions.end());
-    }
-    std::string content = contentAs(options.format, program);
-    if (options.format == "dat") {
-        if (const auto loss = lossOnReadingBack(program, content)) {
-            remarks.push_back("the data file does not read back as it is: " + *loss);
-        }
-    }
-    return content;
-}
+/// The conversion of one file.
+class Conversion {
+public:
+    explicit Conversion(const Options& options) : options_(options), programs_(clockOf(options.date)) {}
 
-/// Gives the content of the new file; tells of the boxes and what else came up on the way in any case.
-std::string convertAndTell(const Options& options) {
-    Program program(clockOf(options.date));
-    Remarks remarks;
-    const auto tell = [&] {
-        complainOfBoxes(options.in, program.boxes());
-        for (const std::string& remark : remarks) {
-            complain(options.in, remark);
+    /// The content of the new file; tells of the boxes and what else came up on the way in any case.
+    std::string contentAndTell() {
+        try {
+            std::string result = content();
+            tell();
+            if (program_ != nullptr) {
+                programs_.giveBack(std::move(program_));
+            }
+            return result;
+        } catch (...) {
+            tell();
+            throw;
         }
-    };
-    try {
-        std::string content = convert(options, program, remarks);
-        tell();
-        return content;
-    } catch (...) {
-        tell();
-        throw;
     }
-}
+
+private:
+    std::string content() {
+        const Contents contents = contentsOf(readInput(options_.in), options_.images);
+        const bool odd = contents.isDataFile && contents.images.empty();
+        if (odd && options_.format == "hex") { // the export takes cells as they are, bytes or not
+            program().loadDataFile(contents.input);
+            return program().hexExport();
+        }
+        if (isFormOfBytes(options_.format)) {
+            return contentAs(options_.format, fitted(options_, onlyImageOf(contents), remarks_));
+        }
+        load(contents);
+        std::string content = contentAs(options_.format, program());
+        if (options_.format == "dat") {
+            if (const auto loss = lossOnReadingBack(programs_, program(), content)) {
+                remarks_.push_back("the data file does not read back as it is: " + *loss);
+            }
+        }
+        return content;
+    }
+
+    void load(const Contents& contents) {
+        if (contents.isDataFile) {
+            program().loadDataFile(contents.input);
+        } else if (options_.format == "dat") {
+            program().load(fitted(options_, onlyImageOf(contents), remarks_));
+        } else {
+            program().load(contents);
+            const Remarks omissions = omissionsOf(onlyImageOf(contents));
+            remarks_.insert(remarks_.end(), omissions.begin(), omissions.end());
+        }
+    }
+
+    /// Forms of bytes do without it.
+    Program& program() {
+        if (program_ == nullptr) {
+            program_ = programs_.take();
+        }
+        return *program_;
+    }
+
+    void tell() const {
+        if (program_ != nullptr) {
+            complainOfBoxes(options_.in, program_->boxes());
+        }
+        for (const std::string& remark : remarks_) {
+            complain(options_.in, remark);
+        }
+    }
+
+    const Options& options_;
+    Programs programs_;
+    std::unique_ptr<Program> program_;
+    Remarks remarks_;
+};
 
 int run(const Options& options) {
     std::string content;
     const Existing existing = options.force ? Existing::Replace : Existing::Refuse;
-    const bool good = attempt(options.in, [&] { content = convertAndTell(options); }) &&
+    const bool good = attempt(options.in, [&] { content = Conversion(options).contentAndTell(); }) &&
                       attempt(options.out, [&] { writeFile(options.out, content, existing); });
     return good ? success : somethingFailed;
 }

@@ -144,6 +144,19 @@ std::string Program::contentWithoutBox(const std::function<std::string()>& build
     return content;
 }
 
+Programs::Programs(const std::optional<platform::DateTime>& now)
+    : leftBehind_([]() -> Idle& {
+          static Idle& programs = *new Idle;
+          return programs;
+      }()),
+      now_(now) {
+    leftBehind_.clear();
+}
+
+Programs::~Programs() {
+    leftBehind_.swap(idle_);
+}
+
 std::unique_ptr<Program> Programs::take() {
     std::unique_ptr<Program> program;
     {

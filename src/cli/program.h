@@ -64,19 +64,27 @@ private:
     Boxes boxes_;
 };
 
-/// Programs for the images of a batch, each of which finds one as it stands after start-up. For several threads.
+/// Programs for the images of a run, each of which finds one as it stands after start-up. For several threads.
 class Programs {
 public:
-    explicit Programs(const std::optional<platform::DateTime>& now) : now_(now) {}
+    explicit Programs(const std::optional<platform::DateTime>& now);
+    Programs(const Programs&) = delete;
+    Programs& operator=(const Programs&) = delete;
+    /// Those that were given back stay until the next run, which is mostly that of another process: to take them apart
+    /// costs as much as to read an image.
+    ~Programs();
 
     std::unique_ptr<Program> take();
     /// A program that has done its work, for the next image.
     void giveBack(std::unique_ptr<Program> program);
 
 private:
+    using Idle = std::vector<std::unique_ptr<Program>>;
+
+    Idle& leftBehind_;                            ///< of the run before; that of the last run is never taken apart
     const std::optional<platform::DateTime> now_; ///< the clock of each
     std::mutex mutex_;
-    std::vector<std::unique_ptr<Program>> idle_;
+    Idle idle_;
 };
 
 } // namespace wb::cli

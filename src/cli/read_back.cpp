@@ -1,5 +1,7 @@
 #include "cli/read_back.h"
 
+#include <utility>
+
 #include "cli/program.h"
 #include "core/base/text.h"
 
@@ -22,14 +24,16 @@ std::optional<std::string> firstLoss(BlockScreen& written, Workbench& reader, in
 
 } // namespace
 
-std::optional<std::string> lossOnReadingBack(Program& writer, const std::string& dataFile) {
-    Program reader;
-    reader.loadDataFile({.name = {}, .content = dataFile});
-    std::optional<std::string> loss = firstLoss(writer.workbench().frmEDID(), reader.workbench(), 0);
-    const bool opensExtension = reader.workbench().loaded(ScreenId::CeaExt) != nullptr;
+std::optional<std::string> lossOnReadingBack(Programs& programs, Program& writer, const std::string& dataFile) {
+    std::unique_ptr<Program> program = programs.take();
+    program->loadDataFile({.name = {}, .content = dataFile});
+    Workbench& reader = program->workbench();
+    std::optional<std::string> loss = firstLoss(writer.workbench().frmEDID(), reader, 0);
+    const bool opensExtension = reader.loaded(ScreenId::CeaExt) != nullptr;
     if (!loss && opensExtension) {
-        loss = firstLoss(writer.workbench().frmCEA_EXT(), reader.workbench(), BlockScreen::cellCount);
+        loss = firstLoss(writer.workbench().frmCEA_EXT(), reader, BlockScreen::cellCount);
     }
+    programs.giveBack(std::move(program));
     return loss;
 }
 
