@@ -53,7 +53,7 @@ private:
 
     /// Opens the key at the current path and makes it the innermost level; gives what it holds itself.
     Found enter() {
-        OpenKey key(registry_, path_);
+        OpenKey key = openBelow(levels_.size());
         if (!key.isOpen()) {
             tellUnlessMissing(key.code());
             return std::nullopt;
@@ -66,6 +66,16 @@ private:
         std::string found = ReadEDIDValueFromKey(registry_, key.key(), values, walkKeys_);
         levels_.push_back({.key = std::move(key), .pathLength = path_.size(), .subKeys = subKeys});
         return found.empty() ? std::nullopt : Found(std::move(found));
+    }
+
+    /// Opens the key at the current path, which has that many levels above it, from the last of them: a path from the
+    /// root is as long as the tree is deep.
+    OpenKey openBelow(std::size_t levels) const {
+        if (levels == 0) {
+            return {registry_, path_};
+        }
+        const Level& above = levels_[levels - 1];
+        return {registry_, above.key.key(), path_.substr(above.pathLength + 1)};
     }
 
     /// Takes one sub-key of the innermost level, or leaves that level when it is through.
@@ -89,8 +99,9 @@ private:
             return path_ + "\\Device Parameters";
         }
         // Each level keeps its own handle; what counts is that the key can still be opened before the walk goes deeper.
-        if (!OpenKey(registry_, path_).isOpen()) {
-            tellUnlessMissing(OpenKey(registry_, path_).code());
+        const std::size_t above = levels_.size() - 1;
+        if (!openBelow(above).isOpen()) {
+            tellUnlessMissing(openBelow(above).code());
             levels_.pop_back();
             return std::nullopt;
         }

@@ -10,6 +10,8 @@ namespace wb::platform {
 class OpenKey {
 public:
     OpenKey(Registry& registry, const std::string& path);
+    /// The path begins at an open key.
+    OpenKey(Registry& registry, Registry::Key above, const std::string& path);
     OpenKey(const OpenKey&) = delete;
     OpenKey& operator=(const OpenKey&) = delete;
     OpenKey(OpenKey&& other) noexcept;

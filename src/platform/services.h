@@ -89,6 +89,8 @@ public:
     virtual ~Registry() = default;
     /// Opens the key at `path` (separators are backslashes; an empty path is the root).
     virtual RegistryCode open(const std::string& path, Key& key) = 0;
+    /// The same for a path that begins at an open key: what it costs does not grow with the depth of that key.
+    virtual RegistryCode open(Key above, const std::string& path, Key& key) = 0;
     virtual RegistryCode queryInfo(Key key, int& subKeys, int& values) = 0;
     /// Name of the sub-key of that index; NoMoreItems past the last, MoreData above the buffer size.
     virtual RegistryCode enumerateKey(Key key, int index, std::string& name) = 0;

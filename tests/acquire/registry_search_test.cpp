@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <functional>
 #include <map>
 
 #include "acquire/monitors.h"
@@ -235,15 +235,10 @@ public:
     explicit CountingRegistry(Registry& inner) : inner_(inner) {}
 
     RegistryCode open(const std::string& path, Key& key) override {
-        ++calls;
-        const int opened = ++openings[path];
-        const auto refused = refusals.find({path, opened});
-        if (refused != refusals.end()) {
-            return refused->second;
-        }
-        const RegistryCode code = inner_.open(path, key);
-        open_ += code == RegistryCode::Ok ? 1 : 0;
-        return code;
+        return counted(path, path, key, [&] { return inner_.open(path, key); });
+    }
+    RegistryCode open(Key above, const std::string& path, Key& key) override {
+        return counted(path, paths_.at(above) + '\\' + path, key, [&] { return inner_.open(above, path, key); });
     }
     RegistryCode queryInfo(Key key, int& subKeys, int& values) override {
         ++calls;
@@ -261,20 +256,37 @@ public:
         return inner_.readValue(key, name, value);
     }
     void close(Key key) override {
-        --open_;
+        EXPECT_EQ(paths_.erase(key), 1U);
         inner_.close(key);
     }
 
-    int stillOpen() const { return open_; }
+    std::size_t stillOpen() const { return paths_.size(); }
 
     int calls = 0;
+    std::size_t lettersNamed = 0; ///< of all paths that were asked for
     std::map<std::string, int> openings;
     std::map<std::pair<std::string, int>, RegistryCode> refusals; ///< by path and how often it was opened, from 1
     RegistryCode queryCode = RegistryCode::Ok;
 
 private:
+    RegistryCode counted(const std::string& asked, const std::string& path, Key& key,
+                         const std::function<RegistryCode()>& open) {
+        ++calls;
+        lettersNamed += asked.size();
+        const int opened = ++openings[path];
+        const auto refused = refusals.find({path, opened});
+        if (refused != refusals.end()) {
+            return refused->second;
+        }
+        const RegistryCode code = open();
+        if (code == RegistryCode::Ok) {
+            paths_[key] = path;
+        }
+        return code;
+    }
+
     Registry& inner_;
-    int open_ = 0;
+    std::map<Key, std::string> paths_; ///< of the open keys, from the root
 };
 
 class CountedSearch : public testing::Test {
@@ -341,6 +353,20 @@ TEST_F(CountedSearch, AsksNoMoreThanTheTreeIsLarge) {
     EXPECT_EQ(find("ROOT"), "");
     // A key is opened twice, queried once, enumerated once, and its end is met twice (last index, one past it).
     EXPECT_LE(registry.calls, 5 * (keys + 101));
+}
+
+/// Else a deep tree would cost the square of its depth.
+TEST_F(CountedSearch, NamesAKeyFromTheOneAboveIt) {
+    std::string path = "ROOT";
+    for (int level = 0; level < 300; ++level) {
+        path += "\\name";
+    }
+    tree.addKey(path);
+    EXPECT_EQ(find("ROOT"), "");
+    EXPECT_EQ(registry.openings[path], 1);
+    EXPECT_EQ(registry.openings["ROOT\\name"], 2) << "once more before the walk goes deeper";
+    // Each of the 301 keys, all of four letters, is opened twice, but the last one, below which there is nothing.
+    EXPECT_EQ(registry.lettersNamed, 601U * 4);
 }
 
 } // namespace

@@ -125,6 +125,25 @@ TEST_P(EveryRegistry, EmptyNamesInAPathDoNotCount) {
     EXPECT_EQ(open("\\"), RegistryCode::Ok);
 }
 
+TEST_P(EveryRegistry, OpensBelowAnOpenKeyAsAlongThePath) {
+    struct Case {
+        std::string above;
+        std::string below;
+    };
+    for (const Case& test : {Case{"", "system"}, Case{display, "AAA0001\\0"}, Case{display, "\\AAA0001\\"},
+                             Case{display, ""}, Case{display, "CCC0003"}, Case{display, display},
+                             Case{display + "\\BBB0002\\0", "Control"}, Case{display + "\\AAA0001", "0\\control"}}) {
+        const Registry::Key above = openKey(test.above);
+        Registry::Key key = above;
+        EXPECT_EQ(registry.open(above, test.below, key), open(test.above + "\\" + test.below)) << test.below;
+    }
+    RegistryValue value;
+    Registry::Key key = 0;
+    ASSERT_EQ(registry.open(openKey(display + "\\AAA0001"), "0\\Device Parameters", key), RegistryCode::Ok);
+    EXPECT_EQ(registry.readValue(key, "EDID", value), RegistryCode::Ok);
+    EXPECT_EQ(value.data, "one");
+}
+
 TEST_P(EveryRegistry, HasNoOtherKeys) {
     for (const std::string& path :
          {std::string("SOFTWARE"), std::string("SYSTEM\\Enum"), std::string("SYSTEM\\CurrentControlSet\\Enum\\Displa"),
@@ -195,6 +214,8 @@ TEST_P(EveryRegistry, RefusesKeysThatAreNotOpen) {
         int values = 0;
         std::string name;
         RegistryValue value;
+        Registry::Key below = 0;
+        EXPECT_EQ(registry.open(closed, "", below), RegistryCode::Refused);
         EXPECT_EQ(registry.queryInfo(closed, keys, values), RegistryCode::Refused);
         EXPECT_EQ(registry.enumerateKey(closed, 0, name), RegistryCode::Refused);
         EXPECT_EQ(registry.enumerateValue(closed, 0, value), RegistryCode::Refused);

@@ -29,8 +29,8 @@ void RegistryTree::clear() {
     root_ = nodes_.back().get();
 }
 
-RegistryTree::Node* RegistryTree::find(const std::string& path) const {
-    Node* node = root_;
+/// Null where there is no key of that path below the node.
+RegistryTree::Node* RegistryTree::find(Node* node, const std::string& path) {
     for (const std::string_view part : registryPathParts(path)) {
         const auto child = node->childByName.find(upperCase(part));
         if (child == node->childByName.end()) {
@@ -80,7 +80,15 @@ void RegistryTree::refuse(const std::string& path, RegistryCode code) {
 }
 
 RegistryCode RegistryTree::open(const std::string& path, Key& key) {
-    Node* node = find(path);
+    return open(find(root_, path), key);
+}
+
+RegistryCode RegistryTree::open(Key above, const std::string& path, Key& key) {
+    Node* const node = opened(above);
+    return node == nullptr ? RegistryCode::Refused : open(find(node, path), key);
+}
+
+RegistryCode RegistryTree::open(Node* node, Key& key) {
     if (node == nullptr) {
         return RegistryCode::NotFound;
     }

@@ -24,6 +24,7 @@ public:
     void clear();
 
     RegistryCode open(const std::string& path, Key& key) override;
+    RegistryCode open(Key above, const std::string& path, Key& key) override;
     RegistryCode queryInfo(Key key, int& subKeys, int& values) override;
     RegistryCode enumerateKey(Key key, int index, std::string& name) override;
     RegistryCode enumerateValue(Key key, int index, RegistryValue& value) override;
@@ -33,7 +34,8 @@ public:
 private:
     struct Node;
 
-    Node* find(const std::string& path) const;
+    static Node* find(Node* node, const std::string& path);
+    RegistryCode open(Node* node, Key& key);
     Node& make(const std::string& path);
     Node* opened(Key key) const;
 

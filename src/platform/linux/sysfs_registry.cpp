@@ -94,15 +94,24 @@ RegistryCode SysfsRegistry::edidOf(const Node& node, std::size_t limit, Registry
 }
 
 RegistryCode SysfsRegistry::open(const std::string& path, Key& key) {
-    std::optional<Node> node = Node{};
+    return open(Node{}, path, key);
+}
+
+RegistryCode SysfsRegistry::open(Key above, const std::string& path, Key& key) {
+    const OpenedKey* const found = opened(above);
+    return found == nullptr ? RegistryCode::Refused : open(found->node, path, key);
+}
+
+RegistryCode SysfsRegistry::open(Node node, const std::string& path, Key& key) {
     for (const std::string_view part : registryPathParts(path)) {
-        node = subKeyOf(*node, std::string(part));
-        if (!node) {
+        std::optional<Node> subKey = subKeyOf(node, std::string(part));
+        if (!subKey) {
             return RegistryCode::NotFound;
         }
+        node = *std::move(subKey);
     }
     key = nextKey_++;
-    opened_[key].node = *std::move(node);
+    opened_[key].node = std::move(node);
     return RegistryCode::Ok;
 }
 

@@ -19,6 +19,7 @@ public:
     explicit SysfsRegistry(const std::filesystem::path& sysfs) : connectors_(sysfs) {}
 
     RegistryCode open(const std::string& path, Key& key) override;
+    RegistryCode open(Key above, const std::string& path, Key& key) override;
     RegistryCode queryInfo(Key key, int& subKeys, int& values) override;
     RegistryCode enumerateKey(Key key, int index, std::string& name) override;
     RegistryCode enumerateValue(Key key, int index, RegistryValue& value) override;
@@ -37,6 +38,7 @@ private:
         std::optional<std::vector<std::string>> subKeys; ///< listed when first asked for
     };
 
+    RegistryCode open(Node node, const std::string& path, Key& key);
     std::optional<Node> subKeyOf(const Node& node, const std::string& name) const;
     std::vector<std::string> subKeysOf(const Node& node) const;
     OpenedKey* opened(Key key);

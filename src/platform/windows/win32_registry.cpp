@@ -50,15 +50,25 @@ std::string withoutEmptyNames(const std::string& path) {
     return result;
 }
 
-} // namespace
-
-RegistryCode Win32Registry::open(const std::string& path, Key& key) {
+LSTATUS openBelow(HKEY above, const std::string& path, Registry::Key& key) {
     HKEY handle = nullptr;
-    const LSTATUS status = RegOpenKeyExA(HKEY_LOCAL_MACHINE, withoutEmptyNames(path).c_str(), 0, KEY_READ, &handle);
+    const LSTATUS status = RegOpenKeyExA(above, withoutEmptyNames(path).c_str(), 0, KEY_READ, &handle);
     if (status == ERROR_SUCCESS) {
         key = reinterpret_cast<std::uintptr_t>(handle);
     }
-    return codeOf(status);
+    return status;
+}
+
+} // namespace
+
+RegistryCode Win32Registry::open(const std::string& path, Key& key) {
+    return codeOf(openBelow(HKEY_LOCAL_MACHINE, path, key));
+}
+
+/// Below a key that was deleted since there is nothing, as on the path to it.
+RegistryCode Win32Registry::open(Key above, const std::string& path, Key& key) {
+    const LSTATUS status = openBelow(handleOf(above), path, key);
+    return status == ERROR_KEY_DELETED ? RegistryCode::NotFound : codeOf(status);
 }
 
 RegistryCode Win32Registry::queryInfo(Key key, int& subKeys, int& values) {

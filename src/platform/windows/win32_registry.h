@@ -9,6 +9,7 @@ namespace wb::platform::windows {
 class Win32Registry : public Registry {
 public:
     RegistryCode open(const std::string& path, Key& key) override;
+    RegistryCode open(Key above, const std::string& path, Key& key) override;
     RegistryCode queryInfo(Key key, int& subKeys, int& values) override;
     RegistryCode enumerateKey(Key key, int index, std::string& name) override;
     RegistryCode enumerateValue(Key key, int index, RegistryValue& value) override;
