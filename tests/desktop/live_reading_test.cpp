@@ -100,6 +100,27 @@ TEST_F(LiveReadingTest, TellsNobodyWhoHasGone) {
     EXPECT_EQ(changes, 1);
 }
 
+TEST_F(LiveReadingTest, KnowsWhichBytesSaySomethingElse) {
+    program.openSample("zarqo-z40.bin");
+    const desktop::LiveReading& shown = program.view.liveReading();
+    const auto changed = [&] {
+        std::vector<std::size_t> numbers;
+        for (std::size_t byte = 0; byte < 256; ++byte) {
+            if (shown.changed(byte)) {
+                numbers.push_back(byte);
+            }
+        }
+        return numbers;
+    };
+    set(edid().txtEdit(54), "ff"); // the clock; the sum is not brought in line by this
+    EXPECT_EQ(changed(), (std::vector<std::size_t>{54, 55}));
+    set(edid().txtEdit(54), "FF");
+    EXPECT_EQ(changed(), (std::vector<std::size_t>{54})) << "the same byte in another cell's text";
+    set(edid().txtEdit(126), "00");
+    EXPECT_TRUE(shown.changed(200)) << "which is no more in the image";
+    EXPECT_FALSE(shown.changed(60));
+}
+
 TEST_F(LiveReadingTest, TellsAgainAfterItWasToForget) {
     program.openSample("zarqo-z40.bin");
     live.noteCall();
@@ -108,6 +129,8 @@ TEST_F(LiveReadingTest, TellsAgainAfterItWasToForget) {
     live.noteCall();
     DesktopProgram::settle();
     EXPECT_EQ(changes, 2);
+    EXPECT_TRUE(live.changed(0));
+    EXPECT_TRUE(live.changed(255));
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "core/base/image_layout.h"
 #include "core/base/text.h"
 #include "core/screens/block_screen.h"
+#include "desktop/base/changed_bytes.h"
 #include "desktop/base/text_codec.h"
 
 namespace wb::desktop {
@@ -70,7 +71,9 @@ void LiveReading::update() {
     if (cells == cells_) {
         return;
     }
+    const std::optional<fields::Reading> before = std::exchange(reading_, std::nullopt);
     read(cells);
+    compare(cells, before);
     cells_ = std::move(cells);
     std::erase_if(listeners_, [](const Listener& listener) { return listener.context.isNull(); });
     for (const Listener& listener : std::vector<Listener>(listeners_)) { // a listener may make more of them
@@ -90,9 +93,19 @@ void LiveReading::read(const std::vector<std::string>& cells) {
         }
         bytes += static_cast<char>(byte.value_or(0));
     }
-    reading_.reset();
     if (const auto image = Image::fromBytes(bytes)) {
         reading_.emplace(fields::read(*image));
+    }
+}
+
+void LiveReading::compare(const std::vector<std::string>& cells, const std::optional<fields::Reading>& before) {
+    changed_.clear();
+    if (cells_.empty() || !before || !reading_) {
+        return; // nobody has been told of any of them
+    }
+    changed_ = changedBytes(*before, *reading_);
+    for (std::size_t i = 0; i < changed_.size(); ++i) {
+        changed_[i] = changed_[i] || i >= cells_.size() || cells_[i] != cells[i];
     }
 }
 

@@ -31,6 +31,10 @@ public:
     /// empty.
     const QString& complaint() const { return complaint_; }
 
+    /// Whether the cell of a byte of the image, or a field that it is part of, says something else than when the
+    /// listeners were told before.
+    bool changed(std::size_t byte) const { return byte >= changed_.size() || changed_[byte]; }
+
     /// Calls the listener whenever the reading has changed, as long as `context` exists.
     void listen(QObject& context, std::function<void()> listener);
 
@@ -48,10 +52,12 @@ private:
     bool hasBadCell() const { return !complaint_.isEmpty(); }
     void update();
     void read(const std::vector<std::string>& cells);
+    void compare(const std::vector<std::string>& cells, const std::optional<fields::Reading>& before);
 
     const Workbench& workbench_;
     std::vector<std::string> cells_; ///< texts that the reading was made from
     std::optional<fields::Reading> reading_;
+    std::vector<bool> changed_; ///< for each byte; all have that are not in it
     QString complaint_;
     std::vector<Listener> listeners_;
     bool willUpdate_ = false;

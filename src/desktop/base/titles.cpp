@@ -14,4 +14,10 @@ void setTitle(QWidget& window, std::string_view title, ChangeMark mark) {
     }
 }
 
+void setModified(QWidget& window, bool modified) {
+    if (window.isWindowModified() != modified) {
+        window.setWindowModified(modified);
+    }
+}
+
 } // namespace wb::desktop

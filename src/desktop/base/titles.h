@@ -11,4 +11,7 @@ enum class ChangeMark { Never, WhenModified };
 /// platform's own mark for changes stands behind the title while the window is modified, if it is asked for.
 void setTitle(QWidget& window, std::string_view title, ChangeMark mark = ChangeMark::Never);
 
+/// Shows or hides that mark. Qt would paint the title and tell the platform anew though nothing has changed.
+void setModified(QWidget& window, bool modified);
+
 } // namespace wb::desktop

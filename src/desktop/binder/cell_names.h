@@ -18,11 +18,11 @@ public:
 
     explicit CellNames(Find find) : find_(std::move(find)) {}
 
-    /// Names the cells of the loaded screens.
+    /// Names those cells of the loaded screens of which there is something else to say.
     void refresh(const Workbench& workbench, const LiveReading& live) const;
 
 private:
-    void name(BlockScreen& screen, const fields::Reading& reading, std::size_t firstByte) const;
+    void name(BlockScreen& screen, const LiveReading& live, std::size_t firstByte) const;
 
     Find find_;
 };

@@ -112,6 +112,7 @@ void DesktopView::eventLoopStarts() {
 }
 
 void DesktopView::showChanges() {
+    reading_.noteCall(); // before the pictures, which are made once then
     dropGone();
     makeMissing();
     for (const auto& [screen, view] : screens_) {
@@ -120,7 +121,6 @@ void DesktopView::showChanges() {
     for (const auto& [screen, view] : screens_) {
         view->refreshStates();
     }
-    reading_.noteCall();
     if (windowsStale_) {
         windowsStale_ = false;
         for (const auto& [screen, view] : screens_) {

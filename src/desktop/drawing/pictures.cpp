@@ -59,9 +59,7 @@ void paintMonitorIn(QPainter& painter, const QRectF& rect) {
     painter.restore();
 }
 
-} // namespace
-
-QIcon programIcon() {
+QIcon makeProgramIcon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
         QPixmap pixmap(size, size);
@@ -70,6 +68,13 @@ QIcon programIcon() {
         paintMonitorIn(painter, QRectF(0, 0, size, size));
         icon.addPixmap(pixmap);
     }
+    return icon;
+}
+
+} // namespace
+
+QIcon programIcon() {
+    static const QIcon icon = makeProgramIcon();
     return icon;
 }
 

@@ -17,6 +17,8 @@ struct Painter {
 struct Subject {
     const Painter* painter;
     std::string scope; ///< of its fields
+
+    bool operator==(const Subject& other) const = default;
 };
 
 /// The picture that goes with the field in a byte of the image; nothing where there is none. A byte of several fields

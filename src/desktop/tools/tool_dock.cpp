@@ -73,7 +73,13 @@ void ToolDock::refresh() {
 }
 
 void ToolDock::tell(const QString& note) {
-    note_->setText(note);
+    if (!note.isEmpty()) {
+        note_->setText(note);
+        // Notes come and go with each byte that is typed: what is above them is not to move each time.
+        QSizePolicy policy = note_->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        note_->setSizePolicy(policy);
+    }
     note_->setVisible(!note.isEmpty());
 }
 

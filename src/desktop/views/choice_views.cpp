@@ -108,10 +108,14 @@ void ButtonView::keepRoom() {
     if (place().longest.empty()) {
         return;
     }
-    const std::unique_ptr<QAbstractButton> example(make());
-    example->setFont(button_->font());
-    example->setText(toUnicode(place().longest));
-    button_->setMinimumWidth(qMax(button_->minimumWidth(), example->sizeHint().width()));
+    if (!longestFont_ || *longestFont_ != button_->font()) {
+        const std::unique_ptr<QAbstractButton> example(make());
+        example->setFont(button_->font());
+        example->setText(toUnicode(place().longest));
+        longestFont_ = button_->font();
+        longestWidth_ = example->sizeHint().width();
+    }
+    button_->setMinimumWidth(qMax(button_->minimumWidth(), longestWidth_));
 }
 
 void ButtonView::refreshTabStop() {

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QWheelEvent>
+#include <optional>
 
 #include "desktop/views/control_view.h"
 
@@ -69,6 +70,8 @@ private:
     void keepRoom();
 
     QAbstractButton* button_;
+    std::optional<QFont> longestFont_; ///< in which the longest caption has been measured
+    int longestWidth_ = 0;             ///< in pixels
 };
 
 class RowBox : public QComboBox {

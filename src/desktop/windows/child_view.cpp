@@ -136,7 +136,7 @@ void ChildView::refresh() {
 
 void ChildView::refreshStates() {
     const bool showsImage = screen()->id() == ScreenId::Edid || screen()->id() == ScreenId::CeaExt;
-    window_->setWindowModified(showsImage && screen()->workbench().EDIDModified != flagFalse);
+    setModified(*window_, showsImage && screen()->workbench().EDIDModified != flagFalse);
     page_->refreshPicture();
 }
 

@@ -265,7 +265,7 @@ void MainView::showPressed(const Control& button, bool pressed) {
 
 void MainView::refreshStates() {
     const Workbench& workbench = screen()->workbench();
-    window_->setWindowModified(workbench.EDIDModified != flagFalse);
+    setModified(*window_, workbench.EDIDModified != flagFalse);
     showPressed(frame().Command2, workbench.ModifyEDIDOn != flagFalse);
     showPressed(frame().Command3, workbench.AutoCellSeekOn != flagFalse);
     const QList<QMdiSubWindow*> children = area_->subWindowList();

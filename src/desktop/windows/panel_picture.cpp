@@ -67,7 +67,10 @@ PanelPicture::PanelPicture(const BlockScreen& screen, const Views& views, UserAc
         return view != nullptr && input::reachable(*view->control());
     };
     widget_->pick = [this](const Pick& pick) { viewOf(pick)->act([](Control& control) { input::click(control); }); };
-    actions.liveReading().listen(*this, [this] { refreshSoon(); });
+    actions.liveReading().listen(*this, [this] {
+        drawn_.reset();
+        refreshSoon();
+    });
     for (const auto& view : views_) {
         if (view->control()->name() == "Hints") {
             view->widget()->installEventFilter(this);
@@ -107,6 +110,7 @@ void PanelPicture::refresh() {
         drawIn(*panel->widget(), *wanted);
     } else {
         widget_->hide();
+        drawn_.reset();
     }
 }
 
@@ -133,6 +137,11 @@ std::optional<Subject> PanelPicture::subject() const {
 void PanelPicture::drawIn(QWidget& panel, const Subject& subject) {
     panel.layout()->activate(); // controls that have just been shown take their room
     const QRect room = freeRoom(panel, widget_, subject.painter->ratio);
+    const Frame wanted{&panel, subject, room, panel.font()};
+    if (drawn_ == wanted) {
+        return;
+    }
+    drawn_ = wanted;
     const double line = panel.fontMetrics().height();
     const bool hasRoom = room.isValid() && heightIn(room, subject.painter->ratio) >= subject.painter->least * line;
     Picture drawn = hasRoom ? picture(subject, room.size()) : Picture();

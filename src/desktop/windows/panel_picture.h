@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QFont>
 #include <QPointer>
 #include <QRect>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "core/screens/block_screen.h"
@@ -30,6 +32,16 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// All that a picture depends on besides the image.
+    struct Frame {
+        const QWidget* panel;
+        Subject subject;
+        QRect room;
+        QFont font;
+
+        bool operator==(const Frame& other) const = default;
+    };
+
     void refresh();
     ControlView* shownPanel() const;
     std::optional<Subject> subject() const;
@@ -42,6 +54,7 @@ private:
     const Views& views_;
     UserActions& actions_;
     QPointer<PictureWidget> widget_; ///< belongs to a panel
+    std::optional<Frame> drawn_;     ///< what the widget has been made for, since the image was read
     bool willRefresh_ = false;
 };
 
