@@ -38,9 +38,9 @@ std::string edidFromReader(Workbench& workbench) {
 }
 
 /// The cell text for the byte at `index`; a missing byte is a failure.
-std::string cellTextOf(std::string_view data, int index) {
+std::string_view cellTextOf(std::string_view data, int index) {
     const auto place = std::min(static_cast<std::size_t>(index), data.size());
-    return ByteToHex2(characterCode(data.substr(place, 1)));
+    return byteText(characterCode(data.substr(place, 1)));
 }
 
 void openScreen(Workbench& workbench) {
@@ -95,8 +95,8 @@ void LoadStoredEdid(Workbench& workbench, std::string data) {
         if (block0::UpdateExtensionButton(workbench)) {
             for (int j = 0; j < BlockScreen::cellCount; ++j) {
                 // The text comes first: where the block is missing altogether, its screen is not even touched.
-                std::string text = cellTextOf(data, BlockScreen::cellCount + j);
-                workbench.frmCEA_EXT().txtEdit(j).setText(std::move(text));
+                const std::string_view text = cellTextOf(data, BlockScreen::cellCount + j);
+                workbench.frmCEA_EXT().txtEdit(j).setText(text);
             }
             cea::BuildCEA_EXT_Definations(workbench);
         }

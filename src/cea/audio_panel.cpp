@@ -30,7 +30,7 @@ int audioCell(const Workbench& workbench, bool last, int byte) {
 }
 
 std::string keptChannels(const Procedure& run, int cellIndex) {
-    return channelDigits(run.readText(cellIndex));
+    return std::string(channelDigits(run.readText(cellIndex)));
 }
 
 void writeDigits(const Procedure& run, int cellIndex, const std::string& digits) {
@@ -71,7 +71,7 @@ void AudChCBox_Click(Workbench& workbench, int /*index*/) {
         const int row = std::max(shownRow(run.screen.AudChCBox), 0);
         run.workbench.AudioChannelDigit = std::to_string(row + 1);
         const std::string old = run.readText(cellIndex);
-        const std::string digits = leftPart(lowerDigits(old), 1) + binaryDigits(row, 3);
+        const std::string digits = joined({firstDigits(lowerDigits(old), 1), binaryDigits(row, 3)});
         run.write(cellIndex, leftPart(old, 1) + hexadecimal16(int16From(binaryNumber(run.workbench, digits))));
     });
 }

@@ -68,8 +68,8 @@ class Scan {
 public:
     explicit Scan(Workbench& workbench) : workbench_(workbench) {}
 
-    void look(int i, const std::string& cellText) {
-        const std::string tagFound = tagDigits(cellText);
+    void look(int i, std::string_view cellText) {
+        const std::string_view tagFound = tagDigits(cellText);
         if (tagFound == tag::video) {
             lookAtVideo(i, cellText);
         } else if (tagFound == tag::audio) {
@@ -82,14 +82,14 @@ public:
     }
 
 private:
-    void lookAtVideo(int i, const std::string& cellText) {
+    void lookAtVideo(int i, std::string_view cellText) {
         if (!videoFound_) {
             workbench_.VideoBlockStart = int16From(i);
             workbench_.VideoBlockLength = int16From(dataLength(workbench_, cellText));
             videoFound_ = true;
         }
     }
-    void lookAtAudio(int i, const std::string& cellText) {
+    void lookAtAudio(int i, std::string_view cellText) {
         if (i > location(workbench_.VideoBlockStart, workbench_.VideoBlockLength) && !audioFound_) {
             workbench_.AudioBlockStart = int16From(i);
             audioLength_ = dataLength(workbench_, cellText);
@@ -139,12 +139,12 @@ void settleVideoStart(const Procedure& run) {
 
 } // namespace
 
-std::string tagDigits(std::string_view cellText) {
-    return leftPart(upperDigits(cellText), 3);
+std::string_view tagDigits(std::string_view cellText) {
+    return firstDigits(upperDigits(cellText), 3);
 }
 
 int dataLength(Workbench& workbench, std::string_view cellText) {
-    return binaryNumber(workbench, rightPart(upperDigits(cellText), 1) + lowerDigits(cellText));
+    return binaryNumber(workbench, joined({lastDigits(upperDigits(cellText), 1), lowerDigits(cellText)}));
 }
 
 void LocateDataBlocks(Workbench& workbench) {

@@ -16,7 +16,7 @@ void LocateDataBlocks(Workbench& workbench);
 
 /// Fields of a data block header, from the text of its cell: three binary digits of tag (bits 7 to 5), and the number
 /// of data bytes that follow (bits 4 to 0). A character that is no hexadecimal digit contributes nothing.
-std::string tagDigits(std::string_view cellText);
+std::string_view tagDigits(std::string_view cellText);
 int dataLength(Workbench& workbench, std::string_view cellText);
 
 /// The tags of the known kinds (CEA-861-D, section 7.5).

@@ -9,15 +9,31 @@
 
 namespace wb::cea {
 
-std::string upperDigits(std::string_view cellText) {
-    return HexToBinaryText(leftPart(cellText, 1));
+std::string_view upperDigits(std::string_view cellText) {
+    return cellText.empty() ? std::string_view() : binaryDigitsOf(cellText.front());
 }
 
-std::string lowerDigits(std::string_view cellText) {
-    return HexToBinaryText(middlePart(cellText, 2, 1));
+std::string_view lowerDigits(std::string_view cellText) {
+    return cellText.size() < 2 ? std::string_view() : binaryDigitsOf(cellText[1]);
+}
+
+std::string_view firstDigits(std::string_view digits, std::size_t count) {
+    return digits.substr(0, count);
+}
+
+std::string_view lastDigits(std::string_view digits, std::size_t count) {
+    return digits.substr(digits.size() - std::min(count, digits.size()));
 }
 
 int binaryNumber(Workbench& workbench, std::string_view digits) {
+    constexpr std::size_t whole = 15; // digits that no 16-bit number is too small for
+    if (digits.size() <= whole) {
+        int number = 0;
+        for (const char digit : digits) {
+            number = 2 * number + (digit == '1' ? 1 : 0);
+        }
+        return number;
+    }
     return roundToInt16(strictNumber(BinaryTextToDecimal(workbench, digits)));
 }
 

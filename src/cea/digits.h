@@ -10,8 +10,11 @@
 namespace wb::cea {
 
 /// The four binary digits of the first and of the second character of a cell.
-std::string upperDigits(std::string_view cellText);
-std::string lowerDigits(std::string_view cellText);
+std::string_view upperDigits(std::string_view cellText);
+std::string_view lowerDigits(std::string_view cellText);
+/// Digits in front and behind, as far as there are that many.
+std::string_view firstDigits(std::string_view digits, std::size_t count);
+std::string_view lastDigits(std::string_view digits, std::size_t count);
 
 /// The number that binary digits spell; no digits are 0.
 int binaryNumber(Workbench& workbench, std::string_view digits);

@@ -26,9 +26,9 @@ constexpr std::array<SupportFlag, 4> supportFlags = {
 
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
-std::string flagText(FrmCeaExt& screen, int flagNumber) {
+std::string_view flagText(FrmCeaExt& screen, int flagNumber) {
     const SupportFlag& texts = supportFlags[static_cast<std::size_t>(flagNumber)];
-    return std::string(screen.NativeChk(flagNumber).selected() ? texts.set : texts.clear);
+    return screen.NativeChk(flagNumber).selected() ? texts.set : texts.clear;
 }
 
 void breakLongLine(std::string& text) {
@@ -38,14 +38,18 @@ void breakLongLine(std::string& text) {
     }
 }
 
-/// Shows the number of native formats and gives what the report says of it; nothing for another character.
-std::string decodeNativeFormats(FrmCeaExt& screen, std::string_view digit) {
+/// Shows the number of native formats and adds what the report says of it; nothing for another character.
+void decodeNativeFormats(FrmCeaExt& screen, std::string_view digit, std::string& text) {
     const auto number = digit.empty() ? std::string_view::npos : hexDigits.find(digit);
     if (number == std::string_view::npos) {
-        return {};
+        return;
     }
     screen.NativeCBox.setValue(static_cast<int>(number));
-    return number == 0 ? ", There are no Native Format Specified." : ", Native Format: " + std::to_string(number);
+    if (number == 0) {
+        text += ", There are no Native Format Specified.";
+    } else {
+        append(text, {", Native Format: ", std::to_string(number)});
+    }
 }
 
 } // namespace
@@ -54,17 +58,16 @@ void BuildDTVSupport(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
         FrmCeaExt& screen = run.screen;
         screen.NativeChk.deselect();
-        const std::string digits = upperDigits(run.text(extensionCells::support));
+        const std::string_view digits = upperDigits(run.text(extensionCells::support));
         for (int i = 0; i < static_cast<int>(digits.size()); ++i) {
             screen.NativeChk(i).setValue(digits[static_cast<std::size_t>(i)] == '1' ? 1 : 0);
         }
         std::string& text = run.workbench.DTVSupportText;
-        text = flagText(screen, 0);
-        text += ", " + flagText(screen, 1);
+        join(text, {flagText(screen, 0), ", ", flagText(screen, 1)});
         breakLongLine(text);
-        text += ", " + flagText(screen, 2) + ", " + flagText(screen, 3);
+        append(text, {", ", flagText(screen, 2), ", ", flagText(screen, 3)});
         breakLongLine(text);
-        text += decodeNativeFormats(screen, middlePart(run.text(extensionCells::support), 2, 1));
+        decodeNativeFormats(screen, middlePart(run.text(extensionCells::support), 2, 1), text);
     });
 }
 

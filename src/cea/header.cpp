@@ -25,7 +25,7 @@ void BuildVersion(Workbench& workbench) {
         run.screen.txtVersion.setText(version);
         run.screen.VerRev.setText(version);
         run.screen.Hints(panels::version).setCaption("Version Number (1)");
-        run.screen.lbEDID(0).setCaption("Version Number - " + version);
+        run.screen.lbEDID(0).setCaption({"Version Number - ", version});
     });
 }
 

@@ -38,7 +38,7 @@ struct Procedure {
     }
     /// The words, the cell's number and a bracket.
     void captionPanel(int panel, int index, std::string_view words) const {
-        screen.Hints(panel).setCaption(std::string(words) + std::to_string(index) + ")");
+        screen.Hints(panel).setCaption({words, std::to_string(index), ")"});
     }
     void focusOn(Control& control) const {
         statement([&] { workbench.focus.moveTo(control); });

@@ -19,7 +19,7 @@ void fillCells(const Procedure& run) {
     for (int i = extensionCells::timingOffset; i < BlockScreen::cellCount; ++i) {
         run.cell(i).setText("00");
     }
-    run.cell(extensionCells::tag).setText(std::string(ceaTagText));
+    run.cell(extensionCells::tag).setText(ceaTagText);
     run.cell(extensionCells::version).setText("03");
 }
 

@@ -47,15 +47,15 @@ constexpr std::array<ListedFlag, 3> sampleSizes = {
 
 /// Bits 6 to 3 of a descriptor's first byte as binary digits.
 std::string formatDigits(std::string_view cellText) {
-    return rightPart(upperDigits(cellText), 3) + leftPart(lowerDigits(cellText), 1);
+    return joined({lastDigits(upperDigits(cellText), 3), firstDigits(lowerDigits(cellText), 1)});
 }
 
 void decodeChannels(const Procedure& run, int cellIndex, std::string& channels) {
-    const std::string digits = channelDigits(run.readText(cellIndex));
+    const std::string_view digits = channelDigits(run.readText(cellIndex));
     if (digits.size() == 3) {
         const int row = binaryNumber(run.workbench, digits);
         run.screen.AudChCBox.setValue(row);
-        channels = "Audio Channels: " + std::to_string(row + 1);
+        join(channels, {"Audio Channels: ", std::to_string(row + 1)});
     }
 }
 
@@ -99,8 +99,8 @@ bool isLinear(std::string_view cellText) {
     return formatDigits(cellText) == "0001";
 }
 
-std::string channelDigits(std::string_view cellText) {
-    return rightPart(lowerDigits(cellText), 3);
+std::string_view channelDigits(std::string_view cellText) {
+    return lastDigits(lowerDigits(cellText), 3);
 }
 
 int firstAudioCell(const Workbench& workbench, int byte) {
@@ -194,14 +194,14 @@ void BuildBitRate(Workbench& workbench) {
 void BuildCompressedBitRate(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
         const std::string rate = decodeRate(run, firstAudioCell(run.workbench, 3));
-        run.workbench.BitRateText += "Sampling bit rate: " + rate + " bit";
+        append(run.workbench.BitRateText, {"Sampling bit rate: ", rate, " bit"});
     });
 }
 
 void BuildLastBitRate(Workbench& workbench) {
     decoder(workbench, [](const Procedure& run) {
         const std::string rate = decodeRate(run, lastAudioCell(run.workbench, 3));
-        run.workbench.LastBitRateText = "Maximum Sampling bit rate: " + rate + " kbps";
+        join(run.workbench.LastBitRateText, {"Maximum Sampling bit rate: ", rate, " kbps"});
     });
 }
 

@@ -42,7 +42,7 @@ bool isCompressed(FrmCeaExt& screen);
 /// Whether the format code (bits 6 to 3) is that of uncompressed audio, linear PCM.
 bool isLinear(std::string_view cellText);
 /// The number of channels minus one (bits 2 to 0) as binary digits.
-std::string channelDigits(std::string_view cellText);
+std::string_view channelDigits(std::string_view cellText);
 
 /// The cell of byte 1, 2 or 3 of the first and of the last descriptor. A number beyond 16 bits is an Overflow.
 int firstAudioCell(const Workbench& workbench, int byte);

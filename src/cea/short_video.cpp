@@ -14,23 +14,18 @@ namespace {
 constexpr int formatCount = static_cast<int>(videoFormats.size());
 constexpr int codeDigits = 7;
 
-int codeOf(Workbench& workbench, const std::string& digits) {
-    return binaryNumber(workbench, rightPart(digits, codeDigits));
+int codeOf(Workbench& workbench, std::string_view digits) {
+    return binaryNumber(workbench, lastDigits(digits, codeDigits));
 }
 
-bool isNative(const std::string& digits) {
-    return leftPart(digits, 1) == "1";
+bool isNative(std::string_view digits) {
+    return firstDigits(digits, 1) == "1";
 }
 
-/// The report line; the reserved code 0 goes without the native word.
-std::string lineOf(int code, const std::string& native) {
-    std::string line(videoFormats[static_cast<std::size_t>(code)].report);
-    line += "   ";
-    if (code != 0) {
-        line += native;
-    }
-    line += crLf;
-    return line;
+/// Puts the report line; the reserved code 0 goes without the native word.
+void putLine(std::string& line, int code, std::string_view native) {
+    const std::string_view format = videoFormats[static_cast<std::size_t>(code)].report;
+    join(line, {format, "   ", code != 0 ? native : std::string_view(), crLf});
 }
 
 void decodeDescriptor(const Procedure& run, int i) {
@@ -43,7 +38,7 @@ void decodeDescriptor(const Procedure& run, int i) {
     run.screen.NativeChkBox.setValue(isNative(shownDigits) ? 1 : 0);
     if (code < formatCount) {
         run.screen.VideoBlkCBox.setValue(code);
-        run.workbench.ShortVideoText(i) = lineOf(code, run.workbench.ShortVideoNativeText(i));
+        putLine(run.workbench.ShortVideoText(i), code, run.workbench.ShortVideoNativeText(i));
     }
     if (shownCode < formatCount) {
         run.screen.VideoBlkCBox.setValue(shownCode);

@@ -86,13 +86,13 @@ const Block* shownBlock(const Workbench& workbench) {
 }
 
 /// Selects the option of the header's tag; gives the name of the tag, empty for one without an option.
-std::string decodeTag(const Procedure& run, int header) {
-    const std::string digits = tagDigits(run.readText(header));
+std::string_view decodeTag(const Procedure& run, int header) {
+    const std::string_view digits = tagDigits(run.readText(header));
     for (int i = 0; i < static_cast<int>(tagNames.size()); ++i) {
         const TagName& known = tagNames[static_cast<std::size_t>(i)];
         if (known.digits == digits) {
             run.screen.optButTag(i).setValue(flagTrue);
-            return std::string(known.name);
+            return known.name;
         }
     }
     return {};
@@ -104,7 +104,7 @@ void decodeHeader(Workbench& workbench, const Block& block, std::string_view end
     decoder(workbench, [&](const Procedure& run) {
         const int header = run.workbench.*block.start;
         run.screen.optButTag.deselect();
-        const std::string name = decodeTag(run, header);
+        const std::string_view name = decodeTag(run, header);
         const int length = dataLength(run.workbench, run.readText(header));
         run.screen.TagCBox.setValue(length);
         run.workbench.*block.length = int16From(length);
@@ -112,9 +112,11 @@ void decodeHeader(Workbench& workbench, const Block& block, std::string_view end
         if (further != nullptr) {
             further(run);
         }
-        run.workbench.*block.text =
-            name + ", " + PadRight("Number of Data Byte to Follow: " + std::to_string(length), 34);
-        run.workbench.*block.text += ending;
+        constexpr std::string_view words = "Number of Data Byte to Follow: ";
+        constexpr int width = 34; // of the words and the number
+        const std::string number = std::to_string(length);
+        join(run.workbench.*block.text,
+             {name, ", ", words, number, padding(number, width - static_cast<int>(words.size())), ending});
     });
 }
 
@@ -184,7 +186,7 @@ void TagCBox_Click(Workbench& workbench, int /*index*/) {
         const int row = shownRow(run.screen.TagCBox);
         focusOnHeader(run, *block);
         const int header = run.workbench.*block->start;
-        const std::string digits = tagDigits(run.readText(header)) + (row < 0 ? "" : binaryDigits(row, 5));
+        const std::string digits = joined({tagDigits(run.readText(header)), row < 0 ? "" : binaryDigits(row, 5)});
         constexpr int videoHeader = extensionCells::dataBlocks; // wherever the video block starts
         run.write(block == &videoBlock ? videoHeader : header,
                   hexadecimal16(int16From(binaryNumber(run.workbench, digits))));

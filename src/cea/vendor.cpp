@@ -39,7 +39,7 @@ void BuildVendorID(Workbench& workbench) {
         const std::string identifier =
             run.statement.read([&] { return run.text(third) + run.text(third - 1) + run.text(third - 2); });
         run.screen.txtBoxVendorID.setText(identifier);
-        run.workbench.VendorIDText = "Vendor IEEE Registration ID: " + identifier + " Hexadecimal";
+        join(run.workbench.VendorIDText, {"Vendor IEEE Registration ID: ", identifier, " Hexadecimal"});
     });
 }
 
@@ -48,7 +48,7 @@ void BuildVendorData(Workbench& workbench) {
         const int first = vendorCell(run.workbench, 4);
         const std::string data = run.statement.read([&] { return run.text(first) + run.text(first + 1); });
         run.screen.txtBoxVendorData.setText(data);
-        run.workbench.VendorDataText = "Vendor Specific Data: " + PadRight(data, 3) + " Hexadecimal";
+        join(run.workbench.VendorDataText, {"Vendor Specific Data: ", data, padding(data, 3), " Hexadecimal"});
     });
 }
 

@@ -58,10 +58,6 @@ int byteOf(Workbench& workbench, std::string_view cellText) {
     return characterCode(HexTextToChar(workbench, cellText));
 }
 
-int byteAt(BlockScreen& screen, int index) {
-    return byteOf(screen.workbench(), screen.txtEdit(index).text());
-}
-
 std::string hexToDecimalText(Workbench& workbench, std::string_view hexText) {
     return BinaryTextToDecimal(workbench, HexToBinaryText(hexText));
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/base/digits.h"
 #include "core/workbench.h"
 
 /// Reading cells: conversions of texts that trap their own failures, and the value of a cell.
@@ -24,7 +25,17 @@ double Value(Workbench& workbench, std::string_view text);
 int byteOf(Workbench& workbench, std::string_view cellText);
 
 /// byteOf of cell `index` of a block screen, box and all; an index outside the grid is a ControlElementMissing failure.
-int byteAt(BlockScreen& screen, int index);
+inline int byteAt(BlockScreen& screen, int index) {
+    const std::string& text = screen.txtEdit(index).text();
+    if (text.size() == 2) {
+        const int high = hexDigit(text[0]);
+        const int low = hexDigit(text[1]);
+        if (high >= 0 && low >= 0) {
+            return high * 16 + low; // what byteOf gives for nearly every cell
+        }
+    }
+    return byteOf(screen.workbench(), text);
+}
 
 /// The number that the binary form of hexadecimal digits gives, as decimal text.
 std::string hexToDecimalText(Workbench& workbench, std::string_view hexText);

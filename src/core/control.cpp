@@ -7,6 +7,18 @@
 
 namespace wb {
 
+namespace {
+
+/// What most controls have of a property is what they were made with: telling so is cheaper than writing it.
+template <class Property>
+void takeOver(Property& property, const Property& asMade) {
+    if (property != asMade) {
+        property = asMade;
+    }
+}
+
+} // namespace
+
 Control::Control(Screen& screen, std::string_view name, ControlKind kind, Control* container, Handlers& handlers,
                  ControlArray* array, int index)
     : name_(name),
@@ -30,10 +42,18 @@ std::string Control::fullName() const {
     return result;
 }
 
-void Control::setText(std::string text) {
+void Control::setText(std::string_view text) {
     selStart_ = 0;
     selLength_ = 0;
-    text_ = std::move(text);
+    if (text.size() == 2) { // a cell's, written hundreds of times for an image
+        const char first = text[0];
+        const char second = text[1];
+        text_.clear();
+        text_ += first;
+        text_ += second;
+    } else {
+        text_ = text;
+    }
     if (kind_ == ControlKind::Combo) {
         const auto row = std::find(rows_.begin(), rows_.end(), text_);
         value_ = row == rows_.end() ? -1 : static_cast<int>(row - rows_.begin());
@@ -70,7 +90,7 @@ void Control::changeValue(int value) {
                 throw Failure(FailureKind::InvalidCall);
             }
             value_ = value;
-            text_ = value < 0 ? std::string() : rows_[static_cast<std::size_t>(value)];
+            text_ = value < 0 ? std::string_view() : rows_[static_cast<std::size_t>(value)];
             break;
         default:
             value_ = value;
@@ -209,11 +229,9 @@ void Control::takeBack(const Control& asMade) {
     enabled_ = asMade.enabled_;
     locked_ = asMade.locked_;
     fontBold_ = asMade.fontBold_;
-    text_ = asMade.text_;
-    caption_ = asMade.caption_;
-    if (rows_ != asMade.rows_) {
-        rows_ = asMade.rows_;
-    }
+    takeOver(text_, asMade.text_);
+    takeOver(caption_, asMade.caption_);
+    takeOver(rows_, asMade.rows_);
     touched_ = false;
 }
 

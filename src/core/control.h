@@ -61,7 +61,7 @@ public:
 
     const std::string& text() const { return text_; }
     /// Puts the selection to 0, 0. On a combo the row follows where a row has that text; no event is raised.
-    void setText(std::string text);
+    void setText(std::string_view text);
     const std::string& caption() const { return caption_; }
     void setCaption(std::string_view caption);
     /// The texts one behind the other.

@@ -11,7 +11,8 @@ bool IsEDIDHeaderValid(std::string_view text) {
 }
 
 bool hasDescriptorMark(BlockScreen& screen, int base) {
-    return screen.txtEdit(base).text() + screen.txtEdit(base + 1).text() + screen.txtEdit(base + 2).text() == "000000";
+    return joined({screen.txtEdit(base).text(), screen.txtEdit(base + 1).text(), screen.txtEdit(base + 2).text()}) ==
+           "000000";
 }
 
 void noteChecksum(Workbench& workbench, const std::string& checksumText) {

@@ -67,22 +67,19 @@ void Workbench::startOver() {
     }
 }
 
-Screen& Workbench::touch(ScreenId id) {
+Screen& Workbench::create(ScreenId id) {
     auto& slot = screens_[static_cast<std::size_t>(id)];
-    if (slot == nullptr) {
-        slot = spare_[static_cast<std::size_t>(id)] == nullptr ? makeConnected(id) : takeSpare(id);
-        Screen& screen = *slot;
-        creationOrder_.push_back(&screen);
-        const ScreenLife& life = lifeOf(id);
-        if (life.load != nullptr) {
-            life.load(*this);
-        }
-        if (view != nullptr) {
-            view->screenLoaded(screen);
-        }
-        return screen;
+    slot = spare_[static_cast<std::size_t>(id)] == nullptr ? makeConnected(id) : takeSpare(id);
+    Screen& screen = *slot;
+    creationOrder_.push_back(&screen);
+    const ScreenLife& life = lifeOf(id);
+    if (life.load != nullptr) {
+        life.load(*this);
     }
-    return *slot;
+    if (view != nullptr) {
+        view->screenLoaded(screen);
+    }
+    return screen;
 }
 
 bool Workbench::runUnload(Screen& screen) {

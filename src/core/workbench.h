@@ -51,7 +51,10 @@ struct Workbench : SharedVariables {
     FrmAbout& frmAbout() { return touchAs<FrmAbout>(ScreenId::About); }
 
     /// The same by number.
-    Screen& touch(ScreenId id);
+    Screen& touch(ScreenId id) {
+        Screen* const screen = loaded(id);
+        return screen != nullptr ? *screen : create(id);
+    }
     /// A new screen of that kind that is no part of the program: without handlers, and its load step has not run.
     std::unique_ptr<Screen> makeScreen(ScreenId id);
     /// The screen if it exists, without touching it.
@@ -144,6 +147,8 @@ private:
         return static_cast<ScreenType&>(touch(id));
     }
 
+    /// Makes the screen, which does not exist, and runs its load step.
+    Screen& create(ScreenId id);
     std::unique_ptr<Screen> makeConnected(ScreenId id);
     std::unique_ptr<Screen> takeSpare(ScreenId id);
 

@@ -75,7 +75,7 @@ void listItems(int byte, std::span<const int> places, std::span<const BitItem> i
             text += ", ";
         }
         if (text.size() > item.wrapAbove && !(wrapped && wraps == Wraps::Once)) {
-            text += line() + IndentText("", reportIndent);
+            append(text, {crLf, blanks(reportIndent)});
             wrapped = true;
         }
         text += item.words;
@@ -84,8 +84,8 @@ void listItems(int byte, std::span<const int> places, std::span<const BitItem> i
 
 void convertSize(Workbench& workbench, int cell, int option, std::string_view words, std::string& text) {
     decoder(workbench, [&](FrmEdid& screen) {
-        text = formatNumber(byteAt(screen, cell) * 10, "###") + " mm";
-        screen.Basic(option).setCaption(std::string(words) + text);
+        join(text, {formatNumber(byteAt(screen, cell) * 10, "###"), " mm"});
+        screen.Basic(option).setCaption({words, text});
     });
 }
 
@@ -96,8 +96,8 @@ void showDigital(FrmEdid& screen, std::string& text, bool compatible) {
     screen.DFP.setEnabled(true);
     screen.Analog.setEnabled(false);
     screen.DFP_1(1).setValue(compatible ? 1 : 0);
-    text = line("Digital Signal") +
-           IndentText(compatible ? "VESA DFP 1.x Compatible" : "Non - VESA DFP 1.x Compatible", reportIndent);
+    join(text, {"Digital Signal", crLf, blanks(reportIndent),
+                compatible ? "VESA DFP 1.x Compatible" : "Non - VESA DFP 1.x Compatible"});
 }
 
 void showAnalog(FrmEdid& screen, std::string& text) {
@@ -106,7 +106,7 @@ void showAnalog(FrmEdid& screen, std::string& text) {
     screen.VideoMode(0).setValue(1);
     screen.DFP.setEnabled(false);
     screen.Analog.setEnabled(true);
-    text = line("Analog Signal");
+    join(text, {"Analog Signal", crLf});
 }
 
 } // namespace
@@ -119,7 +119,7 @@ void ConvertVideoInput(Workbench& workbench) {
     controlDecoder(workbench, [&](FrmEdid& screen) {
         screen.Sync.deselect();
         const int byte = byteAt(screen, cells::videoInput);
-        std::string level;
+        std::string_view level;
         std::string setup;
         if (bit(byte, digitalBit)) {
             showDigital(screen, workbench.VideoInputText, false);
@@ -133,8 +133,8 @@ void ConvertVideoInput(Workbench& workbench) {
             level = levels[static_cast<std::size_t>(signal)];
             listItems(byte, syncBits, syncItems, Wraps::Once, screen.Sync, setup);
         }
-        workbench.VideoInputText +=
-            line(IndentText(PadLeft(level, 15), reportIndent)) + IndentText(PadLeft(setup, 15), reportIndent);
+        append(workbench.VideoInputText, {blanks(reportIndent), padding(level, 15), level, crLf, blanks(reportIndent),
+                                          padding(setup, 15), setup});
     });
 }
 
@@ -149,7 +149,7 @@ void ConvertMaxVerticalSize(Workbench& workbench) {
 void ConvertGamma(Workbench& workbench) {
     decoder(workbench, [&](FrmEdid& screen) {
         workbench.DisplayGammaText = gammaText(byteAt(screen, cells::gamma));
-        screen.Basic(2).setCaption("Gamma  " + workbench.DisplayGammaText);
+        screen.Basic(2).setCaption({"Gamma  ", workbench.DisplayGammaText});
     });
 }
 

@@ -20,11 +20,14 @@ void ConvertExtCheckSum(Workbench& workbench) {
     FrmEdid& screen = workbench.frmEDID();
     const int extensions = byteAt(screen, extensionCountCell);
     const std::string count = formatNumber(extensions, "0");
-    screen.lbEDID(6).setCaption("Extended Flag = " + count);
+    screen.lbEDID(6).setCaption({"Extended Flag = ", count});
     screen.lbEDID(7).setCaption(ComputeCheckSum(workbench) != 0 ? "CheckSum Is Invalid" : "CheckSum OK");
-    workbench.ExtensionFlagText =
-        line(extensions != 0 ? "Extension EDID Block(s): " + count : "No Extension EDID Block(s)");
-    workbench.Block0ChecksumText = line(screen.lbEDID(7).caption());
+    if (extensions != 0) {
+        putLine(workbench.ExtensionFlagText, {"Extension EDID Block(s): ", count});
+    } else {
+        putLine(workbench.ExtensionFlagText, {"No Extension EDID Block(s)"});
+    }
+    putLine(workbench.Block0ChecksumText, {screen.lbEDID(7).caption()});
 }
 
 } // namespace wb::report

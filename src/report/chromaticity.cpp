@@ -17,32 +17,31 @@ constexpr std::array<std::string_view, chromaticityFields.size()> coordinateWord
     "Red X - ", "Red Y - ", "Green X - ", "Green Y - ", "Blue X - ", "Blue Y - ", "White X - ", "White Y - ",
 };
 
-constexpr std::size_t bitCount = 10;
+constexpr int bitCount = 10;
 
-using Texts = std::array<std::string, chromaticityFields.size()>;
+using Coordinates = std::array<std::string, chromaticityFields.size()>;
 
 /// The last ten binary digits of a number.
 std::string tenBits(std::int16_t number) {
-    return rightPart(std::string(bitCount, '0') + HexToBinaryText(hexadecimal16(number)), bitCount);
+    return rightPart(std::string(bitCount, '0') + HexToBinaryText(hexadecimal16(number)), std::size_t{bitCount});
 }
 
-/// The coordinates of one axis, from `first` on, in one line of the report.
-std::string axisLine(const Texts& texts, std::size_t first) {
-    std::string result;
+/// Puts the coordinates of one axis, from `first` on, into one line of the report.
+void putAxis(std::string& text, const Coordinates& texts, std::size_t first) {
+    text.clear();
     for (std::size_t k = first; k < coordinateWords.size(); k += 2) {
-        result += (k == first ? "" : " ") + std::string(coordinateWords[k]) + texts[k];
+        append(text, {k == first ? "" : " ", coordinateWords[k], texts[k]});
     }
-    return result;
 }
 
-Texts showCoordinates(Workbench& workbench, FrmEdid& screen) {
-    Texts texts;
+Coordinates showCoordinates(Workbench& workbench, FrmEdid& screen) {
+    Coordinates texts;
     for (std::size_t k = 0; k < coordinateWords.size(); ++k) {
         const SplitField& field = chromaticityFields[k];
         const int low = bits(byteAt(screen, field.lower.cell), field.lower.range);
         const int high = byteAt(screen, field.upper.cell);
         texts[k] = chromaText(ChromaBitsToFraction(workbench, high, low));
-        screen.chkChroma(static_cast<int>(k)).setCaption(std::string(coordinateWords[k]) + texts[k]);
+        screen.chkChroma(static_cast<int>(k)).setCaption({coordinateWords[k], texts[k]});
     }
     return texts;
 }
@@ -55,13 +54,9 @@ std::string chromaText(double coordinate) {
 
 double ChromaBitsToFraction(Workbench& workbench, int high, int low) {
     return trappedOr(workbench, 0.0, [&] {
-        double result = 0;
-        double weight = 0.5;
-        for (const char digit : tenBits(int16From(high * 4 + low))) {
-            result += digit == '1' ? weight : 0;
-            weight /= 2;
-        }
-        return result;
+        constexpr BitRange fraction{bitCount - 1, 0};
+        constexpr double one = 1U << bitCount;
+        return bits(int16From(high * 4 + low), fraction) / one;
     });
 }
 
@@ -70,7 +65,7 @@ std::string FractionToChromaBits(Workbench& workbench, double value) {
         double rest = value;
         double weight = 0.5;
         std::string digits;
-        for (std::size_t i = 0; i < bitCount; ++i) {
+        for (int i = 0; i < bitCount; ++i) {
             // Strictly less: an exact power of two takes the lower bits and comes back by the rounding below.
             const bool set = weight < rest;
             digits += set ? '1' : '0';
@@ -86,9 +81,9 @@ std::string FractionToChromaBits(Workbench& workbench, double value) {
 
 void ConvertChromaticity(Workbench& workbench) {
     decoder(workbench, [&](FrmEdid& screen) {
-        const Texts texts = showCoordinates(workbench, screen);
-        workbench.ChromaText1 = axisLine(texts, 0);
-        workbench.ChromaText2 = axisLine(texts, 1);
+        const Coordinates texts = showCoordinates(workbench, screen);
+        putAxis(workbench.ChromaText1, texts, 0);
+        putAxis(workbench.ChromaText2, texts, 1);
         const int selected = screen.chkChroma.firstSelected();
         if (selected >= 0) {
             screen.ChromaValue.setText(texts[static_cast<std::size_t>(selected)]);

@@ -14,15 +14,15 @@ std::string coordinateText(const DescriptorBlock& block, int first, const SplitF
     return chromaText(ChromaBitsToFraction(block.workbench, block.cellValue(first + field.upper.cell), low));
 }
 
-void showWhite(const DescriptorBlock& block, int option, const std::string& words) {
-    block.showAndReport(block.screen.DtaOptWhite(option), words, 20);
+void showWhite(const DescriptorBlock& block, int option, std::string_view words, const std::string& number) {
+    block.showAndReport(block.screen.DtaOptWhite(option), {words, number}, 20);
 }
 
 /// `first` is the index cell of the point, `option` its first one.
 void showUsedPoint(const DescriptorBlock& block, int first, int option) {
-    showWhite(block, option, "White X - " + coordinateText(block, first, whiteX));
-    showWhite(block, option + 1, "White Y - " + coordinateText(block, first, whiteY));
-    showWhite(block, option + gammaOption, "Gamma  - " + gammaText(block.cellValue(first + whiteGammaCell)));
+    showWhite(block, option, "White X - ", coordinateText(block, first, whiteX));
+    showWhite(block, option + 1, "White Y - ", coordinateText(block, first, whiteY));
+    showWhite(block, option + gammaOption, "Gamma  - ", gammaText(block.cellValue(first + whiteGammaCell)));
 }
 
 void blankUnusedPoint(const DescriptorBlock& block, int first, int option) {
@@ -37,14 +37,14 @@ void blankUnusedPoint(const DescriptorBlock& block, int first, int option) {
 void convertWhitePoint(const DescriptorBlock& block, int point) {
     const int first = whitePointCell(point);
     const int option = optionsOfPoint * point;
-    block.report("White Point #" + std::to_string(point + 1), 15);
+    block.report({"White Point #", std::to_string(point + 1)}, 15);
     if (block.cellValue(first) > 0) {
         showUsedPoint(block, first, option);
         return;
     }
     blankUnusedPoint(block, first, option);
     block.screen.NotUsed(point).setEnabled(true);
-    block.report("Not Used", 20);
+    block.report({"Not Used"}, 20);
 }
 
 /// DTaInput gets the value of the selected option, which is what follows the dash of its caption.
@@ -77,9 +77,9 @@ void convertColorPoint(const DescriptorBlock& block) {
     convertWhitePoint(block, 0);
     convertWhitePoint(block, 1);
     if (block.cellValue(whitePointCell(0)) != 0 && block.cellValue(whitePointCell(1)) != 0) {
-        block.cell(colorPointPadding.first).setText(std::string(lineFeedText));
+        block.cell(colorPointPadding.first).setText(lineFeedText);
         for (int i = colorPointPadding.first + 1; i <= colorPointPadding.last; ++i) {
-            block.cell(i).setText(std::string(blankText));
+            block.cell(i).setText(blankText);
         }
     }
     showSelectedValue(screen);

@@ -25,10 +25,13 @@ struct DescriptorBlock {
 
     /// The report text of the block.
     std::string& text() const { return workbench.DetailedBlockText(number); }
-    /// Adds a line to it, `indent` blanks before the words.
-    void report(std::string_view words, int indent = reportIndent) const { text() += line(IndentText(words, indent)); }
+    /// Adds a line to it, `indent` blanks before the words, which are one behind the other.
+    void report(Texts words, int indent = reportIndent) const {
+        text() += blanks(indent);
+        addLine(text(), words);
+    }
     /// The same words as a caption and as a line.
-    void showAndReport(Control& control, const std::string& words, int indent = reportIndent) const {
+    void showAndReport(Control& control, Texts words, int indent = reportIndent) const {
         control.setCaption(words);
         report(words, indent);
     }

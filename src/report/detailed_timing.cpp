@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "core/base/numbers.h"
 #include "core/base/text.h"
@@ -41,6 +42,8 @@ constexpr std::string_view normalDisplay = "Normal Display - No Stereo";
 constexpr std::string_view stereoDisplay = "Stereo";
 
 constexpr int lastStereo = noStereoOption - 1;
+
+constexpr double pixelClockUnits = 100; ///< of the clock field, in a megahertz
 
 struct SyncWords {
     std::string_view line;
@@ -140,17 +143,19 @@ private:
 
     void convertField(int i) {
         const int value = fieldValue(timingFields[static_cast<std::size_t>(i)]);
-        const std::string number = i == PixelClock ? formatNumber(value / 100.0, "0.00") : std::to_string(value);
         const FieldWords& field = fieldWords[static_cast<std::size_t>(i)];
-        screen_.DT(i).setCaption({field.words, " - ", number, field.unit});
-        texts_.fields[static_cast<std::size_t>(i)] = {field.words, number, field.unit};
-        keep(i, value, number);
+        TimingFieldText& text = texts_.fields[static_cast<std::size_t>(i)];
+        text.words = field.words;
+        text.number = i == PixelClock ? formatNumber(value / pixelClockUnits, "0.00") : std::to_string(value);
+        text.unit = field.unit;
+        screen_.DT(i).setCaption({text.words, " - ", text.number, text.unit});
+        keep(i, value, text.number);
     }
 
     void keep(int i, int value, const std::string& number) {
         switch (i) {
             case PixelClock:
-                pixelMHz_ = strictNumber(number);
+                pixelMHz_ = value / pixelClockUnits; // what the number reads as, which tells two decimals
                 break;
             case HActive:
                 hTotal_ = value;
@@ -193,8 +198,9 @@ private:
         screen_.frmStereo.setCaption(stereoDisplay);
         texts_.stereo = stereoDisplay;
         if (rules_.testsStereoDigit) {
-            const std::string digit = leftPart(screen_.txtEdit(base_ + timingFlagCell).text(), 1);
-            if (middlePart(HexToBinaryText(digit), 2, 2) == "00") {
+            const std::string& cell = screen_.txtEdit(base_ + timingFlagCell).text();
+            const std::string_view digits = cell.empty() ? std::string_view() : binaryDigitsOf(cell.front());
+            if (!digits.empty() && digits.substr(1, 2) == "00") {
                 showNormalDisplay();
             }
         }
@@ -244,12 +250,12 @@ private:
         if (vTotal_ == 0) {
             vTotal_ = 1;
         }
-        const std::string horizontal = formatNumber(1000 / lineTime, "0.00");
-        const std::string vertical = formatNumber(1 / (vTotal_ * lineTime) * 1000000, "0.00");
-        screen_.Freq(0).setCaption({"Horizontal - ", horizontal, " KHz"});
-        screen_.Freq(1).setCaption({"Vertical - ", vertical, " Hz"});
-        join(texts_.horizontalRate, {"Frequency: ", horizontal, " KHz"});
-        join(texts_.verticalRate, {"Frequency: ", vertical, " Hz"});
+        TimingFieldText horizontal = {"Frequency", formatNumber(1000 / lineTime, "0.00"), " KHz"};
+        TimingFieldText vertical = {"Frequency", formatNumber(1 / (vTotal_ * lineTime) * 1000000, "0.00"), " Hz"};
+        screen_.Freq(0).setCaption({"Horizontal - ", horizontal.number, horizontal.unit});
+        screen_.Freq(1).setCaption({"Vertical - ", vertical.number, vertical.unit});
+        texts_.horizontalRate = std::move(horizontal);
+        texts_.verticalRate = std::move(vertical);
     }
 
     void writeReport() { putTimingReport(reportText(), texts_); }

@@ -1,5 +1,7 @@
 #include "report/detailed_timing_report.h"
 
+#include <span>
+
 #include "core/base/text.h"
 #include "report/report_lines.h"
 
@@ -10,55 +12,85 @@ namespace {
 constexpr int leftColumn = 34;
 constexpr int imageColumn = 23; ///< of the horizontal size
 
-void addBlanksUpTo(std::string& lines, std::size_t start, int width) {
-    lines += blanks(width - static_cast<int>(lines.size() - start));
+/// The pieces of a text, in order.
+class Pieces {
+public:
+    void add(std::string_view text) { texts_[count_++] = text; }
+    /// Tells how long the text of the field is.
+    std::size_t add(const TimingFieldText& field) {
+        if (field.words.empty()) {
+            return 0;
+        }
+        for (const std::string_view text : {field.words, mark, std::string_view(field.number), field.unit}) {
+            add(text);
+        }
+        return sizeOf(field);
+    }
+    /// A text and blanks up to a column.
+    void addColumn(std::string_view text, int width) {
+        add(text);
+        add(padding(text, width));
+    }
+    void addColumn(const TimingFieldText& field, int width) { add(blanks(width - static_cast<int>(add(field)))); }
+
+    static std::size_t sizeOf(const TimingFieldText& field) {
+        return field.words.empty() ? 0 : field.words.size() + mark.size() + field.number.size() + field.unit.size();
+    }
+    std::span<const std::string_view> texts() const { return std::span(texts_).first(count_); }
+
+private:
+    static constexpr std::string_view mark = ": ";
+    static constexpr std::size_t most = 128; ///< the report has 110 at most
+
+    std::array<std::string_view, most> texts_;
+    std::size_t count_ = 0;
+};
+
+void addRow(Pieces& report, const TimingFieldText& left, const TimingFieldText& right) {
+    report.add(blanks(reportIndent));
+    report.addColumn(left, leftColumn);
+    report.add(right);
+    report.add(crLf);
 }
 
-void add(std::string& lines, std::string_view text) {
-    lines += text;
-}
-
-void add(std::string& lines, const TimingFieldText& field) {
-    if (field.words.empty()) {
+void addTitle(Pieces& report, const TimingTexts& texts) {
+    constexpr std::string_view times = "x";
+    constexpr std::string_view gap = "  ";
+    const TimingFieldText& clock = texts.fields[PixelClock];
+    const int indent = centredIndent(texts.width.size() + times.size() + texts.height.size() + texts.scan.size() +
+                                     gap.size() + Pieces::sizeOf(clock));
+    if (indent == noIndent) {
         return;
     }
-    lines += field.words;
-    lines += ": ";
-    lines += field.number;
-    lines += field.unit;
+    report.add(blanks(indent));
+    for (const std::string_view text :
+         {std::string_view(texts.width), times, std::string_view(texts.height), texts.scan, gap}) {
+        report.add(text);
+    }
+    report.add(clock);
+    report.add(crLf);
 }
 
-template <class Left, class Right>
-void addColumns(std::string& lines, const Left& left, const Right& right) {
-    lines += blanks(reportIndent);
-    const std::size_t start = lines.size();
-    add(lines, left);
-    addBlanksUpTo(lines, start, leftColumn);
-    add(lines, right);
-    lines += crLf;
-}
-
-void addTitle(std::string& lines, const TimingTexts& texts) {
-    std::string title = joined({texts.width, "x", texts.height, texts.scan, "  "});
-    add(title, texts.fields[PixelClock]);
-    lines += centredLine(title);
-    lines += ruleLine();
-    lines += blanks(reportIndent);
-    lines += "Horizontal ";
-    const std::size_t start = lines.size();
-    add(lines, texts.fields[HImageSize]);
-    addBlanksUpTo(lines, start, imageColumn);
-    lines += "Vertical ";
-    add(lines, texts.fields[VImageSize]);
-    lines += crLf;
-    addColumns(lines, texts.refresh, texts.stereo);
-    lines += crLf;
+void addHead(Pieces& report, const TimingTexts& texts) {
+    addTitle(report, texts);
+    report.add(ruleLine());
+    report.add(blanks(reportIndent));
+    report.add("Horizontal ");
+    report.addColumn(texts.fields[HImageSize], imageColumn);
+    report.add("Vertical ");
+    report.add(texts.fields[VImageSize]);
+    report.add(crLf);
+    report.add(blanks(reportIndent));
+    report.addColumn(texts.refresh, leftColumn);
+    report.add(texts.stereo);
+    report.add(crLf);
+    report.add(crLf);
 }
 
 struct Direction {
     std::string_view heading;
     TimingField active, blanking, syncOffset, syncWidth, border;
-    std::string TimingTexts::*rate;
+    TimingFieldText TimingTexts::*rate;
 };
 
 constexpr Direction horizontal = {
@@ -66,25 +98,27 @@ constexpr Direction horizontal = {
 constexpr Direction vertical = {
     "Vertical:", VActive, VBlanking, VSyncOffset, VSyncWidth, VBorder, &TimingTexts::verticalRate};
 
-void addDirection(std::string& lines, const TimingTexts& texts, const Direction& direction) {
-    addLine(lines, {direction.heading});
-    addColumns(lines, texts.fields[direction.active], texts.fields[direction.blanking]);
-    addColumns(lines, texts.fields[direction.syncOffset], texts.fields[direction.syncWidth]);
-    addColumns(lines, texts.fields[direction.border], texts.*direction.rate);
-    lines += crLf;
+void addDirection(Pieces& report, const TimingTexts& texts, const Direction& direction) {
+    report.add(direction.heading);
+    report.add(crLf);
+    addRow(report, texts.fields[direction.active], texts.fields[direction.blanking]);
+    addRow(report, texts.fields[direction.syncOffset], texts.fields[direction.syncWidth]);
+    addRow(report, texts.fields[direction.border], texts.*direction.rate);
+    report.add(crLf);
 }
 
 } // namespace
 
 void putTimingReport(std::string& report, const TimingTexts& texts) {
-    constexpr std::size_t usualSize = 800;
+    Pieces pieces;
+    addHead(pieces, texts);
+    addDirection(pieces, texts, horizontal);
+    addDirection(pieces, texts, vertical);
+    for (const std::string_view text : {std::string_view(texts.sync), crLf, crLf}) {
+        pieces.add(text);
+    }
     report.clear();
-    report.reserve(usualSize);
-    addTitle(report, texts);
-    addDirection(report, texts, horizontal);
-    addDirection(report, texts, vertical);
-    addLine(report, {texts.sync});
-    report += crLf;
+    append(report, pieces.texts());
 }
 
 } // namespace wb::report

@@ -18,9 +18,10 @@ struct TimingFieldText {
 /// What the report of a detailed timing tells, in words.
 struct TimingTexts {
     std::array<TimingFieldText, timingFieldCount> fields;
-    std::string width, height, scan; ///< of the title, such as "1920", "1080", "i"
-    std::string refresh, stereo, sync;
-    std::string horizontalRate, verticalRate;
+    std::string width, height; ///< of the title, such as "1920" and "1080", with a scan such as "i"
+    std::string_view scan, refresh, stereo;
+    std::string sync;
+    TimingFieldText horizontalRate, verticalRate;
 };
 
 /// Puts the lines of the report, each with its line end, into `report`.

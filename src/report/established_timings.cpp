@@ -46,7 +46,7 @@ void convertTimings(Workbench& workbench, int cell, const TimingWords& words, Co
             if (!text.empty()) {
                 text += crLf;
             }
-            text += IndentText(words[static_cast<std::size_t>(i)], reportIndent);
+            append(text, {blanks(reportIndent), words[static_cast<std::size_t>(i)]});
         }
     });
 }
@@ -67,7 +67,7 @@ void ConvertReservedTiming(Workbench& workbench) {
         screen.ET3(7).setValue(0);
         if (bit(byteAt(screen, cells::reservedTimings), reservedTimingBit)) {
             screen.ET3(7).setValue(1);
-            workbench.ReservedTimingText = IndentText(reservedTiming, reportIndent);
+            join(workbench.ReservedTimingText, {blanks(reportIndent), reservedTiming});
         }
     });
 }

@@ -73,22 +73,28 @@ const BlockKind* kindOf(std::string_view tag) {
     return nullptr;
 }
 
-std::string place(int cell) {
-    return "(" + std::to_string(cell) + ")";
+/// Between the place of one cell, or that of several, and the words.
+constexpr std::string_view placeGap = "       ";
+constexpr std::string_view placesGap = "    ";
+
+/// Puts the place of a cell and the words, without and with a line end.
+void putAtPlace(std::string& entry, int cell, std::string_view words) {
+    join(entry, {"(", std::to_string(cell), ")", words});
+}
+void putPlaceLine(std::string& entry, int cell, Texts words) {
+    join(entry, {"(", std::to_string(cell), ")"});
+    addLine(entry, words);
+}
+void putPlacesLine(std::string& entry, int first, int last, Texts words) {
+    join(entry, {"(", std::to_string(first), "-", std::to_string(last), ")"});
+    addLine(entry, words);
 }
 
-std::string places(int first, int last) {
-    return "(" + placeRange(first, last) + ")";
-}
-
-std::string pad(int blanks) {
-    return IndentText("", blanks);
-}
-
-std::string versionTitle(FrmCeaExt& screen) {
+/// Empty for a version that is none of them.
+std::string_view versionTitle(FrmCeaExt& screen) {
     for (const VersionTitle& known : versionTitles) {
         if (known.version == screen.VerRev.text()) {
-            return centredLine(known.title);
+            return known.title;
         }
     }
     return {};
@@ -101,74 +107,88 @@ void putBlockHead(Workbench& workbench, TextArray& lines, const BlockKind* kind)
         lines(entry) = ruleLine();
     }
     for (const int entry : emptyEntries) {
-        lines(entry) = line();
+        lines(entry) = crLf;
     }
-    lines(blockEntry) = line("EDID Block 1, Bytes 128-255");
+    putLine(lines(blockEntry), {"EDID Block 1, Bytes 128-255"});
     if (kind != nullptr) {
-        lines(titleEntry) = kind->title.empty() ? versionTitle(screen) : centredLine(kind->title);
-        lines(typeEntry) = line("Block Type: " + std::string(kind->type));
+        putCentred(lines(titleEntry), kind->title.empty() ? versionTitle(screen) : kind->title);
+        putLine(lines(typeEntry), {"Block Type: ", kind->type});
     }
     putDump(screen, lines, dumpEntry);
 }
 
-/// What a block map tells of the kind of block `block`.
-std::string mapLine(const BlockKind* kind, int block) {
+/// Puts what a block map tells of the kind of block `block`.
+void putMapLine(std::string& entry, const BlockKind* kind, int block) {
     if (kind == nullptr || kind->inMap.empty()) {
-        return {};
+        entry.clear();
+        return;
     }
-    return line(place(block) + pad(5) + "Block " + std::to_string(block) + " is " + std::string(kind->inMap));
+    putPlaceLine(entry, block, {"     Block ", std::to_string(block), " is ", kind->inMap});
 }
 
 void putBlockMap(FrmCeaExt& screen, TextArray& lines) {
-    lines(bodyEntry) = mapLine(kindOf(screen.txtEdit(1).text()), 1);
-    lines(bodyEntry + 1) = mapLine(kindOf(screen.txtEdit(2).text()), 2);
+    putMapLine(lines(bodyEntry), kindOf(screen.txtEdit(1).text()), 1);
+    putMapLine(lines(bodyEntry + 1), kindOf(screen.txtEdit(2).text()), 2);
 }
 
 void putCeaHead(Workbench& workbench, TextArray& lines) {
-    lines(bodyEntry) = line(place(extensionCells::timingOffset) + workbench.frmCEA_EXT().lbEDID(5).caption());
-    lines(bodyEntry + 1) = line(place(extensionCells::support) + workbench.DTVSupportText);
+    putPlaceLine(lines(bodyEntry), extensionCells::timingOffset, {workbench.frmCEA_EXT().lbEDID(5).caption()});
+    putPlaceLine(lines(bodyEntry + 1), extensionCells::support, {workbench.DTVSupportText});
     if (workbench.VideoBlockStart == 0) {
         return;
     }
-    lines(bodyEntry + 2) = place(extensionCells::dataBlocks) + workbench.VideoTagText;
+    putAtPlace(lines(bodyEntry + 2), extensionCells::dataBlocks, workbench.VideoTagText);
     for (int i = 1; i <= workbench.VideoBlockLength; ++i) {
-        lines(bodyEntry + 3 + i) = line(place(extensionCells::dataBlocks + i) + pad(7) + workbench.ShortVideoText(i));
+        putPlaceLine(lines(bodyEntry + 3 + i), extensionCells::dataBlocks + i, {placeGap, workbench.ShortVideoText(i)});
     }
 }
 
 /// The three lines of an audio descriptor, its first byte at `cell`.
-void putAudioDescriptor(TextArray& lines, int entry, int cell, const std::string& format,
-                        const std::string& frequencies, const std::string& rate) {
-    lines(entry) = line(place(cell) + pad(7) + format);
-    lines(entry + 1) = line(place(cell + 1) + pad(7) + "Sampling Frequency: " + frequencies);
-    lines(entry + 2) = line(place(cell + 2) + pad(7) + rate);
+struct AudioTexts {
+    const std::string& kind;
+    const std::string& channels;
+    const std::string& format;
+    const std::string& frequencies;
+    const std::string& rate;
+};
+
+void putAudioDescriptor(TextArray& lines, int entry, int cell, const AudioTexts& texts) {
+    putPlaceLine(lines(entry), cell, {placeGap, texts.kind, ", ", texts.channels, ", ", texts.format});
+    putPlaceLine(lines(entry + 1), cell + 1, {placeGap, "Sampling Frequency: ", texts.frequencies});
+    putPlaceLine(lines(entry + 2), cell + 2, {placeGap, texts.rate});
 }
 
 void putAudio(const Workbench& workbench, TextArray& lines, int entry) {
-    lines(entry) = place(workbench.AudioBlockStart) + workbench.AudioTagText;
+    putAtPlace(lines(entry), workbench.AudioBlockStart, workbench.AudioTagText);
     putAudioDescriptor(lines, entry + 1, workbench.AudioBlockStart + 1,
-                       workbench.AudioKindText + ", " + workbench.AudioChannelsText + ", " + workbench.AudioFormatText,
-                       workbench.SampFreqText, workbench.BitRateText);
+                       {.kind = workbench.AudioKindText,
+                        .channels = workbench.AudioChannelsText,
+                        .format = workbench.AudioFormatText,
+                        .frequencies = workbench.SampFreqText,
+                        .rate = workbench.BitRateText});
     if (workbench.AudioBlockLength >= longDataBlock && workbench.AudioDescriptorCount >= 2) {
-        putAudioDescriptor(
-            lines, entry + 4, workbench.LastAudioDescriptor,
-            workbench.LastAudioKindText + ", " + workbench.LastAudioChannelsText + ", " + workbench.LastAudioFormatText,
-            workbench.LastSampFreqText, workbench.LastBitRateText);
+        putAudioDescriptor(lines, entry + 4, workbench.LastAudioDescriptor,
+                           {.kind = workbench.LastAudioKindText,
+                            .channels = workbench.LastAudioChannelsText,
+                            .format = workbench.LastAudioFormatText,
+                            .frequencies = workbench.LastSampFreqText,
+                            .rate = workbench.LastBitRateText});
     }
 }
 
 void putSpeakers(const Workbench& workbench, TextArray& lines, int entry) {
     const int start = workbench.SpeakerBlockStart;
-    lines(entry) = place(start) + workbench.SpeakerTagText;
-    lines(entry + 1) = line(places(start + 1, start + workbench.SpeakerBlockLength) + pad(4) + workbench.SpeakerText);
+    putAtPlace(lines(entry), start, workbench.SpeakerTagText);
+    putPlacesLine(lines(entry + 1), start + 1, start + workbench.SpeakerBlockLength,
+                  {placesGap, workbench.SpeakerText});
 }
 
 /// `end` is the last cell of the vendor data.
 void putVendorLines(const Workbench& workbench, TextArray& lines, int entry, int end) {
     const int start = workbench.VendorBlockStart;
-    lines(entry) = place(start) + workbench.VendorTagText;
-    lines(entry + 1) = line(places(start + 1, start + 3) + pad(4) + workbench.VendorIDText);
-    lines(entry + 2) = line(places(start + 4, end) + pad(4) + workbench.VendorDataText);
+    putAtPlace(lines(entry), start, workbench.VendorTagText);
+    putPlacesLine(lines(entry + 1), start + 1, start + 3, {placesGap, workbench.VendorIDText});
+    putPlacesLine(lines(entry + 2), start + 4, end, {placesGap, workbench.VendorDataText});
 }
 
 /// A short vendor block stands where audio and speaker lines may be, and wins.
@@ -177,7 +197,7 @@ void putVendor(const Workbench& workbench, TextArray& lines, int videoLines) {
     if (workbench.VendorBlockLength >= longDataBlock) {
         const int entry = videoLines + longVendorEntry;
         putVendorLines(workbench, lines, entry, start + 5);
-        lines(entry + 3) = line(place(start + 6) + pad(7) + "VSDB Extension: " + workbench.VSDBExtText);
+        putPlaceLine(lines(entry + 3), start + 6, {placeGap, "VSDB Extension: ", workbench.VSDBExtText});
     } else {
         putVendorLines(workbench, lines, videoLines + vendorEntry, start + workbench.VendorBlockLength);
     }
@@ -214,25 +234,23 @@ void putTimings(Workbench& workbench, TextArray& lines) {
         }
         lines(entry) = ruleLine();
         moveOn(entry);
-        lines(entry) = line();
+        lines(entry) = crLf;
         moveOn(entry);
         const int base = timingOffset(workbench) + i * detailedBlockSize;
-        lines(entry) = line(places(base, base + detailedBlockSize - 1) + " Detailed Timing / Descriptor Block " +
-                            std::to_string(i + 1) + ":") +
-                       line(text);
+        putPlacesLine(lines(entry), base, base + detailedBlockSize - 1,
+                      {" Detailed Timing / Descriptor Block ", std::to_string(i + 1), ":", crLf, text});
         moveOn(entry);
-        lines(entry) = line();
+        lines(entry) = crLf;
     }
 }
 
 /// The check sum line is that of block 0.
 void putEnd(const Workbench& workbench, TextArray& lines) {
     const int entry = workbench.ExtDtdStart;
-    lines(entry) = line();
-    lines(entry + 1) =
-        line(places(timingOffset(workbench) + workbench.ExtDtdSlotCount * detailedBlockSize, checksumCell - 1) +
-             " No Data:");
-    lines(entry + 2) = placeTag(checksumCell) + "  " + workbench.Block0ChecksumText;
+    lines(entry) = crLf;
+    const int base = timingOffset(workbench) + workbench.ExtDtdSlotCount * detailedBlockSize;
+    putPlacesLine(lines(entry + 1), base, checksumCell - 1, {" No Data:"});
+    join(lines(entry + 2), {placeTag(checksumCell), "  ", workbench.Block0ChecksumText});
     lines(entry + 3) = endOfReport;
 }
 

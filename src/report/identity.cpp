@@ -31,10 +31,10 @@ char letterOf(int fiveBits) {
     return static_cast<char>(letterBase + fiveBits);
 }
 
-std::string brandOf(const std::string& manufacturer) {
+std::string_view brandOf(std::string_view manufacturer) {
     for (const Brand& brand : brands) {
         if (brand.manufacturer == manufacturer) {
-            return std::string(brand.name);
+            return brand.name;
         }
     }
     return manufacturer;
@@ -71,7 +71,7 @@ void ConvertManufacturer(Workbench& workbench) {
     decoder(workbench, [&](FrmEdid& screen) {
         workbench.IDManufacturerName = GetManufacturer(workbench);
         screen.VendorInfo.setText(workbench.IDManufacturerName);
-        screen.lbVendor(0).setCaption("Manufacturer - " + workbench.IDManufacturerName);
+        screen.lbVendor(0).setCaption({"Manufacturer - ", workbench.IDManufacturerName});
     });
 }
 
@@ -91,7 +91,7 @@ std::string GetProductCode(Workbench& workbench) {
 
 void ConvertProductCode(Workbench& workbench) {
     decoder(workbench, [&](FrmEdid& screen) {
-        screen.lbVendor(1).setCaption("Product Code - " + GetProductCode(workbench));
+        screen.lbVendor(1).setCaption({"Product Code - ", GetProductCode(workbench)});
         screen.VendorInfo.setText(workbench.EDIDProductCodeRaw);
         CompleteSerialNumber(workbench);
     });
@@ -107,7 +107,7 @@ void ConvertSerialNumber(Workbench& workbench) {
         if (workbench.SerialLast5 == "00000" || workbench.SerialLast5 == "16843009") {
             workbench.SerialLast5 = unusedSerial;
         }
-        screen.lbVendor(2).setCaption("Serial Number - " + workbench.SerialLast5);
+        screen.lbVendor(2).setCaption({"Serial Number - ", workbench.SerialLast5});
         screen.VendorInfo.setText(workbench.SerialLast5);
         CompleteSerialNumber(workbench);
     });
@@ -116,7 +116,7 @@ void ConvertSerialNumber(Workbench& workbench) {
 void ConvertWeek(Workbench& workbench) {
     decoder(workbench, [&](FrmEdid& screen) {
         workbench.ManufactureWeek = formatNumber(byteAt(screen, cells::week), "00");
-        screen.lbVendor(3).setCaption("Week Manufacture - " + workbench.ManufactureWeek);
+        screen.lbVendor(3).setCaption({"Week Manufacture - ", workbench.ManufactureWeek});
         screen.VendorInfo.setText(workbench.ManufactureWeek);
         CompleteSerialNumber(workbench);
     });
@@ -126,17 +126,19 @@ void ConvertYear(Workbench& workbench) {
     decoder(workbench, [&](FrmEdid& screen) {
         workbench.ManufactureYear = formatNumber(byteAt(screen, cells::year) + firstYear, "0");
         screen.VendorInfo.setText(workbench.ManufactureYear);
-        screen.lbVendor(4).setCaption("Year Manufacture - " + workbench.ManufactureYear);
+        screen.lbVendor(4).setCaption({"Year Manufacture - ", workbench.ManufactureYear});
         CompleteSerialNumber(workbench);
     });
 }
 
 void CompleteSerialNumber(Workbench& workbench) {
     trapped(workbench, [&] {
-        workbench.CompleteSerial = workbench.SerialLast5 == unusedSerial
-                                       ? "See Descriptor Block"
-                                       : workbench.EDIDProductCodeRaw + rightPart(workbench.ManufactureYear, 1) +
-                                             workbench.ManufactureWeek + workbench.SerialLast5;
+        if (workbench.SerialLast5 == unusedSerial) {
+            workbench.CompleteSerial = "See Descriptor Block";
+        } else {
+            join(workbench.CompleteSerial, {workbench.EDIDProductCodeRaw, rightPart(workbench.ManufactureYear, 1),
+                                            workbench.ManufactureWeek, workbench.SerialLast5});
+        }
         workbench.frmEDID().lbVendor(6).setCaption(workbench.CompleteSerial);
     });
 }
@@ -144,7 +146,7 @@ void CompleteSerialNumber(Workbench& workbench) {
 void ConvertVersion(Workbench& workbench) {
     decoder(workbench, [&](FrmEdid& screen) {
         workbench.EDIDVersionText = formatNumber(byteAt(screen, cells::version), "0");
-        screen.lbEDID(0).setCaption("Version Number - " + workbench.EDIDVersionText);
+        screen.lbEDID(0).setCaption({"Version Number - ", workbench.EDIDVersionText});
         screen.txtVersion.setText(workbench.EDIDVersionText);
         screen.VerRev.setText(workbench.EDIDVersionText);
         screen.txtBrand.setText(brandOf(workbench.IDManufacturerName));
@@ -155,7 +157,7 @@ void ConvertVersion(Workbench& workbench) {
 void ConvertRevision(Workbench& workbench) {
     decoder(workbench, [&](FrmEdid& screen) {
         workbench.EDIDRevisionText = formatNumber(byteAt(screen, cells::revision), "0");
-        screen.lbEDID(1).setCaption("Revision Number - " + workbench.EDIDRevisionText);
+        screen.lbEDID(1).setCaption({"Revision Number - ", workbench.EDIDRevisionText});
         screen.txtRevision.setText(workbench.EDIDRevisionText);
         ShowCompleteVersion(workbench);
     });
@@ -163,7 +165,7 @@ void ConvertRevision(Workbench& workbench) {
 
 void ShowCompleteVersion(Workbench& workbench) {
     trapped(workbench, [&] {
-        workbench.EDIDVersionRevisionText = workbench.EDIDVersionText + "." + workbench.EDIDRevisionText;
+        join(workbench.EDIDVersionRevisionText, {workbench.EDIDVersionText, ".", workbench.EDIDRevisionText});
         workbench.frmEDID().lbEDID(3).setCaption(workbench.EDIDVersionRevisionText);
     });
 }

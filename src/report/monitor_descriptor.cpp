@@ -31,8 +31,8 @@ int readTag(const DescriptorBlock& block) {
     if (family == descriptorFamilyCount) {
         return value;
     }
-    block.text() = line();
-    block.report(headings[static_cast<std::size_t>(family)]);
+    block.text() = crLf;
+    block.report({headings[static_cast<std::size_t>(family)]});
     block.screen.DTAGTF.setVisible(family == RangeLimits);
     return family;
 }
@@ -50,15 +50,17 @@ void clearPanel(FrmEdid& screen) {
 /// Only a line feed ends the text; it may fill all 13 cells.
 void convertText(const DescriptorBlock& block) {
     Control& input = block.screen.DTaInput;
+    std::string text = input.text();
     for (int i = descriptorTextCells.first; i <= descriptorTextCells.last; ++i) {
         const int code = block.cellValue(i);
         if (code == lineFeed) {
             break;
         }
-        input.setText(input.text() + static_cast<char>(code));
+        text += static_cast<char>(code);
+        input.setText(text);
     }
-    block.report(input.text());
-    block.text() += line();
+    block.report({input.text()});
+    block.text() += crLf;
 }
 
 /// Joins the names of all name descriptors of the image, whichever block is being decoded.
@@ -80,7 +82,7 @@ void convertStandardTimings(const DescriptorBlock& block) {
     for (int i = 0; i < descriptorTimingCount; ++i) {
         const int sizeByte = block.cellValue(descriptorTimingCell(i));
         const int rateByte = block.cellValue(descriptorTimingCell(i) + 1);
-        block.showAndReport(screen.ExtSTOpt(i), standardTimingText(sizeByte, rateByte));
+        block.showAndReport(screen.ExtSTOpt(i), {standardTimingText(sizeByte, rateByte)});
     }
     const int shown = screen.ExtSTOpt.firstSelected(0, descriptorTimingCount - 1, 0);
     screen.ExtSTAOptb(aspectCode(block.cellValue(descriptorTimingCell(shown) + 1))).setValue(1);
@@ -127,7 +129,7 @@ void finish(const DescriptorBlock& block) {
 
 int descriptorFamily(std::string_view tag) {
     int family = 0;
-    while (family < descriptorFamilyCount && ByteToHex2(descriptorTag(family)) != tag) {
+    while (family < descriptorFamilyCount && byteText(descriptorTag(family)) != tag) {
         ++family;
     }
     return family;
@@ -156,7 +158,7 @@ bool appendMonitorName(FrmEdid& screen, int block, std::string& name) {
 void ConvertDetailedTiminga(Workbench& workbench) {
     trapped(workbench, [&] {
         const DescriptorBlock block(workbench);
-        block.text() = line();
+        block.text() = crLf;
         settingControls(block.screen, [&] {
             block.screen.DTAGTF.setVisible(false);
             const int family = readTag(block);

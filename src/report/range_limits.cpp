@@ -24,32 +24,35 @@ constexpr std::array<RangeField, limitCount> rangeFields = {{
 }};
 constexpr int inputTop = 120; ///< twips
 
-std::string rangeText(int i, int value) {
-    const RangeField& field = rangeFields[static_cast<std::size_t>(i)];
+void showLimit(const DescriptorBlock& block, int i) {
+    Control& option = block.screen.DtaOpt(i);
+    const int value = block.cellValue(limitCells.first + i);
     if (i == clockLimit && value == unspecifiedLimit) {
-        return "Pixel Clock - Not Specified";
+        block.showAndReport(option, {"Pixel Clock - Not Specified"});
+        return;
     }
-    return std::string(field.words) + std::to_string(value * field.factor) + std::string(field.unit);
+    const RangeField& field = rangeFields[static_cast<std::size_t>(i)];
+    block.showAndReport(option, {field.words, std::to_string(value * field.factor), field.unit});
 }
 
-void showCurveField(const DescriptorBlock& block, int i, const std::string& words) {
+void showCurveField(const DescriptorBlock& block, int i, Texts words) {
     block.showAndReport(block.screen.S_GTF(i), words, 12);
 }
 
 void showCurve(const DescriptorBlock& block) {
-    showCurveField(block, 0, "Start Hor Freq - " + std::to_string(block.cellValue(curveStartCell) * 2) + " KHz");
-    showCurveField(block, 1, "C - " + formatNumber(block.cellValue(curveCCell) / 2.0, "0"));
+    showCurveField(block, 0, {"Start Hor Freq - ", std::to_string(block.cellValue(curveStartCell) * 2), " KHz"});
+    showCurveField(block, 1, {"C - ", formatNumber(block.cellValue(curveCCell) / 2.0, "0")});
     const std::string m =
         hexToDecimalText(block.workbench, block.cell(curveMHighCell).text() + block.cell(curveMLowCell).text());
-    showCurveField(block, 2, "M - " + formatNumber(m, "0"));
-    showCurveField(block, 3, "K - " + std::to_string(block.cellValue(curveKCell)));
-    showCurveField(block, 4, "J - " + formatNumber(block.cellValue(curveJCell) / 2.0, "0"));
+    showCurveField(block, 2, {"M - ", formatNumber(m, "0")});
+    showCurveField(block, 3, {"K - ", std::to_string(block.cellValue(curveKCell))});
+    showCurveField(block, 4, {"J - ", formatNumber(block.cellValue(curveJCell) / 2.0, "0")});
 }
 
 void convertSecondaryGtf(const DescriptorBlock& block) {
     FrmEdid& screen = block.screen;
     screen.DTAFrame(0).setEnabled(false);
-    block.report("Secondary GTF - Supported");
+    block.report({"Secondary GTF - Supported"});
     screen.DTAGTF.setValue(1);
     screen.frmS_GTF(0).setEnabled(true);
     showCurve(block);
@@ -70,16 +73,16 @@ void convertRangeLimits(const DescriptorBlock& block) {
     FrmEdid& screen = block.screen;
     screen.DTAFrame(0).setEnabled(true);
     for (int i = 0; i < limitCount; ++i) {
-        block.showAndReport(screen.DtaOpt(i), rangeText(i, block.cellValue(limitCells.first + i)));
+        showLimit(block, i);
     }
     screen.DTaInput.setTop(inputTop);
     screen.DTAGTF.setEnabled(true);
     const std::string formula = block.cell(formulaCell).text();
     if (formula == noFormula) {
-        block.report("Secondary GTF - Not Supported");
+        block.report({"Secondary GTF - Not Supported"});
         screen.DTAGTF.setValue(0);
     } else if (formula == reservedFormula) {
-        block.report("Reserved for EDID 1.4 Timings");
+        block.report({"Reserved for EDID 1.4 Timings"});
         screen.DTAGTF.setValue(0);
         screen.frmS_GTF(0).setEnabled(false);
     } else {

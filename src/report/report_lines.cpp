@@ -1,6 +1,7 @@
 #include "report/report_lines.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "core/base/numbers.h"
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int columns = 10;
 constexpr int cellWidth = 4;
+constexpr int dumpIndent = 6; ///< of the columns
 
 std::string twoDigits(int number) {
     return formatNumber(number, "00");
@@ -26,33 +28,51 @@ std::string dateText(const platform::Clock& clock, const platform::DateTime& now
                    formatNumber(now.year, "0000")});
 }
 
+std::string line(std::string text) {
+    text += crLf;
+    return text;
+}
+
 std::string columnHead() {
-    std::string head(6, ' ');
+    std::string head(dumpIndent, ' ');
     for (int column = 0; column < columns; ++column) {
         head += PadRight(std::to_string(column), cellWidth);
     }
     return line(std::move(head));
 }
 
+/// Of a cell in the dump.
+std::size_t widthOf(std::string_view cellText) {
+    return std::max(cellText.size(), std::size_t{cellWidth});
+}
+
+/// Copies the text; a call for the two characters of a cell would cost more.
+void put(char* place, std::string_view text) {
+    for (const char c : text) {
+        *place++ = c;
+    }
+}
+
 void putDumpRow(std::string& entry, BlockScreen& screen, int row) {
     const int first = row * columns;
     const int end = std::min(first + columns, BlockScreen::cellCount);
-    const std::string place = std::to_string(first);
-    join(entry, {place, padding(place, 3), "  |"});
+    std::size_t width = dumpIndent;
+    for (int cell = first; cell < end; ++cell) {
+        width += widthOf(screen.txtEdit(cell).text());
+    }
+    entry.assign(width + crLf.size(), ' ');
+    put(entry.data(), std::to_string(first));
+    entry[dumpIndent - 1] = '|';
+    char* place = entry.data() + dumpIndent;
     for (int cell = first; cell < end; ++cell) {
         const std::string& text = screen.txtEdit(cell).text();
-        entry += text;
-        entry += padding(text, cellWidth);
+        put(place, text);
+        place += widthOf(text);
     }
-    entry += crLf;
+    put(place, crLf);
 }
 
 } // namespace
-
-std::string line(std::string text) {
-    text += crLf;
-    return text;
-}
 
 void putLine(std::string& entry, Texts texts) {
     entry.clear();
@@ -60,19 +80,23 @@ void putLine(std::string& entry, Texts texts) {
 }
 
 void addLine(std::string& lines, Texts texts) {
-    for (const std::string_view text : texts) {
-        lines += text;
-    }
+    append(lines, texts);
     lines += crLf;
 }
 
-void putCentred(std::string& entry, std::string_view text) {
-    const int length = static_cast<int>(text.size());
+int centredIndent(std::size_t length) {
     if (length == 0 || length >= reportWidth) {
-        entry.clear();
-        return;
+        return noIndent;
     }
-    putLine(entry, {blanks(static_cast<int>(roundHalfEven(reportWidth / 2.0 - length / 2.0))), text});
+    return static_cast<int>(roundHalfEven(reportWidth / 2.0 - static_cast<double>(length) / 2.0));
+}
+
+void putCentred(std::string& entry, std::string_view text) {
+    const int indent = centredIndent(text.size());
+    entry.clear();
+    if (indent != noIndent) {
+        addLine(entry, {blanks(indent), text});
+    }
 }
 
 const std::string& ruleLine() {
@@ -80,18 +104,8 @@ const std::string& ruleLine() {
     return rule;
 }
 
-std::string centredLine(std::string_view text) {
-    std::string entry;
-    putCentred(entry, text);
-    return entry;
-}
-
-std::string placeTag(std::string_view place) {
-    return PadLeft(place, placeWidth);
-}
-
 std::string placeTag(int cell) {
-    return placeTag("(" + std::to_string(cell) + ")");
+    return PadLeft("(" + std::to_string(cell) + ")", placeWidth);
 }
 
 std::string placeRange(int first, int last) {
@@ -115,7 +129,7 @@ void putHead(Workbench& workbench, TextArray& lines, int first) {
 void putDump(BlockScreen& screen, TextArray& lines, int first) {
     constexpr int rows = (BlockScreen::cellCount + columns - 1) / columns;
     static const std::string head = columnHead();
-    static const std::string rule = line(IndentText(RepeatText("_", cellWidth * columns), 6));
+    static const std::string rule = line(IndentText(RepeatText("_", cellWidth * columns), dumpIndent));
     lines(first) = head;
     lines(first + 1) = rule;
     for (int row = 0; row < rows; ++row) {
@@ -123,18 +137,14 @@ void putDump(BlockScreen& screen, TextArray& lines, int first) {
     }
 }
 
-std::string joinedEntries(const TextArray& lines) {
-    int end = 0;
-    std::size_t size = 0;
-    for (; end < lines.size() && lines(end) != endOfReport; ++end) {
-        size += lines(end).size();
+void addEntries(std::string& text, const TextArray& lines) {
+    std::array<std::string_view, reportEntries> texts;
+    const int end = std::min(lines.size(), reportEntries);
+    std::size_t count = 0;
+    for (int entry = 0; entry < end && lines(entry) != endOfReport; ++entry) {
+        texts[count++] = lines(entry);
     }
-    std::string text;
-    text.reserve(size);
-    for (int entry = 0; entry < end; ++entry) {
-        text += lines(entry);
-    }
-    return text;
+    append(text, std::span(texts).first(count));
 }
 
 } // namespace wb::report

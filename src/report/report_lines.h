@@ -17,20 +17,19 @@ inline constexpr std::string_view endOfReport = "END REPORT";
 
 inline constexpr int placeWidth = 7; ///< of the column of places
 
-/// `text` and a line end.
-std::string line(std::string text = {});
 /// A line of underscores over the whole width.
 const std::string& ruleLine();
 /// Puts the texts and a line end into an entry, which lends its room.
 void putLine(std::string& entry, Texts texts);
 /// Adds the texts and a line end.
 void addLine(std::string& lines, Texts texts);
-/// Puts a line into an entry as centredLine gives it.
+/// The blanks before a text of that many characters that stands centred, or noIndent for one that fills the width and
+/// is lost.
+inline constexpr int noIndent = -1;
+int centredIndent(std::size_t length);
+/// Puts the text and a line end, centred, into an entry, which is empty where the text is lost.
 void putCentred(std::string& entry, std::string_view text);
-/// `text` and its line end, centred. A text that fills the width is lost: the result is empty.
-std::string centredLine(std::string_view text);
 /// The place of a field in the block, such as "(126)", right-justified in its column of seven.
-std::string placeTag(std::string_view place);
 std::string placeTag(int cell);
 /// "FIRST-LAST" in decimal.
 std::string placeRange(int first, int last);
@@ -40,7 +39,8 @@ void putHead(Workbench& workbench, TextArray& lines, int first);
 /// Fifteen entries from `first` on: the head of the columns and the 13 rows of the hex dump, straight from the cells.
 void putDump(BlockScreen& screen, TextArray& lines, int first);
 
-/// The entries of a buffer up to the end mark, or to the end of a buffer that has none, joined to one text.
-std::string joinedEntries(const TextArray& lines);
+/// Adds the entries of a buffer, which has at most `reportEntries`, up to the end mark, or to the end of a buffer that
+/// has none.
+void addEntries(std::string& text, const TextArray& lines);
 
 } // namespace wb::report

@@ -1,6 +1,6 @@
 #include "report/show_report.h"
 
-#include <utility>
+#include <string_view>
 
 #include "core/base/image_layout.h"
 #include "core/base/numbers.h"
@@ -36,9 +36,9 @@ void openWindowIfClosed(Workbench& workbench, bool hidden) {
     }
 }
 
-void showText(Workbench& workbench, bool hidden, std::string text) {
+void showText(Workbench& workbench, bool hidden, std::string_view text) {
     Control& box = workbench.frmDocument().rtftext;
-    box.setText(std::move(text));
+    box.setText(text);
     box.setLocked(!hidden);
     if (!hidden) {
         workbench.windows.show(workbench.frmDocument());
@@ -48,12 +48,13 @@ void showText(Workbench& workbench, bool hidden, std::string text) {
 /// What is left of a pass once it has begun.
 void finish(Workbench& workbench, bool hidden) {
     workbench.frmDocument().rtftext.setLocked(false);
-    std::string text = joinedEntries(workbench.ReportBlock0Lines);
+    std::string text;
+    addEntries(text, workbench.ReportBlock0Lines);
     if (hasExtensionByDecimalText(workbench)) {
         BuildExtensionReport(workbench);
-        text += joinedEntries(workbench.ReportExtLines);
+        addEntries(text, workbench.ReportExtLines);
     }
-    showText(workbench, hidden, std::move(text));
+    showText(workbench, hidden, text);
 }
 
 /// Whether no pass from here on runs handlers, which could change what the next one builds: the window has the focus,
@@ -69,11 +70,12 @@ bool staysAtRest(const Workbench& workbench, bool hidden) {
 /// Lays out what the last of several passes would. A failure is not shown but thrown.
 std::string textOfLastPass(Workbench& workbench, int count) {
     layOutBlock0Report(workbench);
-    std::string text = joinedEntries(workbench.ReportBlock0Lines);
+    std::string text;
+    addEntries(text, workbench.ReportBlock0Lines);
     if (leadingNumber(workbench.frmEDID().txtEdit(extensionCountCell).text()) != 0) {
         skipExtensionReports(workbench, count - 1);
         layOutExtensionReport(workbench);
-        text += joinedEntries(workbench.ReportExtLines);
+        addEntries(text, workbench.ReportExtLines);
     }
     return text;
 }
@@ -93,7 +95,7 @@ bool showLastPass(Workbench& workbench, bool hidden, int count) {
         workbench.ExtDtdStart = start;
         return false;
     }
-    showText(workbench, hidden, std::move(text));
+    showText(workbench, hidden, text);
     return true;
 }
 

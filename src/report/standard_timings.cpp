@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/base/numbers.h"
+#include "core/base/text.h"
 #include "core/cells.h"
 #include "report/decoder.h"
 #include "report/standard_timings_layout.h"
@@ -45,7 +46,8 @@ std::string standardTimingText(int sizeByte, int rateByte) {
     const Aspect& aspect = aspects[static_cast<std::size_t>(aspectCode(rateByte))];
     const int height = roundToInt16(int16From(std::int64_t{width} * aspect.factor) / aspect.divisor);
     const int rate = bits(rateByte, rateBits) + lowestRate;
-    return formatNumber(width, "####") + " X " + formatNumber(height, "####") + " @" + formatNumber(rate, "##") + "Hz";
+    return joined(
+        {formatNumber(width, "####"), " X ", formatNumber(height, "####"), " @", formatNumber(rate, "##"), "Hz"});
 }
 
 void ConvertStandardTimings(Workbench& workbench) {

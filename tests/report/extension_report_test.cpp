@@ -51,6 +51,11 @@ protected:
         }
         return entries;
     }
+    std::string text() const {
+        std::string text;
+        addEntries(text, workbench.ReportExtLines);
+        return text;
+    }
     static Entries withEnd(Entries entries, int at) {
         entries[at] = "\r\n";
         entries[at + 1] = "(200-126) No Data:\r\n";
@@ -174,7 +179,7 @@ TEST_F(ExtensionReport, ARepeatedBlock0EndsUnderTheDump) {
     EXPECT_EQ(entry(62), "\r\n");
     EXPECT_TRUE(body().empty());
     EXPECT_EQ(workbench.ExtDtdStart, 200);
-    const std::string text = joinedEntries(workbench.ReportExtLines);
+    const std::string text = this->text();
     EXPECT_EQ(text.substr(text.size() - rule.size() - 2), rule + "\r\n");
 }
 
@@ -435,7 +440,7 @@ TEST_F(Timings, ALowStartOverwritesTheHeadAndCutsTheReport) {
     EXPECT_EQ(entry(46), "  (127)  CheckSum OK\r\n");
     EXPECT_EQ(entry(47), "END REPORT");
     EXPECT_EQ(entry(48).substr(0, 6), "10   |");
-    const std::string text = joinedEntries(workbench.ReportExtLines);
+    const std::string text = this->text();
     EXPECT_EQ(text.substr(text.size() - 22), "  (127)  CheckSum OK\r\n");
 }
 
@@ -444,7 +449,7 @@ TEST_F(Timings, AVeryLowStartPrintsBeforeTheHead) {
     workbench.ExtDtdOffsetText = "0";
     workbench.ExtDtdSlotCount = 6;
     BuildExtensionReport(workbench);
-    EXPECT_EQ(joinedEntries(workbench.ReportExtLines), "\r\n(108-126) No Data:\r\n  (127)  CheckSum OK\r\n");
+    EXPECT_EQ(text(), "\r\n(108-126) No Data:\r\n  (127)  CheckSum OK\r\n");
 }
 
 TEST_F(Timings, AnOffsetThatIsNoNumberEndsTheBuild) {

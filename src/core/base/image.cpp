@@ -6,6 +6,12 @@
 
 namespace wb {
 
+Image::Image(std::string_view bytes, std::size_t leftOver, ImageOrigin origin)
+    : leftOver_(leftOver), origin_(std::move(origin)) {
+    const auto* const first = reinterpret_cast<const std::uint8_t*>(bytes.data());
+    bytes_.assign(first, first + bytes.size()); // of one kind, they are copied at once and not one by one
+}
+
 std::optional<Image> Image::fromBytes(std::string_view bytes, ImageOrigin origin) {
     const std::size_t blocks = std::min(bytes.size() / blockSize, mostBlocks);
     if (blocks == 0) {

@@ -44,7 +44,7 @@ public:
     /// The byte of that number, which must be there.
     std::uint8_t byte(std::size_t number) const { return bytes_[number]; }
     /// All bytes as a text of 8-bit characters.
-    std::string content() const { return {bytes_.begin(), bytes_.end()}; }
+    std::string content() const { return {reinterpret_cast<const char*>(bytes_.data()), bytes_.size()}; }
 
     /// How many bytes after the last block were left out: less than a block, or more than 256 blocks.
     std::size_t leftOver() const { return leftOver_; }
@@ -66,8 +66,7 @@ public:
     Image paddedTo(std::size_t count) const;
 
 private:
-    Image(std::string_view bytes, std::size_t leftOver, ImageOrigin origin)
-        : bytes_(bytes.begin(), bytes.end()), leftOver_(leftOver), origin_(std::move(origin)) {}
+    Image(std::string_view bytes, std::size_t leftOver, ImageOrigin origin);
 
     std::vector<std::uint8_t> bytes_;
     std::size_t leftOver_;

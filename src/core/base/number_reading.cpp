@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <optional>
 
 #include "core/base/digits.h"
 #include "core/base/failure.h"
@@ -128,9 +129,28 @@ double leadingHexadecimal(std::string_view text) {
     return value;
 }
 
+/// The number of a text of up to 15 decimal digits and nothing else, which a double holds exactly, or nothing.
+std::optional<double> plainWhole(std::string_view text) {
+    constexpr std::size_t mostDigits = 15;
+    if (text.empty() || text.size() > mostDigits) {
+        return std::nullopt;
+    }
+    std::int64_t number = 0;
+    for (const char c : text) {
+        if (!isDigit(c)) {
+            return std::nullopt;
+        }
+        number = number * 10 + (c - '0');
+    }
+    return static_cast<double>(number);
+}
+
 } // namespace
 
 double strictNumber(std::string_view text) {
+    if (const std::optional<double> number = plainWhole(text)) {
+        return *number;
+    }
     while (!text.empty() && isSkipped(text.front())) {
         text.remove_prefix(1);
     }
@@ -146,6 +166,9 @@ double strictNumber(std::string_view text) {
 }
 
 double leadingNumber(std::string_view text) {
+    if (const std::optional<double> number = plainWhole(text)) {
+        return *number;
+    }
     std::string characters(text);
     characters.erase(std::remove_if(characters.begin(), characters.end(), &isSkipped), characters.end());
     if (characters.starts_with("&H") || characters.starts_with("&h")) {

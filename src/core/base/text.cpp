@@ -26,14 +26,20 @@ std::string joined(Texts texts) {
 }
 
 void join(std::string& target, Texts texts) {
-    std::size_t size = 0;
+    target.clear();
+    append(target, texts);
+}
+
+void append(std::string& target, std::span<const std::string_view> texts) {
+    const std::size_t start = target.size();
+    std::size_t size = start;
     for (const std::string_view text : texts) {
         size += text.size();
     }
-    target.clear();
-    target.reserve(size);
+    target.resize(size); // once for all of them: each growth of a text has its price
+    char* place = target.data() + start;
     for (const std::string_view text : texts) {
-        target += text;
+        place = std::copy(text.begin(), text.end(), place);
     }
 }
 
@@ -109,31 +115,43 @@ int HexDigitValue(std::string_view text) {
 }
 
 std::string ByteToHex2(long long value) {
-    if (value >= 0 && value <= 255) { // what nearly all callers have, and the grid 256 times
-        static constexpr std::string_view digits = "0123456789ABCDEF";
-        return {digits[static_cast<std::size_t>(value / 16)], digits[static_cast<std::size_t>(value % 16)]};
+    if (value >= 0 && value <= 255) {
+        return std::string(byteText(static_cast<int>(value)));
     }
     return hexadecimal16(int16From(value));
 }
 
+std::string_view byteText(int byte) {
+    static constexpr auto texts = [] {
+        constexpr std::string_view digits = "0123456789ABCDEF";
+        std::array<char, 512> all{};
+        for (std::size_t value = 0; value < 256; ++value) {
+            all[2 * value] = digits[value / 16];
+            all[2 * value + 1] = digits[value % 16];
+        }
+        return all;
+    }();
+    return {texts.data() + 2 * static_cast<std::size_t>(byte), 2};
+}
+
 std::string HexToBinaryText(std::string_view text) {
-    static constexpr std::array<std::string_view, 16> nibbles = {"0000", "0001", "0010", "0011", "0100", "0101",
-                                                                 "0110", "0111", "1000", "1001", "1010", "1011",
-                                                                 "1100", "1101", "1110", "1111"};
     std::string result;
     result.reserve(text.size() * 4);
     for (const char c : text) {
-        int digit = -1;
-        if (c >= '0' && c <= '9') {
-            digit = c - '0';
-        } else if (c >= 'A' && c <= 'F') {
-            digit = c - 'A' + 10;
-        }
-        if (digit >= 0) {
-            result += nibbles[static_cast<std::size_t>(digit)];
-        }
+        result += binaryDigitsOf(c);
     }
     return result;
+}
+
+std::string_view binaryDigitsOf(char c) {
+    static constexpr std::string_view nibbles = "0000000100100011010001010110011110001001101010111100110111101111";
+    if (c >= '0' && c <= '9') {
+        return nibbles.substr(static_cast<std::size_t>(c - '0') * 4, 4);
+    }
+    if (c >= 'A' && c <= 'F') {
+        return nibbles.substr(static_cast<std::size_t>(c - 'A' + 10) * 4, 4);
+    }
+    return {};
 }
 
 std::string leftPart(std::string_view text, std::size_t count) {

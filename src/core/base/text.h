@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,11 @@ using Texts = std::initializer_list<std::string_view>;
 std::string joined(Texts texts);
 /// Puts the texts one behind the other into `target`, which lends its room; none of them may be a part of it.
 void join(std::string& target, Texts texts);
+/// Adds the texts, one behind the other, to `target`, of which none may be a part.
+void append(std::string& target, std::span<const std::string_view> texts);
+inline void append(std::string& target, Texts texts) {
+    append(target, std::span(texts.begin(), texts.size()));
+}
 /// `count` blanks, at most 128; none for a count below 1.
 std::string_view blanks(int count);
 /// The blanks that `text` lacks to be `width` wide.
@@ -46,9 +52,13 @@ int HexDigitValue(std::string_view text);
 /// Upper-case hexadecimal form of a 16-bit number with at least two digits; neither padded further nor cut, so that 256
 /// gives three digits and a negative number four. A number that does not fit 16 bits is an Overflow of the caller.
 std::string ByteToHex2(long long value);
+/// The form of a byte, 0 to 255, that ByteToHex2 gives.
+std::string_view byteText(int byte);
 /// Four binary digits for each of "0" to "9" and "A" to "F"; every other character, lower-case digits too, gives
 /// nothing.
 std::string HexToBinaryText(std::string_view text);
+/// The same of one character.
+std::string_view binaryDigitsOf(char c);
 
 /// Parts of a text by count of characters, as far as it has them; positions are 1-based.
 std::string leftPart(std::string_view text, std::size_t count);
