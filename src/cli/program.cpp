@@ -26,13 +26,18 @@ std::string withPlatformLineEnds(std::string_view text) {
 #ifdef _WIN32
     return std::string(text);
 #else
-    std::string result;
-    result.reserve(text.size());
-    for (std::size_t end = text.find(crLf); end != std::string_view::npos; end = text.find(crLf)) {
-        result += text.substr(0, end);
-        text.remove_prefix(end + 1); // the line feed stays, as the first of the next piece
+    std::string result(text.size(), '\0');
+    char* place = result.data();
+    std::size_t start = 0; // of what is not copied yet
+    for (std::size_t end = text.find('\r'); end != std::string_view::npos; end = text.find('\r', end + 1)) {
+        if (end + 1 < text.size() && text[end + 1] == '\n') {
+            place += text.copy(place, end - start, start);
+            start = end + 1;
+        }
     }
-    return result += text;
+    place += text.copy(place, std::string_view::npos, start);
+    result.resize(static_cast<std::size_t>(place - result.data()));
+    return result;
 #endif
 }
 

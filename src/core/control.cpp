@@ -9,11 +9,12 @@ namespace wb {
 
 namespace {
 
-/// What most controls have of a property is what they were made with: telling so is cheaper than writing it.
-template <class Property>
-void takeOver(Property& property, const Property& asMade) {
-    if (property != asMade) {
-        property = asMade;
+/// Most controls were made with the text that they have: telling so is cheaper than writing it.
+void takeOverText(std::string& text, const std::string& asMade) {
+    if (asMade.empty()) {
+        text.clear();
+    } else if (text != asMade) {
+        text = asMade;
     }
 }
 
@@ -214,10 +215,7 @@ void Control::setHeight(int height) {
     changed();
 }
 
-void Control::takeBack(const Control& asMade) {
-    if (!touched_) {
-        return;
-    }
+void Control::takeOver(const Control& asMade) {
     value_ = asMade.value_;
     maxLength_ = asMade.maxLength_;
     tag_ = asMade.tag_;
@@ -229,10 +227,12 @@ void Control::takeBack(const Control& asMade) {
     enabled_ = asMade.enabled_;
     locked_ = asMade.locked_;
     fontBold_ = asMade.fontBold_;
-    takeOver(text_, asMade.text_);
-    takeOver(caption_, asMade.caption_);
-    takeOver(rows_, asMade.rows_);
-    touched_ = false;
+    takeOverText(text_, asMade.text_);
+    takeOverText(caption_, asMade.caption_);
+    if (rowsTouched_) {
+        rows_ = asMade.rows_;
+    }
+    markAsMade();
 }
 
 void Control::changed() {

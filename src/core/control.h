@@ -114,6 +114,7 @@ public:
     void setRows(std::vector<std::string> rows) {
         rows_ = std::move(rows);
         touched_ = true;
+        rowsTouched_ = true;
     }
     /// All 0 where the logic never moves or sizes the control.
     const Bounds& bounds() const { return bounds_; }
@@ -124,13 +125,21 @@ public:
     void placeIn(Control& container) { container_ = &container; }
 
     /// From here on the control counts as unchanged.
-    void markAsMade() { touched_ = false; }
+    void markAsMade() {
+        touched_ = false;
+        rowsTouched_ = false;
+    }
     /// Takes every property over from the same control of a screen of the same kind, unless none has changed since the
     /// mark; no view is told.
-    void takeBack(const Control& asMade);
+    void takeBack(const Control& asMade) {
+        if (touched_) {
+            takeOver(asMade);
+        }
+    }
 
 private:
     void changed();
+    void takeOver(const Control& asMade);
 
     std::string_view name_;
     Screen* screen_;
@@ -150,7 +159,8 @@ private:
     bool enabled_ = true;
     bool locked_ = false;
     bool fontBold_ = false;
-    bool touched_ = false; ///< a property was set since the mark
+    bool touched_ = false;     ///< a property was set since the mark
+    bool rowsTouched_ = false; ///< the rows were
     std::string text_;
     std::string caption_;
     std::vector<std::string> rows_;

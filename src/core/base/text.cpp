@@ -2,10 +2,41 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "core/base/numbers.h"
 
 namespace wb {
+
+namespace {
+
+/// Two pieces of that size, which may overlap, make up the text.
+template <std::size_t pieceSize>
+void copyEnds(char* place, std::string_view text) {
+    std::array<char, pieceSize> front;
+    std::array<char, pieceSize> back;
+    std::memcpy(front.data(), text.data(), pieceSize);
+    std::memcpy(back.data(), text.data() + text.size() - pieceSize, pieceSize);
+    std::memcpy(place, front.data(), pieceSize);
+    std::memcpy(place + text.size() - pieceSize, back.data(), pieceSize);
+}
+
+/// Most texts have a few characters, for which a call costs more than the copying.
+void copyTo(char* place, std::string_view text) {
+    if (text.size() > 16) {
+        std::memcpy(place, text.data(), text.size());
+    } else if (text.size() >= 8) {
+        copyEnds<8>(place, text);
+    } else if (text.size() >= 4) {
+        copyEnds<4>(place, text);
+    } else if (text.size() >= 2) {
+        copyEnds<2>(place, text);
+    } else if (text.size() == 1) {
+        *place = text.front();
+    }
+}
+
+} // namespace
 
 char upperCase(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
@@ -39,7 +70,8 @@ void append(std::string& target, std::span<const std::string_view> texts) {
     target.resize(size); // once for all of them: each growth of a text has its price
     char* place = target.data() + start;
     for (const std::string_view text : texts) {
-        place = std::copy(text.begin(), text.end(), place);
+        copyTo(place, text);
+        place += text.size();
     }
 }
 
