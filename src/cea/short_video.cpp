@@ -1,5 +1,8 @@
 #include "cea/short_video.h"
 
+#include <algorithm>
+#include <array>
+
 #include "cea/digits.h"
 #include "cea/handlers.h"
 #include "cea/location.h"
@@ -50,15 +53,17 @@ void writeDescriptor(const Procedure& run, const std::string& digits) {
     run.write(run.workbench.ShortVideoCell, ByteToHex2(binaryNumber(run.workbench, digits)));
 }
 
+constexpr std::array<std::string_view, videoFormats.size()> videoFormatRows = [] {
+    std::array<std::string_view, videoFormats.size()> rows{};
+    std::transform(videoFormats.begin(), videoFormats.end(), rows.begin(),
+                   [](const VideoFormat& format) { return format.listRow(); });
+    return rows;
+}();
+
 } // namespace
 
 void fillVideoFormats(FrmCeaExt& screen) {
-    std::vector<std::string> rows;
-    rows.reserve(videoFormats.size());
-    for (const VideoFormat& format : videoFormats) {
-        rows.emplace_back(format.listRow());
-    }
-    screen.VideoBlkCBox.setRows(std::move(rows));
+    screen.VideoBlkCBox.setRows(videoFormatRows);
 }
 
 void BuildShortVideo(Workbench& workbench) {

@@ -62,13 +62,29 @@ void Control::setText(std::string_view text) {
     changed();
 }
 
+const std::string& Control::caption() const {
+    if (!lentCaption_.empty()) {
+        caption_ = lentCaption_;
+        lentCaption_ = {};
+    }
+    return caption_;
+}
+
 void Control::setCaption(std::string_view caption) {
     caption_ = caption;
+    lentCaption_ = {};
     changed();
 }
 
 void Control::setCaption(Texts texts) {
     join(caption_, texts);
+    lentCaption_ = {};
+    changed();
+}
+
+void Control::lendCaption(std::string_view caption) {
+    caption_.clear();
+    lentCaption_ = caption;
     changed();
 }
 
@@ -229,9 +245,8 @@ void Control::takeOver(const Control& asMade) {
     fontBold_ = asMade.fontBold_;
     takeOverText(text_, asMade.text_);
     takeOverText(caption_, asMade.caption_);
-    if (rowsTouched_) {
-        rows_ = asMade.rows_;
-    }
+    lentCaption_ = asMade.lentCaption_;
+    rows_ = asMade.rows_;
     markAsMade();
 }
 
@@ -244,7 +259,7 @@ SingleControl::SingleControl(Screen& screen, std::string_view name, ControlKind 
                              std::string_view caption)
     : Control(screen, name, kind, container, on, nullptr, noIndex) {
     if (!caption.empty()) {
-        setCaption(caption);
+        lendCaption(caption);
     }
 }
 
@@ -282,7 +297,7 @@ void ControlArray::deselect(int to) {
 void ControlArray::setCaptions(std::initializer_list<std::string_view> captions) {
     int index = first_;
     for (const std::string_view caption : captions) {
-        (*this)(index++).setCaption(caption);
+        (*this)(index++).lendCaption(caption);
     }
 }
 

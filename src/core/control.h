@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -62,8 +63,11 @@ public:
     const std::string& text() const { return text_; }
     /// Puts the selection to 0, 0. On a combo the row follows where a row has that text; no event is raised.
     void setText(std::string_view text);
-    const std::string& caption() const { return caption_; }
+    const std::string& caption() const;
     void setCaption(std::string_view caption);
+    /// The same with a text that outlives the control. It is copied when it is first asked for: a screen is made with
+    /// hundreds of captions, of which few are.
+    void lendCaption(std::string_view caption);
     /// The texts one behind the other.
     void setCaption(Texts texts);
 
@@ -109,12 +113,11 @@ public:
     int selStart() const { return selStart_; }
     int selLength() const { return selLength_; }
     void setSelection(int start, int length);
-    /// The rows of a combo; setting them changes neither value nor text.
-    const std::vector<std::string>& rows() const { return rows_; }
-    void setRows(std::vector<std::string> rows) {
-        rows_ = std::move(rows);
+    /// The rows of a combo, which outlive it; setting them changes neither value nor text.
+    std::span<const std::string_view> rows() const { return rows_; }
+    void setRows(std::span<const std::string_view> rows) {
+        rows_ = rows;
         touched_ = true;
-        rowsTouched_ = true;
     }
     /// All 0 where the logic never moves or sizes the control.
     const Bounds& bounds() const { return bounds_; }
@@ -125,10 +128,7 @@ public:
     void placeIn(Control& container) { container_ = &container; }
 
     /// From here on the control counts as unchanged.
-    void markAsMade() {
-        touched_ = false;
-        rowsTouched_ = false;
-    }
+    void markAsMade() { touched_ = false; }
     /// Takes every property over from the same control of a screen of the same kind, unless none has changed since the
     /// mark; no view is told.
     void takeBack(const Control& asMade) {
@@ -159,11 +159,11 @@ private:
     bool enabled_ = true;
     bool locked_ = false;
     bool fontBold_ = false;
-    bool touched_ = false;     ///< a property was set since the mark
-    bool rowsTouched_ = false; ///< the rows were
+    bool touched_ = false; ///< a property was set since the mark
     std::string text_;
-    std::string caption_;
-    std::vector<std::string> rows_;
+    mutable std::string caption_;
+    mutable std::string_view lentCaption_; ///< in place of the caption, until that is asked for
+    std::span<const std::string_view> rows_;
 };
 
 /// A control that is in no array.
@@ -202,7 +202,7 @@ public:
     /// that was set raises its Click.
     void deselect(int to);
     void deselect() { deselect(last()); }
-    /// Captions of the elements from the first one on.
+    /// Captions of the elements from the first one on; the texts outlive them.
     void setCaptions(std::initializer_list<std::string_view> captions);
 
     Handlers on;

@@ -14,8 +14,10 @@ std::string_view screenName(ScreenId id) {
     return names[static_cast<std::size_t>(id)];
 }
 
-Screen::Screen(Workbench& workbench, ScreenId id, std::string_view caption)
-    : workbench_(&workbench), id_(id), caption_(caption) {}
+Screen::Screen(Workbench& workbench, ScreenId id, std::string_view caption, std::size_t roughly)
+    : workbench_(&workbench), id_(id), caption_(caption) {
+    controls_.reserve(roughly);
+}
 
 void Screen::setCaption(std::string caption) {
     caption_ = std::move(caption);

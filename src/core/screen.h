@@ -29,7 +29,8 @@ std::string_view screenName(ScreenId id);
 /// step then; unloading one discards it.
 class Screen {
 public:
-    Screen(Workbench& workbench, ScreenId id, std::string_view caption);
+    /// `roughly` tells how many controls there will be.
+    Screen(Workbench& workbench, ScreenId id, std::string_view caption, std::size_t roughly = 0);
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
     virtual ~Screen() = default;

@@ -9,16 +9,16 @@ FrmEdid::FrmEdid(Workbench& workbench) : BlockScreen(workbench, ScreenId::Edid, 
     for (int cell = first; cell <= cells::version; ++cell) {
         txtEdit(cell).setTag(tags[cell - first]);
     }
-    Hints(0).setCaption("Header (0 - 7)");
-    Hints(1).setCaption("Vendor (8-17)");
-    Hints(2).setCaption("EDID Version/Revision (18-19)");
-    Hints(3).setCaption("Basic Display Parameters(20-24)");
-    Hints(4).setCaption("Chromaticity (25-34)");
-    Hints(5).setCaption("Established Timing I: (35)");
-    Hints(6).setCaption("Established Timing II: (36)");
-    Hints(7).setCaption("Manufacturer's Timings: (37)");
-    Hints(8).setCaption("Standard Timing (38-53)");
-    Hints(13).setCaption("Extension Flag and CheckSum");
+    Hints(0).lendCaption("Header (0 - 7)");
+    Hints(1).lendCaption("Vendor (8-17)");
+    Hints(2).lendCaption("EDID Version/Revision (18-19)");
+    Hints(3).lendCaption("Basic Display Parameters(20-24)");
+    Hints(4).lendCaption("Chromaticity (25-34)");
+    Hints(5).lendCaption("Established Timing I: (35)");
+    Hints(6).lendCaption("Established Timing II: (36)");
+    Hints(7).lendCaption("Manufacturer's Timings: (37)");
+    Hints(8).lendCaption("Standard Timing (38-53)");
+    Hints(13).lendCaption("Extension Flag and CheckSum");
 
     lbVendor.setCaptions({"Manufacturer", "Product Code", "Serial Number", "Week Manufactured", "Year Manufactured ",
                           "Complete Serial Number", ""});
@@ -57,7 +57,7 @@ FrmEdid::FrmEdid(Workbench& workbench) : BlockScreen(workbench, ScreenId::Edid, 
     for (ControlArray* adjusts : {&STAOpta, &ExtSTAOpta}) {
         adjusts->setCaptions({"Adjust Horizontal ", "Adjust Frequency"});
     }
-    ExtSTOpt(6).setCaption("Disable this option.");
+    ExtSTOpt(6).lendCaption("Disable this option.");
 
     DTa.setCaptions({"Monitor Serial Number", "ASCII String", "Monitor Range Limits", "Monitor Name",
                      "Color Point Data", "Standard Timing Data", "Currently Undefined", "Defined by Manufacturer"});

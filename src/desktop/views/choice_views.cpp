@@ -180,14 +180,14 @@ void ComboView::refresh() {
     ControlView::refresh();
     const Control& model = *control();
     const QSignalBlocker quiet(box_);
-    const std::vector<std::string>& rows = model.rows();
+    const std::span<const std::string_view> rows = model.rows();
     bool same = box_->count() == static_cast<int>(rows.size());
     for (int i = 0; same && i < box_->count(); ++i) {
         same = box_->itemText(i) == toUnicode(rows[static_cast<std::size_t>(i)]);
     }
     if (!same) {
         box_->clear();
-        for (const std::string& row : rows) {
+        for (const std::string_view row : rows) {
             box_->addItem(toUnicode(row));
         }
     }
