@@ -135,6 +135,23 @@ TEST_F(States, MarkATitleWhileThereAreChangesToSave) {
     EXPECT_FALSE(child.isWindowModified());
 }
 
+TEST_F(States, KeepTheMarkOfChangesThatCouldNotBeSaved) {
+    program.newImage();
+    modify();
+    focus(edid().txtEdit(23));
+    type("78");
+    const TemporaryFolder folder;
+    program.platform.queueFileName(folder.file("missing/a.DAT"));
+    choose(frame().mnuFileSave);
+    EXPECT_EQ(takeBoxes(), std::vector<std::string>{"Path/File access error"});
+    EXPECT_TRUE(window().isWindowModified());
+    EXPECT_EQ(edid().txtEdit(23).text(), "78");
+    program.platform.queueFileName(folder.file("a.DAT"));
+    choose(frame().mnuFileSaveAs);
+    EXPECT_FALSE(window().isWindowModified()) << "elsewhere there is room";
+    EXPECT_FALSE(TemporaryFolder::read(folder.file("a.DAT")).empty());
+}
+
 TEST_F(States, ShowButtonsPressedWhileTheyAreOn) {
     program.newImage();
     const auto& modifies = program.widgetAs<QPushButton>(frame().Command2);

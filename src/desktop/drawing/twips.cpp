@@ -1,5 +1,7 @@
 #include "desktop/drawing/twips.h"
 
+#include <QWidget>
+#include <algorithm>
 #include <cmath>
 
 namespace wb::desktop {
@@ -15,7 +17,8 @@ double twipsPerPixel(const QWidget& widget) {
 } // namespace
 
 int toPixels(const QWidget& widget, double twips) {
-    return static_cast<int>(std::lround(twips / twipsPerPixel(widget)));
+    constexpr double largest = QWIDGETSIZE_MAX;
+    return static_cast<int>(std::lround(std::clamp(twips / twipsPerPixel(widget), -largest, largest)));
 }
 
 float toTwips(const QWidget& widget, int pixels) {

@@ -1,5 +1,6 @@
 #include "desktop/tools/dock_places.h"
 
+#include <QCryptographicHash>
 #include <QEvent>
 #include <QTimer>
 #include <utility>
@@ -16,6 +17,18 @@ platform::Settings& settingsOf(const MainView& frame) {
     return frame.screen()->workbench().platform.settings;
 }
 
+/// A state for the settings, with its hash before it: the toolkit takes a state at its word, and a damaged one would
+/// end the program at every start.
+QByteArray sealed(const QByteArray& state) {
+    return QCryptographicHash::hash(state, QCryptographicHash::Sha256).toBase64() + ' ' + state.toBase64();
+}
+
+/// The state in such a text; empty where the text is none.
+QByteArray unsealed(const QByteArray& text) {
+    const QByteArray state = QByteArray::fromBase64(text.mid(text.indexOf(' ') + 1));
+    return sealed(state) == text ? state : QByteArray();
+}
+
 } // namespace
 
 void DockPlaces::watch(QDockWidget& dock) {
@@ -28,7 +41,7 @@ void DockPlaces::restore() {
         return;
     }
     stored_ = QByteArray::fromStdString(settingsOf(frame_).read(docksSetting).value_or(""));
-    frame_.window().restoreState(QByteArray::fromBase64(stored_));
+    frame_.window().restoreState(unsealed(stored_));
     restored_ = true;
 }
 
@@ -59,7 +72,7 @@ void DockPlaces::note() {
     if (frame_.screen() == nullptr || !window.isVisible() || window.isMinimized()) {
         return; // the docks are hidden with it
     }
-    const QByteArray now = window.saveState().toBase64();
+    const QByteArray now = sealed(window.saveState());
     if (now != stored_) {
         stored_ = now;
         settingsOf(frame_).write(docksSetting, now.toStdString());
