@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <functional>
 #include <memory>
 
 #include "cli/commands.h"
@@ -30,7 +31,7 @@ struct Options {
     ImageOptions images;
 };
 
-/// What is known of one file.
+/// What is known of one image.
 struct Checked {
     std::vector<CheckResult> results;
     Reading reading;
@@ -65,18 +66,19 @@ std::vector<CheckResult> boxesOf(const Input& input) {
     return results;
 }
 
-std::vector<Checked> checkFile(const std::string& name, const ImageOptions& options) {
+/// Gives what is known of each image of a file, of which it keeps one at a time; a data file holds one.
+void checkFile(const std::string& name, const ImageOptions& options,
+               const std::function<void(const Checked& checked)>& take) {
     const Contents contents = contentsOf(readInput(name), options);
-    std::vector<Checked> checked;
     for (const Image& image : imagesOf(contents)) {
         const std::size_t most = contents.isDataFile ? Image::editedBlocks : Image::mostBlocks;
-        checked.push_back({checkImage(image, most), fields::read(image)});
+        Checked checked{checkImage(image, most), fields::read(image)};
+        if (contents.isDataFile) {
+            const std::vector<CheckResult> boxes = boxesOf(contents.input);
+            checked.results.insert(checked.results.end(), boxes.begin(), boxes.end());
+        }
+        take(checked);
     }
-    if (contents.isDataFile) {
-        const std::vector<CheckResult> boxes = boxesOf(contents.input);
-        checked.front().results.insert(checked.front().results.end(), boxes.begin(), boxes.end());
-    }
-    return checked;
 }
 
 std::vector<Finding> findingsFrom(const Checked& checked, Severity level) {
@@ -132,13 +134,13 @@ int run(const Options& options) {
         print(tsvLine({"file", "severity", "code", "block", "byte", "path", "text", "clause"}));
     }
     const bool read = forEachFile(options.files, [&](const std::string& name) {
-        for (const Checked& checked : checkFile(name, options.images)) {
+        checkFile(name, options.images, [&](const Checked& checked) {
             const std::vector<Finding> findings = findingsFrom(checked, level);
             good = good && checked.good() && findingsFrom(checked, failOn).empty();
             if (!options.quiet || !findings.empty() || !checked.good()) {
                 tell(checked, findings, format);
             }
-        }
+        });
     });
     return good && read ? success : somethingFailed;
 }

@@ -96,7 +96,7 @@ int run(const Options& options) {
         print(tsvLine({"file", "path", "where", "raw", "value", "unit", "text", "clause"}));
     }
     const bool good = forEachFile(options.files, [&](const std::string& name) {
-        for (const Reading& reading : readingsOf(name, options.images)) {
+        forEachReading(name, options.images, [&](const Reading& reading) {
             if (format == OutputFormat::Json) {
                 print(fields::toJson(reading));
                 print("\n");
@@ -106,7 +106,7 @@ int run(const Options& options) {
                 print(std::exchange(first, false) ? "" : "\n");
                 printTable(reading, colour);
             }
-        }
+        });
     });
     return good ? success : somethingFailed;
 }

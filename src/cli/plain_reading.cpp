@@ -63,13 +63,12 @@ OutputFormat outputFormatOf(const std::string& name) {
     return name == "json" ? OutputFormat::Json : name == "tsv" ? OutputFormat::Tsv : OutputFormat::Text;
 }
 
-std::vector<fields::Reading> readingsOf(const std::string& name, const ImageOptions& options) {
-    std::vector<fields::Reading> readings;
+void forEachReading(const std::string& name, const ImageOptions& options,
+                    const std::function<void(const fields::Reading& reading)>& take) {
     const Contents contents = contentsOf(readInput(name), options);
     for (const Image& image : imagesOf(contents)) {
-        readings.push_back(fields::read(image));
+        take(fields::read(image));
     }
-    return readings;
 }
 
 std::string valueText(const fields::Value& value) {

@@ -23,8 +23,10 @@ void addFormatOption(Syntax& syntax, std::string& format, Option::Names names);
 /// The format of that name: "text", "json" or "tsv".
 OutputFormat outputFormatOf(const std::string& name);
 
-/// The plain readings of all images of a file. One that holds no image is a CliError.
-std::vector<fields::Reading> readingsOf(const std::string& name, const ImageOptions& options);
+/// Gives the plain reading of each image of a file, of which it keeps one at a time. A file that holds no image is a
+/// CliError.
+void forEachReading(const std::string& name, const ImageOptions& options,
+                    const std::function<void(const fields::Reading& reading)>& take);
 
 /// The value of a field as one text: numbers in full, "true" or "false", lists with commas, empty where there is none.
 std::string valueText(const fields::Value& value);

@@ -31,13 +31,15 @@ void appendPair(std::string_view pair, DataFileBytes& result) {
 std::optional<DataFileBytes> readDataFile(std::string_view text) {
     std::optional<DataFileBytes> result;
     std::size_t toSkip = 0;
-    for (const auto& [line, place] : linesOf(text)) {
+    for (std::size_t place = 0; place < text.size();) {
+        const auto [line, next] = lineAt(text, place);
+        place = next;
         if (toSkip > 0) {
             --toSkip;
             continue;
         }
         if (result) {
-            files::forEachPair(line, [&](std::string_view pair) { appendPair(pair, *result); });
+            files::forEachPair(line, [&result](std::string_view pair) { appendPair(pair, *result); });
         }
         if (hasMarker(line)) {
             result = result ? result : DataFileBytes{};

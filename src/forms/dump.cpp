@@ -43,15 +43,12 @@ constexpr std::array<int, 3> offsetBases = {16, 8, 10};
 /// An offset stands behind at most so many words of a log.
 constexpr std::size_t mostPrefixWords = 12;
 
-std::vector<std::string_view> wordsOf(std::string_view line) {
-    std::vector<std::string_view> words;
-    std::size_t place = 0;
-    while ((place = line.find_first_not_of(" \t", place)) != std::string_view::npos) {
-        const std::size_t end = std::min(line.find_first_of(" \t", place), line.size());
-        words.push_back(line.substr(place, end - place));
-        place = end;
-    }
-    return words;
+/// Takes the first word off a line; an empty one where there is none.
+std::string_view takeWord(std::string_view& line) {
+    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+    const std::string_view word = line.substr(0, line.find_first_of(" \t"));
+    line.remove_prefix(word.size());
+    return word;
 }
 
 std::optional<std::size_t> offsetOf(std::string_view word, int base) {
@@ -143,14 +140,14 @@ std::string charactersOf(std::string_view columns) {
 /// Reads dumps of one kind of unit and offset.
 class DumpReader {
 public:
-    DumpReader(const std::vector<Line>& lines, const UnitForm& form, int offsetBase)
-        : lines_(lines), form_(form), offsetBase_(offsetBase) {}
+    DumpReader(std::string_view text, const UnitForm& form, int offsetBase)
+        : text_(text), form_(form), offsetBase_(offsetBase) {}
 
-    std::vector<Found> read() {
-        for (index_ = 0; index_ < lines_.size();) {
-            if (!takeDump()) {
-                ++index_;
-            }
+    /// Reads from the line on that begins there.
+    std::vector<Found> readFrom(std::size_t place) {
+        place_ = place;
+        while (place_ < text_.size()) {
+            takeDump();
         }
         return std::move(found_);
     }
@@ -162,21 +159,23 @@ private:
     };
 
     /// The row of a line whose offset is from `least` to `most`.
-    std::optional<Row> rowOf(std::size_t index, std::size_t least, std::size_t most) const {
-        const std::string_view line = lines_[index].text;
-        const std::vector<std::string_view> words = wordsOf(line);
-        for (std::size_t k = 0; k < std::min(words.size(), mostPrefixWords); ++k) {
-            const std::optional<std::size_t> offset = offsetOf(words[k], offsetBase_);
+    std::optional<Row> rowOf(std::string_view line, std::size_t least, std::size_t most) const {
+        for (std::size_t k = 0; k < mostPrefixWords; ++k) {
+            const std::string_view word = takeWord(line);
+            if (word.empty()) {
+                break;
+            }
+            const std::optional<std::size_t> offset = offsetOf(word, offsetBase_);
             if (offset && *offset >= least && *offset <= most) {
                 Row row{*offset, {}};
                 if (form_.order == Order::Characters) {
-                    row.bytes = charactersOf({words[k].data() + words[k].size(), line.data() + line.size()});
+                    row.bytes = charactersOf(line);
                     return row;
                 }
-                if (form_.bytes == 8 && words[k].ends_with(':')) {
+                if (form_.bytes == 8 && word.ends_with(':')) {
                     return std::nullopt;
                 }
-                for (++k; k < words.size() && appendUnit(words[k], form_, row.bytes); ++k) {
+                while (appendUnit(takeWord(line), form_, row.bytes)) {
                 }
                 return row;
             }
@@ -184,33 +183,41 @@ private:
         return std::nullopt;
     }
 
-    /// The first line from `index` on that is not empty.
-    std::size_t nextLine(std::size_t index) const {
-        while (index < lines_.size() && lines_[index].text.find_first_not_of(" \t") == std::string_view::npos) {
-            ++index;
+    /// The place of the first line from `place` on that is not empty; the end of the text where there is none.
+    std::size_t nextLine(std::size_t place) const {
+        while (place < text_.size()) {
+            const Line line = lineAt(text_, place);
+            if (line.text.find_first_not_of(" \t") != std::string_view::npos) {
+                break;
+            }
+            place = line.next;
         }
-        return index;
+        return place;
     }
 
-    /// Takes the dump that begins in this line. False where none does.
-    bool takeDump() {
-        std::optional<Row> row = rowOf(index_, 0, 0);
+    /// Takes the dump that begins in this line, or the line alone where none does.
+    void takeDump() {
+        const Line first = lineAt(text_, place_);
+        std::optional<Row> row = rowOf(first.text, 0, 0);
         if (!row || !row->bytes.starts_with(imageHeader)) {
-            return false;
+            place_ = first.next;
+            return;
         }
-        Found dump{.bytes = {}, .place = lines_[index_].place};
+        Found dump{.bytes = {}, .place = place_};
         std::size_t rowLength = row->bytes.size();
-        std::size_t next = index_ + 1;
+        place_ = first.next; // behind the last row taken
         for (;;) {
-            next = nextLine(next);
-            const bool repeats = next < lines_.size() && lines_[next].text == "*";
+            place_ = nextLine(place_);
+            Line next = lineAt(text_, place_);
+            const bool repeats = next.text == "*";
             if (repeats) {
-                next = nextLine(next + 1);
+                place_ = nextLine(next.next);
+                next = lineAt(text_, place_);
             }
             const std::size_t least = dump.bytes.size() + 1;
             const std::size_t most =
                 repeats ? dump.bytes.size() + longestRepeat : dump.bytes.size() + row->bytes.size();
-            const std::optional<Row> following = next < lines_.size() ? rowOf(next, least, most) : std::nullopt;
+            const std::optional<Row> following = rowOf(next.text, least, most);
             rowLength = following && !repeats ? following->offset - dump.bytes.size() : rowLength;
             const std::string shown = row->bytes.substr(0, rowLength);
             dump.bytes += shown;
@@ -220,37 +227,49 @@ private:
             while (dump.bytes.size() < following->offset) {
                 dump.bytes += shown.substr(0, following->offset - dump.bytes.size());
             }
+            place_ = next.next;
             if (following->bytes.empty()) { // the offset of the end
-                ++next;
                 break;
             }
             row = following;
-            ++next;
         }
-        index_ = next;
         if (dump.bytes.size() >= Image::blockSize) {
             found_.push_back(std::move(dump));
         }
-        return true;
     }
 
     /// What a line "*" may stand for: an image has no more bytes.
     static constexpr std::size_t longestRepeat = Image::blockSize * Image::mostBlocks;
 
-    const std::vector<Line>& lines_;
+    std::string_view text_;
     const UnitForm& form_;
     int offsetBase_;
-    std::size_t index_ = 0;
+    std::size_t place_ = 0; ///< of the line that is looked at next
     std::vector<Found> found_;
 };
+
+/// The first line in which a dump may begin, whatever its units: one with the offset 0, which is zeros in every base.
+/// The end of the text where there is none.
+std::size_t firstBeginning(std::string_view text) {
+    for (std::size_t place = 0; place < text.size();) {
+        Line line = lineAt(text, place);
+        for (std::size_t k = 0; k < mostPrefixWords && !line.text.empty(); ++k) {
+            if (offsetOf(takeWord(line.text), offsetBases.front()) == std::size_t{0}) {
+                return place;
+            }
+        }
+        place = line.next;
+    }
+    return text.size();
+}
 
 } // namespace
 
 std::vector<Found> readDumps(std::string_view text) {
-    const std::vector<Line> lines = linesOf(text);
+    const std::size_t beginning = firstBeginning(text);
     for (const UnitForm& form : unitForms) {
         for (const int base : offsetBases) {
-            std::vector<Found> found = DumpReader(lines, form, base).read();
+            std::vector<Found> found = DumpReader(text, form, base).readFrom(beginning);
             if (!found.empty()) {
                 return found;
             }

@@ -22,17 +22,19 @@ struct HexRun {
     bool filler = false;    ///< the line has nothing but comments and brackets
 };
 
-/// One number of a line.
-struct Token {
-    std::string_view digits;
+/// One word of a line, which is a number where its digits are hexadecimal.
+struct Word {
+    std::string_view digits; ///< without a mark such as "0x"
     bool marked = false;
+    std::size_t end = 0; ///< its place in the line
 };
 
 bool isHexWord(std::string_view word) {
     return !word.empty() && std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; });
 }
 
-/// Splits a line into words and reads those that are hexadecimal.
+/// Splits a line into words and reads those that are hexadecimal. It looks at them twice, as a list of the words of a
+/// long line would be many times as large as the line.
 class LineReader {
 public:
     explicit LineReader(std::string_view line) : line_(withoutComments(line)) {}
@@ -80,8 +82,9 @@ private:
     }
 
     void forget() {
-        other_ = other_ || !tokens_.empty();
-        tokens_.clear();
+        other_ = other_ || first_ != line_.size();
+        first_ = line_.size();
+        marked_ = false;
     }
 
     std::size_t takeWord(std::size_t place) {
@@ -89,39 +92,49 @@ private:
             forget();
             endsHead_ = false;
         }
+        const Word word = wordAt(place);
+        if (!isHexWord(word.digits)) {
+            forget();
+            other_ = true;
+        } else {
+            first_ = std::min(first_, place);
+            last_ = place;
+            marked_ = marked_ || word.marked;
+        }
+        return word.end;
+    }
+
+    Word wordAt(std::size_t place) const {
         std::size_t end = place;
         while (end < line_.size() && isWordCharacter(line_[end])) {
             ++end;
         }
         const std::string_view word = line_.substr(place, end - place);
-        const bool escaped = place > 0 && line_[place - 1] == '\\' && word.front() == 'x';
+        const bool escaped = place > 0 && line_[place - 1] == '\\' && word.starts_with('x');
         const bool prefixed = word.starts_with("0x") || word.starts_with("0X");
-        const std::string_view digits = word.substr(escaped ? 1 : prefixed ? 2 : 0);
-        if (!isHexWord(digits)) {
-            forget();
-            other_ = true;
-        } else {
-            tokens_.push_back({digits, escaped || prefixed});
-        }
-        return end;
+        return {.digits = word.substr(escaped ? 1 : prefixed ? 2 : 0), .marked = escaped || prefixed, .end = end};
     }
 
     /// Where any number has a mark, those without one are none of the image's.
-    HexRun run() {
-        const bool marked =
-            std::any_of(tokens_.begin(), tokens_.end(), [](const Token& token) { return token.marked; });
-        HexRun result{.bytes = {}, .wholeLine = !other_, .marked = marked, .filler = isFiller()};
-        const std::size_t width = tokens_.empty() ? 0 : tokens_.front().digits.size();
-        for (const Token& token : tokens_) {
-            if (marked && !token.marked) {
+    HexRun run() const {
+        HexRun result{.bytes = {}, .wholeLine = !other_, .marked = marked_, .filler = isFiller()};
+        const std::size_t width = wordAt(first_).digits.size();
+        for (std::size_t place = first_; place < line_.size();) {
+            if (!isWordCharacter(line_[place])) {
+                ++place;
                 continue;
             }
-            const bool last = &token == &tokens_.back();
-            const bool single = marked && token.digits.size() == 1;
-            if (!single && (token.digits.size() % 2 != 0 || (!marked && !last && token.digits.size() != width))) {
+            const Word word = wordAt(place);
+            const bool last = place == last_;
+            place = word.end;
+            if (marked_ && !word.marked) {
+                continue;
+            }
+            const bool single = marked_ && word.digits.size() == 1;
+            if (!single && (word.digits.size() % 2 != 0 || (!marked_ && !last && word.digits.size() != width))) {
                 return {};
             }
-            appendPairs(single ? 1 : 2, token.digits, result.bytes);
+            appendPairs(single ? 1 : 2, word.digits, result.bytes);
         }
         return result;
     }
@@ -139,45 +152,40 @@ private:
     }
 
     std::string_view line_;
-    std::vector<Token> tokens_;
-    bool other_ = false;    ///< something that is no byte stands in front
-    bool endsHead_ = false; ///< one of the marks that end the head of a line came last
+    std::size_t first_ = line_.size(); ///< the number from which on they count; the end of the line where there is none
+    std::size_t last_ = 0;             ///< the last one
+    bool marked_ = false;              ///< one of those that count has a mark
+    bool other_ = false;               ///< something that is no byte stands in front
+    bool endsHead_ = false;            ///< one of the marks that end the head of a line came last
 };
 
 /// Collects the lines of images.
 class HexLinesReader {
 public:
-    explicit HexLinesReader(std::string_view text) : lines_(linesOf(text)) {}
+    explicit HexLinesReader(std::string_view text) : text_(text) {}
 
     std::vector<Found> read() {
-        blankLongComments();
-        for (std::size_t i = 0; i < lines_.size(); ++i) {
-            takeLine(lines_[i]);
+        while (place_ < text_.size()) {
+            const Line line = lineAt(text_, place_);
+            takeLine(line);
+            place_ = behind(line);
         }
         end();
         return std::move(found_);
     }
 
 private:
-    /// Takes the lines between the ends of a C comment away; a comment that does not end is none.
-    void blankLongComments() {
-        for (auto first = lines_.begin(); first != lines_.end(); ++first) {
-            const std::size_t begin = first->text.rfind("/*");
-            if (begin == std::string_view::npos || first->text.find("*/", begin) != std::string_view::npos) {
-                continue;
-            }
-            const auto last = std::find_if(first + 1, lines_.end(), [](const Line& line) {
-                return line.text.find("*/") != std::string_view::npos;
-            });
-            if (last == lines_.end()) {
-                return;
-            }
-            std::for_each(first + 1, last, [](Line& line) { line.text = {}; });
-            const std::size_t end = last->text.find("*/") + 2;
-            last->text.remove_prefix(end);
-            last->place += end;
-            first = last - 1; // another one may begin where this one ends
+    /// Where to go on behind a line: behind the end of the C comment that it leaves open; one that does not end is
+    /// none.
+    std::size_t behind(const Line& line) {
+        const std::size_t begin = line.text.rfind("/*");
+        const bool open = begin != std::string_view::npos && line.text.find("*/", begin) == std::string_view::npos;
+        if (!open || !commentsEnd_) {
+            return line.next;
         }
+        const std::size_t end = text_.find("*/", line.next);
+        commentsEnd_ = end != std::string_view::npos;
+        return commentsEnd_ ? end + 2 : line.next;
     }
 
     void takeLine(const Line& line) {
@@ -199,7 +207,7 @@ private:
         if (run.bytes.empty() || start == std::string::npos || (run.bytes.size() == 1 && !run.wholeLine)) {
             return;
         }
-        image_ = Found{run.bytes.substr(start), line.place};
+        image_ = Found{run.bytes.substr(start), place_};
         lead_ = start;
         rowLength_ = image_->bytes.size();
         anyLength_ = start == 0 && run.wholeLine;
@@ -262,7 +270,9 @@ private:
         image_.reset();
     }
 
-    std::vector<Line> lines_;
+    std::string_view text_;
+    std::size_t place_ = 0;   ///< of the line
+    bool commentsEnd_ = true; ///< no comment was met whose end does not come any more
     std::optional<Found> image_;
     std::size_t lead_ = 0;      ///< bytes in front of the header in the first line
     std::size_t rowLength_ = 0; ///< bytes of the first line

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
 
 #include "forms/lines.h"
 
@@ -54,14 +53,18 @@ std::string_view connectorIn(std::string_view line) {
 
 } // namespace
 
-std::string outputBefore(std::string_view text) {
-    const std::vector<Line> lines = linesOf(text);
-    for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
-        if (const std::string_view name = connectorIn(line->text); !name.empty()) {
-            return std::string(name);
+std::string Outputs::before(std::size_t place) {
+    for (;;) {
+        const Line line = lineAt(text_, line_);
+        if (line.next > place || line.next == line_) {
+            break;
         }
+        const std::string_view name = connectorIn(line.text);
+        last_ = name.empty() ? last_ : name;
+        line_ = line.next;
     }
-    return {};
+    const std::string_view name = connectorIn(text_.substr(line_, place - line_));
+    return std::string(name.empty() ? last_ : name);
 }
 
 } // namespace wb::forms

@@ -124,9 +124,10 @@ private:
     }
 
     void take(std::string_view form, const std::vector<Found>& found, std::string_view text) {
+        Outputs outputs(text);
         for (const Found& one : found) {
             ImageOrigin origin{.file = {}, .form = std::string(form), .output = {}};
-            origin.output = outputBefore(text.substr(0, one.place));
+            origin.output = outputs.before(one.place);
             if (auto image = Image::fromBytes(one.bytes, std::move(origin))) {
                 result_.images.push_back(std::move(*image));
             }

@@ -47,7 +47,9 @@ bool isPair(std::string_view word) {
 std::string firstOtherWord(std::string_view text) {
     constexpr std::size_t longestShown = 24;
     std::size_t number = 0;
-    for (const Line& line : linesOf(text)) {
+    for (std::size_t next = 0; next < text.size();) {
+        const Line line = lineAt(text, next);
+        next = line.next;
         ++number;
         for (std::size_t place = 0; (place = line.text.find_first_not_of(" \t,", place)) != std::string_view::npos;) {
             const std::size_t end = std::min(line.text.find_first_of(" \t,", place), line.text.size());

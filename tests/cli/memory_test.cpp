@@ -272,6 +272,25 @@ TEST_F(Memory, TheOthersAreTranslatedBesideALargeFile) {
     }
 }
 
+/// Short lines, or many words in a line, make no list that is many times as large as the text.
+TEST_F(Memory, OfATextIsAFewTimesItsLengthWhateverItsLines) {
+    constexpr std::size_t length = std::size_t{1} << 20U;
+    for (const std::string_view piece : {"\n", "a\n", "00 ", "00\n", "0,"}) {
+        std::string text;
+        text.reserve(length + piece.size());
+        while (text.size() < length) {
+            text += piece;
+        }
+        const std::string name = folder_.write("long.txt", text);
+        const Outcome outcome = run({"inspect", name}, [](const auto& work) {
+            const FailingSize size(3 * length);
+            work();
+        });
+        EXPECT_EQ(outcome.status, somethingFailed);
+        EXPECT_THAT(outcome.errors, StartsWith("edidwb: " + name + ": is no EDID image: ")) << piece;
+    }
+}
+
 /// Where a thread cannot be begun, those that run already do the work.
 TEST(MemoryOfJobs, TheWorkIsDoneByTheThreadsThatThereAre) {
     int ended = 0;

@@ -327,6 +327,17 @@ TEST(Recogniser, GivesAllImagesOfATextWithTheirOutputs) {
     EXPECT_EQ(result.images[1].origin().output, "HDMI-3");
 }
 
+TEST(Recogniser, KeepsTheOutputUntilAnotherOneIsNamed) {
+    const std::string image = base64(sample("halvorine-hv19.bin"), 1000);
+    const Recognition result =
+        recognise(image + "\nDP-1\n" + image + "\nmore\n" + image + "\n\nVGA-2 " + image + "\n" + image + " HDMI-3");
+    std::vector<std::string> outputs;
+    for (const Image& each : result.images) {
+        outputs.push_back(each.origin().output);
+    }
+    EXPECT_EQ(outputs, (std::vector<std::string>{"", "DP-1", "DP-1", "VGA-2", "VGA-2"}));
+}
+
 TEST(Recogniser, PassesOverCommentsAndHeadsBetweenTheRows) {
     const std::string bytes = sample("zarqo-z40.bin"); // announces its one extension
     const std::string first = plainRows(bytes.substr(0, 128), "\t", ", ", ",", "0x%02x");
