@@ -142,7 +142,7 @@ TEST_F(States, KeepTheMarkOfChangesThatCouldNotBeSaved) {
     type("78");
     const TemporaryFolder folder;
     program.platform.queueFileName(folder.file("missing/a.DAT"));
-    choose(frame().mnuFileSave);
+    choose(frame().mnuFileSaveAs);
     EXPECT_EQ(takeBoxes(), std::vector<std::string>{"Path/File access error"});
     EXPECT_TRUE(window().isWindowModified());
     EXPECT_EQ(edid().txtEdit(23).text(), "78");
