@@ -18,6 +18,10 @@ std::FILE* createFile(const std::filesystem::path& path, Readers readers);
 /// Creates a folder that is its user's alone from the beginning.
 std::error_code createOwnFolder(const std::filesystem::path& path);
 
+/// The file of that name behind its symbolic links; the folders on the way to it may be links still. Empty where there
+/// is none.
+std::filesystem::path behindLinks(const std::filesystem::path& path);
+
 /// Gives an open file owner, group and permissions of another one, as far as the system lets it: without the bits that
 /// let a program run as its owner or group, and where the group cannot be kept, with no more for the group than for
 /// all. Where the other file is not there nothing changes.

@@ -41,6 +41,15 @@ std::error_code createOwnFolder(const std::filesystem::path& path) {
     return mkdir(path.c_str(), S_IRWXU) == 0 ? std::error_code() : lastError();
 }
 
+std::filesystem::path behindLinks(const std::filesystem::path& path) {
+    struct stat status {};
+    if (lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode)) {
+        return path; // nearly all, and one question instead of one for each folder on the way
+    }
+    std::error_code ignored;
+    return std::filesystem::canonical(path, ignored);
+}
+
 void takeAccess(std::FILE* file, const std::filesystem::path& from) {
     struct stat old {};
     struct stat now {};

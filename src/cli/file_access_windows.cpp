@@ -20,6 +20,12 @@ std::error_code createOwnFolder(const std::filesystem::path& path) {
     return error;
 }
 
+/// Short names become the long ones, too.
+std::filesystem::path behindLinks(const std::filesystem::path& path) {
+    std::error_code ignored;
+    return std::filesystem::canonical(path, ignored);
+}
+
 void takeAccess(std::FILE*, const std::filesystem::path&) {}
 
 std::error_code syncFile(std::FILE* file) {

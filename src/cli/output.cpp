@@ -196,8 +196,8 @@ void writeFile(const std::string& name, std::string_view content, const WriteOpt
     }
     const fs::path place = finalPlace(path);
     const fs::path model = options.accessOf.empty() ? place : pathOf(options.accessOf);
-    TemporaryFile temporary(place.parent_path(),
-                            fs::exists(statusBy(&fs::status, model)) ? Readers::Owner : Readers::Usual);
+    const bool hasModel = fs::exists(options.accessOf.empty() ? status : statusBy(&fs::status, model));
+    TemporaryFile temporary(place.parent_path(), hasModel ? Readers::Owner : Readers::Usual);
     temporary.write(content);
     temporary.takeAccessOf(model);
     if (options.sync) {

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "cli/cli_error.h"
+#include "cli/file_access.h"
 #include "cli/input.h"
 #include "core/base/file_names.h"
 #include "core/base/text.h"
@@ -17,8 +18,7 @@ namespace fs = std::filesystem;
 /// The name of the file behind all symbolic links, in one letter case: the same for whatever leads to that name.
 /// Empty where there is none. A hard link has a name of its own, and to replace it does the file no harm.
 std::string lastNameOf(const std::string& name) {
-    std::error_code ignored;
-    return upperCase(nameOf(fs::canonical(pathOf(name), ignored).filename()));
+    return upperCase(nameOf(behindLinks(pathOf(name)).filename()));
 }
 
 } // namespace

@@ -40,18 +40,21 @@ TemporaryFile::TemporaryFile(const std::filesystem::path& folder, Readers reader
     if (file_ == nullptr) {
         throw CliError(std::strerror(errno));
     }
+    std::setvbuf(file_, nullptr, _IONBF, 0); // the whole content comes at once
 }
 
 TemporaryFile::~TemporaryFile() {
     if (file_ != nullptr) {
         std::fclose(file_);
     }
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
+    if (!path_.empty()) {
+        std::error_code ignored;
+        std::filesystem::remove(path_, ignored);
+    }
 }
 
 void TemporaryFile::write(std::string_view content) {
-    if (std::fwrite(content.data(), 1, content.size(), file_) != content.size() || std::fflush(file_) != 0) {
+    if (std::fwrite(content.data(), 1, content.size(), file_) != content.size()) {
         throw CliError(std::strerror(errno));
     }
 }
@@ -79,6 +82,7 @@ void TemporaryFile::moveTo(const std::filesystem::path& place) {
     if (error) {
         throw CliError(reasonOf(error));
     }
+    path_.clear();
 }
 
 void TemporaryFile::moveToNew(const std::filesystem::path& place) {

@@ -38,7 +38,7 @@ public:
 private:
     void close();
 
-    std::filesystem::path path_;
+    std::filesystem::path path_; ///< empty once it was moved away
     std::optional<CleanupMark> mark_;
     std::FILE* file_ = nullptr;
 };

@@ -212,13 +212,23 @@ private:
               attempt(place, [&] { writeReportTo(place, translation.report); }));
     }
 
-    void writeReportTo(const std::string& place, const std::string& report) const {
-        std::error_code ignored; // what is missing then is told by the writing
-        fs::create_directories(pathOf(place).parent_path(), ignored);
+    void writeReportTo(const std::string& place, const std::string& report) {
+        makeFolderOf(place);
         writeFile(place, report, {.existing = Existing::Replace, .sync = options_.sync});
     }
 
+    /// What is missing after a failure is told by the writing.
+    void makeFolderOf(const std::string& place) {
+        fs::path folder = pathOf(place).parent_path();
+        if (folder != lastFolder_) {
+            std::error_code ignored;
+            fs::create_directories(folder, ignored);
+            lastFolder_ = std::move(folder);
+        }
+    }
+
     const Options& options_;
+    fs::path lastFolder_;                ///< of the report before
     bool headed_;                        ///< every report has the name of its file above it
     bool first_ = true;                  ///< nothing was printed yet
     std::optional<ReportPlaces> places_; ///< there where reports are written to a folder, as is the next

@@ -26,14 +26,14 @@ std::string limitText() {
 std::string readFile(const std::string& path) {
     const std::filesystem::path place = pathOf(path);
     std::error_code ignored;
-    if (std::filesystem::is_directory(place, ignored)) {
+    if (!requireReadableSize(path) && std::filesystem::is_directory(place, ignored)) {
         fail(EISDIR);
     }
-    requireReadableSize(path);
     const FileHandle file(openStream(place, "rb"));
     if (file == nullptr) {
         fail(errno);
     }
+    std::setvbuf(file.get(), nullptr, _IONBF, 0); // readStream asks for much at a time
     return readStream(file.get());
 }
 
@@ -59,16 +59,13 @@ std::string readStream(std::FILE* stream) {
     }
 }
 
-void requireReadableSize(const std::string& path) {
-    std::error_code error;
-    const std::filesystem::path place = pathOf(path);
-    if (!std::filesystem::is_regular_file(place, error)) {
-        return;
-    }
-    const std::uintmax_t size = std::filesystem::file_size(place, error);
+bool requireReadableSize(const std::string& path) {
+    std::error_code error; // also for all but ordinary files
+    const std::uintmax_t size = std::filesystem::file_size(pathOf(path), error);
     if (!error && size > largestInput) {
         throw InputError("has " + std::to_string(size) + " bytes, more than " + limitText());
     }
+    return !error;
 }
 
 void failAboveLargestInput() {

@@ -22,8 +22,8 @@ std::string readFile(const std::string& path);
 /// The same for what an open stream still holds.
 std::string readStream(std::FILE* stream);
 
-/// An InputError where an ordinary file of that name is above largestInput.
-void requireReadableSize(const std::string& path);
+/// An InputError where an ordinary file of that name is above largestInput. Tells whether there is such a file.
+bool requireReadableSize(const std::string& path);
 
 /// For who reads piece by piece: the InputError for more than largestInput.
 [[noreturn]] void failAboveLargestInput();
