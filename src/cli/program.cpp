@@ -26,18 +26,16 @@ std::string withPlatformLineEnds(std::string_view text) {
 #ifdef _WIN32
     return std::string(text);
 #else
-    std::string result(text.size(), '\0');
-    char* place = result.data();
+    std::string result;
+    result.reserve(text.size());
     std::size_t start = 0; // of what is not copied yet
     for (std::size_t end = text.find('\r'); end != std::string_view::npos; end = text.find('\r', end + 1)) {
         if (end + 1 < text.size() && text[end + 1] == '\n') {
-            place += text.copy(place, end - start, start);
+            result.append(text, start, end - start);
             start = end + 1;
         }
     }
-    place += text.copy(place, std::string_view::npos, start);
-    result.resize(static_cast<std::size_t>(place - result.data()));
-    return result;
+    return result.append(text, start);
 #endif
 }
 

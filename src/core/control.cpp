@@ -44,17 +44,28 @@ std::string Control::fullName() const {
 }
 
 void Control::setText(std::string_view text) {
-    selStart_ = 0;
-    selLength_ = 0;
     if (text.size() == 2) { // a cell's, written hundreds of times for an image
         const char first = text[0];
         const char second = text[1];
-        text_.clear();
-        text_ += first;
-        text_ += second;
+        if (text_.size() != 2) {
+            text_ = "00";
+        }
+        text_[0] = first;
+        text_[1] = second;
     } else {
         text_ = text;
     }
+    textChanged();
+}
+
+void Control::takeText(std::string text) {
+    text_ = std::move(text);
+    textChanged();
+}
+
+void Control::textChanged() {
+    selStart_ = 0;
+    selLength_ = 0;
     if (kind_ == ControlKind::Combo) {
         const auto row = std::find(rows_.begin(), rows_.end(), text_);
         value_ = row == rows_.end() ? -1 : static_cast<int>(row - rows_.begin());

@@ -63,6 +63,8 @@ public:
     const std::string& text() const { return text_; }
     /// Puts the selection to 0, 0. On a combo the row follows where a row has that text; no event is raised.
     void setText(std::string_view text);
+    /// The same with a long text, which is not copied.
+    void takeText(std::string text);
     const std::string& caption() const;
     void setCaption(std::string_view caption);
     /// The same with a text that outlives the control. It is copied when it is first asked for: a screen is made with
@@ -139,6 +141,7 @@ public:
 
 private:
     void changed();
+    void textChanged();
     void takeOver(const Control& asMade);
 
     std::string_view name_;

@@ -64,10 +64,12 @@ void ParseHexRowLine(Workbench& workbench, std::string_view line, int& nextIndex
 std::string dataFileText(const TextArray& reportLines) {
     std::string text;
     for (int i = 0; i < reportLines.size() && reportLines(i) != report::endOfReport; ++i) {
-        const std::string line = StripTrailingCrLf(reportLines(i));
+        std::string_view line = reportLines(i);
+        if (line.ends_with(crLf)) {
+            line.remove_suffix(crLf.size());
+        }
         if (!line.empty()) {
-            text += line;
-            text += crLf;
+            append(text, {line, crLf});
         }
     }
     return text;

@@ -12,7 +12,7 @@ namespace wb::report {
 namespace {
 
 constexpr int columns = 10;
-constexpr int cellWidth = 4;
+constexpr std::size_t cellWidth = 4;
 constexpr int dumpIndent = 6; ///< of the columns
 
 std::string twoDigits(int number) {
@@ -36,40 +36,34 @@ std::string line(std::string text) {
 std::string columnHead() {
     std::string head(dumpIndent, ' ');
     for (int column = 0; column < columns; ++column) {
-        head += PadRight(std::to_string(column), cellWidth);
+        head += PadRight(std::to_string(column), int{cellWidth});
     }
     return line(std::move(head));
 }
 
-/// Of a cell in the dump.
-std::size_t widthOf(std::string_view cellText) {
-    return std::max(cellText.size(), std::size_t{cellWidth});
-}
-
-/// Copies the text; a call for the two characters of a cell would cost more.
-void put(char* place, std::string_view text) {
+/// Writes the text over what stands there; a call for the two characters of a cell would cost more.
+void put(std::string& entry, std::size_t place, std::string_view text) {
     for (const char c : text) {
-        *place++ = c;
+        entry[place++] = c;
     }
 }
 
 void putDumpRow(std::string& entry, BlockScreen& screen, int row) {
     const int first = row * columns;
     const int end = std::min(first + columns, BlockScreen::cellCount);
-    std::size_t width = dumpIndent;
-    for (int cell = first; cell < end; ++cell) {
-        width += widthOf(screen.txtEdit(cell).text());
-    }
-    entry.assign(width + crLf.size(), ' ');
-    put(entry.data(), std::to_string(first));
+    entry.assign(dumpIndent + static_cast<std::size_t>(end - first) * cellWidth, ' ');
+    put(entry, 0, std::to_string(first));
     entry[dumpIndent - 1] = '|';
-    char* place = entry.data() + dumpIndent;
+    std::size_t place = dumpIndent;
     for (int cell = first; cell < end; ++cell) {
         const std::string& text = screen.txtEdit(cell).text();
-        put(place, text);
-        place += widthOf(text);
+        if (text.size() > cellWidth) {
+            entry.insert(place, text.size() - cellWidth, ' ');
+        }
+        put(entry, place, text);
+        place += std::max(text.size(), cellWidth);
     }
-    put(place, crLf);
+    entry += crLf;
 }
 
 } // namespace
@@ -129,7 +123,7 @@ void putHead(Workbench& workbench, TextArray& lines, int first) {
 void putDump(BlockScreen& screen, TextArray& lines, int first) {
     constexpr int rows = (BlockScreen::cellCount + columns - 1) / columns;
     static const std::string head = columnHead();
-    static const std::string rule = line(IndentText(RepeatText("_", cellWidth * columns), dumpIndent));
+    static const std::string rule = line(IndentText(RepeatText("_", int{cellWidth} * columns), dumpIndent));
     lines(first) = head;
     lines(first + 1) = rule;
     for (int row = 0; row < rows; ++row) {

@@ -1,6 +1,6 @@
 #include "report/show_report.h"
 
-#include <string_view>
+#include <utility>
 
 #include "core/base/image_layout.h"
 #include "core/base/numbers.h"
@@ -17,6 +17,8 @@ namespace {
 // Each pass is a full one: a build has effects that add up (boxes of failures, and the place where the extension report
 // puts its timings, which moves on with every build).
 constexpr int passes = 5;
+
+constexpr std::size_t usualSize = std::size_t{1} << 14U; ///< more than most reports have
 
 void openWindow(Workbench& workbench, bool hidden) {
     if (!hidden) {
@@ -36,9 +38,9 @@ void openWindowIfClosed(Workbench& workbench, bool hidden) {
     }
 }
 
-void showText(Workbench& workbench, bool hidden, std::string_view text) {
+void showText(Workbench& workbench, bool hidden, std::string text) {
     Control& box = workbench.frmDocument().rtftext;
-    box.setText(text);
+    box.takeText(std::move(text));
     box.setLocked(!hidden);
     if (!hidden) {
         workbench.windows.show(workbench.frmDocument());
@@ -49,12 +51,13 @@ void showText(Workbench& workbench, bool hidden, std::string_view text) {
 void finish(Workbench& workbench, bool hidden) {
     workbench.frmDocument().rtftext.setLocked(false);
     std::string text;
+    text.reserve(usualSize);
     addEntries(text, workbench.ReportBlock0Lines);
     if (hasExtensionByDecimalText(workbench)) {
         BuildExtensionReport(workbench);
         addEntries(text, workbench.ReportExtLines);
     }
-    showText(workbench, hidden, text);
+    showText(workbench, hidden, std::move(text));
 }
 
 /// Whether no pass from here on runs handlers, which could change what the next one builds: the window has the focus,
@@ -71,6 +74,7 @@ bool staysAtRest(const Workbench& workbench, bool hidden) {
 std::string textOfLastPass(Workbench& workbench, int count) {
     layOutBlock0Report(workbench);
     std::string text;
+    text.reserve(usualSize);
     addEntries(text, workbench.ReportBlock0Lines);
     if (leadingNumber(workbench.frmEDID().txtEdit(extensionCountCell).text()) != 0) {
         skipExtensionReports(workbench, count - 1);
@@ -95,7 +99,7 @@ bool showLastPass(Workbench& workbench, bool hidden, int count) {
         workbench.ExtDtdStart = start;
         return false;
     }
-    showText(workbench, hidden, text);
+    showText(workbench, hidden, std::move(text));
     return true;
 }
 

@@ -1,23 +1,31 @@
 #pragma once
 
+#include <array>
 #include <charconv>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
 namespace wb {
 
+/// By the code of the character.
+inline constexpr auto hexDigits = [] {
+    std::array<std::int8_t, 256> digits{};
+    digits.fill(-1);
+    for (std::int8_t i = 0; i < 10; ++i) {
+        digits[static_cast<std::size_t>('0' + i)] = i;
+    }
+    for (std::int8_t i = 0; i < 6; ++i) {
+        digits[static_cast<std::size_t>('A' + i)] = static_cast<std::int8_t>(10 + i);
+        digits[static_cast<std::size_t>('a' + i)] = static_cast<std::int8_t>(10 + i);
+    }
+    return digits;
+}();
+
 /// 0 to 15 for a hexadecimal digit in either case, -1 for any other character.
 constexpr int hexDigit(char c) {
-    if (c >= '0' && c <= '9') {
-        return c - '0';
-    }
-    if (c >= 'A' && c <= 'F') {
-        return c - 'A' + 10;
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
-    return -1;
+    return hexDigits[static_cast<unsigned char>(c)];
 }
 
 /// The whole decimal number that the whole text spells (a minus may stand in front), or nothing.

@@ -62,17 +62,21 @@ void join(std::string& target, Texts texts) {
 }
 
 void append(std::string& target, std::span<const std::string_view> texts) {
-    const std::size_t start = target.size();
-    std::size_t size = start;
+    std::array<char, 1024> room; // each growth of a text has its price, so that they come to it together
+    std::size_t size = 0;
     for (const std::string_view text : texts) {
-        size += text.size();
+        if (text.size() > room.size() - size) {
+            target.append(room.data(), size);
+            size = 0;
+        }
+        if (text.size() > room.size()) {
+            target += text;
+        } else {
+            copyTo(room.data() + size, text);
+            size += text.size();
+        }
     }
-    target.resize(size); // once for all of them: each growth of a text has its price
-    char* place = target.data() + start;
-    for (const std::string_view text : texts) {
-        copyTo(place, text);
-        place += text.size();
-    }
+    target.append(room.data(), size);
 }
 
 std::string_view blanks(int count) {

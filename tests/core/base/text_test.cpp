@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdio>
+
 #include "core/base/failure.h"
 
 namespace wb {
@@ -15,6 +18,21 @@ TEST(Text, JoinsTextsInTheRoomThatThereIs) {
     join(target, {"one ", "two"});
     EXPECT_EQ(target, "one two");
     EXPECT_EQ(target.capacity(), room);
+}
+
+TEST(Text, AddsTextsOfAnySizeBehindWhatIsThere) {
+    const std::string letters = "abcdefghijklmnopqrstuvwxyz";
+    std::string pieces;
+    std::string whole = "<";
+    for (std::size_t size = 0; size <= letters.size(); ++size) {
+        append(whole, {letters.substr(0, size), "|"});
+        pieces += letters.substr(0, size) + "|";
+    }
+    EXPECT_EQ(whole, "<" + pieces);
+    const std::string large(3000, 'x');
+    std::string target = "a";
+    append(target, {"b", large, "c", std::string(1023, 'd'), "e", std::string(1024, 'f'), "g"});
+    EXPECT_EQ(target, "ab" + large + "c" + std::string(1023, 'd') + "e" + std::string(1024, 'f') + "g");
 }
 
 TEST(Text, BlanksAreAsManyAsAreMissing) {
@@ -86,7 +104,18 @@ TEST(Text, ByteToHex2NeitherPadsNorCutsBeyondTwoDigits) {
     EXPECT_THROW(ByteToHex2(32768), Failure);
 }
 
+TEST(Text, TheTextOfAByteIsThatOfItsNumber) {
+    for (int byte = 0; byte < 256; ++byte) {
+        std::array<char, 3> digits{};
+        std::snprintf(digits.data(), digits.size(), "%02X", static_cast<unsigned>(byte));
+        EXPECT_EQ(byteText(byte), digits.data());
+        EXPECT_EQ(ByteToHex2(byte), digits.data());
+    }
+}
+
 TEST(Text, HexToBinaryTextKnowsUpperCaseOnly) {
+    EXPECT_EQ(binaryDigitsOf('A'), "1010");
+    EXPECT_EQ(binaryDigitsOf('a'), "");
     EXPECT_EQ(HexToBinaryText("1F"), "00011111");
     EXPECT_EQ(HexToBinaryText("aF"), "1111");
     EXPECT_EQ(HexToBinaryText("G "), "");
