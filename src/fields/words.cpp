@@ -2,8 +2,11 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 #include "core/base/code_page.h"
+#include "core/base/exact_rounding.h"
+#include "core/base/text.h"
 
 namespace wb::fields {
 
@@ -32,6 +35,10 @@ std::string hexNumber(std::uint64_t number, int bits) {
 }
 
 std::string decimalText(double value, int decimals) {
+    const double magnitude = std::fabs(value);
+    if (ExactRounding::fits(magnitude, decimals)) {
+        return ExactRounding(magnitude, decimals, Halves::ToEven).text(std::signbit(value), 1);
+    }
     std::array<char, 64> buffer{};
     const auto [end, error] =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
@@ -55,13 +62,16 @@ std::string numbered(std::string_view name, std::size_t number) {
 }
 
 std::string hexText(std::span<const std::uint8_t> bytes) {
-    std::string text;
-    text.reserve(bytes.size() * 3);
-    for (const unsigned byte : bytes) {
-        if (!text.empty()) {
-            text += ' ';
-        }
-        appendHex(text, byte);
+    if (bytes.empty()) {
+        return {};
+    }
+    std::string text(bytes.size() * 3 - 1, ' ');
+    char* place = text.data();
+    for (const std::uint8_t byte : bytes) {
+        const std::string_view digits = byteText(byte);
+        place[0] = digits[0];
+        place[1] = digits[1];
+        place += 3;
     }
     return text;
 }

@@ -13,34 +13,6 @@ namespace {
 
 constexpr std::string_view replacement = "\xEF\xBF\xBD";
 
-template <class Number>
-void appendNumber(std::string& text, Number number) {
-    std::array<char, 32> buffer{};
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
-    text.append(buffer.data(), end);
-}
-
-void appendEscape(std::string& text, char control) {
-    switch (control) {
-        case '"':
-        case '\\':
-            text += '\\';
-            text += control;
-            break;
-        case '\n':
-            text += "\\n";
-            break;
-        case '\t':
-            text += "\\t";
-            break;
-        default:
-            text += "\\u00";
-            text += "0123456789abcdef"[static_cast<unsigned char>(control) >> 4U];
-            text += "0123456789abcdef"[static_cast<unsigned char>(control) & 15U];
-            break;
-    }
-}
-
 /// ASCII that stands for itself, by its code: nearly every character of a text, so that a look into a table is worth
 /// it.
 constexpr std::array<bool, 256> plain = [] {
@@ -63,22 +35,23 @@ std::size_t plainLength(std::string_view text) {
 
 JsonWriter& JsonWriter::begin(char bracket) {
     separate();
-    text_ += bracket;
+    put(bracket);
     owesComma_ = false;
     return *this;
 }
 
 JsonWriter& JsonWriter::end(char bracket) {
-    text_ += bracket;
+    put(bracket);
     owesComma_ = true;
     return *this;
 }
 
 JsonWriter& JsonWriter::key(std::string_view name) {
     separate();
-    text_ += '"';
-    text_ += name;
-    text_ += "\":";
+    put('"');
+    put(name);
+    put('"');
+    put(':');
     owesComma_ = false;
     return *this;
 }
@@ -92,14 +65,14 @@ JsonWriter& JsonWriter::value(std::string_view text) {
 
 JsonWriter& JsonWriter::value(bool truth) {
     separate();
-    text_ += truth ? "true" : "false";
+    put(truth ? "true" : "false");
     owesComma_ = true;
     return *this;
 }
 
 JsonWriter& JsonWriter::value(std::int64_t number) {
     separate();
-    appendNumber(text_, number);
+    putNumber(number);
     owesComma_ = true;
     return *this;
 }
@@ -109,44 +82,90 @@ JsonWriter& JsonWriter::value(double number) {
         return null();
     }
     separate();
-    appendNumber(text_, number);
+    putNumber(number);
     owesComma_ = true;
     return *this;
 }
 
 JsonWriter& JsonWriter::null() {
     separate();
-    text_ += "null";
+    put("null");
     owesComma_ = true;
     return *this;
 }
 
 void JsonWriter::separate() {
     if (owesComma_) {
-        text_ += ',';
+        put(',');
     }
 }
 
 void JsonWriter::writeText(std::string_view text) {
-    text_ += '"';
+    put('"');
     while (!text.empty()) {
         const std::size_t run = plainLength(text);
-        text_ += text.substr(0, run);
+        put(text.substr(0, run));
         text.remove_prefix(run);
         if (text.empty()) {
             break;
         }
         const std::size_t length = utf8SequenceLength(text);
         if (length == 0) {
-            text_ += replacement;
+            put(replacement);
         } else if (length == 1) {
-            appendEscape(text_, text.front());
+            writeEscape(text.front());
         } else {
-            text_ += text.substr(0, length);
+            put(text.substr(0, length));
         }
         text.remove_prefix(std::max<std::size_t>(length, 1));
     }
-    text_ += '"';
+    put('"');
+}
+
+void JsonWriter::writeEscape(char control) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    switch (control) {
+        case '"':
+        case '\\':
+            put('\\');
+            put(control);
+            break;
+        case '\n':
+            put("\\n");
+            break;
+        case '\t':
+            put("\\t");
+            break;
+        default:
+            put("\\u00");
+            put(digits[static_cast<unsigned char>(control) >> 4U]);
+            put(digits[static_cast<unsigned char>(control) & 15U]);
+            break;
+    }
+}
+
+void JsonWriter::put(std::string_view text) {
+    if (text.size() > room_.size() - size_) {
+        flush();
+        if (text.size() > room_.size()) {
+            text_ += text;
+            return;
+        }
+    }
+    std::copy(text.begin(), text.end(), room_.begin() + size_);
+    size_ += text.size();
+}
+
+template <class Number>
+void JsonWriter::putNumber(Number number) {
+    std::array<char, 32> buffer{};
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+    put(std::string_view(buffer.data(), static_cast<std::size_t>(end - buffer.data())));
+}
+
+void JsonWriter::flush() {
+    text_.append(room_.data(), size_);
+    size_ = 0;
 }
 
 } // namespace wb

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -38,17 +40,36 @@ public:
         return key(name).value(content);
     }
 
-    const std::string& text() const& { return text_; }
-    std::string text() && { return std::move(text_); }
+    const std::string& text() & {
+        flush();
+        return text_;
+    }
+    std::string text() && {
+        flush();
+        return std::move(text_);
+    }
 
 private:
     JsonWriter& begin(char bracket);
     JsonWriter& end(char bracket);
     void separate();
     void writeText(std::string_view text);
+    void writeEscape(char control);
+    void put(char c) {
+        if (size_ == room_.size()) {
+            flush();
+        }
+        room_[size_++] = c;
+    }
+    void put(std::string_view text);
+    template <class Number>
+    void putNumber(Number number);
+    void flush();
 
-    std::string text_;
-    bool owesComma_ = false; ///< an element stands before the next one
+    std::string text_;            ///< without what is in the room
+    std::array<char, 1024> room_; ///< what comes in small pieces, for which a text is slow to grow
+    std::size_t size_ = 0;        ///< of what is in the room
+    bool owesComma_ = false;      ///< an element stands before the next one
 };
 
 } // namespace wb

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/base/exact_rounding.h"
 #include "core/base/failure.h"
 
 namespace wb {
@@ -63,71 +64,6 @@ std::string roundedByGuardDigits(double magnitude, int decimals) {
     return digits;
 }
 
-/// The same for the sizes that are met most: at most three decimals of a number whose bits reach 64 places behind the
-/// point at most.
-class ExactRounding {
-public:
-    static bool fits(double magnitude, int decimals) {
-        constexpr double least = 1.0 / 2048; // 53 bits from the eleventh place on
-        constexpr double limit = 1e15;
-        return decimals < static_cast<int>(powers.size()) && magnitude < limit &&
-               (magnitude >= least || magnitude == 0);
-    }
-
-    ExactRounding(double magnitude, int decimals)
-        : power_(powers[static_cast<std::size_t>(decimals)]), whole_(static_cast<std::uint64_t>(magnitude)) {
-        constexpr double twoTo64 = 18446744073709551616.0;
-        // The product of the fraction, 64 bits behind the point, and the power, in two halves.
-        const auto fraction = static_cast<std::uint64_t>((magnitude - static_cast<double>(whole_)) * twoTo64);
-        const std::uint64_t low = (fraction & 0xFFFFFFFFU) * power_;
-        const std::uint64_t high = (fraction >> 32U) * power_ + (low >> 32U);
-        part_ = (high >> 32U) + ((high >> 31U) & 1U); // half a unit or more rounds up
-        if (part_ == power_) {
-            part_ = 0;
-            ++whole_;
-        }
-    }
-
-    bool isZero() const { return whole_ == 0 && part_ == 0; }
-
-    /// At least that many digits, at most 20, then the decimals behind a point where there are any.
-    std::string text(bool negative, std::size_t minimum) const {
-        std::array<char, 32> buffer{}; // filled from its end
-        char* const end = buffer.data() + buffer.size();
-        char* at = end;
-        std::uint64_t rest = part_;
-        for (std::uint64_t place = power_; place > 1; place /= 10) {
-            *--at = digitOf(rest);
-            rest /= 10;
-        }
-        if (power_ > 1) {
-            *--at = '.';
-        }
-        const char* const point = at;
-        for (rest = whole_; rest != 0; rest /= 10) {
-            *--at = digitOf(rest);
-        }
-        while (static_cast<std::size_t>(point - at) < minimum) {
-            *--at = '0';
-        }
-        if (negative && !isZero()) {
-            *--at = '-';
-        }
-        return {at, end};
-    }
-
-    static constexpr std::size_t mostDigits = 20;
-
-private:
-    static constexpr std::array<std::uint64_t, 4> powers = {1, 10, 100, 1000};
-
-    static char digitOf(std::uint64_t number) { return static_cast<char>('0' + number % 10); }
-
-    std::uint64_t power_;
-    std::uint64_t whole_;
-    std::uint64_t part_;
-};
-
 /// The number that `digits` are the rounded text of, with at least `minimum` digits before the point.
 std::string signedText(const std::string& digits, bool negative, std::size_t minimum) {
     const auto split = std::min(digits.find('.'), digits.size());
@@ -181,7 +117,8 @@ std::string formatNumber(double value, std::string_view pattern) {
     }
     const double magnitude = std::fabs(value);
     if (ExactRounding::fits(magnitude, decimals) && minimum <= ExactRounding::mostDigits) {
-        return ExactRounding(magnitude, decimals).text(value < 0, minimum);
+        const ExactRounding rounded(magnitude, decimals, Halves::AwayFromZero);
+        return rounded.text(value < 0 && !rounded.isZero(), minimum);
     }
     return signedText(roundedByGuardDigits(magnitude, decimals), value < 0, minimum);
 }

@@ -36,5 +36,18 @@ TEST(JsonWriter, WritesNumbersInTheFewestDigits) {
     EXPECT_EQ(json.text(), "[0.1,148.5,-3,null]");
 }
 
+TEST(JsonWriter, KeepsTheOrderOfPiecesOfAnySize) {
+    JsonWriter json;
+    std::string expected = "[";
+    json.beginArray();
+    for (std::size_t size = 0; size < 2200; size += 37) {
+        json.value(std::string(size, 'x')).value(size);
+        expected += (size == 0 ? "\"" : ",\"") + std::string(size, 'x') + "\"," + std::to_string(size);
+        EXPECT_EQ(json.text(), expected) << "up to here";
+    }
+    json.endArray();
+    EXPECT_EQ(std::move(json).text(), expected + "]");
+}
+
 } // namespace
 } // namespace wb
