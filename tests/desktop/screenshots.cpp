@@ -1,12 +1,17 @@
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
+#include <QDockWidget>
+#include <array>
 #include <cstdio>
 #include <string_view>
 
+#include "adapters/cvt.h"
 #include "core/input.h"
 #include "desktop/desktop_program.h"
+#include "desktop/drawing/palettes.h"
 
-/// Makes a picture of each screen in a folder, and of each panel if asked for.
+/// Makes a picture of each screen, of the docks and tools in a folder, and of each panel if asked for.
 namespace {
 
 using namespace wb;
@@ -57,6 +62,57 @@ void takeSplash(const Album& album) {
     takeScreen(program, album, program.workbench.frmSplash());
 }
 
+/// A window of the Tools menu.
+void takeTool(const test::DesktopProgram& program, const Album& album, const char* entry, const QString& name) {
+    const QMainWindow& frame = program.frame().window();
+    frame.findChild<QAction*>(entry)->trigger();
+    test::DesktopProgram::settle();
+    for (QDialog* dialog : frame.findChildren<QDialog*>()) {
+        if (dialog->isVisible()) {
+            album.take(*dialog, name);
+            dialog->close();
+        }
+    }
+}
+
+/// The frame with the docks of fields and findings.
+void takeDocks(test::DesktopProgram& program, const Album& album) {
+    focusCell(program, program.workbench.frmEDID(), 55);
+    const QList<QDockWidget*> docks = program.frame().window().findChildren<QDockWidget*>();
+    for (QDockWidget* dock : docks) {
+        dock->show();
+    }
+    album.take(program.frame().window(), "docks");
+    for (QDockWidget* dock : docks) {
+        dock->hide();
+    }
+}
+
+void takeTools(test::DesktopProgram& program, const Album& album) {
+    program.platform.queueFileName(WORKBENCH_SOURCE_DIR "/samples/brindleco-b24w.bin");
+    takeTool(program, album, "toolsCompare", "compare");
+    if (adapters::missingCvtLibrary().empty()) {
+        takeTool(program, album, "toolsTiming", "timingCalculator");
+    }
+}
+
+void takeInDark(test::DesktopProgram& program, const Album& album, int cell, const QString& name) {
+    QApplication::setPalette(desktop::darkPalette());
+    test::DesktopProgram::settle();
+    focusCell(program, program.workbench.frmEDID(), cell);
+    album.take(program.window(program.workbench.frmEDID()), name);
+    QApplication::setPalette(QPalette());
+    test::DesktopProgram::settle();
+}
+
+/// Panels that have pictures, in dark colours too.
+void takePictures(test::DesktopProgram& program, const Album& album) {
+    constexpr std::array<int, 9> cells = {21, 23, 25, 35, 36, 37, 38, 54, 108};
+    for (const int cell : cells) {
+        takeInDark(program, album, cell, QString("frmEDID-%1-dark").arg(cell, 3, 10, QChar('0')));
+    }
+}
+
 /// The frame at work: an image open, and its report beside it.
 void takeFrame(test::DesktopProgram& program, const Album& album) {
     Workbench& workbench = program.workbench;
@@ -104,8 +160,12 @@ int main(int argc, char** argv) {
     program.frame().window().resize(1440, 740);
     program.openSample("zarqo-z40.bin");
     takeFrame(program, album);
+    takeDocks(program, album);
+    takeTools(program, album);
+    takeInDark(program, album, 27, "chromaticity-dark");
     takeScreens(program, album);
     if (panels) {
+        takePictures(program, album);
         takePanels(program, album, program.workbench.frmEDID());
         takePanels(program, album, program.workbench.frmCEA_EXT());
     }
