@@ -232,7 +232,12 @@ TEST(Colours, OfTheCellsFollowTheModelAndThePalette) {
     DesktopProgram::settle();
     EXPECT_EQ(base(19), QColor(0x19, 0x19, 0x19));
     EXPECT_EQ(base(21), QColor(0xFF, 0xFF, 0x80));
+    program.act([&] { input::moveFocus(screen.txtEdit(54)); });
+    EXPECT_EQ(base(21), QColor(0x19, 0x19, 0x19)) << "a cell that has had another colour";
     QApplication::setPalette(before);
+    DesktopProgram::settle();
+    EXPECT_EQ(base(19), before.color(QPalette::Base));
+    EXPECT_EQ(base(21), before.color(QPalette::Base));
 }
 
 } // namespace

@@ -60,4 +60,12 @@ QPalette withLiveDisabledText(QPalette palette) {
     return withDisabledText(std::move(palette), 1);
 }
 
+QPalette disabledTextsOf(const QPalette& palette) {
+    QPalette texts;
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        texts.setColor(QPalette::Disabled, role, palette.color(QPalette::Disabled, role));
+    }
+    return texts;
+}
+
 } // namespace wb::desktop

@@ -90,9 +90,10 @@ void ControlView::refreshPalette() {
     }
     const Control& model = *control();
     if (isPanel(model)) {
-        widget()->setPalette(withLiveDisabledText(QApplication::palette()));
+        widget()->setPalette(disabledTextsOf(withLiveDisabledText(QApplication::palette())));
     } else if (isInPanel(model)) {
-        widget()->setPalette(model.enabled() ? QPalette() : withReadableDisabledText(QApplication::palette()));
+        widget()->setPalette(model.enabled() ? QPalette()
+                                             : disabledTextsOf(withReadableDisabledText(QApplication::palette())));
     }
 }
 

@@ -140,20 +140,20 @@ void TextView::refreshSelection() {
 }
 
 void TextView::refreshColours() {
-    if (colouring_ || place().look != Look::Cell || control() == nullptr) {
+    if (place().look != Look::Cell || control() == nullptr) {
         return;
     }
-    colouring_ = true;
     const CellColours colours = cellColours(control()->backColor(), QApplication::palette());
-    QPalette palette = box_->palette();
+    if (colours == colours_) {
+        return;
+    }
+    colours_ = colours;
+    QPalette palette; // of these two alone: a box with all of a palette would hear of no other one
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         palette.setColor(group, QPalette::Base, colours.background);
         palette.setColor(group, QPalette::Text, colours.text);
     }
-    if (palette != box_->palette()) {
-        box_->setPalette(palette);
-    }
-    colouring_ = false;
+    box_->setPalette(palette);
 }
 
 bool TextView::sameAsModel() const {

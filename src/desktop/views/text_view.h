@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QLineEdit>
+#include <optional>
 
+#include "desktop/drawing/colours.h"
 #include "desktop/views/control_view.h"
 
 namespace wb::desktop {
@@ -67,10 +69,10 @@ private:
     bool stepToCell(const QKeyEvent& event);
 
     TextBox* box_;
-    QString tip_;              ///< that of the place, or what is told instead of it
-    bool editing_ = false;     ///< the widget is editing and its signals need not be told
-    bool keepHistory_ = false; ///< a typed key is being worked: undo takes back what it makes of the text
-    bool colouring_ = false;
+    QString tip_;                        ///< that of the place, or what is told instead of it
+    bool editing_ = false;               ///< the widget is editing and its signals need not be told
+    bool keepHistory_ = false;           ///< a typed key is being worked: undo takes back what it makes of the text
+    std::optional<CellColours> colours_; ///< that the box has
 };
 
 } // namespace wb::desktop

@@ -237,9 +237,10 @@ QSize ScreenPage::minimumSizeHint() const {
 }
 
 void ScreenPage::refreshPalette() {
-    const QPalette wanted = withReadableDisabledText(QApplication::palette());
-    if (palette() != wanted) {
-        setPalette(wanted);
+    const QPalette now = QApplication::palette();
+    if (followed_ != now) {
+        followed_ = now;
+        setPalette(disabledTextsOf(withReadableDisabledText(now)));
         for (const auto& view : views_) {
             view->refreshPalette();
         }

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "desktop/layouts/layout.h"
@@ -50,6 +51,7 @@ private:
     std::vector<std::unique_ptr<ControlView>> views_;
     std::unique_ptr<PanelPicture> picture_; ///< of a block screen
     bool isExtension_; ///< known still when the toolkit asks for the size of a window whose screen has gone
+    std::optional<QPalette> followed_; ///< of the program, whose colours the page has
     mutable QSize largest_;
 };
 
