@@ -20,7 +20,7 @@ QStringList namedFiles(const QApplication& application) {
     parser.setApplicationDescription("Reads, explains and edits the EDID of monitors.");
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument("file", "Data file to be opened.", "[file]");
+    parser.addPositionalArgument("file", "Data file to be opened, or image in any form to be imported.", "[file]");
     parser.process(application);
     return parser.positionalArguments();
 }
@@ -49,12 +49,10 @@ int main(int argc, char** argv) {
     services.printer().title = [&workbench] { return desktop::reportTitle(workbench.CurrentFileName); };
 
     QTimer::singleShot(0, &view, [&] {
-        gate.run([&] {
-            workbench.runAction([&] { shell::Main(workbench); });
-            if (!files.isEmpty()) {
-                shell::dropDataFile(workbench, desktop::fileNameBytes(files.first()));
-            }
-        });
+        gate.run([&] { workbench.runAction([&] { shell::Main(workbench); }); });
+        if (!files.isEmpty() && view.mainView() != nullptr) {
+            view.mainView()->openNamed(files.first());
+        }
     });
     return QApplication::exec();
 }

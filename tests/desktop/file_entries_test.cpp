@@ -55,6 +55,28 @@ TEST_F(FileEntriesTest, ImportAndOpenARecentFileAgain) {
     EXPECT_EQ(recent(), (QStringList{"&1 a.bin", "&2 b.bin"}));
 }
 
+TEST_F(FileEntriesTest, OpenWhatTheProgramIsStartedWithInWhateverForm) {
+    const std::string image = folder.write("a.bin", sample);
+    program.frame().openNamed(desktop::fromFileNameBytes(image));
+    DesktopProgram::settle();
+    EXPECT_EQ(edid().txtEdit(21).text(), "34");
+    EXPECT_EQ(edid().caption(), image);
+
+    const std::string data = WORKBENCH_SOURCE_DIR "/samples/zarqo-z40.DAT";
+    program.frame().openNamed(desktop::fromFileNameBytes(data));
+    DesktopProgram::settle();
+    EXPECT_EQ(program.workbench.CurrentFileName, data);
+    EXPECT_EQ(recent(), (QStringList{"&1 zarqo-z40.DAT", "&2 a.bin"}));
+
+    const std::string missing = folder.file("missing");
+    program.frame().openNamed(desktop::fromFileNameBytes(missing));
+    DesktopProgram::settle();
+    const std::vector<std::string> boxes = takeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].substr(0, missing.size() + 4), missing + "\r\n\r\n");
+    EXPECT_EQ(program.workbench.CurrentFileName, data);
+}
+
 TEST_F(FileEntriesTest, AFileThatHasGoneIsToldAndForgotten) {
     const std::string name = folder.write("a.bin", sample);
     import(name);

@@ -81,6 +81,15 @@ void FileEntries::import() {
     });
 }
 
+bool FileEntries::openNamed(const QString& name) {
+    frame_.act([this, &name](Screen& screen) {
+        if (shell::importFile(screen.workbench(), fileNameBytes(name), importWays(frame_))) {
+            note(name);
+        }
+    });
+    return true;
+}
+
 void FileEntries::refresh() {
     export_->setEnabled(workbench_.EDIDLoaded != flagFalse);
     recent_->setEnabled(!names_.empty());

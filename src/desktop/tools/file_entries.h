@@ -17,6 +17,7 @@ public:
     ~FileEntries() override;
 
     void refresh() override;
+    bool openNamed(const QString& name) override;
 
 private:
     void makeExport();

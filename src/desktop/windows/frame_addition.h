@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 namespace wb::desktop {
 
 /// Something in the frame beside what the program has there: entries behind the given ones, menus, docks, panels of the
@@ -14,6 +16,9 @@ public:
     /// A call into the model has returned, or an event loop begins inside one: it is to show what the model says now,
     /// and must not call into it.
     virtual void refresh() {}
+
+    /// The program was started with the name of a file. Gives whether this addition is the one that loads files.
+    virtual bool openNamed(const QString& /*name*/) { return false; }
 };
 
 } // namespace wb::desktop

@@ -322,6 +322,14 @@ void MainView::listChildren(const std::vector<ScreenView*>& children) {
     }
 }
 
+void MainView::openNamed(const QString& name) {
+    for (const auto& addition : additions_) {
+        if (addition->openNamed(name)) {
+            return;
+        }
+    }
+}
+
 void MainView::openDropped(const QString& name) {
     act([name = fileNameBytes(name)](Screen& screen) { shell::dropDataFile(screen.workbench(), name); });
 }

@@ -51,6 +51,8 @@ public:
     QAction& entry(const Control& control) const;
     LiveReading& liveReading() const { return actions().liveReading(); }
     void attach(std::unique_ptr<FrameAddition> addition);
+    /// Loads the file that the program was started with, in whatever form it is.
+    void openNamed(const QString& name);
     /// Makes room in the child windows for what they show, as far as the user has not chosen their sizes.
     void fitChildren();
     /// Takes Qt's focus from a box of the view itself, and gives it to where the model has it.
