@@ -51,6 +51,16 @@ TEST_F(Keyboard, DropsCharactersThatTheProgramDoesNotHave) {
     EXPECT_EQ(box(edid().txtBrand).text(), QString::fromUtf8("a\xE2\x82\xAC"));
 }
 
+TEST_F(Keyboard, TypesNothingForALetterWithAlt) {
+    focus(edid().txtEdit(54));
+    const std::string before = edid().txtEdit(54).text();
+    press(Qt::Key_X, Qt::AltModifier, "x"); // in no menu
+    EXPECT_EQ(edid().txtEdit(54).text(), before);
+    EXPECT_EQ(box(edid().txtEdit(54)).text().toStdString(), before);
+    press(Qt::Key_7, Qt::ControlModifier | Qt::AltModifier, "7"); // the AltGr key of some systems
+    EXPECT_EQ(edid().txtEdit(54).text(), "7");
+}
+
 TEST_F(Keyboard, KeepsALockedTextAsItIs) {
     modify(); // off again
     focus(edid().txtEdit(9));

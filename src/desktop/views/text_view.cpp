@@ -43,6 +43,13 @@ bool isAtEdge(const QLineEdit& box, TextEdge edge) {
     return !box.hasSelectedText() && box.cursorPosition() == (edge == TextEdge::Start ? 0 : box.text().size());
 }
 
+/// A letter held with Alt that no menu has taken: the toolkit would type it, past what keys let through.
+bool isLeftOver(const QKeyEvent& event) {
+    const QString text = event.text();
+    return event.modifiers().testAnyFlags(Qt::AltModifier | Qt::MetaModifier) && !text.isEmpty() &&
+           text.front().isPrint();
+}
+
 bool undoes(const QKeyEvent& event) {
     return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
 }
@@ -256,6 +263,10 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         if (const auto character = typedCharacter(*event)) {
             view_.type(*event, *character);
         }
+        return;
+    }
+    if (isLeftOver(*event)) {
+        event->ignore();
         return;
     }
     if (view_.stepToCell(*event)) {
