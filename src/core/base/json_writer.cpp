@@ -144,16 +144,13 @@ void JsonWriter::writeEscape(char control) {
     }
 }
 
-void JsonWriter::put(std::string_view text) {
-    if (text.size() > room_.size() - size_) {
-        flush();
-        if (text.size() > room_.size()) {
-            text_ += text;
-            return;
-        }
+void JsonWriter::putBeyondRoom(std::string_view text) {
+    flush();
+    if (text.size() > room_.size()) {
+        text_ += text;
+    } else {
+        put(text);
     }
-    std::copy(text.begin(), text.end(), room_.begin() + size_);
-    size_ += text.size();
 }
 
 template <class Number>

@@ -61,7 +61,14 @@ private:
         }
         room_[size_++] = c;
     }
-    void put(std::string_view text);
+    void put(std::string_view text) {
+        if (text.size() > room_.size() - size_) {
+            putBeyondRoom(text);
+        } else {
+            size_ += text.copy(room_.data() + size_, text.size());
+        }
+    }
+    void putBeyondRoom(std::string_view text);
     template <class Number>
     void putNumber(Number number);
     void flush();
