@@ -360,6 +360,65 @@ TEST_P(Block0Findings, AreListedInTheDocuments) {
         << row;
 }
 
+/// Descriptors without a content in all slots but those that are set then.
+ImageOf withEmptySlots() {
+    ImageOf image = goodImage();
+    for (std::size_t place = 54; place < 126; place += 18) {
+        image.set(place, {0, 0, 0, 0x0F, 0, 10, 32, 32, 32, 32, 32, 32, 32, 32, 32, 32, 32, 32});
+    }
+    return image;
+}
+
+/// The bytes that the findings of that code are about.
+std::vector<std::size_t> placesOf(const Reading& reading, std::string_view code) {
+    std::vector<std::size_t> places;
+    for (const Finding& finding : reading.findings) {
+        if (finding.code == code) {
+            places.push_back(finding.byte);
+        }
+    }
+    return places;
+}
+
+TEST(Findings, AreToldOfTheDescriptorInEverySlot) {
+    for (std::size_t place = 54; place < 126; place += 18) {
+        SCOPED_TRACE(place);
+        const Reading reading = withEmptySlots().set(place + 3, {0x11}).reading();
+        EXPECT_EQ(placesOf(reading, "descriptor.tag_reserved"), std::vector{place + 3});
+    }
+}
+
+TEST(Findings, CompareEverySlotWithAllBefore) {
+    for (std::size_t first = 54; first < 126; first += 18) {
+        for (std::size_t second = first + 18; second < 126; second += 18) {
+            SCOPED_TRACE(std::to_string(first) + " and " + std::to_string(second));
+            const Reading names = withEmptySlots().set(first + 3, {0xFC}).set(second + 3, {0xFC}).reading();
+            EXPECT_EQ(placesOf(names, "descriptor.duplicate"), std::vector{second + 3});
+            ImageOf image = goodImage();
+            for (std::size_t place = 54; place < 126; place += 18) {
+                setTiming(image, place);
+                image.set(place + 12, {static_cast<int>(place)}); // all differ
+            }
+            image.set(second + 12, {static_cast<int>(first)});
+            EXPECT_EQ(placesOf(image.reading(), "timing.duplicate"), std::vector{second});
+        }
+    }
+}
+
+TEST(Findings, CompareEveryStandardTimingWithAllBefore) {
+    for (std::size_t first = 0; first < 8; ++first) {
+        for (std::size_t second = first + 1; second < 8; ++second) {
+            SCOPED_TRACE(std::to_string(first) + " and " + std::to_string(second));
+            ImageOf image = goodImage();
+            for (int i = 0; i < 8; ++i) {
+                image.set(38 + 2 * static_cast<std::size_t>(i), {0x81 + i, 0x40}); // all differ
+            }
+            image.set(38 + 2 * second, {0x81 + static_cast<int>(first)});
+            EXPECT_EQ(placesOf(image.reading(), "standard.duplicate"), std::vector{38 + 2 * second});
+        }
+    }
+}
+
 TEST(Findings, AreNoneOfImagesInOrder) {
     for (ImageOf image : {goodImage(), goodImage13(), cvtImage(), codeImage(), whitePointImage()}) {
         const Reading reading = image.withSums().reading();

@@ -79,6 +79,24 @@ TEST(Descriptors, TellTheLimitsOfCvt) {
     EXPECT_EQ(reading.summary.range->maxClockMegahertz, 168.75);
 }
 
+TEST(Descriptors, TellNoLimitWhereRangeLimitsHaveNone) {
+    const std::string range = "base.descriptor[3].range.";
+    const Reading withoutClock = goodImage().set(99, {0}).reading();
+    EXPECT_EQ(fieldOf(withoutClock, range + "max_pixel_clock").text, "not told");
+    EXPECT_FALSE(withoutClock.summary.range->maxClockMegahertz);
+    const Reading leastClock = goodImage().set(99, {1}).reading();
+    EXPECT_EQ(fieldOf(leastClock, range + "max_pixel_clock").text, "10 MHz");
+    EXPECT_EQ(leastClock.summary.range->maxClockMegahertz, 10);
+    const auto pixelsOf = [&](int byte12, int byte13) {
+        return fieldOf(goodImage().set(100, {4, 0x11, byte12, byte13, 0x90, 0, 0, 75}).reading(),
+                       range + "max_h_active")
+            .text;
+    };
+    EXPECT_EQ(pixelsOf(0, 0), "no limit");
+    EXPECT_EQ(pixelsOf(0, 1), "8 px");
+    EXPECT_EQ(pixelsOf(1, 0), "2048 px");
+}
+
 TEST(Descriptors, ReadTheFormulaByRevision) {
     EXPECT_EQ(fieldOf(goodImage().set(100, {0}).reading(), "base.descriptor[3].range.timing_support").text,
               "default GTF");
@@ -129,6 +147,56 @@ TEST(Descriptors, TellCvtCodes) {
     EXPECT_EQ(valueOf(reading, code + "rate_60_rb"), Value(true));
     EXPECT_EQ(fieldOf(reading, "base.descriptor[4].cvt[2].unused").label, "Unused code");
     EXPECT_EQ(addedModes(reading), (Modes{"1864x1050@50000", "1864x1050@60000"}));
+}
+
+TEST(Descriptors, TellCvtCodesOfEveryAspectRatio) {
+    // 768, 1080, 1050 and 768 lines, half of them less one in the upper four and lower eight bits; 60 Hz.
+    const Reading reading =
+        withDescriptor({0, 0, 0, 0xF8, 0, 1, 0x7F, 0x10, 0x28, 0x1B, 0x24, 0x28, 0x0C, 0x28, 0x28, 0x7F, 0x1C, 0x28})
+            .reading();
+    const auto aspectOf = [&](int code) {
+        return fieldOf(reading, "base.descriptor[4].cvt[" + std::to_string(code) + "].aspect_ratio").text;
+    };
+    EXPECT_EQ(aspectOf(1), "4:3, 1024 pixels a line");
+    EXPECT_EQ(aspectOf(2), "16:9, 1920 pixels a line");
+    EXPECT_EQ(aspectOf(3), "16:10, 1680 pixels a line");
+    EXPECT_EQ(aspectOf(4), "15:9, 1280 pixels a line");
+    EXPECT_EQ(addedModes(reading), (Modes{"1024x768@60000", "1920x1080@60000", "1680x1050@60000", "1280x768@60000"}));
+    const Reading most = withDescriptor({0, 0, 0, 0xF8, 0, 1, 0xFF, 0xF0, 0x28}).reading();
+    EXPECT_EQ(valueOf(most, "base.descriptor[4].cvt[1].lines"), whole(8192));
+}
+
+struct CvtRate {
+    int bit;
+    std::string name;
+    std::string label;
+    int hertz;
+    int preferred; ///< the code of the preferred rate that it supports
+};
+
+TEST(Descriptors, TellEveryRateOfCvtCodes) {
+    const std::vector<CvtRate> rates = {{0x10, "rate_50", "50 Hz supported", 50, 0},
+                                        {0x08, "rate_60", "60 Hz supported", 60, 1},
+                                        {0x04, "rate_75", "75 Hz supported", 75, 2},
+                                        {0x02, "rate_85", "85 Hz supported", 85, 3},
+                                        {0x01, "rate_60_rb", "60 Hz with reduced blanking supported", 60, 1}};
+    const std::vector<std::string> preferred = {"50 Hz", "60 Hz", "75 Hz", "85 Hz"};
+    const std::string code = "base.descriptor[4].cvt[1].";
+    for (int chosen = 0; chosen < 4; ++chosen) {
+        for (const CvtRate& rate : rates) {
+            SCOPED_TRACE(rate.name + " with preferred rate " + std::to_string(chosen));
+            const Reading reading =
+                withDescriptor({0, 0, 0, 0xF8, 0, 1, 0x1B, 0x24, chosen << 5 | rate.bit, 0, 0, 0, 0, 0, 0, 0, 0, 0})
+                    .reading();
+            for (const CvtRate& other : rates) {
+                EXPECT_EQ(valueOf(reading, code + other.name), Value(other.bit == rate.bit));
+            }
+            EXPECT_EQ(fieldOf(reading, code + rate.name).label, rate.label);
+            EXPECT_EQ(fieldOf(reading, code + "preferred_rate").text, preferred[static_cast<std::size_t>(chosen)]);
+            EXPECT_EQ(addedModes(reading), (Modes{"1920x1080@" + std::to_string(rate.hertz) + "000"}));
+            EXPECT_EQ(countOf(reading, "cvt.preferred_rate_unsupported"), rate.preferred == chosen ? 0U : 1U);
+        }
+    }
 }
 
 TEST(Descriptors, TellMoreStandardTimings) {
