@@ -8,15 +8,15 @@ namespace {
 
 // The input (byte 20): VESA E-EDID Standard, Release A, section 3.6.1.
 
-constexpr std::array<Choice, 2> inputKinds = {{{0, "analog"}, {1, "digital"}}};
-constexpr std::array<Choice, 4> signalLevels = {{{0, "0.700 V and -0.300 V (1.000 V peak to peak)"},
-                                                 {1, "0.714 V and -0.286 V (1.000 V peak to peak)"},
-                                                 {2, "1.000 V and -0.400 V (1.400 V peak to peak)"},
-                                                 {3, "0.700 V and 0.000 V (0.700 V peak to peak)"}}};
+constexpr auto inputKinds = std::to_array<Choice>({{0, "analog"}, {1, "digital"}});
+constexpr auto signalLevels = std::to_array<Choice>({{0, "0.700 V and -0.300 V (1.000 V peak to peak)"},
+                                                     {1, "0.714 V and -0.286 V (1.000 V peak to peak)"},
+                                                     {2, "1.000 V and -0.400 V (1.400 V peak to peak)"},
+                                                     {3, "0.700 V and 0.000 V (0.700 V peak to peak)"}});
 constexpr std::uint64_t reservedDepth = 7;
-constexpr std::array<Choice, 2> bitDepths = {{{0, "not told"}, {reservedDepth, "reserved"}}};
-constexpr std::array<Choice, 6> interfaces = {
-    {{0, "not told"}, {1, "DVI"}, {2, "HDMI-a"}, {3, "HDMI-b"}, {4, "MDDI"}, {5, "DisplayPort"}}};
+constexpr auto bitDepths = std::to_array<Choice>({{0, "not told"}, {reservedDepth, "reserved"}});
+constexpr auto interfaces =
+    std::to_array<Choice>({{0, "not told"}, {1, "DVI"}, {2, "HDMI-a"}, {3, "HDMI-b"}, {4, "MDDI"}, {5, "DisplayPort"}});
 
 constexpr Row inputRow = {
     .name = "input", .label = "Video input", .parts = {{0, 7, 7}}, .kind = Kind::Choice, .choices = inputKinds};
@@ -90,7 +90,7 @@ void readInput(const Scope& base, int revision) {
 
 // The size (bytes 21 and 22): section 3.6.2.
 
-constexpr std::array<Choice, 1> notTold = {{{0, "not told"}}};
+constexpr auto notTold = std::to_array<Choice>({{0, "not told"}});
 constexpr Row widthRow = {
     .name = "width", .label = "Width of the screen", .parts = {{0}}, .unit = "cm", .choices = notTold};
 constexpr Row heightRow = {
@@ -117,7 +117,7 @@ void readSize(const Scope& base, int revision) {
 
 // Gamma (byte 23): section 3.6.3.
 
-constexpr std::array<Choice, 1> gammaElsewhere = {{{255, "told in an extension block"}}};
+constexpr auto gammaElsewhere = std::to_array<Choice>({{255, "told in an extension block"}});
 constexpr Row gammaRow = {.name = "gamma",
                           .label = "Gamma",
                           .parts = {{0}},
@@ -144,12 +144,12 @@ void readGamma(const Scope& base, int revision) {
 
 // Features (byte 24): section 3.6.4.
 
-constexpr std::array<Choice, 4> displayTypes = {
-    {{0, "monochrome or grayscale"}, {1, "RGB colour"}, {2, "non-RGB colour"}, {3, "not told"}}};
-constexpr std::array<Choice, 4> colorEncodings = {{{0, "RGB 4:4:4"},
-                                                   {1, "RGB 4:4:4, YCbCr 4:4:4"},
-                                                   {2, "RGB 4:4:4, YCbCr 4:2:2"},
-                                                   {3, "RGB 4:4:4, YCbCr 4:4:4, YCbCr 4:2:2"}}};
+constexpr auto displayTypes =
+    std::to_array<Choice>({{0, "monochrome or grayscale"}, {1, "RGB colour"}, {2, "non-RGB colour"}, {3, "not told"}});
+constexpr auto colorEncodings = std::to_array<Choice>({{0, "RGB 4:4:4"},
+                                                       {1, "RGB 4:4:4, YCbCr 4:4:4"},
+                                                       {2, "RGB 4:4:4, YCbCr 4:2:2"},
+                                                       {3, "RGB 4:4:4, YCbCr 4:4:4, YCbCr 4:2:2"}});
 constexpr std::array<Row, 3> powerRows = {{
     flagAt(0, 7, "standby", "Standby supported"),
     flagAt(0, 6, "suspend", "Suspend supported"),

@@ -25,9 +25,9 @@ void readMaker(const Scope& scope, std::uint64_t raw, Field& field) {
     scope.summary().maker = field.text;
 }
 
-constexpr std::array<Choice, 1> noSerialNumber = {{{0, "none"}}};
-constexpr std::array<Choice, 1> weeks = {{{0, "not told"}}};
-constexpr std::array<Choice, 2> weeksOrMark = {{{0, "not told"}, {modelYearMark, "the year is the model's"}}};
+constexpr auto noSerialNumber = std::to_array<Choice>({{0, "none"}});
+constexpr auto weeks = std::to_array<Choice>({{0, "not told"}});
+constexpr auto weeksOrMark = std::to_array<Choice>({{0, "not told"}, {modelYearMark, "the year is the model's"}});
 
 /// VESA E-EDID Standard, Release A, section 3.4.
 constexpr std::array<Row, 4> productRows = {{

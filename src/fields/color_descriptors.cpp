@@ -6,8 +6,8 @@ namespace wb::fields {
 
 namespace {
 
-constexpr std::array<Choice, 1> unusedPoint = {{{0, "unused"}}};
-constexpr std::array<Choice, 1> noGamma = {{{255, "not told"}}};
+constexpr auto unusedPoint = std::to_array<Choice>({{0, "unused"}});
+constexpr auto noGamma = std::to_array<Choice>({{255, "not told"}});
 
 /// VESA E-EDID Standard, Release A, section 3.10.3.5: two of these, 5 bytes each.
 constexpr std::array<Row, 5> whitePointRows = {{

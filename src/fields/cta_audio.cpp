@@ -18,33 +18,33 @@ constexpr unsigned mpegH = 11;
 constexpr unsigned pcm3d = 13;
 
 /// CTA-861-H, table 37.
-constexpr std::array<Choice, 15> formats = {{{1, "L-PCM"},
-                                             {2, "AC-3"},
-                                             {3, "MPEG-1"},
-                                             {4, "MP3"},
-                                             {5, "MPEG-2"},
-                                             {6, "AAC LC"},
-                                             {7, "DTS"},
-                                             {8, "ATRAC"},
-                                             {9, "One Bit Audio"},
-                                             {10, "Enhanced AC-3"},
-                                             {11, "DTS-HD"},
-                                             {12, "MAT"},
-                                             {13, "DST"},
-                                             {14, "WMA Pro"},
-                                             {15, "extended"}}};
+constexpr auto formats = std::to_array<Choice>({{1, "L-PCM"},
+                                                {2, "AC-3"},
+                                                {3, "MPEG-1"},
+                                                {4, "MP3"},
+                                                {5, "MPEG-2"},
+                                                {6, "AAC LC"},
+                                                {7, "DTS"},
+                                                {8, "ATRAC"},
+                                                {9, "One Bit Audio"},
+                                                {10, "Enhanced AC-3"},
+                                                {11, "DTS-HD"},
+                                                {12, "MAT"},
+                                                {13, "DST"},
+                                                {14, "WMA Pro"},
+                                                {15, "extended"}});
 /// CTA-861-H, table 39; the last two are of CTA-861-I.
-constexpr std::array<Choice, 11> extendedFormats = {{{4, "MPEG-4 HE AAC"},
-                                                     {5, "MPEG-4 HE AAC v2"},
-                                                     {6, "MPEG-4 AAC LC"},
-                                                     {7, "DRA"},
-                                                     {8, "MPEG-4 HE AAC + MPEG Surround"},
-                                                     {10, "MPEG-4 AAC LC + MPEG Surround"},
-                                                     {11, "MPEG-H 3D Audio"},
-                                                     {12, "AC-4"},
-                                                     {13, "L-PCM 3D Audio"},
-                                                     {14, "Auro-Cx"},
-                                                     {15, "MPEG-D USAC"}}};
+constexpr auto extendedFormats = std::to_array<Choice>({{4, "MPEG-4 HE AAC"},
+                                                        {5, "MPEG-4 HE AAC v2"},
+                                                        {6, "MPEG-4 AAC LC"},
+                                                        {7, "DRA"},
+                                                        {8, "MPEG-4 HE AAC + MPEG Surround"},
+                                                        {10, "MPEG-4 AAC LC + MPEG Surround"},
+                                                        {11, "MPEG-H 3D Audio"},
+                                                        {12, "AC-4"},
+                                                        {13, "L-PCM 3D Audio"},
+                                                        {14, "Auro-Cx"},
+                                                        {15, "MPEG-D USAC"}});
 
 constexpr Row reservedTop = reservedAt(0, 7, 7, "reserved_1");
 constexpr Row formatRow = {
@@ -82,7 +82,7 @@ constexpr Row extendedRow = {.name = "extended_format",
 constexpr std::array<Row, 3> aacLengths = {{flagAt(2, 2, "length_1024", "Transforms of 1024 samples"),
                                             flagAt(2, 1, "length_960", "Transforms of 960 samples"),
                                             reservedAt(2, 0, 0, "reserved_3")}};
-constexpr std::array<Choice, 2> surroundSignals = {{{0, "implicit"}, {1, "implicit and explicit"}}};
+constexpr auto surroundSignals = std::to_array<Choice>({{0, "implicit"}, {1, "implicit and explicit"}});
 constexpr std::array<Row, 3> aacSurroundRows = {{flagAt(2, 2, "length_1024", "Transforms of 1024 samples"),
                                                  flagAt(2, 1, "length_960", "Transforms of 960 samples"),
                                                  {.name = "surround_signaling",
@@ -99,7 +99,7 @@ constexpr std::array<Row, 1> extendedValue = {
     {{.name = "format_value", .label = "Value that the format defines", .parts = {{2, 2, 0}}}}};
 
 /// Level 0 is none; CTA-861-H, table 42.
-constexpr std::array<Choice, 1> noLevel = {{{0, "not told"}}};
+constexpr auto noLevel = std::to_array<Choice>({{0, "not told"}});
 constexpr Row levelRow = {.name = "level", .label = "MPEG-H 3D Audio level", .parts = {{0, 2, 0}}, .choices = noLevel};
 /// Five bits in three places.
 constexpr Row channels3dRow = {

@@ -6,13 +6,13 @@ namespace wb::fields {
 
 namespace {
 
-constexpr std::array<Choice, 2> quantizations = {{{0, "not told"}, {1, "selectable"}}};
-constexpr std::array<Choice, 4> preferredScans = {
-    {{0, "as for IT and CE formats"}, {1, "always overscanned"}, {2, "always underscanned"}, {3, "both"}}};
-constexpr std::array<Choice, 4> scansOfIt = {
-    {{0, "IT formats not supported"}, {1, "always overscanned"}, {2, "always underscanned"}, {3, "both"}}};
-constexpr std::array<Choice, 4> scansOfCe = {
-    {{0, "CE formats not supported"}, {1, "always overscanned"}, {2, "always underscanned"}, {3, "both"}}};
+constexpr auto quantizations = std::to_array<Choice>({{0, "not told"}, {1, "selectable"}});
+constexpr auto preferredScans = std::to_array<Choice>(
+    {{0, "as for IT and CE formats"}, {1, "always overscanned"}, {2, "always underscanned"}, {3, "both"}});
+constexpr auto scansOfIt = std::to_array<Choice>(
+    {{0, "IT formats not supported"}, {1, "always overscanned"}, {2, "always underscanned"}, {3, "both"}});
+constexpr auto scansOfCe = std::to_array<Choice>(
+    {{0, "CE formats not supported"}, {1, "always overscanned"}, {2, "always underscanned"}, {3, "both"}});
 
 /// CTA-861-H, table 76.
 constexpr std::array<Row, 5> capabilityRows = {{
@@ -53,7 +53,7 @@ std::string luminanceText(std::uint64_t raw, double luminance) {
     return std::to_string(raw) + " (" + decimalText(luminance, luminance < 1 ? 4 : 1) + " cd/m2)";
 }
 
-constexpr std::array<Choice, 1> noLuminance = {{{0, "not told"}}};
+constexpr auto noLuminance = std::to_array<Choice>({{0, "not told"}});
 
 void describeMaxLuminance(const Scope&, std::uint64_t raw, Field& field) {
     if (raw != 0) {
@@ -94,8 +94,8 @@ constexpr Row minLuminanceRow = {
 constexpr std::size_t hdrEnd = 7;
 
 /// CTA-861-H, table 89.
-constexpr std::array<Choice, 4> metadataTypes = {
-    {{1, "SMPTE ST 2094-10"}, {2, "ETSI TS 103 433"}, {3, "ITU-T H.265 SEI"}, {4, "SMPTE ST 2094-40"}}};
+constexpr auto metadataTypes = std::to_array<Choice>(
+    {{1, "SMPTE ST 2094-10"}, {2, "ETSI TS 103 433"}, {3, "ITU-T H.265 SEI"}, {4, "SMPTE ST 2094-40"}});
 constexpr std::array<Row, 2> dynamicHead = {{
     {.name = "length", .label = "Bytes that follow", .parts = {{0}}},
     {.name = "type", .label = "Dynamic metadata", .parts = {{2}, {1}}, .kind = Kind::Choice, .choices = metadataTypes},

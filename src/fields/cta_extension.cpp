@@ -13,7 +13,7 @@ constexpr std::size_t lastEnd = checksumCell;
 constexpr unsigned flagRevision = 2;
 constexpr unsigned dataBlockRevision = 3;
 
-constexpr std::array<Choice, 3> revisions = {{{1, "1 (CEA-861)"}, {2, "2 (CEA-861-A)"}, {3, "3 (CEA-861-B on)"}}};
+constexpr auto revisions = std::to_array<Choice>({{1, "1 (CEA-861)"}, {2, "2 (CEA-861-A)"}, {3, "3 (CEA-861-B on)"}});
 
 void describeRevision(const Scope&, std::uint64_t raw, Field& field) {
     if (const std::string_view words = choiceText(revisions, raw); !words.empty()) {

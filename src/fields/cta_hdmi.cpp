@@ -52,8 +52,8 @@ constexpr std::size_t headEnd = 9;
 constexpr Parts deepColors = {{6, 6, 4}};
 
 /// In steps of 2 ms, of which the first stands for 0 ms.
-constexpr std::array<Choice, 5> latencyWords = {
-    {{0, "not told"}, {252, "reserved"}, {253, "reserved"}, {254, "reserved"}, {255, "not supported"}}};
+constexpr auto latencyWords = std::to_array<Choice>(
+    {{0, "not told"}, {252, "reserved"}, {253, "reserved"}, {254, "reserved"}, {255, "not supported"}});
 constexpr Row latencyRow(std::size_t offset, std::string_view name, std::string_view label) {
     return {.name = name,
             .label = label,
@@ -70,14 +70,14 @@ constexpr std::array<Row, 2> interlacedLatencyRows = {
      latencyRow(1, "interlaced_audio_latency", "Audio latency of interlaced formats")}};
 
 /// HDMI 1.4b, table 8-17.
-constexpr std::array<Choice, 4> multiWords = {{{0, "none"},
-                                               {1, "structures for the first 16 video descriptors"},
-                                               {2, "structures for those video descriptors that a mask names"},
-                                               {3, "reserved"}}};
-constexpr std::array<Choice, 4> imageSizes = {{{0, "not told"},
-                                               {1, "of the right aspect ratio in block 0"},
-                                               {2, "right in block 0, in cm"},
-                                               {3, "right in block 0, in 5 cm"}}};
+constexpr auto multiWords = std::to_array<Choice>({{0, "none"},
+                                                   {1, "structures for the first 16 video descriptors"},
+                                                   {2, "structures for those video descriptors that a mask names"},
+                                                   {3, "reserved"}});
+constexpr auto imageSizes = std::to_array<Choice>({{0, "not told"},
+                                                   {1, "of the right aspect ratio in block 0"},
+                                                   {2, "right in block 0, in cm"},
+                                                   {3, "right in block 0, in 5 cm"}});
 constexpr Row vicLengthRow = {.name = "vic_length", .label = "HDMI video codes", .parts = {{1, 7, 5}}};
 constexpr Row lengthRow3d = {.name = "three_d_length", .label = "Bytes about 3D", .parts = {{1, 4, 0}}};
 constexpr Row multiRow = {.name = "three_d_multi",
@@ -107,14 +107,14 @@ void describeVic(const Scope&, std::uint64_t raw, Field& field) {
 }
 
 /// HDMI 1.4b, tables 8-18 and H-2.
-constexpr std::array<Choice, 8> structures = {{{0, "frame packing"},
-                                               {1, "field alternative"},
-                                               {2, "line alternative"},
-                                               {3, "side by side, full"},
-                                               {4, "left and depth"},
-                                               {5, "left, depth, graphics and graphics depth"},
-                                               {6, "top and bottom"},
-                                               {8, "side by side, half"}}};
+constexpr auto structures = std::to_array<Choice>({{0, "frame packing"},
+                                                   {1, "field alternative"},
+                                                   {2, "line alternative"},
+                                                   {3, "side by side, full"},
+                                                   {4, "left and depth"},
+                                                   {5, "left, depth, graphics and graphics depth"},
+                                                   {6, "top and bottom"},
+                                                   {8, "side by side, half"}});
 constexpr std::array<Row, 10> allStructureRows = {{
     reservedAt(0, 7, 1, "reserved_4"),
     flagAt(0, 0, "three_d_all.side_by_side_half", "Side by side, half"),
@@ -128,13 +128,13 @@ constexpr std::array<Row, 10> allStructureRows = {{
     flagAt(1, 0, "three_d_all.frame_packing", "Frame packing"),
 }};
 
-constexpr std::array<Choice, 7> details = {{{0, "all horizontal and quincunx sub-samplings"},
-                                            {1, "horizontal sub-sampling"},
-                                            {6, "all quincunx sub-samplings"},
-                                            {7, "quincunx, odd left, odd right"},
-                                            {8, "quincunx, odd left, even right"},
-                                            {9, "quincunx, even left, odd right"},
-                                            {10, "quincunx, even left, even right"}}};
+constexpr auto details = std::to_array<Choice>({{0, "all horizontal and quincunx sub-samplings"},
+                                                {1, "horizontal sub-sampling"},
+                                                {6, "all quincunx sub-samplings"},
+                                                {7, "quincunx, odd left, odd right"},
+                                                {8, "quincunx, odd left, even right"},
+                                                {9, "quincunx, even left, odd right"},
+                                                {10, "quincunx, even left, even right"}});
 constexpr Row structureRow = {
     .name = "structure", .label = "3D structure", .parts = {{0, 3, 0}}, .kind = Kind::Choice, .choices = structures};
 constexpr std::array<Row, 2> structureRows = {

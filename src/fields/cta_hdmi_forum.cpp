@@ -4,24 +4,24 @@ namespace wb::fields {
 
 namespace {
 
-constexpr std::array<Choice, 7> linkRates = {{{0, "none"},
-                                              {1, "3 Gbit/s on 3 lanes"},
-                                              {2, "6 Gbit/s on 3 lanes"},
-                                              {3, "6 Gbit/s on 4 lanes"},
-                                              {4, "8 Gbit/s on 4 lanes"},
-                                              {5, "10 Gbit/s on 4 lanes"},
-                                              {6, "12 Gbit/s on 4 lanes"}}};
-constexpr std::array<Choice, 8> sliceCounts = {{{0, "none"},
-                                                {1, "1 slice up to 340 MHz"},
-                                                {2, "2 slices up to 340 MHz each"},
-                                                {3, "4 slices up to 340 MHz each"},
-                                                {4, "8 slices up to 340 MHz each"},
-                                                {5, "8 slices up to 400 MHz each"},
-                                                {6, "12 slices up to 400 MHz each"},
-                                                {7, "16 slices up to 400 MHz each"}}};
-constexpr std::array<Choice, 1> noRate = {{{0, "not above 340 MHz"}}};
-constexpr std::array<Choice, 1> noVariableRate = {{{0, "none"}}};
-constexpr std::array<Choice, 1> noLimit = {{{0, "not told"}}};
+constexpr auto linkRates = std::to_array<Choice>({{0, "none"},
+                                                  {1, "3 Gbit/s on 3 lanes"},
+                                                  {2, "6 Gbit/s on 3 lanes"},
+                                                  {3, "6 Gbit/s on 4 lanes"},
+                                                  {4, "8 Gbit/s on 4 lanes"},
+                                                  {5, "10 Gbit/s on 4 lanes"},
+                                                  {6, "12 Gbit/s on 4 lanes"}});
+constexpr auto sliceCounts = std::to_array<Choice>({{0, "none"},
+                                                    {1, "1 slice up to 340 MHz"},
+                                                    {2, "2 slices up to 340 MHz each"},
+                                                    {3, "4 slices up to 340 MHz each"},
+                                                    {4, "8 slices up to 340 MHz each"},
+                                                    {5, "8 slices up to 400 MHz each"},
+                                                    {6, "12 slices up to 400 MHz each"},
+                                                    {7, "16 slices up to 400 MHz each"}});
+constexpr auto noRate = std::to_array<Choice>({{0, "not above 340 MHz"}});
+constexpr auto noVariableRate = std::to_array<Choice>({{0, "none"}});
+constexpr auto noLimit = std::to_array<Choice>({{0, "not told"}});
 
 constexpr Row rateRow = {.name = "max_tmds_clock",
                          .label = "Highest TMDS character rate",

@@ -5,7 +5,7 @@ namespace wb::fields {
 
 namespace {
 
-constexpr std::array<Choice, 4> curveColors = {{{0, "white"}, {1, "red"}, {2, "green"}, {3, "blue"}}};
+constexpr auto curveColors = std::to_array<Choice>({{0, "white"}, {1, "red"}, {2, "green"}, {3, "blue"}});
 /// VESA Display Transfer Characteristics Data Block Standard, version 1.
 constexpr Row firstPointRow = {.name = "first", .label = "First point of the curve", .parts = {{1, 5, 0}}};
 constexpr Row curveColorRow = {.name = "color",
@@ -29,21 +29,21 @@ void describeCurve(const Scope& scope, std::uint64_t, Field& field) {
     field.value = std::move(points);
 }
 
-constexpr std::array<Choice, 15> interfaces = {{{0x00, "analog, VGA connector"},
-                                                {0x01, "analog, NAVI-V"},
-                                                {0x02, "analog, NAVI-D"},
-                                                {0x10, "LVDS"},
-                                                {0x20, "RSDS"},
-                                                {0x30, "DVI-D"},
-                                                {0x40, "DVI-I, analog"},
-                                                {0x50, "DVI-I, digital"},
-                                                {0x60, "HDMI-A"},
-                                                {0x70, "HDMI-B"},
-                                                {0x80, "MDDI"},
-                                                {0x90, "DisplayPort"},
-                                                {0xA0, "IEEE 1394"},
-                                                {0xB0, "M1, analog"},
-                                                {0xC0, "M1, digital"}}};
+constexpr auto interfaces = std::to_array<Choice>({{0x00, "analog, VGA connector"},
+                                                   {0x01, "analog, NAVI-V"},
+                                                   {0x02, "analog, NAVI-D"},
+                                                   {0x10, "LVDS"},
+                                                   {0x20, "RSDS"},
+                                                   {0x30, "DVI-D"},
+                                                   {0x40, "DVI-I, analog"},
+                                                   {0x50, "DVI-I, digital"},
+                                                   {0x60, "HDMI-A"},
+                                                   {0x70, "HDMI-B"},
+                                                   {0x80, "MDDI"},
+                                                   {0x90, "DisplayPort"},
+                                                   {0xA0, "IEEE 1394"},
+                                                   {0xB0, "M1, analog"},
+                                                   {0xC0, "M1, digital"}});
 
 /// The low digit counts lanes or links, but for analog interfaces.
 void describeInterface(const Scope&, std::uint64_t raw, Field& field) {
@@ -56,30 +56,30 @@ void describeInterface(const Scope&, std::uint64_t raw, Field& field) {
     field.value = field.text;
 }
 
-constexpr std::array<Choice, 4> protections = {{{0, "none"}, {1, "HDCP"}, {2, "DTCP"}, {3, "DPCP"}}};
-constexpr std::array<Choice, 4> orientations = {
-    {{0, "landscape"}, {1, "portrait"}, {2, "not fixed"}, {3, "not defined"}}};
-constexpr std::array<Choice, 4> rotations = {
-    {{0, "none"}, {1, "90 degrees clockwise"}, {2, "90 degrees counterclockwise"}, {3, "90 degrees either way"}}};
-constexpr std::array<Choice, 4> zeroPixels = {
-    {{0, "upper left"}, {1, "upper right"}, {2, "lower left"}, {3, "lower right"}}};
-constexpr std::array<Choice, 4> scanDirections = {
-    {{0, "not defined"}, {1, "fast along the long side"}, {2, "fast along the short side"}, {3, "reserved"}}};
-constexpr std::array<Choice, 4> ditherings = {{{0, "none"}, {1, "spatial"}, {2, "temporal"}, {3, "both"}}};
-constexpr std::array<Choice, 4> conversions = {
-    {{0, "none"}, {1, "one buffer"}, {2, "two buffers"}, {3, "between frames"}}};
-constexpr std::array<Choice, 10> subpixels = {{{0, "not defined"},
-                                               {1, "RGB vertical stripes"},
-                                               {2, "RGB horizontal stripes"},
-                                               {3, "vertical stripes in the order of the primaries"},
-                                               {4, "horizontal stripes in the order of the primaries"},
-                                               {5, "quad, red at the upper left"},
-                                               {6, "quad, red at the lower left"},
-                                               {7, "delta"},
-                                               {8, "mosaic"},
-                                               {9, "other"}}};
-constexpr std::array<Choice, 2> delaySigns = {{{0, "after the picture"}, {1, "before the picture"}}};
-constexpr std::array<Choice, 2> responses = {{{0, "black to white"}, {1, "white to black"}}};
+constexpr auto protections = std::to_array<Choice>({{0, "none"}, {1, "HDCP"}, {2, "DTCP"}, {3, "DPCP"}});
+constexpr auto orientations =
+    std::to_array<Choice>({{0, "landscape"}, {1, "portrait"}, {2, "not fixed"}, {3, "not defined"}});
+constexpr auto rotations = std::to_array<Choice>(
+    {{0, "none"}, {1, "90 degrees clockwise"}, {2, "90 degrees counterclockwise"}, {3, "90 degrees either way"}});
+constexpr auto zeroPixels =
+    std::to_array<Choice>({{0, "upper left"}, {1, "upper right"}, {2, "lower left"}, {3, "lower right"}});
+constexpr auto scanDirections = std::to_array<Choice>(
+    {{0, "not defined"}, {1, "fast along the long side"}, {2, "fast along the short side"}, {3, "reserved"}});
+constexpr auto ditherings = std::to_array<Choice>({{0, "none"}, {1, "spatial"}, {2, "temporal"}, {3, "both"}});
+constexpr auto conversions =
+    std::to_array<Choice>({{0, "none"}, {1, "one buffer"}, {2, "two buffers"}, {3, "between frames"}});
+constexpr auto subpixels = std::to_array<Choice>({{0, "not defined"},
+                                                  {1, "RGB vertical stripes"},
+                                                  {2, "RGB horizontal stripes"},
+                                                  {3, "vertical stripes in the order of the primaries"},
+                                                  {4, "horizontal stripes in the order of the primaries"},
+                                                  {5, "quad, red at the upper left"},
+                                                  {6, "quad, red at the lower left"},
+                                                  {7, "delta"},
+                                                  {8, "mosaic"},
+                                                  {9, "other"}});
+constexpr auto delaySigns = std::to_array<Choice>({{0, "after the picture"}, {1, "before the picture"}});
+constexpr auto responses = std::to_array<Choice>({{0, "black to white"}, {1, "white to black"}});
 
 /// VESA Display Device Data Block Standard, version 1.
 constexpr std::array<Row, 36> deviceRows = {{

@@ -8,9 +8,9 @@ namespace {
 
 // VESA E-EDID Standard, Release A, section 3.10.3.8.
 
-constexpr std::array<Choice, 4> aspectChoices = {{{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "15:9"}}};
-constexpr std::array<std::array<int, 2>, 4> aspects = {{{4, 3}, {16, 9}, {16, 10}, {15, 9}}};
-constexpr std::array<Choice, 4> rateChoices = {{{0, "50 Hz"}, {1, "60 Hz"}, {2, "75 Hz"}, {3, "85 Hz"}}};
+constexpr auto aspectChoices = std::to_array<Choice>({{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "15:9"}});
+constexpr auto aspects = std::to_array<std::array<int, 2>>({{4, 3}, {16, 9}, {16, 10}, {15, 9}});
+constexpr auto rateChoices = std::to_array<Choice>({{0, "50 Hz"}, {1, "60 Hz"}, {2, "75 Hz"}, {3, "85 Hz"}});
 
 constexpr Row linesRow = {
     .name = "lines", .label = "Active lines", .parts = {{1, 7, 4}, {0}}, .unit = "px", .scale = 2, .bias = 2};

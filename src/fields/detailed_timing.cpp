@@ -10,18 +10,18 @@ namespace {
 /// Bits 4 and 3 of the flags.
 enum class SyncKind { Analog = 0, BipolarAnalog = 1, Composite = 2, Separate = 3 };
 
-constexpr std::array<Choice, 4> syncKinds = {
-    {{0, "analog composite"}, {1, "bipolar analog composite"}, {2, "digital composite"}, {3, "digital separate"}}};
-constexpr std::array<Choice, 2> polarities = {{{0, "negative"}, {1, "positive"}}};
+constexpr auto syncKinds = std::to_array<Choice>(
+    {{0, "analog composite"}, {1, "bipolar analog composite"}, {2, "digital composite"}, {3, "digital separate"}});
+constexpr auto polarities = std::to_array<Choice>({{0, "negative"}, {1, "positive"}});
 /// Bits 6, 5 and 0 of the flags.
-constexpr std::array<Choice, 8> stereoModes = {{{0, "none"},
-                                                {1, "none"},
-                                                {2, "field sequential, right image on sync"},
-                                                {3, "2-way interleaved, right image on even lines"},
-                                                {4, "field sequential, left image on sync"},
-                                                {5, "2-way interleaved, left image on even lines"},
-                                                {6, "4-way interleaved"},
-                                                {7, "side by side interleaved"}}};
+constexpr auto stereoModes = std::to_array<Choice>({{0, "none"},
+                                                    {1, "none"},
+                                                    {2, "field sequential, right image on sync"},
+                                                    {3, "2-way interleaved, right image on even lines"},
+                                                    {4, "field sequential, left image on sync"},
+                                                    {5, "2-way interleaved, left image on even lines"},
+                                                    {6, "4-way interleaved"},
+                                                    {7, "side by side interleaved"}});
 
 /// The rows of the table that a DetailedTiming is read from, by their place in it.
 enum TimingRow : std::size_t {

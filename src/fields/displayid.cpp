@@ -17,22 +17,22 @@ constexpr std::size_t mostBytes = blockEnd - firstDataBlock - 1;
 constexpr std::size_t dataBlockHead = 3;
 constexpr unsigned firstVersion2 = 0x20;
 
-constexpr std::array<Choice, 7> productTypes = {{{0, "extension of another section"},
-                                                 {1, "test equipment"},
-                                                 {2, "display panel"},
-                                                 {3, "standalone display"},
-                                                 {4, "television receiver"},
-                                                 {5, "repeater"},
-                                                 {6, "direct drive monitor"}}};
-constexpr std::array<Choice, 9> primaryUses = {{{0, "extension of another section"},
-                                                {1, "test equipment"},
-                                                {2, "generic display"},
-                                                {3, "television"},
-                                                {4, "desktop productivity"},
-                                                {5, "desktop gaming"},
-                                                {6, "presentation"},
-                                                {7, "virtual reality"},
-                                                {8, "augmented reality"}}};
+constexpr auto productTypes = std::to_array<Choice>({{0, "extension of another section"},
+                                                     {1, "test equipment"},
+                                                     {2, "display panel"},
+                                                     {3, "standalone display"},
+                                                     {4, "television receiver"},
+                                                     {5, "repeater"},
+                                                     {6, "direct drive monitor"}});
+constexpr auto primaryUses = std::to_array<Choice>({{0, "extension of another section"},
+                                                    {1, "test equipment"},
+                                                    {2, "generic display"},
+                                                    {3, "television"},
+                                                    {4, "desktop productivity"},
+                                                    {5, "desktop gaming"},
+                                                    {6, "presentation"},
+                                                    {7, "virtual reality"},
+                                                    {8, "augmented reality"}});
 
 constexpr std::array<Row, 3> headRows = {{
     {.name = "tag", .label = "Extension tag", .parts = {{0}}},
@@ -64,7 +64,7 @@ void describeOui(const Scope&, std::uint64_t, Field& field) {
 }
 
 constexpr std::uint64_t modelYearWeek = 0xFF;
-constexpr std::array<Choice, 2> weeks = {{{0, "not told"}, {modelYearWeek, "none, the year is that of the model"}}};
+constexpr auto weeks = std::to_array<Choice>({{0, "not told"}, {modelYearWeek, "none, the year is that of the model"}});
 
 constexpr Row lettersRow = {
     .name = "vendor", .label = "Vendor", .parts = {{3}}, .kind = Kind::Bytes, .length = 3, .read = describeLetters};

@@ -7,17 +7,17 @@ namespace wb::fields {
 
 namespace {
 
-constexpr std::array<Choice, 4> stereos = {{{0, "none"}, {1, "stereo"}, {2, "as the user wants"}, {3, "reserved"}}};
-constexpr std::array<Choice, 9> aspects = {{{0, "1:1"},
-                                            {1, "5:4"},
-                                            {2, "4:3"},
-                                            {3, "15:9"},
-                                            {4, "16:9"},
-                                            {5, "16:10"},
-                                            {6, "64:27"},
-                                            {7, "256:135"},
-                                            {8, "not defined"}}};
-constexpr std::array<Choice, 2> polarities = {{{0, "negative"}, {1, "positive"}}};
+constexpr auto stereos = std::to_array<Choice>({{0, "none"}, {1, "stereo"}, {2, "as the user wants"}, {3, "reserved"}});
+constexpr auto aspects = std::to_array<Choice>({{0, "1:1"},
+                                                {1, "5:4"},
+                                                {2, "4:3"},
+                                                {3, "15:9"},
+                                                {4, "16:9"},
+                                                {5, "16:10"},
+                                                {6, "64:27"},
+                                                {7, "256:135"},
+                                                {8, "not defined"}});
+constexpr auto polarities = std::to_array<Choice>({{0, "negative"}, {1, "positive"}});
 
 constexpr Row countRow(std::size_t offset, std::string_view name, std::string_view label) {
     return {.name = name, .label = label, .parts = {{offset + 1}, {offset}}, .unit = "px", .bias = 1};

@@ -9,7 +9,7 @@ namespace wb::fields {
 namespace {
 
 /// Byte 4 since 1.4: what is added to the rates, which would end at 255 otherwise.
-constexpr std::array<Choice, 3> offsets = {{{0, "none"}, {2, "255 on the maximum"}, {3, "255 on both"}}};
+constexpr auto offsets = std::to_array<Choice>({{0, "none"}, {2, "255 on the maximum"}, {3, "255 on both"}});
 constexpr double rateOffset = 255;
 constexpr std::array<Row, 3> offsetRows = {{
     reservedAt(4, 7, 4, "reserved"),
@@ -32,7 +32,7 @@ constexpr Row minHorizontalRow = {
 constexpr Row maxHorizontalRow = {
     .name = "max_h_rate", .label = "Highest horizontal rate", .parts = {{8}}, .unit = "kHz"};
 constexpr double clockUnit = 10;
-constexpr std::array<Choice, 1> clockNotTold = {{{0, "not told"}}};
+constexpr auto clockNotTold = std::to_array<Choice>({{0, "not told"}});
 constexpr Row clockRow = {.name = "max_pixel_clock",
                           .label = "Highest pixel clock",
                           .parts = {{9}},
@@ -42,9 +42,9 @@ constexpr Row clockRow = {.name = "max_pixel_clock",
 
 /// Byte 10.
 enum class Formula : std::uint8_t { DefaultGtf = 0, None = 1, SecondaryGtf = 2, Cvt = 4 };
-constexpr std::array<Choice, 4> formulas = {
-    {{0, "default GTF"}, {1, "range limits only"}, {2, "secondary GTF"}, {4, "CVT"}}};
-constexpr std::array<Choice, 2> oldFormulas = {{{0, "no secondary timing formula"}, {2, "secondary GTF"}}};
+constexpr auto formulas =
+    std::to_array<Choice>({{0, "default GTF"}, {1, "range limits only"}, {2, "secondary GTF"}, {4, "CVT"}});
+constexpr auto oldFormulas = std::to_array<Choice>({{0, "no secondary timing formula"}, {2, "secondary GTF"}});
 constexpr Row formulaRow = {.name = "timing_support",
                             .label = "Timing formula supported",
                             .parts = {{10}},
@@ -67,8 +67,8 @@ constexpr std::array<Row, 6> secondaryGtfRows = {{
     {.name = "gtf_j", .label = "J of the secondary curve", .parts = {{17}}, .unit = "%", .scale = 0.5, .decimals = 1},
 }};
 
-constexpr std::array<Choice, 5> aspects = {{{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "5:4"}, {4, "15:9"}}};
-constexpr std::array<Choice, 1> noLimit = {{{0, "no limit"}}};
+constexpr auto aspects = std::to_array<Choice>({{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "5:4"}, {4, "15:9"}});
+constexpr auto noLimit = std::to_array<Choice>({{0, "no limit"}});
 
 /// VESA E-EDID Standard, Release A, section 3.10.3.3.2.
 constexpr std::array<Row, 19> cvtRows = {{

@@ -12,7 +12,7 @@ namespace wb::platform::headless {
 namespace {
 
 std::string_view answerName(Answer answer) {
-    static constexpr std::array<std::string_view, 4> names = {"OK", "Yes", "No", "Cancel"};
+    static constexpr std::array names = {"OK", "Yes", "No", "Cancel"};
     return names[static_cast<std::size_t>(answer)];
 }
 
@@ -157,13 +157,13 @@ void HeadlessPlatform::wait(double seconds) {
 }
 
 std::string HeadlessPlatform::dayName(const DateTime& date) const {
-    static constexpr std::array<const char*, 7> names = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+    static constexpr std::array names = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
     return names[std::chrono::weekday(dayOf(date)).c_encoding()];
 }
 
 std::string HeadlessPlatform::monthName(const DateTime& date) const {
-    static constexpr std::array<const char*, 12> names = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                          "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    static constexpr std::array names = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     return names[static_cast<std::size_t>(date.month - 1)];
 }
 
