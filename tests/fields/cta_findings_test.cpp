@@ -125,9 +125,13 @@ TEST(CtaFindings, TellOfMoreNativeTimingsThanThereAre) {
 }
 
 TEST(CtaFindings, TellOfOneYcbcrFlagWithoutTheOtherOnHdmi) {
-    EXPECT_EQ(countIn(ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00}, ycbcr444), "cta.ycbcr_flags"), 1U);
-    EXPECT_EQ(countIn(ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00}, ycbcr444 | ycbcr422), "cta.ycbcr_flags"), 0U);
+    const auto onHdmi = [](int flags) { return ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00}, flags).reading(); };
+    EXPECT_EQ(findingOf(onHdmi(ycbcr444), "cta.ycbcr_flags").path, "cta[1].header.ycbcr_444");
+    EXPECT_EQ(findingOf(onHdmi(ycbcr422), "cta.ycbcr_flags").path, "cta[1].header.ycbcr_422");
+    EXPECT_EQ(countOf(onHdmi(ycbcr444 | ycbcr422), "cta.ycbcr_flags"), 0U);
+    EXPECT_EQ(countOf(onHdmi(basicAudio), "cta.ycbcr_flags"), 0U);
     EXPECT_EQ(countIn(ctaWith({0x41, 16}, ycbcr444), "cta.ycbcr_flags"), 0U);
+    EXPECT_EQ(countIn(ctaWith({0x41, 16}, ycbcr422), "cta.ycbcr_flags"), 0U);
 }
 
 TEST(CtaFindings, TellOfOddPhysicalAddresses) {

@@ -26,7 +26,8 @@ std::string inRows(const std::string& bytes, std::size_t perRow,
     return text;
 }
 
-std::string formatted(const char* format, unsigned value) {
+template <class Number>
+std::string formatted(const char* format, Number value) {
     std::array<char, 32> buffer{};
     std::snprintf(buffer.data(), buffer.size(), format, value);
     return buffer.data();
@@ -41,11 +42,14 @@ std::string each(const std::string& bytes, const char* format, const std::string
     return text;
 }
 
-/// Words of two bytes, the least significant first, as machines of today print them.
-std::string words(const std::string& bytes, const char* format) {
+/// Words of so many bytes, the least significant first, as machines of today print them.
+std::string words(const std::string& bytes, const char* format, std::size_t size = 2) {
     std::string text;
-    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-        const unsigned value = static_cast<unsigned char>(bytes[i]) + 256U * static_cast<unsigned char>(bytes[i + 1]);
+    for (std::size_t i = 0; i + size <= bytes.size(); i += size) {
+        unsigned long long value = 0;
+        for (std::size_t k = size; k > 0; --k) {
+            value = 256 * value + static_cast<unsigned char>(bytes[i + k - 1]);
+        }
         text += formatted(format, value);
     }
     return text;
@@ -79,6 +83,21 @@ std::string hexWith(const std::string& bytes, const char* offset, const std::str
         return formatted(offset, static_cast<unsigned>(place)) + behind + each(row, "%02x", " ") +
                (column ? "  |" + shown(row) + "|" : "") + '\n';
     });
+}
+
+/// The columns of "od -c", four characters a byte.
+std::string characters(const std::string& bytes) {
+    constexpr std::string_view escapes = "0??????abtnvfr"; // of the codes from 0 on
+    std::string text;
+    for (const char c : bytes) {
+        const auto code = static_cast<unsigned char>(c);
+        const bool escaped = code < escapes.size() && escapes[code] != '?';
+        const bool plain = c >= ' ' && c <= '~';
+        text += escaped ? std::string("  \\") + escapes[code]
+                : plain ? std::string("   ") + c
+                        : formatted(" %03o", code);
+    }
+    return text;
 }
 
 std::string utf16(const std::string& text) {
@@ -211,14 +230,7 @@ const std::vector<Form>& forms() {
         {"OdCharacters", "dump",
          [](const S& b) {
              return inRows(b, 16, [](std::size_t place, const S& row) {
-                 S cells;
-                 for (const char c : row) {
-                     const bool printable = c >= ' ' && c <= '~';
-                     cells += c == '\0'   ? "  \\0"
-                              : c == '\n' ? "  \\n"
-                              : printable ? S("   ") + c
-                                          : formatted(" %03o", static_cast<unsigned char>(c));
-                 }
+                 const S cells = characters(row);
                  return formatted("%07o", static_cast<unsigned>(place)) + cells + '\n';
              });
          }},
@@ -313,6 +325,62 @@ TEST_P(EveryForm, GivesTheBytesOfSeveralImages) {
 
 INSTANTIATE_TEST_SUITE_P(Recogniser, EveryForm, testing::ValuesIn(forms()),
                          [](const auto& row) { return row.param.name; });
+
+TEST(Recogniser, ReadsEveryUnitOfDumpsBehindOffsetsOfEveryBase) {
+    using Units = std::string (*)(const std::string& row);
+    const std::vector<std::pair<const char*, Units>> units = {
+        {"x1", [](const std::string& row) { return words(row, " %02x", 1); }},
+        {"x2", [](const std::string& row) { return words(row, " %04x", 2); }},
+        {"x4", [](const std::string& row) { return words(row, " %08x", 4); }},
+        {"x8", [](const std::string& row) { return words(row, " %016llx", 8); }},
+        {"o1", [](const std::string& row) { return words(row, " %03llo", 1); }},
+        {"o2", [](const std::string& row) { return words(row, " %06llo", 2); }},
+        {"u1", [](const std::string& row) { return words(row, " %3llu", 1); }},
+        {"u1 with zeros", [](const std::string& row) { return words(row, "   %03llu", 1); }},
+        {"u2", [](const std::string& row) { return words(row, " %5llu", 2); }},
+        {"u2 with zeros", [](const std::string& row) { return words(row, "   %05llu", 2); }},
+        {"c", &characters},
+    };
+    const std::string bytes = sample("zarqo-z40.bin");
+    for (const auto& [name, write] : units) {
+        for (const char* offset : {"%06x", "%07o", "%07u", "0x%04x", "0X%04X", "+%04x"}) {
+            SCOPED_TRACE(std::string(name) + " behind " + offset);
+            const auto row = [&, &unit = write](std::size_t place, const std::string& part) {
+                return formatted(offset, static_cast<unsigned>(place)) + unit(part) + '\n';
+            };
+            const std::string end = formatted(offset, static_cast<unsigned>(bytes.size())) + '\n';
+            const Recognition result = recognise(inRows(bytes, 16, row) + end);
+            ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+            EXPECT_EQ(result.images[0].content(), bytes);
+        }
+    }
+}
+
+TEST(Recogniser, ReadsEveryCharacterOfDumps) {
+    for (const int first : {0, 128}) {
+        std::string bytes = sample("zarqo-z40.bin").substr(0, 128); // announces one extension
+        for (int code = first; code < first + 128; ++code) {
+            bytes += static_cast<char>(code);
+        }
+        const Recognition result = recognise(inRows(bytes, 16, [](std::size_t place, const std::string& row) {
+            return formatted("%07o", static_cast<unsigned>(place)) + characters(row) + '\n';
+        }));
+        ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+        EXPECT_EQ(result.images[0].content(), bytes);
+    }
+}
+
+TEST(Recogniser, ReadsListsOfAnyRowsBehindWords) {
+    const std::string bytes = sample("zarqo-z40.bin");
+    for (const char* format : {"%02x", "0x%02x"}) {
+        for (const std::size_t perRow : {2U, 3U, 4U, 8U, 16U, 32U, 64U, 128U}) {
+            SCOPED_TRACE(std::string(format) + ", " + std::to_string(perRow) + " in a row");
+            const Recognition result = recognise(plainRows(bytes, "row: ", ", ", ",", format, perRow));
+            ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+            EXPECT_EQ(result.images[0].content(), bytes);
+        }
+    }
+}
 
 TEST(Recogniser, GivesAllImagesOfATextWithTheirOutputs) {
     const std::string first = sample("zarqo-z40.bin");
