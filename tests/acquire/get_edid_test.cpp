@@ -182,6 +182,15 @@ TEST_F(GetEdid, AMissingByteEndsTheLoadAndTheCellsBeforeItStay) {
     EXPECT_EQ(workbench.Block0ChecksumAsLoaded, "kept");
 }
 
+TEST_F(GetEdid, TheFirstCellGetsTheFocusBeforeAnyByteIsThere) {
+    newImage();
+    workbench.focus.moveTo(workbench.frmEDID().txtEdit(5));
+    store("no EDID at all");
+    run();
+    EXPECT_EQ(program.takeBoxes(), Lines{"Invalid procedure call or argument"});
+    EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.txtEdit(0)");
+}
+
 class OddLengths : public GetEdid, public testing::WithParamInterface<std::size_t> {};
 
 TEST_P(OddLengths, OfBlock0FailOnce) {

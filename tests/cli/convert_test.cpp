@@ -87,6 +87,16 @@ TEST_F(ConvertTest, AFailureLeavesNoFile) {
     EXPECT_EQ(shell("test -c /dev/full").status, 0);
 }
 
+TEST_F(ConvertTest, WritesIntoAPipe) {
+    const Outcome outcome = shell(
+        "mkfifo pipe; cat pipe >got & edidwb convert --to bin --force $SAMPLES/zarqo-z40.bin pipe\nstatus=$?\n"
+        "wait; exit $status");
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(read("got"), sample("zarqo-z40.bin"));
+    EXPECT_EQ(shell("test -p pipe").status, 0);
+}
+
 /// A data file holds what Save would write: the second timing takes the serration of the first one away, and no check
 /// sum is brought in line. Forms of bytes hold the image as it is.
 TEST_F(ConvertTest, OnlyADataFileHoldsTheImageAsItStandsAfterDecoding) {

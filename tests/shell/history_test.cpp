@@ -84,6 +84,24 @@ TEST_F(HistoryTest, ATypedCellIsOneStep) {
     EXPECT_EQ(program.cell(127), "E7");
 }
 
+TEST_F(HistoryTest, EveryCellButTheCheckSumCanBeTakenBack) {
+    edit(emptyBlock0(1) + emptyExtension());
+    const auto tryCells = [&](BlockScreen& screen) {
+        for (int i = 0; i < checksumCell; ++i) {
+            SCOPED_TRACE(screen.txtEdit(i).fullName());
+            const std::string before = screen.txtEdit(i).text();
+            typeInto(screen.txtEdit(i), "A5");
+            ASSERT_EQ(screen.txtEdit(i).text(), "A5");
+            program.takeBoxes(); // of what a block is taken for now
+            ASSERT_TRUE(history().undo());
+            EXPECT_EQ(screen.txtEdit(i).text(), before);
+        }
+    };
+    tryCells(edid());
+    input::click(workbench.frmMain().Command4);
+    tryCells(cea());
+}
+
 TEST_F(HistoryTest, ACellThatIsTypedAgainIsAStepOfItsOwn) {
     edit();
     typeIntoCell(16, "1F");
