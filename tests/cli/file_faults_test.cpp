@@ -237,6 +237,35 @@ const std::vector<Scenario> scenarios = {
 INSTANTIATE_TEST_SUITE_P(Commands, FileFaults, testing::ValuesIn(scenarios),
                          [](const auto& scenario) { return std::string(scenario.param.name); });
 
+/// How often a command waits for the disk, in a folder with these files.
+std::size_t waitsOf(const std::vector<std::string>& command, const Files& files) {
+    const TemporaryFolder folder;
+    create(folder.file(""), files);
+    const TracedRun run =
+        runWithFault([&] { return chdir(folder.file("").c_str()) == 0 ? runProgram(command) : EXIT_FAILURE; }, {});
+    EXPECT_EQ(run.status, run.traced ? success : -1) << run.errors;
+    return static_cast<std::size_t>(std::count_if(run.calls.begin(), run.calls.end(), [](const FileCall* call) {
+        return std::string_view(call->name) == "fsync";
+    }));
+}
+
+TEST(FileCalls, WaitForTheDiskUnlessThatIsDeclined) {
+    if (!runWithFault([] { return 0; }, {}).traced) {
+        GTEST_SKIP() << "no call can be watched here";
+    }
+    const Files files = {{"a.bin", {.content = withWrongSum()}},
+                         {"class/drm/card0-DP-1/status", {.content = "connected\n"}},
+                         {"class/drm/card0-DP-1/edid", zarqo}};
+    for (std::vector<std::string> command : {std::vector<std::string>{"translate", "-o", "out", "a.bin"},
+                                             {"read", "--all", "-o", "out", "--sysfs", "."},
+                                             {"repair", "--in-place", "a.bin"}}) {
+        SCOPED_TRACE(command.front());
+        EXPECT_EQ(waitsOf(command, files), 2U) << "once for the file, once for its folder";
+        command.emplace_back("--no-sync");
+        EXPECT_EQ(waitsOf(command, files), 0U);
+    }
+}
+
 /// Keeps names in a file and reads them back: 0 where they are what they were, 1 after a CliError, which it prints.
 int keepNames() {
     try {

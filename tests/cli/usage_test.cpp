@@ -184,7 +184,22 @@ TEST_F(UsageTest, NamesWhatIsWrong) {
                "'a not in {b}' is no form: gzip, bin, dat, base64, decimal, string, dump, hex"},
           Case{"translate --heading now x", "'now' is no value of --heading: auto, always, never"},
           Case{"translate --output-dir= nd a", "no value in '--output-dir='"},
-          Case{"translate --date '' a", "--date: the value is empty"}}) {
+          Case{"translate --date '' a", "--date: the value is empty"},
+          Case{"read --all -o nd x", "--all and a connector exclude each other"},
+          Case{"read --i2c 1 DP-1", "--i2c excludes --all and a connector"},
+          Case{"read --i2c 1 --all -o nd", "--i2c excludes --all and a connector"},
+          Case{"read --all", "--all and --output-dir belong together"},
+          Case{"read -o nd", "--all and --output-dir belong together"},
+          Case{"read --force x", "--force belongs to --all"},
+          Case{"read --no-sync x", "--no-sync belongs to --all"},
+          Case{"override --root . DP-1 x", "--root belongs to --install"},
+          Case{"override --force DP-1 x", "--force belongs to --install"},
+          Case{"repair --in-place -o nd x", "--in-place and --output-dir exclude each other"},
+          Case{"repair x", "one of --output-dir, --in-place and --dry-run is required"},
+          Case{"repair --backup -o nd x", "--backup belongs to --in-place"},
+          Case{"repair --in-place -", "standard input cannot be changed in place"},
+          Case{"set -o nd", "FILE or --new is required"},
+          Case{"set -o nd x", "nothing is to be set"}}) {
         EXPECT_EQ(shell("edidwb " + std::string(c.arguments)).errors,
                   "edidwb: " + std::string(c.message) + "\nTry 'edidwb --help' for more information.\n");
     }

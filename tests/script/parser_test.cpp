@@ -73,6 +73,22 @@ TEST(Parser, PutsInOnlyTheTextsThatAreThere) {
     EXPECT_FALSE(parseLine("# $A", texts));
 }
 
+TEST(Parser, ANameGoesOnWithLettersDigitsAndUnderscores) {
+    const std::string name = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
+    const Substitutions texts = {{"N", "text"}, {name, "whole"}};
+    EXPECT_EQ(parseLine("type $" + name, texts)->arguments[0].text, "whole");
+    for (char c = '!'; c <= '~'; ++c) {
+        const bool goesOn = name.find(c) != std::string::npos;
+        if (c != '"') {
+            EXPECT_EQ(parseLine(std::string("type $N") + c, texts)->arguments[0].text,
+                      (goesOn ? std::string("$N") : std::string("text")) + c);
+        }
+        EXPECT_EQ(isSubstitutionName(std::string("a") + c), goesOn) << c;
+        EXPECT_EQ(isSubstitutionName(std::string(1, c)), goesOn && (c < '0' || c > '9')) << c;
+    }
+    EXPECT_FALSE(isSubstitutionName(""));
+}
+
 TEST(Parser, TellsWhatIsWrong) {
     struct Case {
         const char* line;

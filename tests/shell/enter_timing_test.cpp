@@ -4,6 +4,7 @@
 
 #include "core/base/text.h"
 #include "core/cells.h"
+#include "core/view.h"
 #include "files/image_loading.h"
 #include "support/program.h"
 #include "support/temporary_folder.h"
@@ -65,6 +66,47 @@ TEST_F(EnterTiming, WritesTheNumbersAndKeepsTheSize) {
     EXPECT_EQ(sumOfBlock0(), 0);
     EXPECT_EQ(workbench.focus.current()->fullName(), "frmEDID.txtEdit(54)");
     EXPECT_EQ(workbench.frmEDID().DT(0).caption(), "Pixel Clock - 138.50 MHz") << "the panel has been decoded";
+}
+
+/// Notes from which controls the focus went on to the box of the panel.
+class WaysToThePanel : public View {
+public:
+    explicit WaysToThePanel(Workbench& workbench) : workbench_(workbench) { workbench.view = this; }
+    WaysToThePanel(const WaysToThePanel&) = delete;
+    WaysToThePanel& operator=(const WaysToThePanel&) = delete;
+    ~WaysToThePanel() override { workbench_.view = nullptr; }
+
+    std::vector<std::string> from;
+
+private:
+    void controlChanged(Control&) override {}
+    void screenChanged(Screen&) override {}
+    void screenLoaded(Screen&) override {}
+    void screenUnloaded(Screen&) override {}
+    void windowsChanged() override {}
+    void fileWritten(const WrittenFile&) override {}
+    void focusChanged() override {
+        const Control* const now = workbench_.focus.current();
+        if (now == &workbench_.frmEDID().DTInput) {
+            from.push_back(last_);
+        }
+        last_ = now == nullptr ? "" : now->fullName();
+    }
+
+    Workbench& workbench_;
+    std::string last_;
+};
+
+TEST_F(EnterTiming, EntersEachNumberThatDiffersAtThePanelOfItsCell) {
+    WaysToThePanel all(workbench);
+    EXPECT_TRUE(enterTiming(workbench, 54, wide));
+    EXPECT_EQ(all.from,
+              (std::vector<std::string>{"frmEDID.txtEdit(54)", "frmEDID.txtEdit(56)", "frmEDID.txtEdit(57)",
+                                        "frmEDID.txtEdit(59)", "frmEDID.txtEdit(60)", "frmEDID.txtEdit(62)",
+                                        "frmEDID.txtEdit(63)", "frmEDID.txtEdit(64)", "frmEDID.txtEdit(65)"}));
+    WaysToThePanel none(workbench);
+    EXPECT_TRUE(enterTiming(workbench, 54, wide));
+    EXPECT_EQ(none.from, std::vector<std::string>());
 }
 
 TEST_F(EnterTiming, MendsWhatTheEntriesWipeAndLose) {
