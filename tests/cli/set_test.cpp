@@ -62,6 +62,15 @@ TEST_F(SetTest, TakesAProductCodeInHexadecimal) {
     EXPECT_EQ(read("a.bin"), withSum(withBytes(monitor(), 10, {0xAB, 0x00})));
 }
 
+TEST_F(SetTest, TellsTheBoxesThatComeUpOnLoading) {
+    const std::string image = sample("quillmere-q15.bin");
+    write("a.bin", image);
+    const Outcome outcome = shell("edidwb set -o out a.bin --serial 305419896");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors, "edidwb: a.bin: Control array element does not exist (decoding block 0)\n");
+    EXPECT_EQ(read("out/a.bin"), withSum(withBytes(image, 12, {0x78, 0x56, 0x34, 0x12})));
+}
+
 TEST_F(SetTest, NumbersCanBeTakenAway) {
     write("a.bin", monitor());
     EXPECT_EQ(shell("edidwb set --in-place a.bin --product 0 --serial 0 --week 0").status, 0);

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "extension_image.h"
 
 namespace wb::fields {
@@ -295,6 +297,94 @@ TEST(CtaUnknown, IsToldInRawBytes) {
                           {"video_format.bytes", "12 34"},
                           {"data_block[3].tag", "0 (data block with a reserved tag)"},
                           {"reserved[2].bytes", "56 78"}});
+}
+
+struct Kind861 {
+    std::string label;
+    std::size_t least; ///< bytes of its content after the tags
+    bool once = false;
+    std::vector<int> begin = {}; ///< the first bytes of its content
+};
+
+/// Data blocks of one kind with so many bytes of content, zeros behind those that make the kind.
+Reading readBlocks(int tag, int extendedTag, const Kind861& kind, std::size_t content, int count) {
+    ImageOf image(2);
+    std::size_t place = 132;
+    for (int i = 0; i < count; ++i) {
+        const bool extended = tag == 7;
+        image.set(place, {tag << 5 | static_cast<int>(content + (extended ? 1 : 0))});
+        ++place;
+        if (extended) {
+            image.set(place, {extendedTag});
+            ++place;
+        }
+        for (std::size_t k = 0; k < content; ++k) {
+            image.set(place + k, {k < kind.begin.size() ? kind.begin[k] : 0});
+        }
+        place += content;
+    }
+    return image.set(128, {0x02, 0x03, static_cast<int>(place - 128), 0}).reading();
+}
+
+void expectKind(int tag, int extendedTag, const Kind861& kind) {
+    SCOPED_TRACE(std::to_string(tag) + ", " + std::to_string(extendedTag) + ": " + kind.label);
+    const Reading least = readBlocks(tag, extendedTag, kind, kind.least, 1);
+    const std::string number = std::to_string(tag == 7 ? extendedTag : tag);
+    EXPECT_EQ(textOf(least, tag == 7 ? "cta[1].data_block[1].extended_tag" : "cta[1].data_block[1].tag"),
+              number + " (" + kind.label + ")");
+    EXPECT_EQ(countOf(least, "cta.data_block_short"), 0U);
+    EXPECT_EQ(countOf(least, "cta.data_block_reserved"), kind.label == "data block with a reserved tag" ? 1U : 0U);
+    if (kind.least > 0) {
+        EXPECT_EQ(countOf(readBlocks(tag, extendedTag, kind, kind.least - 1, 1), "cta.data_block_short"), 1U);
+    }
+    EXPECT_EQ(countOf(readBlocks(tag, extendedTag, kind, kind.least, 2), "cta.data_block_repeated"),
+              kind.once ? 1U : 0U);
+}
+
+const Kind861 reserved = {"data block with a reserved tag", 0};
+
+TEST(CtaDataBlocks, AreOfTheKindsOfTheStandard) {
+    const std::map<int, Kind861> kinds = {{1, {"audio data block", 3}},
+                                          {2, {"video data block", 1}},
+                                          {3, {"vendor-specific data block", 3}},
+                                          {4, {"speaker allocation data block", 3, true}},
+                                          {5, {"VESA display transfer characteristic data block", 1}},
+                                          {6, {"video format data block", 1}}};
+    for (const auto& [tag, kind] : kinds) {
+        expectKind(tag, 0, kind);
+    }
+    expectKind(3, 0, {"HDMI vendor-specific data block", 5, true, {0x03, 0x0C, 0x00}});
+    expectKind(3, 0, {"HDMI Forum vendor-specific data block", 7, true, {0xD8, 0x5D, 0xC4}});
+    expectKind(3, 0, {"vendor-specific data block", 3, false, {0x1A, 0x00, 0x00}});
+}
+
+TEST(CtaDataBlocks, AreOfTheKindsOfTheStandardByTheirExtendedTags) {
+    const std::map<int, Kind861> kinds = {{0, {"video capability data block", 1, true}},
+                                          {1, {"vendor-specific video data block", 3}},
+                                          {2, {"VESA display device data block", 30, true}},
+                                          {3, {"VESA video timing data block", 1}},
+                                          {4, {"data block reserved for HDMI video", 0}},
+                                          {5, {"colorimetry data block", 2, true}},
+                                          {6, {"HDR static metadata data block", 2, true}},
+                                          {7, {"HDR dynamic metadata data block", 3}},
+                                          {8, {"native video resolution data block", 1}},
+                                          {13, {"video format preference data block", 1}},
+                                          {14, {"YCbCr 4:2:0 video data block", 1}},
+                                          {15, {"YCbCr 4:2:0 capability map data block", 0, true}},
+                                          {17, {"vendor-specific audio data block", 3}},
+                                          {18, {"data block reserved for HDMI audio", 0}},
+                                          {19, {"room configuration data block", 4, true}},
+                                          {20, {"speaker location data block", 2}},
+                                          {32, {"InfoFrame data block", 2}},
+                                          {34, {"DisplayID type VII timing data block", 21}},
+                                          {35, {"DisplayID type VIII timing data block", 2}},
+                                          {42, {"DisplayID type X timing data block", 7}},
+                                          {120, {"HDMI Forum EDID extension override data block", 1, true}},
+                                          {121, {"HDMI Forum sink capability data block", 6, true}}};
+    for (int tag = 0; tag < 256; ++tag) {
+        const auto kind = kinds.find(tag);
+        expectKind(7, tag, kind == kinds.end() ? reserved : kind->second);
+    }
 }
 
 TEST(CtaDataBlocks, ReadWhatIsInsideOfOneThatRunsOver) {

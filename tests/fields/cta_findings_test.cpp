@@ -128,10 +128,25 @@ TEST(CtaFindings, TellOfOneYcbcrFlagWithoutTheOtherOnHdmi) {
     const auto onHdmi = [](int flags) { return ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00}, flags).reading(); };
     EXPECT_EQ(findingOf(onHdmi(ycbcr444), "cta.ycbcr_flags").path, "cta[1].header.ycbcr_444");
     EXPECT_EQ(findingOf(onHdmi(ycbcr422), "cta.ycbcr_flags").path, "cta[1].header.ycbcr_422");
-    EXPECT_EQ(countOf(onHdmi(ycbcr444 | ycbcr422), "cta.ycbcr_flags"), 0U);
-    EXPECT_EQ(countOf(onHdmi(basicAudio), "cta.ycbcr_flags"), 0U);
-    EXPECT_EQ(countIn(ctaWith({0x41, 16}, ycbcr444), "cta.ycbcr_flags"), 0U);
-    EXPECT_EQ(countIn(ctaWith({0x41, 16}, ycbcr422), "cta.ycbcr_flags"), 0U);
+    for (int flags = 0; flags < 256; ++flags) {
+        const bool one = ((flags & ycbcr444) != 0) != ((flags & ycbcr422) != 0);
+        EXPECT_EQ(countOf(onHdmi(flags), "cta.ycbcr_flags"), one ? 1U : 0U) << flags;
+        EXPECT_EQ(countIn(ctaWith({0x41, 16}, flags), "cta.ycbcr_flags"), 0U) << flags;
+    }
+}
+
+TEST(CtaFindings, LookAtTheirOwnFlagsAlone) {
+    for (int flags = 0; flags < 256; ++flags) {
+        SCOPED_TRACE(flags);
+        const bool basic = (flags & basicAudio) != 0;
+        const Reading sound = ctaWith({0x23, 0x09, 0x07, 0x07}, flags).reading();
+        EXPECT_EQ(countOf(sound, "cta.basic_audio_missing"), basic ? 0U : 1U);
+        EXPECT_EQ(countOf(sound, "cta.audio_block_missing"), 0U);
+        const Reading silent = ctaWith({0x41, 16}, flags).reading();
+        EXPECT_EQ(countOf(silent, "cta.basic_audio_missing"), 0U);
+        EXPECT_EQ(countOf(silent, "cta.audio_block_missing"), basic ? 1U : 0U);
+        EXPECT_EQ(countOf(silent, "cta.native_count"), flags % 16 > 0 ? 1U : 0U);
+    }
 }
 
 TEST(CtaFindings, TellOfOddPhysicalAddresses) {

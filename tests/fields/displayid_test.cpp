@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "extension_image.h"
 
 namespace wb::fields {
@@ -67,6 +69,64 @@ TEST(DisplayId, KeepsOtherDataBlocksInRawBytes) {
     EXPECT_EQ(textOf(reading, "displayid[1].data_block[1].tag"), "41 (container identification)");
     EXPECT_EQ(textOf(reading, "displayid[1].container.bytes"), "AB CD");
     EXPECT_EQ(textOf(reading, "displayid[1].container[2].bytes"), "EF");
+}
+
+TEST(DisplayId, KnowsTheDataBlocksOfTheStandards) {
+    const std::map<int, std::string> labels = {{0x00, "product identification"},
+                                               {0x01, "display parameters"},
+                                               {0x02, "color characteristics"},
+                                               {0x03, "type I detailed timings"},
+                                               {0x04, "type II detailed timings"},
+                                               {0x05, "type III short timings"},
+                                               {0x06, "type IV timing codes"},
+                                               {0x07, "VESA timing standard"},
+                                               {0x08, "CTA timing standard"},
+                                               {0x09, "video timing range"},
+                                               {0x0A, "product serial number"},
+                                               {0x0B, "general purpose text"},
+                                               {0x0C, "display device data"},
+                                               {0x0D, "interface power sequencing"},
+                                               {0x0E, "transfer characteristics"},
+                                               {0x0F, "display interface"},
+                                               {0x10, "stereo display interface"},
+                                               {0x11, "type V short timings"},
+                                               {0x12, "tiled display topology"},
+                                               {0x13, "type VI detailed timings"},
+                                               {0x20, "product identification"},
+                                               {0x21, "display parameters"},
+                                               {0x22, "type VII detailed timings"},
+                                               {0x23, "type VIII timing codes"},
+                                               {0x24, "type IX formula-based timings"},
+                                               {0x25, "dynamic video timing range"},
+                                               {0x26, "display interface features"},
+                                               {0x27, "stereo display interface"},
+                                               {0x28, "tiled display topology"},
+                                               {0x29, "container identification"},
+                                               {0x2A, "type X formula-based timings"},
+                                               {0x2B, "adaptive sync"},
+                                               {0x7E, "vendor-specific data"},
+                                               {0x7F, "vendor-specific data"},
+                                               {0x81, "CTA-861 data blocks"}};
+    const std::map<int, int> leastBytes = {{0x00, 12}, {0x03, 20}, {0x20, 12}, {0x22, 20}};
+    for (int tag = 0; tag < 256; ++tag) {
+        SCOPED_TRACE(tag);
+        const auto least = leastBytes.find(tag);
+        const int bytes = least == leastBytes.end() ? 0 : least->second;
+        // A revision, so that an empty one is no padding.
+        const auto withBytes = [&](int count) {
+            return displayIdWith(0x20, {tag, 1, count}).set(130, {3 + count}).reading();
+        };
+        const Reading reading = withBytes(bytes);
+        const auto label = labels.find(tag);
+        EXPECT_EQ(textOf(reading, "displayid[1].data_block[1].tag"),
+                  std::to_string(tag) + " (" +
+                      (label == labels.end() ? "data block with a reserved tag" : label->second) + ")");
+        EXPECT_EQ(countOf(reading, "displayid.data_block_reserved"), label == labels.end() ? 1U : 0U);
+        EXPECT_EQ(countOf(reading, "displayid.data_block_short"), 0U);
+        if (bytes > 0) {
+            EXPECT_EQ(countOf(withBytes(bytes - 1), "displayid.data_block_short"), 1U);
+        }
+    }
 }
 
 TEST(DisplayIdFindings, TellOfTheSection) {
