@@ -67,13 +67,13 @@ struct CurveField {
 };
 
 constexpr int curveM = 2;
-constexpr std::array<CurveField, 5> curveFields = {{
+constexpr auto curveFields = std::to_array<CurveField>({
     {report::curveStartCell, 0.5, 0, "Value entered must be integer"}, // tests the sign alone
     {report::curveCCell, 2, 127, "Value entered must be from 0 - 127"},
     {report::curveMLowCell, 1, 65535, "Value entered must be from 0 - 65535"},
     {report::curveKCell, 1, 255, "Value entered must be from 0 - 255"},
     {report::curveJCell, 2, 127, "Value entered must be from 0 - 127"},
-}};
+});
 
 /// The cell of the lower index gets the higher digits, though the decoder reads them the other way round.
 void writeCurveM(FrmEdid& screen, int cell, double entry) {

@@ -19,8 +19,8 @@ namespace wb::block0 {
 namespace {
 
 /// By option of `S_GTF`; that of M leads to the cell with its upper digits.
-constexpr std::array<int, 5> curveFocus = {report::curveStartCell, report::curveCCell, report::curveMHighCell,
-                                           report::curveKCell, report::curveJCell};
+constexpr auto curveFocus = std::to_array<int>(
+    {report::curveStartCell, report::curveCCell, report::curveMHighCell, report::curveKCell, report::curveJCell});
 
 void focusOn(Workbench& workbench, int offset) {
     whenUserActs(workbench,

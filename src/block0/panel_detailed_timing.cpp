@@ -42,7 +42,7 @@ struct OddMask {
     report::TimingField field;
     int kept;
 };
-constexpr std::array<OddMask, 2> oddMasks = {{{report::HSyncOffset, 0xC0}, {report::HSyncWidth, 0x30}}};
+constexpr auto oddMasks = std::to_array<OddMask>({{report::HSyncOffset, 0xC0}, {report::HSyncWidth, 0x30}});
 
 const SplitField& layoutOf(int field) {
     return report::timingFields[static_cast<std::size_t>(field)];

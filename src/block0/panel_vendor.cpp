@@ -82,13 +82,13 @@ void encodeYear(Workbench& workbench, const std::string& entry) {
     report::ConvertYear(workbench);
 }
 
-constexpr std::array<IdentityField, 5> identityFields = {{
+constexpr auto identityFields = std::to_array<IdentityField>({
     {cells::manufacturer, 3, &report::ConvertManufacturer, &encodeManufacturer},
     {cells::productCode, 4, &report::ConvertProductCode, &encodeProductCode},
     {cells::serialNumber, 20, &report::ConvertSerialNumber, &encodeSerialNumber},
     {oneCell(cells::week), 2, &report::ConvertWeek, &encodeWeek},
     {oneCell(cells::year), 4, &report::ConvertYear, &encodeYear},
-}};
+});
 constexpr int manufacturer = 0;
 constexpr int productCode = 1;
 constexpr int serialNumber = 2;

@@ -17,21 +17,23 @@ namespace wb::cea {
 namespace {
 
 /// By format code. Two names lack their closing bracket in the report, though not on the panel.
-constexpr std::array<std::string_view, 15> formatNames = {"Reserved",
-                                                          "Linear PCM (IEC60958)",
-                                                          "AC-3",
-                                                          "MPEG1 (Layer 1 and 2)",
-                                                          "MP3 (MPEG1 Layer 3",
-                                                          "MPEG2 (multichannel",
-                                                          "AAC",
-                                                          "DTS",
-                                                          "ATRAC",
-                                                          "One Bit Audio",
-                                                          "Dolby Digital +",
-                                                          "DTS-HD",
-                                                          "MAT (MLP)",
-                                                          "DST",
-                                                          "WMA Pro"};
+constexpr auto formatNames = std::to_array<std::string_view>({
+    "Reserved",
+    "Linear PCM (IEC60958)",
+    "AC-3",
+    "MPEG1 (Layer 1 and 2)",
+    "MP3 (MPEG1 Layer 3",
+    "MPEG2 (multichannel",
+    "AAC",
+    "DTS",
+    "ATRAC",
+    "One Bit Audio",
+    "Dolby Digital +",
+    "DTS-HD",
+    "MAT (MLP)",
+    "DST",
+    "WMA Pro",
+});
 
 constexpr std::array<ListedFlag, 7> frequencies = {{{0, "32KHz,"},
                                                     {1, " 44.1KHz,"},

@@ -23,11 +23,11 @@ struct TagName {
 };
 
 /// By the option of the tag.
-constexpr std::array<TagName, 5> tagNames = {{{tag::reserved, "Reserved"},
-                                              {tag::audio, "Audio Data Block"},
-                                              {tag::video, "Video Data Block/Short Video Descriptors"},
-                                              {tag::vendor, "Vendor Specific Data Block"},
-                                              {tag::speaker, "Speaker Data Block"}}};
+constexpr auto tagNames = std::to_array<TagName>({{tag::reserved, "Reserved"},
+                                                  {tag::audio, "Audio Data Block"},
+                                                  {tag::video, "Video Data Block/Short Video Descriptors"},
+                                                  {tag::vendor, "Vendor Specific Data Block"},
+                                                  {tag::speaker, "Speaker Data Block"}});
 
 /// A kind of block: where the shared variables keep it, and what a new length in its header, at row R of the list, does
 /// besides, for which each kind has rules of its own.

@@ -15,8 +15,8 @@ constexpr int centimetreError = 10;
 constexpr std::size_t sizeBytes = 21;
 
 struct Size {
-    int width = 0; ///< mm
-    int height = 0;
+    int width; ///< mm
+    int height;
 };
 
 bool isTold(const Size& size) {
@@ -34,7 +34,7 @@ bool areClose(const Size& a, const Size& b) {
 }
 
 /// Pairs of numbers that timings have in place of a size: the aspect ratio of the picture.
-constexpr std::array<Size, 5> ratios = {{{4, 3}, {16, 9}, {16, 10}, {160, 90}, {160, 100}}};
+constexpr auto ratios = std::to_array<Size>({{4, 3}, {16, 9}, {16, 10}, {160, 90}, {160, 100}});
 
 /// A size as small as that is believed where the basic parameters tell it too.
 bool tellsRatio(const Scope& base, const DetailedTiming& timing) {

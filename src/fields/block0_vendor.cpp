@@ -88,7 +88,7 @@ void checkSerialNumber(const Scope& vendor, std::uint32_t number) {
 
 /// When a revision was published, which is the earliest year of a monitor that has it: 1.0 August 1994, 1.1 April 1996,
 /// 1.2 November 1997, 1.3 September 1999, 1.4 September 2006.
-constexpr std::array<int, 5> yearsOfRevisions = {1994, 1996, 1997, 1999, 2006};
+constexpr auto yearsOfRevisions = std::to_array<int>({1994, 1996, 1997, 1999, 2006});
 
 void checkDate(const Scope& vendor, int revision) {
     const int week = vendor.byte(8);

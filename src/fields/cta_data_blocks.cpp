@@ -26,7 +26,7 @@ struct DataBlockKind {
 };
 
 /// The first that fits counts. CTA-861-H, tables 60 and 62.
-constexpr std::array<DataBlockKind, 30> kinds = {{
+constexpr auto kinds = std::to_array<DataBlockKind>({
     {1, "audio", "audio data block", "CTA-861-H, 7.5.2", readAudioBlock, 3},
     {2, "video", "video data block", "CTA-861-H, 7.5.1", readVideoBlock},
     {3, "hdmi", "HDMI vendor-specific data block", "HDMI 1.4b, 8.3.2", readHdmi, 5, true, 0x000C03},
@@ -60,7 +60,7 @@ constexpr std::array<DataBlockKind, 30> kinds = {{
      readExtensionOverride, 1, true},
     {extended | 0x79, "hdmi_forum", "HDMI Forum sink capability data block", "HDMI 2.1, 10.3.3",
      readHdmiForumSinkCapability, 6, true},
-}};
+});
 constexpr DataBlockKind unknownKind = {0, "reserved", "data block with a reserved tag", tagClause, readUnknownBlock, 0};
 
 constexpr Row tagRow = {.name = "tag", .label = "Tag of a data block", .parts = {{0, 7, 5}}};

@@ -95,7 +95,7 @@ constexpr std::array<Row, 6> videoRows = {{
 }};
 
 /// HDMI 1.4b, table 8-14: the same formats as these codes of CTA-861.
-constexpr std::array<std::uint8_t, 4> sameCodes = {95, 94, 93, 98};
+constexpr auto sameCodes = std::to_array<std::uint8_t>({95, 94, 93, 98});
 
 const VideoFormat* hdmiFormat(std::uint64_t code) {
     return code >= 1 && code <= sameCodes.size() ? videoFormatOf(sameCodes[code - 1]) : nullptr;

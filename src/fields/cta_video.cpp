@@ -76,9 +76,9 @@ std::string referenceText(unsigned reference) {
         unsigned last;
         std::string_view words;
     };
-    constexpr std::array<Range, 3> ranges = {{{129, 144, "detailed timing "},
-                                              {145, 160, "DisplayID timing "},
-                                              {161, 175, "format of the video format data block "}}};
+    constexpr auto ranges = std::to_array<Range>({{129, 144, "detailed timing "},
+                                                  {145, 160, "DisplayID timing "},
+                                                  {161, 175, "format of the video format data block "}});
     for (const Range& range : ranges) {
         if (reference >= range.first && reference <= range.last) {
             return std::string(range.words) + std::to_string(reference - range.first + 1);

@@ -60,7 +60,7 @@ void readRates(const Scope& code, int width, int height) {
 
 /// The preferred rate counts from 0 for 50 Hz; of 60 Hz either form will do.
 void checkPreferredRate(const Scope& code) {
-    constexpr std::array<unsigned, 4> bits = {0x10, 0x09, 0x04, 0x02};
+    constexpr auto bits = std::to_array<unsigned>({0x10, 0x09, 0x04, 0x02});
     if ((code.byte(2) & bits[code.raw(codeRows[2].parts)]) == 0) {
         code.tell(Severity::Warning, "cvt.preferred_rate_unsupported", 2, "preferred_rate",
                   "The preferred vertical rate is not among those that are supported, so that software takes a rate "

@@ -32,7 +32,7 @@ struct DescriptorKind {
 };
 
 /// VESA E-EDID Standard, Release A, section 3.10.3.
-constexpr std::array<DescriptorKind, 10> kinds = {{
+constexpr auto kinds = std::to_array<DescriptorKind>({
     {serialTextTag, "product serial number", 1, readTextDescriptor, "E-EDID 1.4, 3.10.3.1"},
     {textTag, "text", 1, readTextDescriptor, "E-EDID 1.4, 3.10.3.2"},
     {rangeLimitsTag, "range limits", 1, readRangeLimits, "E-EDID 1.4, 3.10.3.3"},
@@ -43,7 +43,7 @@ constexpr std::array<DescriptorKind, 10> kinds = {{
     {0xF8, "CVT codes", 4, readCvtCodes, "E-EDID 1.4, 3.10.3.8"},
     {0xF7, "established timings III", 4, readMoreEstablishedTimings, "E-EDID 1.4, 3.10.3.9"},
     {dummyTag, "unused", 1, readUnused, "E-EDID 1.4, 3.10.3.11"},
-}};
+});
 constexpr DescriptorKind manufacturersKind = {0, "manufacturer's", 1, readManufacturers, "E-EDID 1.4, 3.10.3.12"};
 constexpr DescriptorKind unknownKind = {0, "reserved", 0, readUnknown, "E-EDID 1.4, 3.10.3"};
 

@@ -153,7 +153,7 @@ struct EntryKind {
 };
 
 /// VESA DisplayID 1.3, table 4-1; DisplayID 2.0, table 4-1.
-constexpr std::array<EntryKind, 35> kinds = {{
+constexpr auto kinds = std::to_array<EntryKind>({
     {0x00, "product", "product identification", readProduct1, 12},
     {0x01, "parameters", "display parameters"},
     {0x02, "color", "color characteristics"},
@@ -189,7 +189,7 @@ constexpr std::array<EntryKind, 35> kinds = {{
     {0x7E, "vendor", "vendor-specific data"},
     {0x7F, "vendor", "vendor-specific data"},
     {0x81, "cta", "CTA-861 data blocks", readCtaBlocks},
-}};
+});
 constexpr EntryKind unknownKind = {0, "reserved", "data block with a reserved tag"};
 
 constexpr std::array<Row, 4> entryRows = {{

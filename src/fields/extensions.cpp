@@ -21,7 +21,7 @@ struct ExtensionKind {
 };
 
 /// VESA E-EDID Standard, Release A, section 2.2.1 and the tags that VESA gave out since.
-constexpr std::array<ExtensionKind, 10> kinds = {{
+constexpr auto kinds = std::to_array<ExtensionKind>({
     {0x00, "timing extension"},
     {ceaTag, "CTA-861 extension", "cta", "CTA-861-H, 7.3.3", readCta},
     {0x10, "video timing block extension", "vtb", "VTB-EXT Release A", readVideoTimingBlock},
@@ -32,7 +32,7 @@ constexpr std::array<ExtensionKind, 10> kinds = {{
     {0x70, "DisplayID extension", "displayid", "DisplayID 1.3, 3", readDisplayId},
     {blockMapTag, "block map", "map", "E-EDID 1.4, 3.14", readBlockMap},
     {0xFF, "manufacturer's extension"},
-}};
+});
 constexpr ExtensionKind unknownKind = {0, "unknown extension"};
 
 constexpr Row tagRow = {.name = "tag", .label = "Extension tag", .parts = {{0}}};

@@ -128,7 +128,7 @@ RangeLimits readRates(const Scope& range, unsigned offsetByte) {
 }
 
 void checkCvt(const Scope& range) {
-    constexpr std::array<std::uint8_t, 5> aspectBits = {7, 6, 5, 4, 3};
+    constexpr auto aspectBits = std::to_array<std::uint8_t>({7, 6, 5, 4, 3});
     const std::uint64_t preferred = range.raw({{15, 7, 5}});
     if (preferred < aspectBits.size() && (range.byte(14) >> aspectBits[preferred] & 1U) == 0) {
         range.tell(Severity::Warning, "range.preferred_aspect_unsupported", 15, "preferred_aspect",

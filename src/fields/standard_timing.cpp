@@ -15,7 +15,7 @@ struct Aspect {
 };
 
 /// By bits 7 and 6 of the second byte (VESA E-EDID Standard, Release A, section 3.9).
-constexpr std::array<Aspect, 4> aspects = {{{"16:10", 16, 10}, {"4:3", 4, 3}, {"5:4", 5, 4}, {"16:9", 16, 9}}};
+constexpr auto aspects = std::to_array<Aspect>({{"16:10", 16, 10}, {"4:3", 4, 3}, {"5:4", 5, 4}, {"16:9", 16, 9}});
 constexpr Aspect oldFirstAspect = {"1:1", 1, 1};
 
 constexpr std::array<Row, 3> rows = {{

@@ -29,17 +29,17 @@ struct UnitForm {
 
 /// From the most usual to the rarest. The header does not tell words of eight bytes from pairs in their order, but the
 /// tools that write pairs put a colon behind the offset.
-constexpr std::array<UnitForm, 10> unitForms = {{{Order::MostFirst, 16, 2, 2, 1},
-                                                 {Order::LeastFirst, 16, 16, 16, 8},
-                                                 {Order::Pairs, 16, 4, 64, 0},
-                                                 {Order::LeastFirst, 16, 4, 4, 2},
-                                                 {Order::LeastFirst, 16, 8, 8, 4},
-                                                 {Order::MostFirst, 8, 3, 3, 1},
-                                                 {Order::LeastFirst, 8, 6, 6, 2},
-                                                 {Order::MostFirst, 10, 1, 3, 1},
-                                                 {Order::LeastFirst, 10, 1, 5, 2},
-                                                 {Order::Characters, 8, 1, 3, 1}}};
-constexpr std::array<int, 3> offsetBases = {16, 8, 10};
+constexpr auto unitForms = std::to_array<UnitForm>({{Order::MostFirst, 16, 2, 2, 1},
+                                                    {Order::LeastFirst, 16, 16, 16, 8},
+                                                    {Order::Pairs, 16, 4, 64, 0},
+                                                    {Order::LeastFirst, 16, 4, 4, 2},
+                                                    {Order::LeastFirst, 16, 8, 8, 4},
+                                                    {Order::MostFirst, 8, 3, 3, 1},
+                                                    {Order::LeastFirst, 8, 6, 6, 2},
+                                                    {Order::MostFirst, 10, 1, 3, 1},
+                                                    {Order::LeastFirst, 10, 1, 5, 2},
+                                                    {Order::Characters, 8, 1, 3, 1}});
+constexpr auto offsetBases = std::to_array<int>({16, 8, 10});
 /// An offset stands behind at most so many words of a log.
 constexpr std::size_t mostPrefixWords = 12;
 
@@ -97,14 +97,14 @@ struct Escape {
     char character;
 };
 
-constexpr std::array<Escape, 8> escapes = {{{"\\0", '\0'},
-                                            {"\\a", '\a'},
-                                            {"\\b", '\b'},
-                                            {"\\t", '\t'},
-                                            {"\\n", '\n'},
-                                            {"\\v", '\v'},
-                                            {"\\f", '\f'},
-                                            {"\\r", '\r'}}};
+constexpr auto escapes = std::to_array<Escape>({{"\\0", '\0'},
+                                                {"\\a", '\a'},
+                                                {"\\b", '\b'},
+                                                {"\\t", '\t'},
+                                                {"\\n", '\n'},
+                                                {"\\v", '\v'},
+                                                {"\\f", '\f'},
+                                                {"\\r", '\r'}});
 
 std::optional<char> characterOf(std::string_view cell) {
     cell.remove_prefix(std::min(cell.find_first_not_of(' '), cell.size()));

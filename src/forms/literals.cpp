@@ -97,17 +97,17 @@ struct Escape {
     char character;
 };
 
-constexpr std::array<Escape, 11> escapes = {{{'n', '\n'},
-                                             {'r', '\r'},
-                                             {'t', '\t'},
-                                             {'a', '\a'},
-                                             {'b', '\b'},
-                                             {'f', '\f'},
-                                             {'v', '\v'},
-                                             {'\\', '\\'},
-                                             {'"', '"'},
-                                             {'\'', '\''},
-                                             {'?', '?'}}};
+constexpr auto escapes = std::to_array<Escape>({{'n', '\n'},
+                                                {'r', '\r'},
+                                                {'t', '\t'},
+                                                {'a', '\a'},
+                                                {'b', '\b'},
+                                                {'f', '\f'},
+                                                {'v', '\v'},
+                                                {'\\', '\\'},
+                                                {'"', '"'},
+                                                {'\'', '\''},
+                                                {'?', '?'}});
 
 /// String literals of C, Python and shells, one after the other.
 class LiteralReader {

@@ -25,11 +25,11 @@ struct TextForm {
 };
 
 /// From the strictest to the loosest.
-constexpr std::array<TextForm, 5> textForms = {{{"base64", &readBase64},
-                                                {"decimal", &readDecimalLists},
-                                                {"string", &readStringLiterals},
-                                                {"dump", &readDumps},
-                                                {"hex", &readHexLines}}};
+constexpr auto textForms = std::to_array<TextForm>({{"base64", &readBase64},
+                                                    {"decimal", &readDecimalLists},
+                                                    {"string", &readStringLiterals},
+                                                    {"dump", &readDumps},
+                                                    {"hex", &readHexLines}});
 
 /// UTF-16 without a byte order mark: every other byte of its ASCII is zero.
 bool looksLikeUtf16(std::string_view content) {

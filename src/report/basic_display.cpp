@@ -19,12 +19,12 @@ namespace {
 // The tables: VESA E-EDID Standard, Release A, section 3.6.
 
 /// By signal level.
-constexpr std::array<std::string_view, 4> levels = {
+constexpr auto levels = std::to_array<std::string_view>({
     "0.700, 0.300 (1.000 Vp-p)",
     "0.714, 0.286 (1.000 Vp-p)",
     "1.000, 0.400 (1.400 Vp-p)",
     "0.700, 0.000 (0.700 Vp-p)",
-};
+});
 
 constexpr std::size_t neverWraps = std::numeric_limits<std::size_t>::max();
 
@@ -53,12 +53,12 @@ constexpr std::array<BitItem, featureBits.size()> featureItems = {{
 }};
 
 /// By display type.
-constexpr std::array<std::string_view, 4> displayTypes = {
+constexpr auto displayTypes = std::to_array<std::string_view>({
     "Monochrome / grayscale",
     "R/G/B Color",
     "Non R/G/B Multicolor",
     "Undefined",
-};
+});
 
 enum class Wraps { Once, WhereLong };
 

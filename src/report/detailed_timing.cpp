@@ -53,15 +53,15 @@ struct SyncWords {
 
 constexpr int separateSync = 3;
 
-constexpr std::array<SyncWords, 4> analogSync = {{
+constexpr auto analogSync = std::to_array<SyncWords>({
     {"Sync On Green", "", 0},
     {"Sync on RGB", "", 0},
     {"Sync On Green", "", 1},
     {"Sync on RGB", "", 1},
-}};
+});
 
 /// By kind of the sync, then by its two bits. Tables of the flags: VESA E-EDID Standard, Release A, section 3.10.2.
-constexpr std::array<std::array<SyncWords, 4>, 4> syncWords = {{
+constexpr auto syncWords = std::to_array<std::array<SyncWords, 4>>({
     analogSync,
     analogSync,
     {{
@@ -76,14 +76,14 @@ constexpr std::array<std::array<SyncWords, 4>, 4> syncWords = {{
         {"Horizontal Polarity (-)", "Vertical Polarity (+)", 0},
         {"Horizontal Polarity (+)", "Vertical Polarity (+)", 0},
     }},
-}};
+});
 
 /// What the report puts before the caption of a composite sync, by kind, without and with serration.
-constexpr std::array<std::array<std::string_view, 2>, 3> compositeWords = {{
+constexpr auto compositeWords = std::to_array<std::array<std::string_view, 2>>({
     {"Analog Composite ", "Analog Composite (Serrate) "},
     {"Bipolar Analog Composite ", "Bipolar Analog Composite (Serrate) "},
     {"Digital Composite ", "Digital Composite (Serrate) "},
-}};
+});
 
 /// One run over one block. Every member function is one step of it.
 class TimingDecoder {

@@ -58,11 +58,11 @@ struct VersionTitle {
     std::string_view title;
 };
 
-constexpr std::array<VersionTitle, 3> versionTitles = {{
+constexpr auto versionTitles = std::to_array<VersionTitle>({
     {"1", "EDID CEA-861 Timing Extension Version 1"},
     {"2", "EDID CEA-861A Timing Extension Version 2"},
     {"3", "EDID CEA-861B Timing Extension Version 3"},
-}};
+});
 
 const BlockKind* kindOf(std::string_view tag) {
     for (const BlockKind& kind : blockKinds) {

@@ -20,12 +20,12 @@ struct Brand {
     std::string_view name;
 };
 
-constexpr std::array<Brand, 4> brands = {{
+constexpr auto brands = std::to_array<Brand>({
     {"HLV", "Halvorine"},
     {"BRN", "Brindleco"},
     {"TSM", "Tessaramond"},
     {"ZRQ", "Zarqo"},
-}};
+});
 
 char letterOf(int fiveBits) {
     return static_cast<char>(letterBase + fiveBits);

@@ -21,7 +21,7 @@ struct Aspect {
 };
 
 /// By aspect ratio code (VESA E-EDID Standard, Release A, section 3.9).
-constexpr std::array<Aspect, 4> aspects = {{{10, 16}, {3, 4}, {4, 5}, {9, 16}}};
+constexpr auto aspects = std::to_array<Aspect>({{10, 16}, {3, 4}, {4, 5}, {9, 16}});
 
 void convertPairs(Workbench& workbench, FrmEdid& screen) {
     for (int i = 0; i < standardTimingCount; ++i) {

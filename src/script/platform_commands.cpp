@@ -14,11 +14,11 @@ namespace wb::script::commands {
 namespace {
 
 platform::Answer answerNamed(const std::string& name) {
-    static constexpr std::array<std::pair<std::string_view, platform::Answer>, 4> answers = {
-        {{"OK", platform::Answer::Ok},
-         {"Yes", platform::Answer::Yes},
-         {"No", platform::Answer::No},
-         {"Cancel", platform::Answer::Cancel}}};
+    static constexpr auto answers =
+        std::to_array<std::pair<std::string_view, platform::Answer>>({{"OK", platform::Answer::Ok},
+                                                                      {"Yes", platform::Answer::Yes},
+                                                                      {"No", platform::Answer::No},
+                                                                      {"Cancel", platform::Answer::Cancel}});
     for (const auto& [known, answer] : answers) {
         if (known == name) {
             return answer;

@@ -31,7 +31,7 @@ struct Property {
     std::string (*read)(const Control&);
 };
 
-constexpr std::array<Property, 17> properties = {{
+constexpr auto properties = std::to_array<Property>({
     {"Text", [](const Control& c) { return quoted(c.text()); }},
     {"Caption", [](const Control& c) { return quoted(c.caption()); }},
     {"Value", [](const Control& c) { return std::to_string(c.value()); }},
@@ -49,7 +49,7 @@ constexpr std::array<Property, 17> properties = {{
     {"Top", [](const Control& c) { return std::to_string(c.bounds().top); }},
     {"Width", [](const Control& c) { return std::to_string(c.bounds().width); }},
     {"Height", [](const Control& c) { return std::to_string(c.bounds().height); }},
-}};
+});
 constexpr std::string_view listName = "List";
 
 std::vector<PropertyValue> rowsOf(const Control& control, int only) {

@@ -34,15 +34,15 @@ struct KeyCode {
     int last;
     int key; ///< the calculator's key for the first code
 };
-constexpr std::array<KeyCode, 9> keyCodes = {{{'0', '9', 0},
-                                              {96, 105, 0}, // number pad
-                                              {'A', 'F', keyA},
-                                              {107, 107, keyPlus},
-                                              {109, 109, keyMinus},
-                                              {106, 106, keyTimes},
-                                              {111, 111, keyDivide},
-                                              {110, 110, keyPoint},
-                                              {8, 8, keyBackspace}}};
+constexpr auto keyCodes = std::to_array<KeyCode>({{'0', '9', 0},
+                                                  {96, 105, 0}, // number pad
+                                                  {'A', 'F', keyA},
+                                                  {107, 107, keyPlus},
+                                                  {109, 109, keyMinus},
+                                                  {106, 106, keyTimes},
+                                                  {111, 111, keyDivide},
+                                                  {110, 110, keyPoint},
+                                                  {8, 8, keyBackspace}});
 
 void append(Control& cell, std::string_view text) {
     cell.setText(cell.text() + std::string(text));

@@ -360,6 +360,24 @@ TEST_P(Block0Findings, AreListedInTheDocuments) {
         << row;
 }
 
+TEST(Findings, TellOfYearsBeforeTheRevisionWasPublished) {
+    const std::vector<int> published = {1994, 1996, 1997, 1999, 2006};
+    for (int revision = 0; revision < 5; ++revision) {
+        for (int byte = 0; byte < 256; ++byte) {
+            const Reading reading = goodImage().set(17, {byte}).set(19, {revision}).reading();
+            const bool isBefore = 1990 + byte < published[static_cast<std::size_t>(revision)];
+            EXPECT_EQ(countOf(reading, "vendor.year"), isBefore ? 1U : 0U) << revision << ", " << byte;
+        }
+    }
+}
+
+TEST(Findings, TellOfSerialNumbersThatStandForNone) {
+    for (int byte = 0; byte < 256; ++byte) {
+        const Reading reading = goodImage().set(12, {byte, byte, byte, byte}).reading();
+        EXPECT_EQ(countOf(reading, "vendor.serial_placeholder"), byte == 1 || byte == 255 ? 1U : 0U) << byte;
+    }
+}
+
 /// Descriptors without a content in all slots but those that are set then.
 ImageOf withEmptySlots() {
     ImageOf image = goodImage();

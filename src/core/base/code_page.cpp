@@ -59,8 +59,8 @@ std::size_t sequenceLength(unsigned char lead) {
 
 /// The character whose sequence stands at the front of `bytes`, which is as long as the sequence.
 std::optional<char32_t> decodeSequence(std::string_view bytes) {
-    static constexpr std::array<char32_t, 5> leadBits = {0, 0x7F, 0x1F, 0x0F, 0x07};
-    static constexpr std::array<char32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
+    static constexpr auto leadBits = std::to_array<char32_t>({0, 0x7F, 0x1F, 0x0F, 0x07});
+    static constexpr auto least = std::to_array<char32_t>({0, 0, 0x80, 0x800, 0x10000});
     char32_t character = static_cast<unsigned char>(bytes[0]) & leadBits[bytes.size()];
     for (const char c : bytes.substr(1)) {
         const auto byte = static_cast<unsigned char>(c);

@@ -18,11 +18,11 @@ constexpr std::string_view blanks = " \t";
 
 /// Numbers of the value types in "hex(N):".
 constexpr std::uint32_t multipleTexts = 7;
-constexpr std::array<std::pair<std::uint32_t, RegistryType>, 5> typeNumbers = {{{0, RegistryType::None},
-                                                                                {1, RegistryType::Text},
-                                                                                {2, RegistryType::ExpandableText},
-                                                                                {3, RegistryType::Binary},
-                                                                                {4, RegistryType::Number32}}};
+constexpr auto typeNumbers = std::to_array<std::pair<std::uint32_t, RegistryType>>({{0, RegistryType::None},
+                                                                                    {1, RegistryType::Text},
+                                                                                    {2, RegistryType::ExpandableText},
+                                                                                    {3, RegistryType::Binary},
+                                                                                    {4, RegistryType::Number32}});
 
 RegistryType typeOfNumber(std::uint32_t number) {
     for (const auto& [known, type] : typeNumbers) {
