@@ -142,6 +142,8 @@ const std::vector<Form>& forms() {
         {"Prefixes", "hex", [](const S& b) { return plainRows(b, "", ", ", ",", "0x%02x"); }},
         {"Colons", "hex", [](const S& b) { return plainRows(b, "", ":", ""); }},
         {"Semicolons", "hex", [](const S& b) { return plainRows(b, "", ";", ";"); }},
+        {"EscapesWithoutQuotes", "hex", [](const S& b) { return plainRows(b, "", "", "", "\\x%02x"); }},
+        {"DoubledEscapes", "hex", [](const S& b) { return "printf " + each(b, "\\\\x%02x") + '\n'; }},
         {"Quotes", "hex", [](const S& b) { return plainRows(b, "\"", " ", "\""); }},
         {"CArray", "hex",
          [](const S& b) {

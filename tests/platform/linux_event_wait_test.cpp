@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
+#include <vector>
 
 namespace wb::platform::linux_system {
 namespace {
@@ -49,6 +51,40 @@ TEST_F(EventWaitTest, ASignalStopsItOnceAndEndsNothing) {
         EXPECT_EQ(wait.wait(events[0], std::nullopt), Result::Stop) << signal;
         EXPECT_EQ(wait.wait(events[0], std::nullopt), Result::Ready) << signal;
     }
+}
+
+/// Leaves bits on the stack where the next call has its variables.
+void soilStack() {
+    std::array<volatile unsigned char, 4096> bytes{};
+    for (volatile unsigned char& byte : bytes) {
+        byte = 0xFF;
+    }
+}
+
+/// The signals that do not reach this thread.
+std::vector<int> blockedSignals() {
+    sigset_t blocked;
+    pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
+    std::vector<int> signals;
+    for (int signal = 1; signal < NSIG; ++signal) {
+        if (sigismember(&blocked, signal) == 1) {
+            signals.push_back(signal);
+        }
+    }
+    return signals;
+}
+
+TEST(EventWaitSignals, AreTheTwoThatEndAProgramAlone) {
+    const std::vector<int> before = blockedSignals();
+    std::vector<int> expected = before;
+    expected.insert(expected.end(), {SIGINT, SIGTERM});
+    std::sort(expected.begin(), expected.end());
+    {
+        soilStack();
+        const EventWait wait;
+        EXPECT_EQ(blockedSignals(), expected);
+    }
+    EXPECT_EQ(blockedSignals(), before);
 }
 
 TEST_F(EventWaitTest, TellsThatNobodyReadsStandardOutputAnyMore) {
