@@ -371,6 +371,24 @@ TEST(Findings, TellOfYearsBeforeTheRevisionWasPublished) {
     }
 }
 
+/// goodImage with so many active pixels, active lines, and blank ones in its timing.
+ImageOf withTiming(int width, int height, int blankPixels, int blankLines) {
+    return goodImage().set(56, {width % 256, blankPixels % 256, width / 256 << 4 | blankPixels / 256, height % 256,
+                                blankLines % 256, height / 256 << 4 | blankLines / 256});
+}
+
+TEST(Findings, TellNoModeOfATimingWithoutPixelsOrLines) {
+    EXPECT_EQ(modesOf(withTiming(1920, 1080, 280, 45).reading()), (Modes{"1920x1080@60000", "1920x1080@60000"}));
+    EXPECT_EQ(modesOf(withTiming(1920, 1, 280, 45).reading()).size(), 2U);
+    EXPECT_EQ(modesOf(withTiming(1, 1080, 280, 45).reading()).size(), 2U);
+    EXPECT_EQ(modesOf(withTiming(1920, 0, 280, 45).reading()), Modes{"1920x1080@60000"}) << "of the standard timing";
+    EXPECT_EQ(modesOf(withTiming(0, 1080, 280, 45).reading()), Modes{"1920x1080@60000"});
+    // Without a total there is no rate either.
+    EXPECT_EQ(countOf(withTiming(0, 1080, 0, 45).reading(), "timing.outside_limits"), 0U);
+    EXPECT_EQ(countOf(withTiming(1920, 0, 280, 0).reading(), "timing.outside_limits"), 0U);
+    EXPECT_EQ(countOf(withTiming(1920, 1, 280, 0).reading(), "timing.outside_limits"), 1U);
+}
+
 TEST(Findings, TellOfSerialNumbersThatStandForNone) {
     for (int byte = 0; byte < 256; ++byte) {
         const Reading reading = goodImage().set(12, {byte, byte, byte, byte}).reading();

@@ -86,6 +86,15 @@ TEST(CtaAudio, ReadsFormatsWithWhatTheyDefine) {
     EXPECT_EQ(reading.summary.audio[4].channels, 24);
 }
 
+TEST(CtaAudio, ListsEverySamplingRate) {
+    const std::vector<double> rates = {32, 44.1, 48, 88.2, 96, 176.4, 192}; // from bit 0 on
+    for (std::size_t bit = 0; bit < rates.size(); ++bit) {
+        const Reading reading = ctaWith({0x23, 0x09, 1 << bit, 0x07}).reading();
+        ASSERT_EQ(reading.summary.audio.size(), 1U);
+        EXPECT_EQ(reading.summary.audio[0].ratesKilohertz, std::vector{rates[bit]});
+    }
+}
+
 TEST(CtaSpeakers, AreReadAndListed) {
     const Reading reading = ctaWith({0x83, 0x0F, 0x08, 0x01}).reading();
     expectTexts(reading, {{"speakers.lfe1", "yes"}, {"speakers.bc", "no"}, {"speakers.tpbl_tpbr", "yes"}});

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "extension_image.h"
+#include "invariants.h"
 
 namespace wb::fields {
 namespace {
@@ -9,7 +10,9 @@ namespace {
 using testing::HasSubstr;
 
 std::size_t countIn(const ImageOf& image, std::string_view code) {
-    return countOf(image.reading(), code);
+    const Reading reading = image.reading();
+    expectInvariants(reading);
+    return countOf(reading, code);
 }
 
 constexpr int basicAudio = 0x40;
@@ -86,7 +89,7 @@ TEST(CtaFindings, TellOfZerosBeforeTheTimings) {
 }
 
 TEST(CtaFindings, TellOfAudioWithoutBasicAudio) {
-    EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x07, 0x07}), "cta.basic_audio_missing"), 1U);
+    EXPECT_EQ(findingOf(ctaWith({0x23, 0x09, 0x07, 0x07}).reading(), "cta.basic_audio_missing").byte, 131U);
     EXPECT_EQ(countIn(ctaWith({0x83, 0x01, 0x00, 0x00}), "cta.basic_audio_missing"), 1U);
     EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x07, 0x07}, basicAudio), "cta.basic_audio_missing"), 0U);
     EXPECT_EQ(countIn(ctaWith({0x41, 16}), "cta.basic_audio_missing"), 0U);
@@ -99,7 +102,7 @@ TEST(CtaFindings, TellOfBasicAudioWithoutAudioDataBlocks) {
 }
 
 TEST(CtaFindings, TellOfMoreThanTwoChannelsOfPcmWithoutSpeakers) {
-    EXPECT_EQ(countIn(ctaWith({0x23, 0x0A, 0x07, 0x07}), "cta.speakers_missing"), 1U);
+    EXPECT_EQ(findingOf(ctaWith({0x23, 0x0A, 0x07, 0x07}).reading(), "cta.speakers_missing").byte, 128U);
     EXPECT_EQ(countIn(ctaWith({0x23, 0x09, 0x07, 0x07}), "cta.speakers_missing"), 0U);
     EXPECT_EQ(countIn(ctaWith({0x23, 0x15, 0x07, 0x50}), "cta.speakers_missing"), 0U);
     EXPECT_EQ(countIn(ctaWith({0x23, 0x0A, 0x07, 0x07, 0x83, 0x07, 0, 0}), "cta.speakers_missing"), 0U);
@@ -177,7 +180,7 @@ TEST(CtaFindings, TellOfAnHdmiBlockThatEndsBeforeWhatItAnnounces) {
 }
 
 TEST(CtaFindings, TellOfTheHdmiForumWithoutHdmi) {
-    EXPECT_EQ(countIn(ctaWith({0x67, 0xD8, 0x5D, 0xC4, 1, 0, 0x80, 0}), "cta.hdmi_missing"), 1U);
+    EXPECT_EQ(findingOf(ctaWith({0x67, 0xD8, 0x5D, 0xC4, 1, 0, 0x80, 0}).reading(), "cta.hdmi_missing").byte, 128U);
     EXPECT_EQ(countIn(ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x67, 0xD8, 0x5D, 0xC4, 1, 0, 0x80, 0}),
                       "cta.hdmi_missing"),
               0U);

@@ -47,6 +47,51 @@ TEST(Invariants, HoldOfEveryRevisionAndKindOfDescriptor) {
     }
 }
 
+TEST(Invariants, HoldOfEveryKindOfDataBlockOfCta861) {
+    std::mt19937 random(3);
+    const auto expectOf = [&](int tag, std::size_t length, std::initializer_list<int> begin) {
+        SCOPED_TRACE(std::to_string(tag) + ", " + std::to_string(length) + " bytes");
+        ImageOf image(2);
+        image.set(128, {0x02, 0x03, 5 + static_cast<int>(length), static_cast<int>(random() % 256)});
+        image.set(132, {tag << 5 | static_cast<int>(length)});
+        for (std::size_t i = 0; i < length; ++i) {
+            image.set(133 + i, {static_cast<int>(random() % 256)});
+        }
+        if (begin.size() <= length) {
+            image.set(133, begin);
+        }
+        expectInvariants(image.reading());
+    };
+    for (std::size_t length = 0; length < 32; ++length) {
+        for (int tag = 0; tag < 7; ++tag) {
+            expectOf(tag, length, {});
+        }
+        expectOf(3, length, {0x03, 0x0C, 0x00});
+        expectOf(3, length, {0xD8, 0x5D, 0xC4});
+        for (const int extendedTag :
+             {0, 1, 2, 3, 4, 5, 6, 7, 8, 13, 14, 15, 17, 18, 19, 20, 32, 34, 35, 42, 120, 121}) {
+            expectOf(7, length, {extendedTag});
+        }
+        expectOf(7, length, {static_cast<int>(random() % 256)});
+    }
+}
+
+TEST(Invariants, HoldOfEveryKindOfDataBlockOfDisplayId) {
+    std::mt19937 random(4);
+    for (const int version : {0x12, 0x13, 0x20}) {
+        for (int tag = 0; tag <= 0xFF; ++tag) {
+            const auto length = static_cast<int>(random() % 60);
+            SCOPED_TRACE(std::to_string(tag) + ", " + std::to_string(length) + " bytes");
+            ImageOf image(2);
+            image.set(128, {0x70, version, 3 + length, 3, 0}).set(133, {tag, static_cast<int>(random() % 256), length});
+            for (int i = 0; i < length; ++i) {
+                image.set(136 + static_cast<std::size_t>(i), {static_cast<int>(random() % 256)});
+            }
+            expectInvariants(image.reading());
+        }
+    }
+}
+
 void expectInvariantsOfFolder(const fs::path& folder) {
     int images = 0;
     for (const auto& entry : fs::directory_iterator(folder)) {
