@@ -386,6 +386,8 @@ TEST(Findings, TellNoModeOfATimingWithoutPixelsOrLines) {
     // Without a total there is no rate either.
     EXPECT_EQ(countOf(withTiming(0, 1080, 0, 45).reading(), "timing.outside_limits"), 0U);
     EXPECT_EQ(countOf(withTiming(1920, 0, 280, 0).reading(), "timing.outside_limits"), 0U);
+    EXPECT_EQ(countOf(withTiming(1920, 0, 280, 0).set(54, {100, 0}).reading(), "timing.outside_limits"), 0U)
+        << "a line rate far below the limits";
     EXPECT_EQ(countOf(withTiming(1920, 1, 280, 0).reading(), "timing.outside_limits"), 1U);
 }
 
