@@ -360,6 +360,17 @@ TEST_P(Block0Findings, AreListedInTheDocuments) {
         << row;
 }
 
+/// The bytes that the findings of that code are about.
+std::vector<std::size_t> placesOf(const Reading& reading, std::string_view code) {
+    std::vector<std::size_t> places;
+    for (const Finding& finding : reading.findings) {
+        if (finding.code == code) {
+            places.push_back(finding.byte);
+        }
+    }
+    return places;
+}
+
 TEST(Findings, TellOfYearsBeforeTheRevisionWasPublished) {
     const std::vector<int> published = {1994, 1996, 1997, 1999, 2006};
     for (int revision = 0; revision < 5; ++revision) {
@@ -391,6 +402,46 @@ TEST(Findings, TellNoModeOfATimingWithoutPixelsOrLines) {
     EXPECT_EQ(countOf(withTiming(1920, 1, 280, 0).reading(), "timing.outside_limits"), 1U);
 }
 
+/// goodImage, whose screen has 520 x 290 mm, with such a picture of its first timing and of a second one.
+ImageOf withPictures(int width, int height, int secondWidth, int secondHeight) {
+    ImageOf image = goodImage();
+    setTiming(image, 72);
+    const auto setSize = [&](std::size_t place, int pictureWidth, int pictureHeight) {
+        image.set(place + 12, {pictureWidth % 256, pictureHeight % 256, pictureWidth / 256 << 4 | pictureHeight / 256});
+    };
+    setSize(54, width, height);
+    setSize(72, secondWidth, secondHeight);
+    return image;
+}
+
+TEST(Findings, TellOfPicturesOfAnotherSizeThanTheScreen) {
+    const auto placesWith = [](int width, int height, int secondWidth, int secondHeight) {
+        return placesOf(withPictures(width, height, secondWidth, secondHeight).reading(), "timing.size_disagrees");
+    };
+    const std::vector<std::size_t> none;
+    EXPECT_EQ(placesWith(530, 300, 530, 300), none) << "a centimetre more is rounding";
+    EXPECT_EQ(placesWith(510, 280, 20, 20), none) << "the preferred timing fills the screen, others need not";
+    EXPECT_EQ(placesWith(531, 290, 520, 290), std::vector<std::size_t>{66});
+    EXPECT_EQ(placesWith(509, 290, 520, 290), std::vector<std::size_t>{66});
+    EXPECT_EQ(placesWith(520, 301, 520, 290), std::vector<std::size_t>{66});
+    EXPECT_EQ(placesWith(520, 279, 520, 290), std::vector<std::size_t>{66});
+    EXPECT_EQ(placesWith(520, 290, 531, 290), std::vector<std::size_t>{84});
+    EXPECT_EQ(placesWith(520, 290, 520, 301), std::vector<std::size_t>{84});
+    EXPECT_EQ(placesWith(520, 290, 20, 301), std::vector<std::size_t>{84});
+}
+
+TEST(Findings, TellOfAspectRatiosInPlaceOfASize) {
+    const std::vector<std::pair<int, int>> ratios = {{4, 3}, {16, 9}, {16, 10}, {160, 90}, {160, 100}};
+    for (const auto& [width, height] : ratios) {
+        const auto countOfRatio = [](int pictureWidth, int pictureHeight) {
+            return countOf(withPictures(pictureWidth, pictureHeight, 520, 290).reading(), "timing.size_is_ratio");
+        };
+        EXPECT_EQ(countOfRatio(width, height), 1U) << width;
+        EXPECT_EQ(countOfRatio(width + 1, height), 0U) << width;
+        EXPECT_EQ(countOfRatio(width, height + 2), 0U) << width;
+    }
+}
+
 TEST(Findings, TellOfSerialNumbersThatStandForNone) {
     for (int byte = 0; byte < 256; ++byte) {
         const Reading reading = goodImage().set(12, {byte, byte, byte, byte}).reading();
@@ -405,17 +456,6 @@ ImageOf withEmptySlots() {
         image.set(place, {0, 0, 0, 0x0F, 0, 10, 32, 32, 32, 32, 32, 32, 32, 32, 32, 32, 32, 32});
     }
     return image;
-}
-
-/// The bytes that the findings of that code are about.
-std::vector<std::size_t> placesOf(const Reading& reading, std::string_view code) {
-    std::vector<std::size_t> places;
-    for (const Finding& finding : reading.findings) {
-        if (finding.code == code) {
-            places.push_back(finding.byte);
-        }
-    }
-    return places;
 }
 
 TEST(Findings, AreToldOfTheDescriptorInEverySlot) {
