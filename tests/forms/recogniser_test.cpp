@@ -467,6 +467,52 @@ TEST(Recogniser, RefusesWhatHasNoHeader) {
     }
 }
 
+TEST(Recogniser, TakesDigitsAloneWhereAnyHeaderWillDo) {
+    std::string bytes = sample("zarqo-z40.bin");
+    bytes[1] = '\x7E';
+    const RecognitionOptions options = {.anyHeader = true, .form = {}, .inflate = {}};
+    for (const char* format : {"%02x", "%02X", "0x%02x", "0X%02X"}) {
+        for (const char* between : {" ", ",", ", ", "\t", "\n", "\r\n"}) {
+            SCOPED_TRACE(std::string(format) + " and '" + between + "'");
+            const Recognition result = recognise(each(bytes, format, between), options);
+            ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+            EXPECT_EQ(result.images[0].content(), bytes);
+        }
+    }
+    for (const std::string wrong : {"x", "00x", "00x0", "0y", "1x", "0", "."}) {
+        EXPECT_TRUE(recognise(wrong + ' ' + each(bytes, "%02x", " "), options).images.empty()) << wrong;
+    }
+}
+
+TEST(Recogniser, TakesBytesOfAnyHeaderUnlessAllAreText) {
+    const RecognitionOptions options = {.anyHeader = true, .form = {}, .inflate = {}};
+    const std::string text = "\t\n\v\f\r !~";
+    for (const char c : text) {
+        EXPECT_TRUE(recognise(std::string(128, c), options).images.empty()) << static_cast<int>(c);
+    }
+    for (const char c : {'\x08', '\x0E', '\x1F', '\x7F', '\x80', '\xFF'}) {
+        const Recognition result = recognise(text + std::string(127 - text.size(), 'g') + c, options);
+        EXPECT_EQ(result.images.size(), 1U) << static_cast<int>(c);
+    }
+}
+
+TEST(Recogniser, ReadsAShortRowBehindWordsAtTheEndOfABlockAlone) {
+    const std::string bytes = sample("zarqo-z40.bin");
+    for (const std::string head : {"row: ", "12. ", "[    2.123456] "}) {
+        for (const std::size_t perRow : {3U, 7U, 20U, 50U, 100U}) {
+            SCOPED_TRACE(head + std::to_string(perRow));
+            const std::string first = plainRows(bytes.substr(0, 128), head, " ", "", "%02x", perRow);
+            const std::string second = plainRows(bytes.substr(128), head, " ", "", "%02x", perRow);
+            const Recognition whole = recognise(first + second);
+            ASSERT_EQ(whole.images.size(), 1U) << whole.refusal;
+            EXPECT_EQ(whole.images[0].content(), bytes);
+            const Recognition ended = recognise(first + head + "11 22\n" + second);
+            ASSERT_EQ(ended.images.size(), 1U) << ended.refusal;
+            EXPECT_EQ(ended.images[0].content(), bytes.substr(0, 128));
+        }
+    }
+}
+
 TEST(Recogniser, RefusesSumsOfFiles) {
     std::string sums;
     for (int i = 0; i < 4; ++i) {
