@@ -132,6 +132,21 @@ TEST_F(Places, FollowTheFrameUntilTheUserChoosesASize) {
     EXPECT_EQ(placeOf(edid()).size(), QSize(300, 200));
 }
 
+TEST_F(Places, AreAsLargeWithBarsOfTheAreaAsWithoutThem) {
+    resizeFrame(500, 400);
+    program.newImage();
+    program.window(edid()).move(200, 20);
+    resizeFrame(510, 410);
+    const QRect alone = placeOf(edid());
+    ASSERT_FALSE(area().verticalScrollBar()->isVisible());
+    openCalculator();
+    program.window(edid()).setGeometry(alone);
+    program.window(calculator()).setGeometry(0, room().height() - 20, 100, 100);
+    DesktopProgram::settle();
+    EXPECT_TRUE(area().verticalScrollBar()->isVisible());
+    EXPECT_EQ(placeOf(edid()).size(), alone.size());
+}
+
 TEST_F(Places, OfTheOthersAreGivenBackWhenTheCalculatorCloses) {
     resizeFrame(1100, 900);
     program.newImage(true);

@@ -176,7 +176,8 @@ void ChildView::fit() {
         return;
     }
     const QSize wanted = window_->sizeHint();
-    const QSize area = window_->mdiArea()->viewport()->size();
+    // With bars or without them: a size that brings bars which then change the size would do so for ever.
+    const QSize area = window_->mdiArea()->maximumViewportSize();
     const QSize room = area - QSize(window_->x(), window_->y());
     chosen_ = wanted.boundedTo(room.expandedTo(area / 2));
     window_->resize(chosen_);
