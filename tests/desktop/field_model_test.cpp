@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
+#include <QTreeView>
+#include <array>
+#include <random>
 
 #include "desktop/tools/field_filter.h"
 #include "support/temporary_folder.h"
@@ -179,6 +182,62 @@ TEST_F(FieldSearch, ShowsNothingWhereNothingIsFoundAndAllWhereNothingIsLookedFor
     EXPECT_FALSE(filter.looks());
     EXPECT_EQ(filter.rowCount(), 2);
     EXPECT_TRUE(line(filter, pixelClock).isValid());
+}
+
+/// All that a view can reach, a line each, with those below it in braces.
+QString allLines(const QAbstractItemModel& model, const QModelIndex& parent = {}) {
+    QString all;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        all += index.data().toString() + '=' + index.siblingAtColumn(FieldModel::Value).data().toString() + '{' +
+               allLines(model, index) + "}\n";
+    }
+    return all;
+}
+
+/// Images of one block or two, of whose descriptors some change their kind.
+std::string randomImage(std::mt19937& random) {
+    constexpr std::size_t blockSize = 128;
+    constexpr std::array<std::size_t, 4> descriptors = {54, 72, 90, 108};
+    std::string bytes = sample().substr(0, blockSize * (1 + random() % 2));
+    bytes[126] = static_cast<char>(bytes.size() / blockSize - 1);
+    for (const std::size_t place : descriptors) {
+        constexpr std::array<int, 4> tags = {0xFC, 0xFD, 0xF7, 0x10};
+        if (random() % 2 == 0) {
+            bytes.replace(place, 3, 3, '\0');
+            bytes[place + 3] = static_cast<char>(tags[random() % tags.size()]);
+        }
+    }
+    return bytes;
+}
+
+TEST(FieldSearchInAChangingImage, FindsWhatIsThereNow) {
+    constexpr std::array<const char*, 6> searches = {"", "active", "block", "0", "product name", "offset"};
+    constexpr int steps = 400;
+    std::mt19937 random(1);
+    FieldModel model;
+    desktop::FieldFilter filter;
+    filter.setSourceModel(&model);
+    QTreeView view;
+    view.setModel(&filter);
+    QString words;
+    for (int step = 0; step < steps && !HasFailure(); ++step) {
+        SCOPED_TRACE(step);
+        const fields::Reading reading = readingOf(randomImage(random));
+        const fields::Reading* shown = random() % 10 == 0 ? nullptr : &reading;
+        model.show(shown);
+        if (random() % 3 == 0) {
+            words = searches[random() % searches.size()];
+        }
+        filter.look(words);
+        view.setCurrentIndex(filter.mapFromSource(model.indexOf(reading.fields[random() % reading.fields.size()])));
+        FieldModel fresh;
+        fresh.show(shown);
+        desktop::FieldFilter search;
+        search.setSourceModel(&fresh);
+        search.look(words);
+        EXPECT_EQ(allLines(filter).toStdString(), allLines(search).toStdString());
+    }
 }
 
 } // namespace

@@ -153,6 +153,19 @@ TEST_F(Fields, AreSearchedWithoutAnEventInTheModel) {
     EXPECT_EQ(words().text(), "gamma");
 }
 
+TEST_F(Fields, AreFoundAndLostAsTheCellsChange) {
+    open();
+    words().setText("gamma 2.50");
+    EXPECT_EQ(tree().model()->rowCount(), 0);
+    focus(edid().txtEdit(23));
+    type("96"); // 250 / 100
+    EXPECT_TRUE(line("Gamma", "2.50").isValid());
+    focus(edid().txtEdit(22));
+    focus(edid().txtEdit(23));
+    type("A0");
+    EXPECT_EQ(tree().model()->rowCount(), 0);
+}
+
 TEST_F(Fields, AreReachedFromTheSearchByReturn) {
     focus(edid().txtEdit(3));
     press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);

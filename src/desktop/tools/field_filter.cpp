@@ -12,10 +12,16 @@ void FieldFilter::look(const QString& words) {
 }
 
 bool FieldFilter::filterAcceptsRow(int row, const QModelIndex& parent) const {
-    const FieldNode& node = *FieldModel::nodeAt(sourceModel()->index(row, 0, parent));
-    return words_.isEmpty() || (node.isField() && std::all_of(words_.begin(), words_.end(), [&](const QString& word) {
-                                    return node.words.contains(word);
-                                }));
+    return words_.isEmpty() || accepts(*FieldModel::nodeAt(sourceModel()->index(row, 0, parent)));
+}
+
+bool FieldFilter::accepts(const FieldNode& node) const {
+    if (!node.isField()) {
+        return std::any_of(node.children.begin(), node.children.end(),
+                           [this](const auto& child) { return accepts(*child); });
+    }
+    return std::all_of(words_.begin(), words_.end(),
+                       [&node](const QString& word) { return node.words.contains(word); });
 }
 
 } // namespace wb::desktop

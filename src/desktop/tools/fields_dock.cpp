@@ -58,6 +58,9 @@ void FieldsDock::find() {
 
 void FieldsDock::showImage(const LiveReading& live) {
     fields_.show(live.readingBesides());
+    if (found_.looks()) {
+        found_.look(words_->text());
+    }
     openBlocks();
     followed_.reset();
 }
