@@ -29,6 +29,12 @@ Image imageOf(std::string_view input) {
     return *Image::fromBytes(bytes);
 }
 
+/// One of them, another for each length: to try all of them takes so long that few inputs would be tried.
+template <class List>
+const auto& oneOf(const List& list, std::string_view input) {
+    return list[input.size() % list.size()];
+}
+
 } // namespace
 
 void recogniser(std::string_view input) {
@@ -37,17 +43,14 @@ void recogniser(std::string_view input) {
         options.anyHeader = anyHeader;
         options.form.clear();
         expectWholeImages(adapters::recognise(input, options));
-        for (const std::string& form : forms::formNames()) {
-            options.form = form;
-            expectWholeImages(adapters::recognise(input, options));
-        }
+        options.form = oneOf(forms::formNames(), input);
+        expectWholeImages(adapters::recognise(input, options));
     }
     const Image image = imageOf(input);
-    for (const forms::WrittenForm& form : forms::writtenForms()) {
-        const forms::Recognition back = adapters::recognise(form.write(image));
-        ASSERT_EQ(back.images.size(), 1U) << form.name << ": " << back.refusal;
-        ASSERT_EQ(back.images[0].content(), image.content()) << form.name;
-    }
+    const forms::WrittenForm& form = oneOf(forms::writtenForms(), input);
+    const forms::Recognition back = adapters::recognise(form.write(image));
+    ASSERT_EQ(back.images.size(), 1U) << form.name << ": " << back.refusal;
+    ASSERT_EQ(back.images[0].content(), image.content()) << form.name;
 }
 
 } // namespace wb::fuzz
