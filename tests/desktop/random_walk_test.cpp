@@ -248,7 +248,7 @@ void walk(unsigned seed) {
 /// Walks one after the other: a few, or with WORKBENCH_WALK_SECONDS as many as begin within that time.
 TEST(RandomWalkOverWidgets, KeepsViewAndModelInLine) {
     const int seconds = qEnvironmentVariableIntValue("WORKBENCH_WALK_SECONDS");
-    constexpr unsigned few = 3;
+    constexpr unsigned few = 8;
     constexpr qint64 milliseconds = 1000;
     QElapsedTimer timer;
     timer.start();
