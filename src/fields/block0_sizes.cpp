@@ -41,7 +41,8 @@ bool tellsRatio(const Scope& base, const DetailedTiming& timing) {
     const bool isRatio = std::any_of(ratios.begin(), ratios.end(), [&](const Size& ratio) {
         return ratio.width == timing.widthMillimetres && ratio.height == timing.heightMillimetres;
     });
-    return isRatio && !areClose(basicSize(base), {timing.widthMillimetres, timing.heightMillimetres});
+    const Size basic = basicSize(base);
+    return isRatio && !(isTold(basic) && areClose(basic, {timing.widthMillimetres, timing.heightMillimetres}));
 }
 
 /// The size in the timing, nothing where there is an aspect ratio in its place.

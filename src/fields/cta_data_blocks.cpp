@@ -111,9 +111,9 @@ void checkKind(const Scope& header, const DataBlockKind& kind, std::size_t begin
                         "gives it a meaning.");
     } else if (declaredEnd < begin + kind.least) {
         header.tell(Severity::Error, "cta.data_block_short", 0, "length",
-                    "The " + nameOf(header, kind) + " has " + std::to_string(declaredEnd - begin) +
-                        " bytes of content where at least " + std::to_string(kind.least) +
-                        " belong, so that readers refuse or misread it; complete it or take it out.",
+                    "The " + nameOf(header, kind) + " has " + std::to_string(declaredEnd - begin) + " of at least " +
+                        std::to_string(kind.least) +
+                        " bytes of content, so that readers refuse or misread it; complete it or take it out.",
                     kind.clause);
     }
     if (kind.once && state.kinds[kind.name] > 1) {

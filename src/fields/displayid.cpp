@@ -252,8 +252,8 @@ private:
         } else if (declared < dataBlockHead + kind.least) {
             header.tell(Severity::Error, "displayid.data_block_short", 2, "length",
                         "The data block of " + name + " has " + std::to_string(declared - dataBlockHead) +
-                            " bytes of content where at least " + std::to_string(kind.least) +
-                            " belong, so that readers refuse or misread it; complete it or take it out.");
+                            " of at least " + std::to_string(kind.least) +
+                            " bytes of content, so that readers refuse or misread it; complete it or take it out.");
         }
     }
 

@@ -22,6 +22,16 @@ TEST_F(InspectTest, TellsEveryBlockAsATable) {
     EXPECT_THAT(outcome.output, HasSubstr("\n\nBlock 1: CTA-861 extension, check sum ok\n"));
 }
 
+TEST_F(InspectTest, TellsOfCheckSumsThatAreWrongAndOfBlocksThatAreNotThere) {
+    std::string bytes = sample("zarqo-z40.bin").substr(0, 128);
+    ++bytes[20];
+    write("half.bin", bytes);
+    const Outcome outcome = shell("edidwb inspect half.bin");
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_THAT(outcome.output, HasSubstr("half.bin: 128 bytes\n\nBlock 0: base EDID, check sum wrong\n"));
+    EXPECT_THAT(outcome.output, HasSubstr("\nBlock 1: missing extension, not there\n"));
+}
+
 TEST_F(InspectTest, TellsRowsForPrograms) {
     const Outcome outcome = shell("cd $SAMPLES; edidwb inspect --format tsv zarqo-z40.bin");
     EXPECT_EQ(outcome.status, 0) << outcome.errors;

@@ -442,6 +442,14 @@ TEST(Findings, TellOfAspectRatiosInPlaceOfASize) {
     }
 }
 
+TEST(Findings, TellOfAspectRatiosWhereTheScreenHasNoSizeEither) {
+    for (const auto& [width, height] : {std::pair(4, 3), std::pair(16, 9)}) {
+        const Reading reading = withPictures(width, height, width, height).set(21, {0, 0}).reading();
+        EXPECT_EQ(placesOf(reading, "timing.size_is_ratio"), (std::vector<std::size_t>{66, 84})) << width;
+        EXPECT_FALSE(reading.summary.widthMillimetres) << width;
+    }
+}
+
 TEST(Findings, TellOfSerialNumbersThatStandForNone) {
     for (int byte = 0; byte < 256; ++byte) {
         const Reading reading = goodImage().set(12, {byte, byte, byte, byte}).reading();

@@ -61,7 +61,7 @@ TEST(CtaFindings, TellOfBytesAfterTheLastTiming) {
 TEST(CtaFindings, TellOfDataBlocksTooShortForTheirKind) {
     const Reading reading = ctaWith({0xE2, 0x06, 0x01}).reading();
     EXPECT_THAT(findingOf(reading, "cta.data_block_short").text,
-                HasSubstr("HDR static metadata data block at byte 132 has 1 bytes of content where at least 2 belong"));
+                HasSubstr("HDR static metadata data block at byte 132 has 1 of at least 2 bytes of content, so that"));
     EXPECT_EQ(countIn(ctaWith({0xE3, 0x06, 0x01, 0x01}), "cta.data_block_short"), 0U);
     EXPECT_EQ(countIn(ctaWith({0x82, 0x01, 0x00}), "cta.data_block_short"), 1U);
     EXPECT_EQ(countIn(ctaWith({0x83, 0x01, 0x00, 0x00}), "cta.data_block_short"), 0U);

@@ -147,7 +147,7 @@ TEST(DisplayIdFindings, TellOfDataBlocks) {
                 HasSubstr("container identification at byte 133 takes 7 bytes and runs 2 over"));
     EXPECT_EQ(countOf(displayIdWith(0x12, {0x29, 0, 2, 1, 2}).reading(), "displayid.data_block_over"), 0U);
     EXPECT_THAT(findingOf(displayIdWith(0x12, {0x03, 0, 2, 1, 2}).reading(), "displayid.data_block_short").text,
-                HasSubstr("at byte 133 has 2 bytes of content where at least 20 belong"));
+                HasSubstr("at byte 133 has 2 of at least 20 bytes of content, so that"));
     EXPECT_EQ(countOf(displayIdWith(0x12, typeI).reading(), "displayid.data_block_short"), 0U);
     EXPECT_EQ(countOf(displayIdWith(0x12, {0x03, 0, 2, 1, 2}).reading(), "displayid.timing_incomplete"), 1U);
     EXPECT_EQ(countOf(displayIdWith(0x12, typeI).reading(), "displayid.timing_incomplete"), 0U);
