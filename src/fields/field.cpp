@@ -1,9 +1,19 @@
 #include "fields/field.h"
 
+#include <algorithm>
+
 #include "fields/reading.h"
 #include "fields/words.h"
 
 namespace wb::fields {
+
+bool Where::covers(std::size_t byte) const {
+    return std::any_of(begin(), end(), [byte](const BitRange& range) { return range.covers(byte); });
+}
+
+std::size_t Where::firstByte() const {
+    return std::min_element(begin(), end(), [](const auto& a, const auto& b) { return a.byte < b.byte; })->byte;
+}
 
 int Where::bits() const {
     int count = 0;

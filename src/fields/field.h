@@ -19,6 +19,8 @@ struct BitRange {
     std::uint8_t high = 7;
     std::uint8_t low = 0;
     std::size_t count = 1;
+
+    bool covers(std::size_t number) const { return number >= byte && number < byte + count; }
 };
 
 /// Where a field stands: at most four ranges of bits, the highest part of its value first.
@@ -28,6 +30,11 @@ public:
     const BitRange* begin() const { return ranges_.data(); }
     const BitRange* end() const { return ranges_.data() + size_; }
     const BitRange& front() const { return ranges_.front(); }
+
+    /// Whether it has bits in the byte of that number.
+    bool covers(std::size_t byte) const;
+    /// The first byte of the image that it has bits in. There must be one.
+    std::size_t firstByte() const;
 
     /// How many bits the ranges of single bytes have together, and the number that these make up.
     int bits() const;

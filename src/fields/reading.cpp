@@ -130,7 +130,7 @@ Reading read(const Image& image) {
 const Field* fieldAt(const Reading& reading, std::size_t byte, int bit) {
     for (const Field& field : reading.fields) {
         for (const BitRange& range : field.where) {
-            if (byte >= range.byte && byte < range.byte + range.count && bit <= range.high && bit >= range.low) {
+            if (range.covers(byte) && bit <= range.high && bit >= range.low) {
                 return &field;
             }
         }

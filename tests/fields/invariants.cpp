@@ -55,11 +55,6 @@ bool hasControlCharacter(const std::string& text) {
     return std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; });
 }
 
-bool standsAt(const Field& field, std::size_t byte) {
-    return std::any_of(field.where.begin(), field.where.end(),
-                       [&](const BitRange& range) { return range.byte <= byte && byte < range.byte + range.count; });
-}
-
 /// Some begin before their field: with the front porch of the pulse, and with the length of the data block.
 void expectInItsField(const Reading& reading, const Finding& finding) {
     const std::set<std::string_view> early = {"timing.h_sync_beyond_blanking", "timing.no_sync", "cta.hdmi_short"};
@@ -68,16 +63,8 @@ void expectInItsField(const Reading& reading, const Finding& finding) {
     }
     const auto field = std::find_if(reading.fields.begin(), reading.fields.end(),
                                     [&](const Field& each) { return each.path == finding.path; });
-    EXPECT_TRUE(field == reading.fields.end() || standsAt(*field, finding.byte))
+    EXPECT_TRUE(field == reading.fields.end() || field->where.covers(finding.byte))
         << finding.code << ": " << finding.path << " is not at byte " << finding.byte;
-}
-
-std::size_t firstByte(const Field& field) {
-    std::size_t first = field.where.front().byte;
-    for (const BitRange& range : field.where) {
-        first = std::min(first, range.byte);
-    }
-    return first;
 }
 
 } // namespace
@@ -89,8 +76,8 @@ void expectInvariants(const Reading& reading) {
     std::size_t last = 0;
     for (const Field& field : reading.fields) {
         EXPECT_TRUE(paths.insert(field.path).second) << "twice: " << field.path;
-        EXPECT_GE(firstByte(field), last) << field.path;
-        last = firstByte(field);
+        EXPECT_GE(field.where.firstByte(), last) << field.path;
+        last = field.where.firstByte();
         EXPECT_FALSE(field.label.empty()) << field.path;
         EXPECT_FALSE(field.clause.empty()) << field.path;
         EXPECT_FALSE(field.text.empty() && field.value.index() != textValue) << field.path;

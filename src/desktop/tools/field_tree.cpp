@@ -148,18 +148,6 @@ auto textsOf(const FieldNode& node) {
 
 } // namespace
 
-std::size_t FieldNode::firstByte() const {
-    const auto* first =
-        std::min_element(where.begin(), where.end(), [](const auto& a, const auto& b) { return a.byte < b.byte; });
-    return first->byte;
-}
-
-bool FieldNode::covers(std::size_t byte) const {
-    return std::any_of(where.begin(), where.end(), [byte](const fields::BitRange& range) {
-        return byte >= range.byte && byte < range.byte + range.count;
-    });
-}
-
 bool FieldNode::take(const FieldNode& other) {
     where = other.where;
     if (textsOf(*this) == textsOf(other)) {

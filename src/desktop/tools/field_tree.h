@@ -22,9 +22,6 @@ struct FieldNode {
     std::vector<std::unique_ptr<FieldNode>> children;
 
     bool isField() const { return where.begin() != where.end(); }
-    /// The first byte of the image that a field has bits in.
-    std::size_t firstByte() const;
-    bool covers(std::size_t byte) const;
     /// Takes over all texts, not the children. False where they were the same.
     bool take(const FieldNode& other);
 };

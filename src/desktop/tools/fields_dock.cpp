@@ -83,7 +83,7 @@ void FieldsDock::follow(std::size_t byte) {
     const FieldNode* current = FieldModel::nodeAt(found_.mapToSource(tree_->currentIndex()));
     constexpr int highestBit = 7;
     const fields::Field* field = fields::fieldAt(*reading, byte, highestBit);
-    if (field == nullptr || (current != nullptr && current->covers(byte))) {
+    if (field == nullptr || (current != nullptr && current->where.covers(byte))) {
         return;
     }
     const QModelIndex index = found_.mapFromSource(fields_.indexOf(*field));
@@ -108,7 +108,7 @@ void FieldsDock::look() {
 void FieldsDock::goTo(const QModelIndex& index) {
     const FieldNode* node = FieldModel::nodeAt(found_.mapToSource(index));
     if (node != nullptr && node->isField()) {
-        goToByte(node->firstByte());
+        goToByte(node->where.firstByte());
     }
 }
 
