@@ -48,7 +48,8 @@ TEST_F(BatchTest, TakesNamesFromAFile) {
     EXPECT_EQ(shell("edidwb check --files-from - -").status, 2);
 }
 
-/// Signals that come at any moment: a batch leaves whole reports, and nothing that is half done.
+/// Signals that come at any moment: a batch leaves whole reports, and nothing that is half done. The thread sanitizer
+/// makes a file of its own before the program begins, which a signal of that moment leaves.
 TEST_F(BatchTest, LeavesWholeFilesWhenASignalEndsIt) {
     shell(
         "mkdir in tmp; for n in $(seq 60); do cp $SAMPLES/zarqo-z40.bin in/$n.bin; done\n"
@@ -70,7 +71,7 @@ TEST_F(BatchTest, LeavesWholeFilesWhenASignalEndsIt) {
               "  cmp -s a.bin before.bin || cmp a.bin $SAMPLES/zarqo-z40.bin\n"
               "  rm -f a.DAT; at $delay $signal edidwb convert --to dat $SAMPLES/zarqo-z40.bin a.DAT\n"
               "  [ ! -e a.DAT ] || [ -s a.DAT ] || echo empty\n"
-              "done; done; find . -name '.edidwb-*'; ls -A tmp");
+              "done; done; find . -name '.edidwb-*'; ls -A -I 'tsan.rodata.*' tmp");
     EXPECT_EQ(outcome.output, "") << outcome.errors;
 }
 
