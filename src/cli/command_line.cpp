@@ -20,6 +20,7 @@ struct Command {
     std::string_view name;
     const char* description;
     Run (*addOptions)(Syntax& syntax);
+    int whenItFails = somethingFailed;
 };
 
 Run addHelp(Syntax& syntax);
@@ -29,7 +30,7 @@ constexpr auto commands = std::to_array<Command>({
     {"convert", "Write an image in another format", &addConvert},
     {"check", "Tell what is wrong with each file", &addCheck},
     {"inspect", "Tell what every byte of each file means", &addInspect},
-    {"diff", "Tell the fields in which two images differ", &addDiff},
+    {"diff", "Tell the fields in which two images differ", &addDiff, imagesNotCompared},
     {"repair", "Put the check sums of each image right", &addRepair},
     {"scrub", "Take the serial numbers out of each image", &addScrub},
     {"set", "Set maker, name, timings and more of each image, or of a new one", &addSet},
@@ -56,16 +57,19 @@ void putRight(std::vector<std::string>& arguments) {
     }
 }
 
-int complainOfUsage(const std::string& message) {
-    complain(message + "\nTry 'edidwb --help' for more information.");
+std::string programOf(const Command* command) {
+    return command == nullptr ? "edidwb" : "edidwb " + std::string(command->name);
+}
+
+int complainOfUsage(const std::string& message, const Command* command) {
+    complain(message + "\nTry '" + programOf(command) + " --help' for more information.");
     return wrongUse;
 }
 
 /// Each command is a program of its own to the option library, which would otherwise hand what it does not expect, all
 /// behind "--" included, back to the commands.
 int runCommand(const Command& command, const std::vector<std::string>& arguments) {
-    const std::string program = "edidwb " + std::string(command.name);
-    Syntax syntax(program, command.description);
+    Syntax syntax(programOf(&command), command.description);
     const Run run = command.addOptions(syntax);
     if (const std::optional<std::string> text = syntax.read(arguments)) {
         print(*text);
@@ -78,6 +82,10 @@ const Command* commandOf(std::string_view name) {
     const auto* const command =
         std::find_if(commands.begin(), commands.end(), [&](const Command& known) { return known.name == name; });
     return command == commands.end() ? nullptr : command;
+}
+
+const Command* commandIn(const std::vector<std::string>& arguments) {
+    return arguments.empty() ? nullptr : commandOf(arguments.front());
 }
 
 std::vector<std::string> commandNames() {
@@ -129,14 +137,19 @@ Run addHelp(Syntax& syntax) {
 } // namespace
 
 int runCommandLine(std::vector<std::string> arguments) {
+    const Command* const command = commandIn(arguments);
     try {
         putRight(arguments);
-        const Command* const command = arguments.empty() ? nullptr : commandOf(arguments.front());
         return command == nullptr ? runWithoutCommand(arguments)
                                   : runCommand(*command, {arguments.begin() + 1, arguments.end()});
     } catch (const UsageError& error) {
-        return complainOfUsage(error.what());
+        return complainOfUsage(error.what(), command);
     }
+}
+
+int statusWhenStopped(const std::vector<std::string>& arguments) {
+    const Command* const command = commandIn(arguments);
+    return command == nullptr ? somethingFailed : command->whenItFails;
 }
 
 } // namespace wb::cli

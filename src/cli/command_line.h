@@ -9,4 +9,8 @@ namespace wb::cli {
 /// printed, wrong usage is told with the status of its own.
 int runCommandLine(std::vector<std::string> arguments);
 
+/// The exit status where something that nothing took care of, such as a full disk below standard output, stops what the
+/// arguments ask for: never one that tells a result.
+int statusWhenStopped(const std::vector<std::string>& arguments);
+
 } // namespace wb::cli

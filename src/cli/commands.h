@@ -12,6 +12,8 @@ class Syntax;
 inline constexpr int success = 0;
 inline constexpr int somethingFailed = 1;
 inline constexpr int wrongUse = 2;
+/// That of "diff" for all failures: somethingFailed would tell that the images differ.
+inline constexpr int imagesNotCompared = 2;
 
 using Run = std::function<int()>;
 

@@ -18,10 +18,9 @@ using fields::FieldPair;
 using fields::Reading;
 using fields::Side;
 
-/// Exit statuses, as those of other programs that compare files.
+/// Exit statuses, as those of other programs that compare files; a failure is imagesNotCompared.
 constexpr int same = 0;
 constexpr int different = 1;
-constexpr int trouble = 2;
 
 struct Options {
     std::string first;
@@ -86,9 +85,9 @@ int run(const Options& options) {
     const std::optional<Reading> first = readOrComplain(options.first, options.images);
     const std::optional<Reading> second = readOrComplain(options.second, options.images);
     if (!first || !second) {
-        return trouble;
+        return imagesNotCompared;
     }
-    int status = trouble;
+    int status = imagesNotCompared;
     attempt(options.second, [&] { status = compare(*first, *second, options); });
     return status;
 }

@@ -7,7 +7,6 @@
 #include "cli/attempt.h"
 #include "cli/cleanup.h"
 #include "cli/command_line.h"
-#include "cli/commands.h"
 #include "cli/output.h"
 
 namespace wb::cli {
@@ -15,6 +14,7 @@ namespace wb::cli {
 int runProgram(std::vector<std::string> arguments) {
     prepareStreams();
     removeTemporariesOnSignals();
+    const int stopped = statusWhenStopped(arguments);
     try {
         const int status = withinMemory([&] { return runCommandLine(std::move(arguments)); });
         flushOutput();
@@ -24,10 +24,10 @@ int runProgram(std::vector<std::string> arguments) {
             endByBrokenPipe();
         }
         std::fprintf(stderr, "edidwb: %s\n", error.what());
-        return somethingFailed;
+        return stopped;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "edidwb: %s\n", error.what());
-        return somethingFailed;
+        return stopped;
     }
 }
 

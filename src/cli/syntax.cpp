@@ -202,7 +202,7 @@ bool Syntax::readsWithNamed(const std::vector<std::string>& arguments) const {
 }
 
 std::optional<std::string> Syntax::readWithAll(const std::vector<std::string>& arguments) const {
-    CLI::App app{std::string(description_), std::string(program_)};
+    CLI::App app{std::string(description_), program_};
     if (!version_.empty()) {
         app.set_version_flag("--version", version_);
     }

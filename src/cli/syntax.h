@@ -70,8 +70,9 @@ private:
 /// arguments, but is told only of what they may name: describing an option to it costs as much as decoding a timing.
 class Syntax {
 public:
-    /// The texts must outlive the object. `program` is what the user types: "edidwb check".
-    Syntax(std::string_view program, std::string_view description) : program_(program), description_(description) {
+    /// The texts must outlive the object, all but `program`, which is what the user types: "edidwb check".
+    Syntax(std::string program, std::string_view description)
+        : program_(std::move(program)), description_(description) {
         constexpr std::size_t mostOptions = 24; // of any command
         options_.reserve(mostOptions);
     }
@@ -110,7 +111,7 @@ private:
     bool readsWithNamed(const std::vector<std::string>& arguments) const;
     std::optional<std::string> readWithAll(const std::vector<std::string>& arguments) const;
 
-    std::string_view program_;
+    std::string program_;
     std::string_view description_;
     std::string_view footer_;
     std::string version_;

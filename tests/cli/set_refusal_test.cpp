@@ -95,7 +95,7 @@ TEST_F(SetRefusalTest, WhatNoImageCanHoldIsWrongUse) {
     for (const auto& [options, error] : refusals) {
         const Outcome outcome = shell("edidwb set -o out a.bin " + options);
         EXPECT_EQ(outcome.status, 2) << options;
-        EXPECT_EQ(outcome.errors, "edidwb: " + error + "\nTry 'edidwb --help' for more information.\n") << options;
+        EXPECT_EQ(outcome.errors, "edidwb: " + error + "\nTry 'edidwb set --help' for more information.\n") << options;
         EXPECT_FALSE(exists("out")) << options;
     }
 }
