@@ -22,7 +22,7 @@ std::optional<Number> numberOf(const std::string& option, const std::optional<st
     if (!text) {
         return std::nullopt;
     }
-    const bool isHexadecimal = text->starts_with("0x") || text->starts_with("0X");
+    const bool isHexadecimal = hasHexPrefix(*text);
     const auto number =
         isHexadecimal ? wholeNumber<Number>(std::string_view(*text).substr(2), 16) : wholeNumber<Number>(*text);
     if (!number || *number > most) {

@@ -27,14 +27,8 @@ int byteOf(Workbench& workbench, std::string_view cellText);
 /// byteOf of cell `index` of a block screen, box and all; an index outside the grid is a ControlElementMissing failure.
 inline int byteAt(BlockScreen& screen, int index) {
     const std::string& text = screen.txtEdit(index).text();
-    if (text.size() == 2) {
-        const int high = hexDigit(text[0]);
-        const int low = hexDigit(text[1]);
-        if (high >= 0 && low >= 0) {
-            return high * 16 + low; // what byteOf gives for nearly every cell
-        }
-    }
-    return byteOf(screen.workbench(), text);
+    const int pair = hexPair(text);
+    return pair >= 0 ? pair : byteOf(screen.workbench(), text); // which gives the same for a pair, but slowly
 }
 
 /// The number that the binary form of hexadecimal digits gives, as decimal text.

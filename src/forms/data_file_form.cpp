@@ -17,13 +17,12 @@ void appendPair(std::string_view pair, DataFileBytes& result) {
     if (!result.refusal.empty()) {
         return;
     }
-    const int high = hexDigit(pair[0]);
-    const int low = hexDigit(pair[1]);
-    if (high < 0 || low < 0) {
+    const int byte = hexPair(pair);
+    if (byte < 0) {
         result.refusal = "cell " + std::to_string(result.bytes.size()) + " is no byte: " + quoted(pair);
         return;
     }
-    result.bytes += static_cast<char>(high * 16 + low);
+    result.bytes += static_cast<char>(byte);
 }
 
 } // namespace

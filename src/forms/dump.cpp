@@ -58,10 +58,10 @@ std::optional<std::size_t> offsetOf(std::string_view word, int base) {
     if (word.starts_with('+')) {
         word.remove_prefix(1);
     }
-    if (word.starts_with("0x") || word.starts_with("0X")) {
+    if (hasHexPrefix(word)) {
         word.remove_prefix(2);
     }
-    if (word.size() < 2 || !std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; })) {
+    if (word.size() < 2 || !areHexDigits(word)) {
         return std::nullopt;
     }
     return wholeNumber<std::size_t>(word, base);
@@ -73,11 +73,11 @@ bool appendUnit(std::string_view word, const UnitForm& form, std::string& bytes)
         return false;
     }
     if (form.order == Order::Pairs) {
-        if (word.size() % 2 != 0 || !std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; })) {
+        if (word.size() % 2 != 0 || !areHexDigits(word)) {
             return false;
         }
         for (std::size_t i = 0; i < word.size(); i += 2) {
-            bytes += static_cast<char>(hexDigit(word[i]) * 16 + hexDigit(word[i + 1]));
+            bytes += static_cast<char>(hexPair(word.substr(i, 2)));
         }
         return true;
     }

@@ -30,7 +30,7 @@ struct Word {
 };
 
 bool isHexWord(std::string_view word) {
-    return !word.empty() && std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; });
+    return !word.empty() && areHexDigits(word);
 }
 
 /// Splits a line into words and reads those that are hexadecimal. It looks at them twice, as a list of the words of a
@@ -78,7 +78,7 @@ private:
             ++end;
         }
         const std::string_view word = text.substr(place, end - place);
-        return !word.empty() && !isHexWord(word) && !word.starts_with("0x") && !word.starts_with("0X");
+        return !word.empty() && !isHexWord(word) && !hasHexPrefix(word);
     }
 
     void forget() {
@@ -111,7 +111,7 @@ private:
         }
         const std::string_view word = line_.substr(place, end - place);
         const bool escaped = place > 0 && line_[place - 1] == '\\' && word.starts_with('x');
-        const bool prefixed = word.starts_with("0x") || word.starts_with("0X");
+        const bool prefixed = hasHexPrefix(word);
         return {.digits = word.substr(escaped ? 1 : prefixed ? 2 : 0), .marked = escaped || prefixed, .end = end};
     }
 

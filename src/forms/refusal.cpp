@@ -37,10 +37,10 @@ bool isText(std::string_view content) {
 }
 
 bool isPair(std::string_view word) {
-    if (word.starts_with("0x") || word.starts_with("0X")) {
+    if (hasHexPrefix(word)) {
         word.remove_prefix(2);
     }
-    return word.size() % 2 == 0 && std::all_of(word.begin(), word.end(), [](char c) { return hexDigit(c) >= 0; });
+    return word.size() % 2 == 0 && areHexDigits(word);
 }
 
 /// The first word that is no hexadecimal pair, with its line.

@@ -15,10 +15,11 @@ std::string bytesOf(BlockScreen& screen, int first) {
     std::string bytes;
     for (int i = 0; i < BlockScreen::cellCount; ++i) {
         const std::string& text = screen.txtEdit(i).text();
-        if (text.size() != 2 || hexDigit(text[0]) < 0 || hexDigit(text[1]) < 0) {
+        const int byte = hexPair(text);
+        if (byte < 0) {
             throw NoImage("cell " + std::to_string(first + i) + " is no byte: " + quoted(text));
         }
-        bytes += static_cast<char>(hexDigit(text[0]) * 16 + hexDigit(text[1]));
+        bytes += static_cast<char>(byte);
     }
     return bytes;
 }

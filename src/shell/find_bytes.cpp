@@ -1,6 +1,5 @@
 #include "shell/find_bytes.h"
 
-#include <algorithm>
 #include <string>
 
 #include "core/base/digits.h"
@@ -16,10 +15,13 @@ namespace {
 std::string bytesIn(std::string_view text) {
     std::string digits(text);
     std::erase(digits, ' ');
-    const bool allDigits = std::all_of(digits.begin(), digits.end(), [](char c) { return hexDigit(c) >= 0; });
     std::string bytes;
-    for (std::size_t i = 0; allDigits && digits.size() % 2 == 0 && i < digits.size(); i += 2) {
-        bytes += static_cast<char>(hexDigit(digits[i]) * 16 + hexDigit(digits[i + 1]));
+    for (std::size_t i = 0; i < digits.size(); i += 2) {
+        const int byte = hexPair(std::string_view(digits).substr(i, 2));
+        if (byte < 0) {
+            return {};
+        }
+        bytes += static_cast<char>(byte);
     }
     return bytes;
 }

@@ -1,5 +1,7 @@
 #include "shell/image_state.h"
 
+#include <algorithm>
+
 #include "core/base/digits.h"
 
 namespace wb::shell {
@@ -13,8 +15,7 @@ BlockScreen* screenOf(const Workbench& workbench, std::size_t block) {
 }
 
 char byteIn(const std::string& text) {
-    const bool isByte = text.size() == pairLength && hexDigit(text[0]) >= 0 && hexDigit(text[1]) >= 0;
-    return isByte ? static_cast<char>(hexDigit(text[0]) * 16 + hexDigit(text[1])) : '\0';
+    return static_cast<char>(std::max(hexPair(text), 0));
 }
 
 } // namespace

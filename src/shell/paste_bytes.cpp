@@ -21,7 +21,7 @@ public:
     bool atEnd() const { return rest_.empty(); }
     /// The next pair in upper case; nothing where something else follows.
     std::optional<std::string> next() {
-        if (rest_.size() < 2 || hexDigit(rest_[0]) < 0 || hexDigit(rest_[1]) < 0) {
+        if (hexPair(rest_.substr(0, 2)) < 0) {
             return std::nullopt;
         }
         std::string pair = upperCase(rest_.substr(0, 2));
@@ -34,7 +34,7 @@ private:
     void passOver() {
         constexpr std::string_view between = " \t\r\n,;";
         rest_.remove_prefix(std::min(rest_.find_first_not_of(between), rest_.size()));
-        if (rest_.starts_with("0x") || rest_.starts_with("0X")) {
+        if (hasHexPrefix(rest_)) {
             rest_.remove_prefix(2);
         }
     }

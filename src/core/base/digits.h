@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -26,6 +27,26 @@ inline constexpr auto hexDigits = [] {
 /// 0 to 15 for a hexadecimal digit in either case, -1 for any other character.
 constexpr int hexDigit(char c) {
     return hexDigits[static_cast<unsigned char>(c)];
+}
+
+/// 0 to 255 for a pair of hexadecimal digits, -1 for any other text.
+constexpr int hexPair(std::string_view text) {
+    if (text.size() != 2) {
+        return -1;
+    }
+    const int high = hexDigit(text[0]);
+    const int low = hexDigit(text[1]);
+    return high < 0 || low < 0 ? -1 : high * 16 + low;
+}
+
+/// Whether there are hexadecimal digits alone; also where there is nothing.
+constexpr bool areHexDigits(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return hexDigit(c) >= 0; });
+}
+
+/// Whether "0x" stands in front, in either case.
+constexpr bool hasHexPrefix(std::string_view text) {
+    return text.starts_with("0x") || text.starts_with("0X");
 }
 
 /// The whole decimal number that the whole text spells (a minus may stand in front), or nothing.
