@@ -4,28 +4,14 @@
 
 #include <map>
 #include <memory>
-#include <ostream>
 #include <string>
-#include <vector>
 
+#include "core/screen_rows.h"
 #include "core/screens/frm_edid.h"
 #include "support/program.h"
 
 namespace wb {
 namespace {
-
-using Captions = std::vector<std::string>;
-
-struct Row {
-    const char* name;
-    int first; ///< Control::noIndex: no array
-    Captions captions;
-    const char* container; ///< "Hints(1)"; empty: the screen itself
-};
-
-std::ostream& operator<<(std::ostream& out, const Row& row) {
-    return out << row.name;
-}
 
 const Captions thirteenTimings = {"Pixel Clock", "Active Time", "Blanking Time", "Active Time", "Blanking Time",
                                   "Sync Offset", "Pulse Width", "Sync Offset",   "Pulse Width", "Border",
@@ -34,7 +20,7 @@ const Captions aspects = {"16:10 Aspect Ratio", "4:3 Aspect Ratio", "5:4 Aspect 
 const Captions adjusts = {"Adjust Horizontal ", "Adjust Frequency"};
 constexpr int single = Control::noIndex;
 
-const Row rows[] = {
+const ScreenRow rows[] = {
     {"Label1", 0, {"Brand", "Version", "Model", "Revision"}, ""},
     {"Label2",
      0,
@@ -133,10 +119,6 @@ const Row rows[] = {
     {"ExtStaInput", single, {""}, "Frame6"},
 };
 
-std::string shortName(const Control* control) {
-    return control == nullptr ? "" : control->fullName().substr(std::string("frmEDID.").size());
-}
-
 class EdidScreen : public testing::Test {
 protected:
     test::Program program;
@@ -146,15 +128,8 @@ protected:
 
 TEST_F(EdidScreen, HasItsCaptionsAndContainers) {
     EXPECT_EQ(screen.caption(), "Edid Decoding Screen");
-    for (const Row& row : rows) {
-        int index = row.first;
-        for (const std::string& caption : row.captions) {
-            const Control* control = screen.find(row.name, index);
-            ASSERT_NE(control, nullptr) << row << ' ' << index;
-            EXPECT_EQ(control->caption(), caption) << row << ' ' << index;
-            EXPECT_EQ(shortName(control->container()), row.container) << row << ' ' << index;
-            ++index;
-        }
+    for (const ScreenRow& row : rows) {
+        expectRow(screen, row);
     }
 }
 

@@ -126,6 +126,9 @@ TEST(CtaFindings, TellOfMoreNativeTimingsThanThereAre) {
     EXPECT_EQ(countIn(ctaWith({}, 1).set(54, {1, 0x1D}), "cta.native_count"), 0U);
     EXPECT_EQ(countIn(ctaWith({}, 2).set(54, {1, 0x1D}).set(132, {1, 0x1D}), "cta.native_count"), 0U);
     EXPECT_EQ(countIn(ctaWith({}, 3).set(54, {1, 0x1D}).set(132, {1, 0x1D}), "cta.native_count"), 1U);
+    // Two timings of block 0, with other descriptors between them.
+    EXPECT_EQ(countIn(ctaWith({}, 2).set(54, {1, 0x1D}).set(108, {1, 0x1D}), "cta.native_count"), 0U);
+    EXPECT_EQ(countIn(ctaWith({}, 3).set(54, {1, 0x1D}).set(108, {1, 0x1D}), "cta.native_count"), 1U);
 }
 
 TEST(CtaFindings, TellOfOneYcbcrFlagWithoutTheOtherOnHdmi) {

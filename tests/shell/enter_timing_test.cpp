@@ -4,9 +4,9 @@
 
 #include "core/base/text.h"
 #include "core/cells.h"
-#include "core/view.h"
 #include "files/image_loading.h"
 #include "support/program.h"
+#include "support/silent_view.h"
 #include "support/temporary_folder.h"
 
 namespace wb::shell {
@@ -69,7 +69,7 @@ TEST_F(EnterTiming, WritesTheNumbersAndKeepsTheSize) {
 }
 
 /// Notes from which controls the focus went on to the box of the panel.
-class WaysToThePanel : public View {
+class WaysToThePanel : public test::SilentView {
 public:
     explicit WaysToThePanel(Workbench& workbench) : workbench_(workbench) { workbench.view = this; }
     WaysToThePanel(const WaysToThePanel&) = delete;
@@ -79,12 +79,6 @@ public:
     std::vector<std::string> from;
 
 private:
-    void controlChanged(Control&) override {}
-    void screenChanged(Screen&) override {}
-    void screenLoaded(Screen&) override {}
-    void screenUnloaded(Screen&) override {}
-    void windowsChanged() override {}
-    void fileWritten(const WrittenFile&) override {}
     void focusChanged() override {
         const Control* const now = workbench_.focus.current();
         if (now == &workbench_.frmEDID().DTInput) {

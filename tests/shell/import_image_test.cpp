@@ -26,6 +26,19 @@ std::string imageOf(char week, int blocks) {
     return bytes;
 }
 
+std::string twoImages() {
+    std::string text;
+    for (const char* const week : {"12", "13"}) {
+        text += "00 FF FF FF FF FF FF 00 00 00 00 00 00 00 00 00 ";
+        text += week;
+        for (int i = 17; i < 128; ++i) {
+            text += " 00";
+        }
+        text += "\n\n";
+    }
+    return text;
+}
+
 class Import : public testing::Test {
 protected:
     Import() { keepHistory(workbench); }
@@ -83,23 +96,26 @@ TEST_F(Import, ForgetsTheChangesOfTheImageBefore) {
 }
 
 TEST_F(Import, AsksWhichOfSeveralImages) {
-    std::string text;
-    for (const char week : {'\x12', '\x13'}) {
-        text += "00 FF FF FF FF FF FF 00 00 00 00 00 00 00 00 00 ";
-        text += week == '\x12' ? "12" : "13";
-        for (int i = 17; i < 128; ++i) {
-            text += " 00";
-        }
-        text += "\n\n";
-    }
     choice = 1;
-    const std::string name = folder.write("a.txt", text);
+    const std::string name = folder.write("a.txt", twoImages());
     EXPECT_EQ(import(name), name);
     EXPECT_EQ(offered.size(), 2U);
     EXPECT_EQ(program.cell(16), "13");
     choice.reset();
     EXPECT_EQ(import(name), "");
     EXPECT_EQ(program.cell(16), "13");
+}
+
+TEST_F(Import, AFailureIsToldAndLoadsNothing) {
+    const ImportWays failing{.inflate = {}, .choose = [](const Texts&) -> std::optional<std::size_t> {
+                                 throw Failure(FailureKind::InvalidCall);
+                             }};
+    const std::string name = folder.write("a.txt", twoImages());
+    EXPECT_FALSE(importFile(workbench, name, failing));
+    EXPECT_FALSE(reopenFile(workbench, name, failing));
+    EXPECT_FALSE(importText(workbench, twoImages(), failing));
+    EXPECT_EQ(program.takeBoxes().size(), 3U);
+    EXPECT_EQ(workbench.loaded(ScreenId::Edid), nullptr);
 }
 
 TEST_F(Import, TellsWhatIsNoImage) {
