@@ -1,6 +1,5 @@
 #include "cli/entry.h"
 
-#include <cstdio>
 #include <exception>
 #include <utility>
 
@@ -23,10 +22,10 @@ int runProgram(std::vector<std::string> arguments) {
         if (error.readerGone()) {
             endByBrokenPipe();
         }
-        std::fprintf(stderr, "edidwb: %s\n", error.what());
+        complainAtTheEnd(error.what());
         return stopped;
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "edidwb: %s\n", error.what());
+        complainAtTheEnd(error.what());
         return stopped;
     }
 }

@@ -22,9 +22,9 @@ std::error_code createOwnFolder(const std::filesystem::path& path);
 /// is none.
 std::filesystem::path behindLinks(const std::filesystem::path& path);
 
-/// Gives an open file owner, group and permissions of another one, as far as the system lets it: without the bits that
-/// let a program run as its owner or group, and where the group cannot be kept, with no more for the group than for
-/// all. Where the other file is not there nothing changes.
+/// Gives an open file owner, group, permissions and (on Linux) access list of another one, as far as the system lets
+/// it: without the bits that let a program run as its owner or group, and where the group or the list cannot be kept,
+/// with no more for the group than for all. Where the other file is not there nothing changes.
 void takeAccess(std::FILE* file, const std::filesystem::path& from);
 
 /// Waits until what was written to an open file is on the disk; where a device knows no such thing, that is none.

@@ -1,7 +1,11 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#ifdef __linux__
+#include <sys/xattr.h>
+#endif
 
+#include <array>
 #include <cerrno>
 
 #include "cli/file_access.h"
@@ -19,6 +23,26 @@ std::error_code lastError() {
 /// What others may, for the group.
 mode_t groupAsOthers(mode_t mode) {
     return (mode & ~mode_t{S_IRWXG}) | (mode & S_IRWXG & ((mode & S_IRWXO) << 3U));
+}
+
+/// Gives an open file the access list of another one, or none where that has none: a new file takes one from its
+/// folder. False where it may have another one then.
+bool takeAccessList([[maybe_unused]] int file, [[maybe_unused]] const std::filesystem::path& from) {
+#ifdef __linux__
+    constexpr const char* name = "system.posix_acl_access";
+    constexpr std::size_t longest = 65536; // of any attribute
+    const auto isNone = [] { return errno == ENODATA || errno == ENOTSUP; };
+    std::array<char, longest> list{};
+    const ssize_t size = getxattr(from.c_str(), name, list.data(), list.size());
+    if (size >= 0) {
+        return fsetxattr(file, name, list.data(), static_cast<std::size_t>(size), 0) == 0;
+    }
+    const bool wantsNone = isNone();
+    const bool hasNone = fremovexattr(file, name) == 0 || isNone();
+    return wantsNone && hasNone;
+#else
+    return true;
+#endif
 }
 
 } // namespace
@@ -57,13 +81,13 @@ void takeAccess(std::FILE* file, const std::filesystem::path& from) {
     if (stat(from.c_str(), &old) != 0 || fstat(descriptor, &now) != 0) {
         return;
     }
-    mode_t mode = old.st_mode & allPermissions;
+    const mode_t mode = old.st_mode & allPermissions;
     const bool same = old.st_uid == now.st_uid && old.st_gid == now.st_gid;
-    if (!same && fchown(descriptor, old.st_uid, old.st_gid) != 0) {
-        const bool groupKept = old.st_gid == now.st_gid || fchown(descriptor, now.st_uid, old.st_gid) == 0;
-        mode = groupKept ? mode : groupAsOthers(mode);
-    }
-    fchmod(descriptor, mode);
+    const bool groupKept = same || fchown(descriptor, old.st_uid, old.st_gid) == 0 || old.st_gid == now.st_gid ||
+                           fchown(descriptor, now.st_uid, old.st_gid) == 0;
+    // Beside a list the bits of the group are the most that anybody of the list may, which is not for the group alone.
+    const bool groupMeansTheSame = groupKept && takeAccessList(descriptor, from);
+    fchmod(descriptor, groupMeansTheSame ? mode : groupAsOthers(mode));
 }
 
 std::error_code syncFile(std::FILE* file) {

@@ -11,6 +11,13 @@
 
 namespace wb::cli {
 
+namespace {
+
+/// No system takes longer ones; what is longer is no list of names.
+constexpr std::size_t longestName = std::size_t{1} << 16U;
+
+} // namespace
+
 NameList::NameList(std::string file, char end) : file_(std::move(file)), end_(end) {
     if (file_ == standardStream) {
         stream_ = stdin;
@@ -33,6 +40,9 @@ std::optional<std::string> NameList::next() {
     for (int c = 0; c != EOF;) {
         name.clear();
         while ((c = std::getc(stream_)) != EOF && c != static_cast<unsigned char>(end_)) {
+            if (name.size() == longestName) {
+                throw CliError(file_ + ": a name is longer than " + std::to_string(longestName) + " bytes");
+            }
             name += static_cast<char>(c);
         }
         if (std::ferror(stream_) != 0) {

@@ -14,7 +14,8 @@ public:
     /// "-" is standard input; `end` is '\n' or '\0'. A file that cannot be opened is a CliError.
     NameList(std::string file, char end);
 
-    /// The next name that is not empty; nothing after the last. A failure is a CliError.
+    /// The next name that is not empty; nothing after the last. A failure, and a name of more than 64 KiB, is a
+    /// CliError.
     std::optional<std::string> next();
 
 private:

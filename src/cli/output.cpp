@@ -74,14 +74,14 @@ fs::path finalPlace(const fs::path& path) {
     return error ? path : place;
 }
 
-/// Control characters but line ends and tabs as a terminal can show them.
-std::string withoutControls(std::string_view text) {
-    std::string shown;
-    for (const char c : text) {
-        const bool layout = c == '\n' || c == '\r' || c == '\t';
-        shown += isControl(c) && !layout ? controlEscape(c) : std::string(1, c);
-    }
-    return shown;
+/// What lays a text out on a terminal stays.
+std::string forTerminal(std::string_view text) {
+    return withoutControls(text, "\r\n\t");
+}
+
+void writeComplaint(std::string_view message) {
+    const std::string line = "edidwb: " + (isTerminal(stderr) ? forTerminal(message) : std::string(message)) + '\n';
+    std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
 } // namespace
@@ -124,7 +124,7 @@ void print(std::string_view text) {
 }
 
 void printText(std::string_view text) {
-    isTerminal(stdout) ? print(withoutControls(text)) : print(text);
+    isTerminal(stdout) ? print(forTerminal(text)) : print(text);
 }
 
 void flushOutput() {
@@ -135,20 +135,39 @@ void flushOutput() {
 
 void complain(std::string_view message) {
     flushOutput();
-    const std::string line = "edidwb: " + (isTerminal(stderr) ? withoutControls(message) : std::string(message)) + '\n';
-    std::fwrite(line.data(), 1, line.size(), stderr);
+    writeComplaint(message);
 }
 
 void complain(std::string_view file, std::string_view message) {
-    complain(std::string(file) + ": " + std::string(message));
+    complain(withoutControls(file) + ": " + std::string(message));
 }
 
-bool isControl(char c) {
-    return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+void complainAtTheEnd(std::string_view message) {
+    writeComplaint(message);
 }
 
-std::string controlEscape(char c) {
-    return "\\x" + ByteToHex2(static_cast<unsigned char>(c));
+std::size_t controlLength(std::string_view text) {
+    const auto byteAt = [text](std::size_t place) {
+        return place < text.size() ? static_cast<unsigned char>(text[place]) : 0xFFU;
+    };
+    const bool isAscii = byteAt(0) < 0x20 || byteAt(0) == 0x7F;
+    const bool isLatin = byteAt(0) == 0xC2 && byteAt(1) >= 0x80 && byteAt(1) <= 0x9F;
+    return isAscii ? 1 : isLatin ? 2 : 0;
+}
+
+std::string withoutControls(std::string_view text, std::string_view kept) {
+    std::string shown;
+    for (std::size_t place = 0; place < text.size();) {
+        const std::size_t length = controlLength(text.substr(place));
+        if (length == 0 || kept.find(text[place]) != std::string_view::npos) {
+            shown += text[place++];
+            continue;
+        }
+        for (const std::size_t end = place + length; place < end; ++place) {
+            shown += "\\x" + ByteToHex2(static_cast<unsigned char>(text[place]));
+        }
+    }
+    return shown;
 }
 
 std::string inOneLine(std::string_view text) {
@@ -163,13 +182,9 @@ std::string inOneLine(std::string_view text) {
             line += ' ';
         }
         atLineEnd = false;
-        if (isControl(c)) {
-            line += controlEscape(c);
-        } else {
-            line += c;
-        }
+        line += c;
     }
-    return line;
+    return withoutControls(line);
 }
 
 void writeFile(const std::string& name, std::string_view content, const WriteOptions& options) {

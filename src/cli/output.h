@@ -40,13 +40,18 @@ void flushOutput();
 /// Tells a message on standard error as "edidwb: MESSAGE", after everything printed so far; on a terminal without
 /// control characters.
 void complain(std::string_view message);
-/// The same about a file: "edidwb: FILE: MESSAGE".
+/// The same about a file: "edidwb: FILE: MESSAGE". In the name all control characters are escaped, so that it forges no
+/// line.
 void complain(std::string_view file, std::string_view message);
 
-/// Whether a character is a control character of ASCII.
-bool isControl(char c);
-/// A control character as "\\x1B".
-std::string controlEscape(char c);
+/// The same without a look at standard output, which may be out of order: for who ends the program.
+void complainAtTheEnd(std::string_view message);
+
+/// How many bytes the control character takes that the text begins with: 1 of ASCII, 2 of those that UTF-8 has beside
+/// them (U+0080 to U+009F, which terminals obey too); 0 where it begins with something else.
+std::size_t controlLength(std::string_view text);
+/// Control characters as "\\x1B", byte by byte, all but those of `kept`.
+std::string withoutControls(std::string_view text, std::string_view kept = {});
 
 /// A text of the program in one line: line ends become one blank, other control characters are escaped.
 std::string inOneLine(std::string_view text);

@@ -28,21 +28,25 @@ struct ValueWords {
     }
 };
 
-void appendEscaped(std::string& line, char c) {
-    switch (c) {
-        case '\\':
-            line += "\\\\";
-            break;
-        case '\t':
-            line += "\\t";
-            break;
-        case '\n':
-            line += "\\n";
-            break;
-        default:
-            line += isControl(c) ? controlEscape(c) : std::string(1, c);
-            break;
+std::string escaped(std::string_view column) {
+    std::string text;
+    for (const char c : column) {
+        switch (c) {
+            case '\\':
+                text += "\\\\";
+                break;
+            case '\t':
+                text += "\\t";
+                break;
+            case '\n':
+                text += "\\n";
+                break;
+            default:
+                text += c;
+                break;
+        }
     }
+    return withoutControls(text);
 }
 
 } // namespace
@@ -78,10 +82,7 @@ std::string valueText(const fields::Value& value) {
 std::string tsvLine(const std::vector<std::string_view>& columns) {
     std::string line;
     for (const std::string_view column : columns) {
-        for (const char c : column) {
-            appendEscaped(line, c);
-        }
-        line += '\t';
+        line += escaped(column) + '\t';
     }
     line.back() = '\n';
     return line;

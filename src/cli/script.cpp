@@ -51,7 +51,7 @@ int runScript(std::istream& script, const Options& options, AfterError afterErro
                            .frontEnd = user,
                            .print =
                                [](const std::string& line) {
-                                   print(line + '\n');
+                                   printText(line + '\n');
                                    flushOutput(); // who writes a script while it runs waits for this
                                },
                            .substitutions = substitutionsOf(options.settings),

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <streambuf>
 #include <utility>
 
 #include "core/base/text.h"
+#include "files/file_content.h"
 
 namespace wb::script {
 
@@ -60,6 +62,23 @@ constexpr auto rows = std::to_array<CommandRow>({
     {helpCommand, "", 0, 0, &doneByDriver, "lists the commands"},
 });
 
+/// Reads a line without its end; false where there is none. What the standard library has for it takes want of memory
+/// for the end of the script.
+bool readLine(std::istream& script, int number, std::string& line) {
+    constexpr int end = std::istream::traits_type::eof();
+    std::streambuf& characters = *script.rdbuf();
+    line.clear();
+    int c = characters.sbumpc();
+    const bool isThere = c != end;
+    for (; c != end && c != '\n'; c = characters.sbumpc()) {
+        if (line.size() == files::largestInput) {
+            throw ScriptError("the line is longer than " + std::to_string(files::largestInput) + " bytes").at(number);
+        }
+        line += static_cast<char>(c);
+    }
+    return isThere;
+}
+
 std::string synopsis(const CommandRow& row) {
     return std::string(row.name) + (row.usage.empty() ? "" : " ") + std::string(row.usage);
 }
@@ -113,7 +132,7 @@ void Driver::printHelp() const {
 
 void Driver::run(std::istream& script, const std::function<void(const ScriptError& error)>& tell) {
     std::string line;
-    for (int number = 1; std::getline(script, line); ++number) {
+    for (int number = 1; readLine(script, number, line); ++number) {
         if (line.ends_with('\r')) {
             line.pop_back();
         }

@@ -33,7 +33,7 @@ public:
     ~Driver();
 
     /// Runs the lines as they are read. A ScriptError ends the script and names the line; where there is a `tell` it
-    /// takes the error instead, and the script goes on.
+    /// takes the error instead, and the script goes on. A line above files::largestInput ends it in any case.
     void run(std::istream& script, const std::function<void(const ScriptError& error)>& tell = {});
     /// Runs one line, without its line end.
     void runLine(std::string_view line);

@@ -46,6 +46,11 @@ TEST_F(BatchTest, TakesNamesFromAFile) {
               shell("edidwb translate --heading=never $SAMPLES/zarqo-z40.bin $SAMPLES/halvorine-hv19.bin").output);
     EXPECT_EQ(shell("edidwb check --files-from nothing").errors, "edidwb: nothing: No such file or directory\n");
     EXPECT_EQ(shell("edidwb check --files-from - -").status, 2);
+    for (const char* const command : {"check", "translate -o out", "repair -o out"}) {
+        EXPECT_EQ(shell(std::string("edidwb ") + command + " --files-from /dev/zero").errors,
+                  "edidwb: /dev/zero: a name is longer than 65536 bytes\n")
+            << command;
+    }
 }
 
 /// Signals that come at any moment: a batch leaves whole reports, and nothing that is half done. The thread sanitizer

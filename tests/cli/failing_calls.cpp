@@ -46,6 +46,9 @@ const std::vector<FileCall> calls = {
     {SYS_fstat, "fstat", {EIO, ENOMEM}},
     {SYS_fchmod, "fchmod", {EPERM, EROFS, EIO}},
     {SYS_fchown, "fchown", {EPERM, EROFS, EIO, EDQUOT}},
+    {SYS_getxattr, "getxattr", {EACCES, EIO, ENOTSUP}},
+    {SYS_fsetxattr, "fsetxattr", {EPERM, ENOSPC, EDQUOT, EIO}},
+    {SYS_fremovexattr, "fremovexattr", {EPERM, EIO}},
     {SYS_getdents64, "getdents64", {EIO, EACCES}},
 };
 

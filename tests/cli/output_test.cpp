@@ -17,6 +17,19 @@ TEST(Output, BringsTextsIntoOneLine) {
     EXPECT_EQ(inOneLine("a\x1B[1m\x7F\t\xE4"), "a\\x1B[1m\\x7F\\x09\xE4");
 }
 
+/// U+0080 to U+009F are control characters too, such as U+009B, which does what ESC [ does; "ä" is none.
+TEST(Output, EscapesTheControlCharactersOfUtf8) {
+    EXPECT_EQ(withoutControls("a\xC2\x9B"
+                              "31m\xC3\xA4"),
+              "a\\xC2\\x9B"
+              "31m\xC3\xA4");
+    EXPECT_EQ(withoutControls("\xC2\x80\xC2\x9F\xC2\xA0"), "\\xC2\\x80\\xC2\\x9F\xC2\xA0");
+    EXPECT_EQ(withoutControls("\xC2"), "\xC2");
+    EXPECT_EQ(withoutControls("\xC3\x80"), "\xC3\x80");
+    EXPECT_EQ(withoutControls("a\tb\n\x1B", "\t\n"), "a\tb\n\\x1B");
+    EXPECT_EQ(inOneLine("\xC2\x85"), "\\xC2\\x85");
+}
+
 TEST(Output, WritesANewFile) {
     const TemporaryFolder folder;
     writeFile(folder.file("a"), "content", Existing::Refuse);

@@ -38,6 +38,23 @@ TEST_F(ScriptTest, AFileThatCannotBeReadIsTold) {
     }
 }
 
+TEST_F(ScriptTest, ALineWithoutAnEndIsRefused) {
+    const Outcome outcome = shell("echo windows >a; cat a /dev/zero | edidwb script");
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.output, "windows = none\n");
+    EXPECT_EQ(outcome.errors, "edidwb: -:2: the line is longer than 33554432 bytes\n");
+}
+
+TEST_F(ScriptTest, WantOfMemoryIsNotItsEnd) {
+    const std::string limit = "ulimit -v 50000; ";
+    if (shell(limit + "edidwb --version").status != 0) {
+        GTEST_SKIP() << "a sanitizer takes more than that for itself";
+    }
+    const Outcome outcome = shell("(" + limit + "(head -c 30000000 /dev/zero; echo; echo frob) | edidwb script)");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "edidwb: -: not enough memory\n");
+}
+
 TEST_F(ScriptTest, ARegistryExportTellsItsOwnLine) {
     write("bad.reg", "REGEDIT4\n\n[HKEY_LOCAL_MACHINE\\A]\nfrob\n");
     EXPECT_EQ(shell("echo 'registry bad.reg' | edidwb script").errors,

@@ -4,7 +4,12 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
 
 #include "cli/cli_error.h"
 #include "support/temporary_folder.h"
@@ -136,6 +141,62 @@ TEST_F(TemporaryFileOfRoot, GivesAnotherGroupNoMoreThanAll) {
     ASSERT_EQ(writeAs(user + 1, user + 1), 0);
     EXPECT_EQ(statusOf("new").st_gid, user + 1);
     EXPECT_EQ(permissionsOf(folder.file("new")), 0644U);
+}
+
+/// An access list as the kernel keeps it: the version 2, then entries of tag, permissions and user or group.
+std::string accessListOf(std::uint16_t user, std::uint16_t group, std::uint16_t mask) {
+    struct Entry {
+        std::uint16_t tag;
+        std::uint16_t permissions;
+        std::uint32_t who;
+    };
+    constexpr std::uint32_t nobody = ~std::uint32_t{0};
+    const std::array<Entry, 5> entries = {
+        {{1, 6, nobody}, {2, user, 12345}, {4, group, nobody}, {16, mask, nobody}, {32, 0, nobody}}};
+    return std::string("\2\0\0\0", 4) + std::string(reinterpret_cast<const char*>(entries.data()), sizeof entries);
+}
+
+class AccessList : public testing::Test {
+protected:
+    static constexpr const char* ofFile = "system.posix_acl_access";
+    static constexpr const char* ofNewFiles = "system.posix_acl_default";
+
+    static std::string listOf(const std::string& path) {
+        std::string list(1024, '\0');
+        const ssize_t size = getxattr(path.c_str(), ofFile, list.data(), list.size());
+        list.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+        return list;
+    }
+    static bool set(const std::string& path, const char* name, const std::string& list) {
+        return setxattr(path.c_str(), name, list.data(), list.size(), 0) == 0;
+    }
+
+    const test::TemporaryFolder folder;
+    const std::string other = folder.write("other", "");
+};
+
+TEST_F(AccessList, IsTaken) {
+    const std::string list = accessListOf(6, 0, 6);
+    if (!set(other, ofFile, list)) {
+        GTEST_SKIP() << "there are no access lists here";
+    }
+    TemporaryFile file(folder.file("."));
+    file.takeAccessOf(other);
+    EXPECT_EQ(listOf(file.path().string()), list);
+    EXPECT_EQ(permissionsOf(file.path().string()), 0660U) << "the mask; the group itself may nothing";
+}
+
+/// A folder can give new files a list, which an old one need not have.
+TEST_F(AccessList, GoesWhereTheOtherHasNone) {
+    ASSERT_EQ(chmod(other.c_str(), 0640), 0);
+    if (!set(folder.file("."), ofNewFiles, accessListOf(6, 0, 6))) {
+        GTEST_SKIP() << "there are no access lists here";
+    }
+    TemporaryFile file(folder.file("."));
+    ASSERT_NE(listOf(file.path().string()), "");
+    file.takeAccessOf(other);
+    EXPECT_EQ(listOf(file.path().string()), "");
+    EXPECT_EQ(permissionsOf(file.path().string()), 0640U);
 }
 
 TEST(TemporaryFile, NeedsItsFolder) {

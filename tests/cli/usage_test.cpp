@@ -219,6 +219,11 @@ TEST_F(UsageTest, TheHelpOfConvertTellsThatDecodingMayChangeTheImage) {
     EXPECT_THAT(shell("edidwb convert --help").output, HasSubstr("a flag of a detailed timing may differ from IN"));
 }
 
+TEST_F(UsageTest, ANameForgesNoLine) {
+    EXPECT_EQ(shell("edidwb check $'a\\r\\nedidwb: b.bin'").errors,
+              "edidwb: a\\x0D\\x0Aedidwb: b.bin: No such file or directory\n");
+}
+
 TEST_F(UsageTest, OutputThatCannotBeWrittenIsAnError) {
     for (const char* command :
          {"edidwb --help >/dev/full", "edidwb --version >/dev/full",

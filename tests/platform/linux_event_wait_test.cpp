@@ -53,6 +53,23 @@ TEST_F(EventWaitTest, ASignalStopsItOnceAndEndsNothing) {
     }
 }
 
+/// As under nohup.
+TEST(EventWaitWithIgnoredSignals, LeavesThemIgnored) {
+    for (const int signal : {SIGINT, SIGTERM}) {
+        auto* const before = std::signal(signal, SIG_IGN);
+        std::array<int, 2> events{};
+        ASSERT_EQ(pipe(events.data()), 0);
+        {
+            const EventWait wait;
+            raise(signal);
+            EXPECT_EQ(wait.wait(events[0], milliseconds(0)), Result::Quiet) << signal;
+        }
+        std::signal(signal, before);
+        close(events[0]);
+        close(events[1]);
+    }
+}
+
 /// Leaves bits on the stack where the next call has its variables.
 void soilStack() {
     std::array<volatile unsigned char, 4096> bytes{};

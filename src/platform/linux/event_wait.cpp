@@ -10,11 +10,23 @@
 
 namespace wb::platform::linux_system {
 
+namespace {
+
+bool isIgnored(int signal) {
+    struct sigaction action {};
+    return sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+} // namespace
+
 EventWait::EventWait() {
     sigset_t stopping;
     sigemptyset(&stopping);
-    sigaddset(&stopping, SIGINT);
-    sigaddset(&stopping, SIGTERM);
+    for (const int signal : {SIGINT, SIGTERM}) {
+        if (!isIgnored(signal)) { // one that is blocked would come all the same
+            sigaddset(&stopping, signal);
+        }
+    }
     signals_ = signalfd(-1, &stopping, SFD_CLOEXEC | SFD_NONBLOCK);
     if (signals_ < 0) {
         throw std::system_error(errno, std::generic_category(), "signals");

@@ -8,7 +8,7 @@
 namespace wb::platform::linux_system {
 
 /// Waits for a stream of events, and meanwhile for what ends a program. While the object lives, SIGINT and SIGTERM end
-/// nothing by themselves.
+/// nothing by themselves; one that is ignored stays so.
 class EventWait {
 public:
     enum class Result { Ready, Quiet, Stop, OutputClosed };
