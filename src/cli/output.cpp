@@ -74,6 +74,29 @@ fs::path finalPlace(const fs::path& path) {
     return error ? path : place;
 }
 
+/// How many bytes the control character takes that the text begins with: 1 of ASCII, 2 of those that UTF-8 has beside
+/// them (U+0080 to U+009F, which terminals obey too); 0 where it begins with something else.
+std::size_t controlLength(std::string_view text) {
+    const auto byteAt = [text](std::size_t place) {
+        return place < text.size() ? static_cast<unsigned char>(text[place]) : 0xFFU;
+    };
+    const bool isAscii = byteAt(0) < 0x20 || byteAt(0) == 0x7F;
+    const bool isLatin = byteAt(0) == 0xC2 && byteAt(1) >= 0x80 && byteAt(1) <= 0x9F;
+    return isAscii ? 1 : isLatin ? 2 : 0;
+}
+
+/// The place of the first control character from `place` on; npos where there is none.
+std::size_t controlBehind(std::string_view text, std::size_t place) {
+    for (; place < text.size(); ++place) {
+        const auto c = static_cast<unsigned char>(text[place]);
+        const bool mayBe = c < 0x20 || c == 0x7F || c == 0xC2;
+        if (mayBe && controlLength(text.substr(place)) > 0) {
+            return place;
+        }
+    }
+    return std::string_view::npos;
+}
+
 /// What lays a text out on a terminal stays.
 std::string forTerminal(std::string_view text) {
     return withoutControls(text, "\r\n\t");
@@ -146,31 +169,24 @@ void complainAtTheEnd(std::string_view message) {
     writeComplaint(message);
 }
 
-std::size_t controlLength(std::string_view text) {
-    const auto byteAt = [text](std::size_t place) {
-        return place < text.size() ? static_cast<unsigned char>(text[place]) : 0xFFU;
-    };
-    const bool isAscii = byteAt(0) < 0x20 || byteAt(0) == 0x7F;
-    const bool isLatin = byteAt(0) == 0xC2 && byteAt(1) >= 0x80 && byteAt(1) <= 0x9F;
-    return isAscii ? 1 : isLatin ? 2 : 0;
-}
-
 std::string withoutControls(std::string_view text, std::string_view kept) {
     std::string shown;
     for (std::size_t place = 0; place < text.size();) {
-        const std::size_t length = controlLength(text.substr(place));
-        if (length == 0 || kept.find(text[place]) != std::string_view::npos) {
-            shown += text[place++];
-            continue;
-        }
-        for (const std::size_t end = place + length; place < end; ++place) {
-            shown += "\\x" + ByteToHex2(static_cast<unsigned char>(text[place]));
+        const std::size_t control = std::min(controlBehind(text, place), text.size());
+        shown += text.substr(place, control - place);
+        const std::size_t end = control + controlLength(text.substr(control));
+        for (place = control; place < end; ++place) {
+            const bool stays = kept.find(text[place]) != std::string_view::npos;
+            shown += stays ? std::string(1, text[place]) : "\\x" + ByteToHex2(static_cast<unsigned char>(text[place]));
         }
     }
     return shown;
 }
 
 std::string inOneLine(std::string_view text) {
+    if (controlBehind(text, 0) == std::string_view::npos) {
+        return std::string(text); // nearly all
+    }
     std::string line;
     bool atLineEnd = false;
     for (const char c : text) {
