@@ -193,6 +193,30 @@ TEST_F(ReadTest, OfAllMonitorsOmissionsAreToldByName) {
     EXPECT_THAT(outcome.errors, HasSubstr("block 2"));
 }
 
+TEST_F(ReadTest, BytesAfterTheLastBlockAreToldInEveryFormat) {
+    const std::string image = sample("halvorine-hv19.bin");
+    sysfs.addConnector("card0-DP-1", "connected", image + std::string(72, '\0'));
+    for (const char* format : {"bin", "hex", "base64", "dat", "report"}) {
+        const Outcome outcome = run(std::string("read DP-1 --to ") + format);
+        EXPECT_EQ(outcome.status, 0) << format;
+        EXPECT_THAT(outcome.errors, HasSubstr("edidwb: 72 bytes after the last block left out\n")) << format;
+    }
+    EXPECT_EQ(run("read --to bin").output, image);
+    EXPECT_EQ(run("read --all -o out").errors, "edidwb: card0-DP-1: 72 bytes after the last block left out\n");
+    EXPECT_EQ(read("out/card0-DP-1.bin"), image);
+}
+
+TEST_F(ReadTest, AFormOfBytesHoldsAllBlocksAndTellsTheMissingOnes) {
+    std::string image = sample("zarqo-z40.bin") + std::string(128, '\0');
+    image[126] = 4;
+    sysfs.addConnector("card0-DP-1", "connected", image + "rest");
+    const Outcome outcome = run("read DP-1 --to bin");
+    EXPECT_EQ(outcome.output, image);
+    EXPECT_EQ(outcome.errors,
+              "edidwb: 4 bytes after the last block left out\n"
+              "edidwb: blocks 3 to 4 announced and missing\n");
+}
+
 TEST_F(ReadTest, ABusThatIsNotThereIsTold) {
     const Outcome outcome = run("read --i2c 1048575");
     EXPECT_EQ(outcome.status, 1);
