@@ -41,22 +41,6 @@ constexpr auto commands = std::to_array<Command>({
     {"help", "Tell how the program or one of its commands is used", &addHelp},
 });
 
-/// What the option library takes for something else is put right: it reads "[...]" and "{}" as lists, which are names
-/// of files here, and behind "--NAME=" it takes the next argument for the value, which is empty.
-void putRight(std::vector<std::string>& arguments) {
-    bool optionsEnded = false;
-    for (std::string& argument : arguments) {
-        const bool looksLikeAList = (argument.starts_with('[') && argument.ends_with(']')) || argument == "{}";
-        if (looksLikeAList) {
-            argument.insert(0, "./");
-        }
-        optionsEnded = optionsEnded || argument == "--";
-        if (!optionsEnded && argument.starts_with("--") && argument.find('=') == argument.size() - 1) {
-            throw UsageError("no value in '" + argument + "'");
-        }
-    }
-}
-
 std::string programOf(const Command* command) {
     return command == nullptr ? "edidwb" : "edidwb " + std::string(command->name);
 }
@@ -136,10 +120,9 @@ Run addHelp(Syntax& syntax) {
 
 } // namespace
 
-int runCommandLine(std::vector<std::string> arguments) {
+int runCommandLine(const std::vector<std::string>& arguments) {
     const Command* const command = commandIn(arguments);
     try {
-        putRight(arguments);
         return command == nullptr ? runWithoutCommand(arguments)
                                   : runCommand(*command, {arguments.begin() + 1, arguments.end()});
     } catch (const UsageError& error) {

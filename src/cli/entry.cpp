@@ -1,7 +1,6 @@
 #include "cli/entry.h"
 
 #include <exception>
-#include <utility>
 
 #include "cli/attempt.h"
 #include "cli/cleanup.h"
@@ -10,12 +9,12 @@
 
 namespace wb::cli {
 
-int runProgram(std::vector<std::string> arguments) {
+int runProgram(const std::vector<std::string>& arguments) {
     prepareStreams();
     removeTemporariesOnSignals();
     const int stopped = statusWhenStopped(arguments);
     try {
-        const int status = withinMemory([&] { return runCommandLine(std::move(arguments)); });
+        const int status = withinMemory([&] { return runCommandLine(arguments); });
         flushOutput();
         return status;
     } catch (const OutputError& error) {

@@ -13,6 +13,17 @@ namespace wb::cli {
 
 namespace {
 
+/// Stands at the end of an argument that the option library would take for something else than it is: it reads "[...]"
+/// and "{}" as lists, and behind "--NAME=" takes the next argument for the value. No argument of a process holds it.
+constexpr char mark = '\0';
+
+std::string unmarked(std::string argument) {
+    if (argument.ends_with(mark)) {
+        argument.pop_back();
+    }
+    return argument;
+}
+
 /// What the option library says, and what is told instead.
 struct Rewording {
     const char* words; ///< a regular expression for all of it
@@ -67,7 +78,8 @@ std::vector<std::string> optionNamesOf(const CLI::App& app) {
     return names;
 }
 
-std::string extraSentence(const std::vector<std::string>& extra, const CLI::App& app) {
+std::string extraSentence(std::vector<std::string> extra, const CLI::App& app) {
+    std::transform(extra.begin(), extra.end(), extra.begin(), &unmarked);
     const std::string& first = extra.front();
     if (first.size() < 2 || !first.starts_with('-')) {
         return "not expected: " + CLI::detail::join(extra, " ");
@@ -99,8 +111,33 @@ std::string objectionToEmpty(const std::string& value) {
     return value.empty() ? "the value is empty" : "";
 }
 
+/// Marks what needs it; whether anything does.
+bool markIn(std::vector<std::string>& arguments) {
+    bool any = false;
+    for (std::string& argument : arguments) {
+        if (argument.ends_with(']') || argument.ends_with('}') || argument.ends_with('=')) {
+            argument += mark;
+            any = true;
+        }
+    }
+    return any;
+}
+
+/// A value as it was given, which is nothing but the mark behind "--NAME=".
+std::string valueAsGiven(const std::string& value, const CLI::Option& option) {
+    if (value == std::string(1, mark)) {
+        throw UsageError("no value in '" + option.get_name() + "='");
+    }
+    return unmarked(value);
+}
+
 void parse(CLI::App& app, std::vector<std::string> arguments) {
     app.allow_windows_style_options(false);
+    if (markIn(arguments)) {
+        for (CLI::Option* const option : app.get_options()) {
+            option->transform([option](const std::string& value) { return valueAsGiven(value, *option); });
+        }
+    }
     std::reverse(arguments.begin(), arguments.end()); // the order in which the option library takes them
     app.parse(arguments);
 }

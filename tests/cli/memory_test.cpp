@@ -7,7 +7,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "cli/commands.h"
@@ -38,12 +37,12 @@ struct Outcome {
 
 /// Runs the program within this one; `memory` is given what runs, and lets it lack memory.
 Outcome run(
-    Arguments arguments,
+    const Arguments& arguments,
     const std::function<void(const std::function<void()>&)>& memory = [](const auto& work) { work(); }) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
     Outcome outcome;
-    memory([&] { outcome.status = runProgram(std::move(arguments)); });
+    memory([&] { outcome.status = runProgram(arguments); });
     outcome.output = testing::internal::GetCapturedStdout();
     outcome.errors = testing::internal::GetCapturedStderr();
     return outcome;

@@ -81,6 +81,36 @@ TEST(Syntax, TakesValuesFromTheSameArgumentOrTheNext) {
     EXPECT_EQ(command.marks, Texts{"a=b"});
 }
 
+TEST(Syntax, TakesWhatLooksLikeAListAsItIs) {
+    for (const std::string text : {"[a]", "[a,b]", "[]", "{}", "{a}", "a]", "a=", "="}) {
+        for (const Texts& arguments :
+             {Texts{text, "--depth", text, "--mark", text, "--mark=" + text, text, "x", text},
+              Texts{"-d", text, "--mark=" + text, text, "--mark", text, text, "x", text},
+              Texts{"-d" + text, text, text, "--mark", text, "--mark", text, "--", "x", text},
+              Texts{"-fd" + text, "--mark", text, "--mark", text, "--", text, text, "x", text},
+              Texts{"--mark", text, text, text, "-fd", text, "--mark=" + text, "x", "--", text},
+              Texts{"--depth=" + text, "--mark", text, "--mark", text, text, text, "x", text}}) {
+            Command command;
+            EXPECT_EQ(command.errorOf(arguments), "") << text;
+            EXPECT_EQ(command.depth, text);
+            EXPECT_EQ(command.marks, (Texts{text, text}));
+            EXPECT_EQ(command.file, text);
+            EXPECT_EQ(command.layers, (Texts{text, "x", text}));
+        }
+    }
+}
+
+TEST(Syntax, AValueThatWasBegunMustBeThere) {
+    EXPECT_EQ(Command().errorOf({"--depth=", "wall"}), "no value in '--depth='");
+    EXPECT_EQ(Command().errorOf({"wall", "--name-of-the-painter="}), "no value in '--name-of-the-painter='");
+    EXPECT_EQ(Command().errorOf({"wall", "--colour="}), "no value in '--colour='");
+    EXPECT_EQ(Command().errorOf({"wall", "--force="}), "--force takes no value");
+    Command command;
+    EXPECT_EQ(command.errorOf({"--depth", "--mark=", "--", "--depth="}), "");
+    EXPECT_EQ(command.depth, "--mark=");
+    EXPECT_EQ(command.file, "--depth=");
+}
+
 TEST(Syntax, TakesTheLastValueOrAllOfThem) {
     Command command;
     EXPECT_EQ(std::nullopt,
@@ -121,6 +151,9 @@ TEST(Syntax, TellsWhatIsWrong) {
     EXPECT_EQ(Command().errorOf({"wall", "--name-of-the-painter", ""}), "--name-of-the-painter: the value is empty");
     EXPECT_EQ(Command().errorOf({"wall", "--dept=1"}), "there is no option '--dept'; did you mean '--depth'?");
     EXPECT_EQ(Command().errorOf({"wall", "-fx"}), "there is no option '-x'");
+    EXPECT_EQ(Command().errorOf({"wall", "-f]"}), "there is no option '-]'");
+    EXPECT_EQ(Command().errorOf({"wall", "--dept="}), "there is no option '--dept'; did you mean '--depth'?");
+    EXPECT_EQ(Command().errorOf({"wall", "--hue", "[blue]"}), "'[blue]' is no value of --hue: red, green");
     EXPECT_EQ(Command().errorOf({"wall", "--nul", "--colour=blue"}),
               "there is no option '--nul'; did you mean '--null'?")
         << "what was met first";
@@ -131,10 +164,10 @@ TEST(Syntax, TellsAllArgumentsThatNobodyTakes) {
     Syntax syntax("ring", "Rings.");
     syntax.flag("--loud", "So that all hear it", loud);
     try {
-        syntax.read({"a", "b", "--loud"});
+        syntax.read({"a", "[b]", "{}", "--loud"});
         FAIL();
     } catch (const UsageError& error) {
-        EXPECT_STREQ(error.what(), "not expected: a b");
+        EXPECT_STREQ(error.what(), "not expected: a [b] {}");
     }
 }
 

@@ -157,6 +157,23 @@ TEST_F(UsageTest, OptionsMayStandAnywhereAndEndAtTwoDashes) {
     EXPECT_EQ(shell("edidwb translate check -- --jobs -x").errors, "edidwb: --jobs: No such file or directory\n");
 }
 
+TEST_F(UsageTest, ValuesStayAsTyped) {
+    const std::string image = sample("halvorine-hv19.bin");
+    write("[a]", image);
+    for (const std::string name : {"[Desk]", "{}", "Desk="}) {
+        for (const std::string& option : {"--name '" + name + "'", "'--name=" + name + "'"}) {
+            const Outcome outcome = shell("edidwb set --dry-run '[a]' " + option);
+            EXPECT_EQ(outcome.status, 0) << outcome.errors;
+            EXPECT_EQ(outcome.output, "[a]: name set to '" + name + "'\n");
+        }
+    }
+    for (const char* option : {"-o '[d]'", "'-o[d]'", "--output-dir '[d]'", "'--output-dir=[d]'", "'-fo[d]'"}) {
+        EXPECT_EQ(shell("edidwb repair " + std::string(option) + " '[a]'").status, 0) << option;
+        EXPECT_EQ(shell("cmp '[a]' '[d]/[a]' && rm -r '[d]'").status, 0) << option;
+    }
+    EXPECT_THAT(shell("edidwb check '[a]' --output-name '[x]'").errors, HasSubstr("'[x]'"));
+}
+
 TEST_F(UsageTest, NamesWhatIsWrong) {
     struct Case {
         std::string arguments;
