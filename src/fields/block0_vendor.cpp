@@ -47,7 +47,8 @@ constexpr std::array<Row, 4> productRows = {{
      .label = "Serial number",
      .parts = {{7}, {6}, {5}, {4}},
      .choices = noSerialNumber,
-     .clause = "E-EDID 1.4, 3.4.3"},
+     .clause = "E-EDID 1.4, 3.4.3",
+     .identifies = true},
 }};
 
 constexpr std::array<Row, 2> manufactureRows = {{

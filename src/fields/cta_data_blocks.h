@@ -49,6 +49,8 @@ void checkCta(const Scope& extension, const Scope& header, const CtaState& state
 /// Reads the data blocks from `offset` of the extension up to `end`.
 void readDataBlocks(const Scope& extension, std::size_t offset, std::size_t end, CtaState& state);
 
+/// The IEEE number of an organization, three bytes from the most significant on: "00-0C-03".
+std::string ouiText(std::span<const std::uint8_t> bytes);
 void describeOui(const Scope& scope, std::uint64_t raw, Field& field);
 /// The IEEE number of an organization in three bytes, the least significant first.
 constexpr Row ouiRow(std::size_t offset) {

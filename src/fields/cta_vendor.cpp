@@ -1,12 +1,19 @@
+#include <algorithm>
+
 #include "fields/cta_data_blocks.h"
 
 namespace wb::fields {
 
+std::string ouiText(std::span<const std::uint8_t> bytes) {
+    std::string text = hexText(bytes);
+    std::replace(text.begin(), text.end(), ' ', '-');
+    return text;
+}
+
 void describeOui(const Scope&, std::uint64_t raw, Field& field) {
     const std::array<std::uint8_t, 3> bytes = {static_cast<std::uint8_t>(raw >> 16U),
                                                static_cast<std::uint8_t>(raw >> 8U), static_cast<std::uint8_t>(raw)};
-    field.text = hexText(bytes);
-    field.text[2] = field.text[5] = '-';
+    field.text = ouiText(bytes);
 }
 
 void readVendor(const DataBlock& block) {

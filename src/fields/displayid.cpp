@@ -50,31 +50,48 @@ struct Entry {
     std::size_t end;      ///< of its bytes, from the tag on
 };
 
+/// The bytes of a field of one range.
+std::span<const std::uint8_t> bytesOf(const Scope& scope, const Field& field) {
+    const BitRange& range = field.where.front();
+    return scope.reading().image.bytes().subspan(range.byte, range.count);
+}
+
 void describeLetters(const Scope& scope, std::uint64_t, Field& field) {
-    const auto bytes = scope.bytes(3, 3);
+    const auto bytes = bytesOf(scope, field);
     if (std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t byte) { return byte >= 'A' && byte <= 'Z'; })) {
         field.text.assign(bytes.begin(), bytes.end());
         field.value = field.text;
     }
 }
 
-void describeOui(const Scope&, std::uint64_t, Field& field) {
-    std::replace(field.text.begin(), field.text.end(), ' ', '-');
+void describeVendorNumber(const Scope& scope, std::uint64_t, Field& field) {
+    field.text = ouiText(bytesOf(scope, field));
     field.value = field.text;
 }
 
 constexpr std::uint64_t modelYearWeek = 0xFF;
 constexpr auto weeks = std::to_array<Choice>({{0, "not told"}, {modelYearWeek, "none, the year is that of the model"}});
 
-constexpr Row lettersRow = {
-    .name = "vendor", .label = "Vendor", .parts = {{3}}, .kind = Kind::Bytes, .length = 3, .read = describeLetters};
-constexpr Row vendorOuiRow = {
-    .name = "vendor", .label = "Vendor", .parts = {{3}}, .kind = Kind::Bytes, .length = 3, .read = describeOui};
+using Describe = void (*)(const Scope& scope, std::uint64_t raw, Field& field);
+/// By letters in DisplayID 1, by the number of the organization in DisplayID 2.
+constexpr Row vendorRow(std::size_t offset, Describe describe) {
+    return {
+        .name = "vendor", .label = "Vendor", .parts = {{offset}}, .kind = Kind::Bytes, .length = 3, .read = describe};
+}
+constexpr Row codeRow(std::size_t offset) {
+    return {.name = "code", .label = "Product code", .parts = {{offset + 1}, {offset}}};
+}
+constexpr Row serialRow(std::size_t offset) {
+    return {.name = "serial",
+            .label = "Serial number",
+            .parts = {{offset + 3}, {offset + 2}, {offset + 1}, {offset}},
+            .identifies = true};
+}
 constexpr Row nameLengthRow = {.name = "name_length", .label = "Bytes of the product's name", .parts = {{14}}};
 /// VESA DisplayID 1.3, 4.1.1; DisplayID 2.0, 4.1.
 constexpr std::array<Row, 5> productRows = {{
-    {.name = "code", .label = "Product code", .parts = {{7}, {6}}},
-    {.name = "serial", .label = "Serial number", .parts = {{11}, {10}, {9}, {8}}},
+    codeRow(6),
+    serialRow(8),
     {.name = "week", .label = "Week of manufacture", .parts = {{12}}, .choices = weeks},
     {.name = "year", .label = "Year", .parts = {{13}}, .bias = 2000},
     nameLengthRow,
@@ -82,12 +99,12 @@ constexpr std::array<Row, 5> productRows = {{
 constexpr std::size_t vendorEnd = 6;
 constexpr std::size_t productEnd = 15;
 
-void readProduct(const Entry& entry, const Row& vendor) {
+void readProduct(const Entry& entry, Describe describeVendor) {
     if (entry.end < vendorEnd) {
         entry.content.addBytes(dataBlockHead, entry.end, "rest", "Further bytes");
         return;
     }
-    entry.content.add(vendor);
+    entry.content.add(vendorRow(dataBlockHead, describeVendor));
     entry.content.fill(productRows, std::min(entry.end, productEnd));
     if (entry.end <= productEnd) {
         return;
@@ -105,11 +122,11 @@ void readProduct(const Entry& entry, const Row& vendor) {
 }
 
 void readProduct1(const Entry& entry) {
-    readProduct(entry, lettersRow);
+    readProduct(entry, describeLetters);
 }
 
 void readProduct2(const Entry& entry) {
-    readProduct(entry, vendorOuiRow);
+    readProduct(entry, describeVendorNumber);
 }
 
 void readTimings(const Entry& entry, int kilohertz) {
@@ -140,6 +157,82 @@ void readCtaBlocks(const Entry& entry) {
     readDataBlocks(entry.content, dataBlockHead, entry.end, state);
 }
 
+/// The display that a tile belongs to is told behind the arrangement of the tiles.
+constexpr std::array<Row, 4> tiledRows(Describe describeVendor) {
+    return {{
+        {.name = "arrangement",
+         .label = "Arrangement of the tiles",
+         .parts = {{dataBlockHead}},
+         .kind = Kind::Bytes,
+         .length = 13},
+        vendorRow(16, describeVendor),
+        codeRow(19),
+        serialRow(21),
+    }};
+}
+constexpr std::array<Row, 4> tiledRows1 = tiledRows(describeLetters);
+constexpr std::array<Row, 4> tiledRows2 = tiledRows(describeVendorNumber);
+constexpr std::size_t tiledEnd = 25;
+
+void readTiled(const Entry& entry, std::span<const Row> rows) {
+    const std::size_t end = std::min(entry.end, tiledEnd);
+    if (end > dataBlockHead) {
+        entry.content.fill(rows, end);
+    }
+    entry.content.addBytes(end, entry.end, "rest", "Further bytes");
+}
+
+void readTiled1(const Entry& entry) {
+    readTiled(entry, tiledRows1);
+}
+
+void readTiled2(const Entry& entry) {
+    readTiled(entry, tiledRows2);
+}
+
+/// Of DisplayID 1: characters up to the end of the data block.
+void readSerialNumber(const Entry& entry) {
+    if (entry.end > dataBlockHead) {
+        entry.content.add({.name = "serial_text",
+                           .label = "Product serial number",
+                           .parts = {{dataBlockHead}},
+                           .kind = Kind::Text,
+                           .length = entry.end - dataBlockHead,
+                           .identifies = true});
+    }
+}
+
+constexpr std::size_t uuidSize = 16;
+
+/// "00112233-4455-6677-8899-AABBCCDDEEFF" in the order of the bytes (RFC 4122, 3).
+void describeUuid(const Scope& scope, std::uint64_t, Field& field) {
+    const auto bytes = bytesOf(scope, field);
+    if (bytes.size() < uuidSize) {
+        return;
+    }
+    field.text.clear();
+    for (std::size_t i = 0; i < uuidSize; ++i) {
+        field.text += i >= 4 && i <= 10 && i % 2 == 0 ? "-" : "";
+        field.text += hexNumber(bytes[i], 8);
+    }
+    field.value = field.text;
+}
+
+/// Of DisplayID 2. What is there of one that is cut identifies too.
+void readContainer(const Entry& entry) {
+    const std::size_t idEnd = std::min(entry.end, dataBlockHead + uuidSize);
+    if (idEnd > dataBlockHead) {
+        entry.content.add({.name = "id",
+                           .label = "Container ID",
+                           .parts = {{dataBlockHead}},
+                           .kind = Kind::Bytes,
+                           .length = idEnd - dataBlockHead,
+                           .identifies = true,
+                           .read = describeUuid});
+    }
+    entry.content.addBytes(idEnd, entry.end, "rest", "Further bytes");
+}
+
 void readBytes(const Entry& entry) {
     entry.content.addBytes(dataBlockHead, entry.end, "bytes", "Content of the data block");
 }
@@ -164,7 +257,7 @@ constexpr auto kinds = std::to_array<EntryKind>({
     {0x07, "vesa_timings", "VESA timing standard"},
     {0x08, "cta_timings", "CTA timing standard"},
     {0x09, "range", "video timing range"},
-    {0x0A, "serial", "product serial number"},
+    {0x0A, "serial", "product serial number", readSerialNumber},
     {0x0B, "string", "general purpose text"},
     {0x0C, "device", "display device data"},
     {0x0D, "power_sequence", "interface power sequencing"},
@@ -172,7 +265,7 @@ constexpr auto kinds = std::to_array<EntryKind>({
     {0x0F, "interface", "display interface"},
     {0x10, "stereo", "stereo display interface"},
     {0x11, "type_v", "type V short timings"},
-    {0x12, "tiled", "tiled display topology"},
+    {0x12, "tiled", "tiled display topology", readTiled1, tiledEnd - dataBlockHead},
     {0x13, "type_vi", "type VI detailed timings"},
     {0x20, "product", "product identification", readProduct2, 12},
     {0x21, "parameters", "display parameters"},
@@ -182,8 +275,8 @@ constexpr auto kinds = std::to_array<EntryKind>({
     {0x25, "range", "dynamic video timing range"},
     {0x26, "interface", "display interface features"},
     {0x27, "stereo", "stereo display interface"},
-    {0x28, "tiled", "tiled display topology"},
-    {0x29, "container", "container identification"},
+    {0x28, "tiled", "tiled display topology", readTiled2, tiledEnd - dataBlockHead},
+    {0x29, "container", "container identification", readContainer, uuidSize},
     {0x2A, "type_x", "type X formula-based timings"},
     {0x2B, "adaptive_sync", "adaptive sync"},
     {0x7E, "vendor", "vendor-specific data"},

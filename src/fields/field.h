@@ -60,6 +60,9 @@ struct Field {
     std::string_view unit;   ///< "px", "mm", "cm", "Hz", "kHz", "MHz", "ms", "bit", "%", or empty
     std::string text{};      ///< one line for people, in UTF-8
     std::string_view clause; ///< of the standard that says so
+    /// Whether it tells one unit from the others of its model, as a serial number or a container ID does: what an image
+    /// must not have that is to be shared.
+    bool identifies = false;
 };
 
 enum class Severity {

@@ -128,6 +128,7 @@ Field& Scope::add(const Row& row) const {
     field.label = row.label;
     field.clause = row.clause.empty() ? clause_ : row.clause;
     field.where = whereOf(row.parts, row.length);
+    field.identifies = row.identifies;
     const std::size_t offset = row.parts.begin()->offset;
     const std::uint64_t bits = row.length == 1 ? field.where.value(reading_->image.bytes()) : 0;
     switch (row.kind) {

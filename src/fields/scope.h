@@ -64,6 +64,7 @@ struct Row {
     std::span<const Choice> choices = {};
     std::size_t length = 1; ///< bytes of a Text, of Bytes, of whole reserved bytes
     std::string_view clause = {};
+    bool identifies = false; ///< tells one unit from the others of its model
     /// Sets value and text itself where the kinds above do not tell enough; gets the raw value.
     void (*read)(const Scope& scope, std::uint64_t raw, Field& field) = nullptr;
 };

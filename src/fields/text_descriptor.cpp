@@ -12,12 +12,17 @@ constexpr std::size_t textLength = 13;
 constexpr std::uint8_t endMark = 0x0A;
 constexpr std::uint8_t blank = 0x20;
 
-constexpr Row textRow(std::string_view name, std::string_view label) {
-    return {.name = name, .label = label, .parts = {{textStart}}, .kind = Kind::Text, .length = textLength};
+constexpr Row textRow(std::string_view name, std::string_view label, bool identifies = false) {
+    return {.name = name,
+            .label = label,
+            .parts = {{textStart}},
+            .kind = Kind::Text,
+            .length = textLength,
+            .identifies = identifies};
 }
 
 constexpr Row nameRow = textRow("name", "Product name");
-constexpr Row serialRow = textRow("serial_text", "Product serial number");
+constexpr Row serialRow = textRow("serial_text", "Product serial number", true);
 constexpr Row plainRow = textRow("text", "Text");
 
 const Row& rowOf(std::uint8_t tag) {

@@ -58,6 +58,21 @@ TEST(DisplayId, ReadsProducts) {
     EXPECT_EQ(textOf(second, "displayid[1].product.name"), "Q");
 }
 
+TEST(DisplayId, ReadsTheDisplayThatATileBelongsTo) {
+    const Reading first = displayIdWith(0x12, {0x12, 0, 22, 0x82, 0x10, 0x00, 0x00, 0x7F, 0x07, 0x6F, 0x08, 0,   0,
+                                               0,    0, 0,  'A',  'B',  'C',  0x34, 0x12, 0x01, 0x02, 0x03, 0x04})
+                              .reading();
+    EXPECT_EQ(textOf(first, "displayid[1].tiled.arrangement"), "82 10 00 00 7F 07 6F 08 00 00 00 00 00");
+    EXPECT_EQ(textOf(first, "displayid[1].tiled.vendor"), "ABC");
+    EXPECT_EQ(textOf(first, "displayid[1].tiled.code"), "4660");
+    EXPECT_EQ(textOf(first, "displayid[1].tiled.serial"), "67305985");
+    const Reading cut =
+        displayIdWith(0x20, {0x28, 0, 20, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x0C, 3, 1, 0, 0x11, 0x22})
+            .reading();
+    EXPECT_EQ(textOf(cut, "displayid[1].tiled.vendor"), "00-0C-03");
+    EXPECT_EQ(textOf(cut, "displayid[1].tiled.rest"), "11 22");
+}
+
 TEST(DisplayId, ReadsDataBlocksOfCta861) {
     const Reading reading = displayIdWith(0x13, {0x81, 0, 4, 0x23, 0x09, 0x07, 0x07}).reading();
     EXPECT_EQ(textOf(reading, "displayid[1].cta.audio[1].format"), "L-PCM");
@@ -65,10 +80,32 @@ TEST(DisplayId, ReadsDataBlocksOfCta861) {
 }
 
 TEST(DisplayId, KeepsOtherDataBlocksInRawBytes) {
-    const Reading reading = displayIdWith(0x20, {0x29, 0, 2, 0xAB, 0xCD, 0x29, 0, 1, 0xEF}).reading();
-    EXPECT_EQ(textOf(reading, "displayid[1].data_block[1].tag"), "41 (container identification)");
-    EXPECT_EQ(textOf(reading, "displayid[1].container.bytes"), "AB CD");
-    EXPECT_EQ(textOf(reading, "displayid[1].container[2].bytes"), "EF");
+    const Reading reading = displayIdWith(0x20, {0x2B, 0, 2, 0xAB, 0xCD, 0x2B, 0, 1, 0xEF}).reading();
+    EXPECT_EQ(textOf(reading, "displayid[1].data_block[1].tag"), "43 (adaptive sync)");
+    EXPECT_EQ(textOf(reading, "displayid[1].adaptive_sync.bytes"), "AB CD");
+    EXPECT_EQ(textOf(reading, "displayid[1].adaptive_sync[2].bytes"), "EF");
+}
+
+TEST(DisplayId, ReadsSerialNumbersThatAreTexts) {
+    const Reading reading = displayIdWith(0x12, {0x0A, 0, 5, 'S', 'N', '-', '4', '2', 0x0A, 0, 0}).reading();
+    EXPECT_EQ(textOf(reading, "displayid[1].serial.serial_text"), "SN-42");
+    EXPECT_EQ(std::get<std::string>(fieldOf(reading, "displayid[1].serial.serial_text").value), "SN-42");
+    EXPECT_EQ(fieldOf(reading, "displayid[1].serial.serial_text").label, "Product serial number");
+    EXPECT_FALSE(hasField(reading, "displayid[1].serial[2].serial_text"));
+}
+
+TEST(DisplayId, ReadsContainerIdsInTheOrderOfTheirBytes) {
+    const std::string id = "displayid[1].container.id";
+    const Reading whole = displayIdWith(0x20, {0x29, 0,    17,   0x00, 0x11, 0x22, 0x33, 0x44, 0x55, 0x66,
+                                               0x77, 0x88, 0x99, 0xAA, 0xBB, 0xCC, 0xDD, 0xEE, 0xFF, 0x01})
+                              .reading();
+    EXPECT_EQ(textOf(whole, id), "00112233-4455-6677-8899-AABBCCDDEEFF");
+    EXPECT_EQ(std::get<std::string>(fieldOf(whole, id).value), "00112233-4455-6677-8899-AABBCCDDEEFF");
+    EXPECT_EQ(textOf(whole, "displayid[1].container.rest"), "01");
+    const Reading cut = displayIdWith(0x20, {0x29, 0, 2, 0xAB, 0xCD}).reading();
+    EXPECT_EQ(textOf(cut, id), "AB CD");
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(fieldOf(cut, id).value));
+    EXPECT_TRUE(fieldOf(cut, id).identifies);
 }
 
 TEST(DisplayId, KnowsTheDataBlocksOfTheStandards) {
@@ -107,7 +144,8 @@ TEST(DisplayId, KnowsTheDataBlocksOfTheStandards) {
                                                {0x7E, "vendor-specific data"},
                                                {0x7F, "vendor-specific data"},
                                                {0x81, "CTA-861 data blocks"}};
-    const std::map<int, int> leastBytes = {{0x00, 12}, {0x03, 20}, {0x20, 12}, {0x22, 20}};
+    const std::map<int, int> leastBytes = {{0x00, 12}, {0x03, 20}, {0x20, 12}, {0x22, 20},
+                                           {0x12, 22}, {0x28, 22}, {0x29, 16}};
     for (int tag = 0; tag < 256; ++tag) {
         SCOPED_TRACE(tag);
         const auto least = leastBytes.find(tag);

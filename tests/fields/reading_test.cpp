@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "extension_image.h"
 #include "good_image.h"
 
 namespace wb::fields {
@@ -67,6 +68,37 @@ TEST(Reading, TellsOfEachWrongSum) {
     EXPECT_EQ(countOf(ImageOf(2).withSums().reading(), "block.checksum"), 0U);
     EXPECT_TRUE(ImageOf(2).withSums().reading().summary.sumsOk);
     EXPECT_FALSE(ImageOf(2).withSums().set(128, {1}).reading().summary.sumsOk);
+}
+
+std::vector<std::string> identifyingPaths(const Reading& reading) {
+    std::vector<std::string> paths;
+    for (const Field& field : reading.fields) {
+        if (field.identifies) {
+            paths.push_back(field.path);
+        }
+    }
+    return paths;
+}
+
+TEST(Reading, MarksTheFieldsThatTellOneUnitFromTheOthersOfItsModel) {
+    using Paths = std::vector<std::string>;
+    EXPECT_EQ(identifyingPaths(goodImage().reading()),
+              (Paths{"base.vendor.serial_number", "base.descriptor[4].serial_text"}));
+    const auto section = [](int version, std::initializer_list<int> dataBlocks) {
+        Paths paths = identifyingPaths(displayIdWith(version, dataBlocks).reading());
+        EXPECT_EQ(paths.front(), "base.vendor.serial_number");
+        paths.erase(paths.begin());
+        return paths;
+    };
+    EXPECT_EQ(section(0x12, {0x00, 0, 12, 'A', 'B', 'C', 0, 0, 1, 0, 0, 0, 12, 20, 0}),
+              Paths{"displayid[1].product.serial"});
+    EXPECT_EQ(section(0x20, {0x20, 0, 12, 0, 0x0C, 3, 0, 0, 1, 0, 0, 0, 12, 20, 0}),
+              Paths{"displayid[1].product.serial"});
+    EXPECT_EQ(section(0x12, {0x0A, 0, 2, 'A', '1'}), Paths{"displayid[1].serial.serial_text"});
+    EXPECT_EQ(section(0x12, {0x12, 0, 22, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 'A', 'B', 'C', 0, 0, 1, 0, 0, 0}),
+              Paths{"displayid[1].tiled.serial"});
+    EXPECT_EQ(section(0x20, {0x29, 0, 16, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}),
+              Paths{"displayid[1].container.id"});
 }
 
 } // namespace
