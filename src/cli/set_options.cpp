@@ -6,6 +6,7 @@
 #include "adapters/cvt.h"
 #include "cli/cli_error.h"
 #include "core/base/digits.h"
+#include "core/base/text.h"
 #include "fields/modeline_timing.h"
 
 namespace wb::cli {
@@ -26,7 +27,8 @@ std::optional<Number> numberOf(const std::string& option, const std::optional<st
     const auto number =
         isHexadecimal ? wholeNumber<Number>(std::string_view(*text).substr(2), 16) : wholeNumber<Number>(*text);
     if (!number || *number > most) {
-        throw UsageError(option + " takes a whole number from 0 to " + std::to_string(most) + ", not '" + *text + "'");
+        throw UsageError(option + " takes a whole number from 0 to " + std::to_string(most) + ", not " +
+                         inQuotes(*text));
     }
     return number;
 }
@@ -46,7 +48,7 @@ SlotText slotTextOf(const std::string& option, const std::string& words, std::st
     const std::size_t equals = text.find('=');
     const auto slot = wholeNumber<int>(text.substr(0, equals));
     if (equals == std::string_view::npos || !slot || *slot < 1 || *slot > detailedBlockCount) {
-        throw UsageError(option + " takes N=" + words + " with N from 1 to 4, not '" + std::string(text) + "'");
+        throw UsageError(option + " takes N=" + words + " with N from 1 to 4, not " + inQuotes(text));
     }
     return {*slot, text.substr(equals + 1)};
 }
@@ -66,7 +68,7 @@ adapters::CvtMode cvtModeOf(std::string_view text) {
     const auto width = wholeNumber<int>(size.substr(0, cross));
     const auto height = wholeNumber<int>(size.substr(std::min(cross + 1, size.size())));
     if (!rate || !width || !height) {
-        throw fields::ModelineError("'" + std::string(text) + "' is no WIDTHxHEIGHT@RATE, such as 2560x1440@60R");
+        throw fields::ModelineError(inQuotes(text) + " is no WIDTHxHEIGHT@RATE, such as 2560x1440@60R");
     }
     mode.width = *width;
     mode.height = *height;

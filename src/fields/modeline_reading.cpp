@@ -21,10 +21,6 @@ struct Word {
 };
 using Line = std::vector<Word>;
 
-std::string inQuotes(std::string_view text) {
-    return '\'' + std::string(text) + '\'';
-}
-
 Line wordsOf(std::string_view line) {
     Line words;
     while (true) {

@@ -202,6 +202,10 @@ std::string middlePart(std::string_view text, std::size_t position, std::size_t 
     return position > text.size() ? std::string() : std::string(text.substr(position - 1, count));
 }
 
+std::string inQuotes(std::string_view text) {
+    return joined({"'", text, "'"});
+}
+
 std::string quoted(std::string_view text) {
     std::string result = "\"";
     for (const char c : text) {

@@ -65,6 +65,8 @@ std::string leftPart(std::string_view text, std::size_t count);
 std::string rightPart(std::string_view text, std::size_t count);
 std::string middlePart(std::string_view text, std::size_t position, std::size_t count);
 
+/// What a message cites, in single quotation marks as it is.
+std::string inQuotes(std::string_view text);
 /// A quoted text as scripts read and print it: characters outside blank to '~' escaped as \r, \n, \t or \xHH.
 std::string quoted(std::string_view text);
 

@@ -125,6 +125,11 @@ TEST(Text, QuotedEscapesAllButBlankToTilde) {
     EXPECT_EQ(quoted("a\"b\\c\r\n\t\x01\xFF~ "), R"("a\"b\\c\r\n\t\x01\xFF~ ")");
 }
 
+TEST(Text, ACitationStandsAsItIs) {
+    EXPECT_EQ(inQuotes("a'b\n"), "'a'b\n'");
+    EXPECT_EQ(inQuotes(""), "''");
+}
+
 TEST(Text, UpperCaseIsThatOfTheLettersAToZ) {
     EXPECT_EQ(upperCase("aZ\xE4"), "AZ\xE4");
 }
