@@ -20,12 +20,6 @@ namespace {
 
 } // namespace
 
-bool holdsDescriptor(const Image& image, int block, std::uint8_t tag) {
-    const auto base = static_cast<std::size_t>(detailedBlockBase(block));
-    return image.byte(base) == 0 && image.byte(base + 1) == 0 && image.byte(base + 2) == 0 &&
-           image.byte(base + report::descriptorTagCell) == tag;
-}
-
 PanelEditing::PanelEditing(const Image& image) : bytes_(image.content()) {
     program_.load(image);
     complainOfBoxes(image.origin().file, program_.boxes());
@@ -59,6 +53,7 @@ void PanelEditing::enterIdentity(CellRange field, std::string_view entry) {
 void PanelEditing::enterDescriptorText(int block, std::string_view text) {
     const int base = detailedBlockBase(block);
     const CellRange cells = report::descriptorTextCells;
+    showDescriptor(block);
     focus(screen().txtEdit(base + cells.first));
     enter(screen().DTaInput, text);
     takeOver({base + cells.first, base + cells.last});
@@ -66,6 +61,7 @@ void PanelEditing::enterDescriptorText(int block, std::string_view text) {
 
 void PanelEditing::makeDescriptor(int block, report::DescriptorFamily family) {
     const int base = detailedBlockBase(block);
+    showDescriptor(block);
     goTo(base + report::descriptorTagCell);
     Control& option = screen().DTa(family);
     if (!input::click(option)) {
@@ -124,6 +120,14 @@ void PanelEditing::focus(Control& control) {
         failUnreachable(control);
     }
     refuseBoxes(control);
+}
+
+void PanelEditing::showDescriptor(int block) {
+    const int cell = detailedBlockBase(block) + report::descriptorMarkCells.last;
+    if (screen().txtEdit(cell).text() != ByteToHex2(0)) {
+        typeCell(cell, ByteToHex2(0));
+        program_.clearBoxes(); // those of a timing without a pixel clock
+    }
 }
 
 void PanelEditing::goTo(int cell) {

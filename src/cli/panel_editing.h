@@ -13,9 +13,6 @@
 
 namespace wb::cli {
 
-/// Whether a detailed block of block 0, 0 to 3, is a descriptor with that tag.
-bool holdsDescriptor(const Image& image, int block, std::uint8_t tag);
-
 /// Edits block 0 of an image at the screen of the program as a user does, with Modify EDID on. A box that an action
 /// brings up, and a control that is out of reach, are a CliError.
 class PanelEditing {
@@ -52,6 +49,8 @@ private:
     void goTo(int cell);
     void type(Control& input, char key);
     void typeCell(int cell, std::string_view digits);
+    /// The screen takes a descriptor whose reserved third byte is not 0 for a timing, so that it stands as 0 there.
+    void showDescriptor(int block);
     /// The first cell that does not hold its byte.
     std::optional<int> firstWrong(CellRange cells, std::span<const std::uint8_t> bytes);
     void refuseBoxes(const Control& control) const;

@@ -1,12 +1,13 @@
 #include <algorithm>
 #include <memory>
+#include <string_view>
 
 #include "cli/commands.h"
 #include "cli/output.h"
 #include "cli/panel_editing.h"
 #include "cli/rewrite.h"
 #include "cli/syntax.h"
-#include "core/base/text.h"
+#include "fields/block0.h"
 #include "fields/descriptors.h"
 #include "fields/reading.h"
 
@@ -14,18 +15,32 @@ namespace wb::cli {
 
 namespace {
 
+/// The bytes of a field that fill it where it tells nothing: zeros, those of an empty text, and the padding behind it.
+bool isFiller(const fields::Field& field, std::uint8_t byte) {
+    constexpr std::string_view ofTexts{"\0\n ", 3};
+    const bool isText = std::holds_alternative<std::string>(field.value);
+    return byte == 0 || (isText && ofTexts.find(static_cast<char>(byte)) != std::string_view::npos);
+}
+
+/// Whether a field tells one unit from the others of its model.
+bool identifies(const Image& image, const fields::Field& field) {
+    return field.identifies && std::any_of(field.where.begin(), field.where.end(), [&](const fields::BitRange& range) {
+               const auto bytes = image.bytes().subspan(range.byte, range.count);
+               return !std::all_of(bytes.begin(), bytes.end(),
+                                   [&](std::uint8_t byte) { return isFiller(field, byte); });
+           });
+}
+
 /// What is left that may tell one monitor from another.
 std::vector<std::string> leftOf(const Image& image) {
     std::vector<std::string> sentences;
     for (const fields::Field& field : fields::read(image).fields) {
-        const auto* const number = std::get_if<std::int64_t>(&field.value);
-        const bool isSerial = upperCase(field.label).find("SERIAL NUMBER") != std::string::npos;
-        if (field.where.front().byte >= Image::blockSize && isSerial && (number == nullptr || *number != 0)) {
+        if (identifies(image, field)) {
             sentences.push_back("left as it is: " + field.path + ", " + field.text);
         }
     }
-    for (int block = 0; block < detailedBlockCount; ++block) {
-        if (holdsDescriptor(image, block, fields::textTag)) {
+    for (std::size_t block = 0; block < detailedBlockCount; ++block) {
+        if (fields::descriptorTag(image, block) == fields::textTag) {
             sentences.push_back("left as it is: the text of descriptor " + std::to_string(block + 1) +
                                 ", which may hold a serial number");
         }
@@ -47,7 +62,7 @@ Change scrubbed(const Image& image) {
         change.done.emplace_back("serial number blanked");
     }
     for (int block = 0; block < detailedBlockCount; ++block) {
-        if (holdsDescriptor(image, block, fields::serialTextTag)) {
+        if (fields::descriptorTag(image, static_cast<std::size_t>(block)) == fields::serialTextTag) {
             const auto base = static_cast<std::size_t>(detailedBlockBase(block));
             editing.enterDescriptorText(block, "");
             if (editing.bytes().compare(base, detailedBlockSize, before, base, detailedBlockSize) != 0) {

@@ -7,6 +7,7 @@
 #include "cli/cli_error.h"
 #include "cli/panel_editing.h"
 #include "core/base/text.h"
+#include "fields/block0.h"
 #include "fields/descriptors.h"
 #include "fields/modeline_timing.h"
 #include "fields/reading.h"
@@ -18,10 +19,6 @@ namespace {
 
 /// The width and the height of the picture in a detailed timing.
 constexpr CellRange pictureSize{12, 14};
-
-std::string inQuotes(std::string_view text) {
-    return '\'' + std::string(text) + '\'';
-}
 
 /// Runs the entry of an option; what stops it is told with the name of the option.
 template <class Entry>
@@ -47,13 +44,8 @@ std::string textOf(const std::optional<Number>& number) {
 
 bool isFree(const Image& image, int block) {
     const auto bytes = image.bytes().subspan(static_cast<std::size_t>(detailedBlockBase(block)), detailedBlockSize);
-    return holdsDescriptor(image, block, fields::dummyTag) ||
+    return fields::descriptorTag(image, static_cast<std::size_t>(block)) == fields::dummyTag ||
            std::all_of(bytes.begin(), bytes.end(), [](unsigned byte) { return byte == 0; });
-}
-
-bool holdsTiming(const Image& image, int block) {
-    const auto base = static_cast<std::size_t>(detailedBlockBase(block));
-    return image.byte(base) != 0 || image.byte(base + 1) != 0;
 }
 
 /// The panel takes the two cells in their order, whereas the lower byte of the number stands in the first.
@@ -100,7 +92,7 @@ private:
         const std::string slot = "timing " + std::to_string(timing.slot);
         const Image before = now();
         fields::TimingBytes bytes = fields::timingBytes(timing.modeline);
-        if (holdsTiming(before, block)) {
+        if (fields::isTimingSlot(before, static_cast<std::size_t>(block))) {
             for (int i = pictureSize.first; i <= pictureSize.last; ++i) {
                 const auto place = static_cast<std::size_t>(i);
                 bytes[place] = before.byte(static_cast<std::size_t>(base) + place);
@@ -152,7 +144,8 @@ private:
 
     void setName(const std::string& name) {
         const Image image = now();
-        int block = firstBlock([&](int each) { return holdsDescriptor(image, each, fields::nameTag); });
+        int block = firstBlock(
+            [&](int each) { return fields::descriptorTag(image, static_cast<std::size_t>(each)) == fields::nameTag; });
         if (block == detailedBlockCount) {
             block = firstBlock([&](int each) { return isFree(image, each); });
             if (block == detailedBlockCount) {

@@ -88,17 +88,6 @@ bool isDigital(const Image& image) {
     return (image.byte(cells::videoInput) & digitalBit) != 0;
 }
 
-bool isTimingSlot(const Image& image, std::size_t number) {
-    return image.byte(slotStart(number)) != 0 || image.byte(slotStart(number) + 1) != 0;
-}
-
-std::optional<std::uint8_t> descriptorTag(const Image& image, std::size_t number) {
-    if (isTimingSlot(image, number)) {
-        return {};
-    }
-    return image.byte(slotStart(number) + 3);
-}
-
 Scope slotScope(const Scope& base, std::size_t number) {
     return isTimingSlot(base.reading().image, number)
                ? base.inner(slotStart(number), numbered("detailed", number + 1), "E-EDID 1.4, 3.10.2")
@@ -125,6 +114,17 @@ void readBlock0(Reading& reading) {
     checkSizes(base);
     checkSlots(base, revision);
     checkBlock0(base, revision);
+}
+
+bool isTimingSlot(const Image& image, std::size_t number) {
+    return image.byte(slotStart(number)) != 0 || image.byte(slotStart(number) + 1) != 0;
+}
+
+std::optional<std::uint8_t> descriptorTag(const Image& image, std::size_t number) {
+    if (isTimingSlot(image, number)) {
+        return {};
+    }
+    return image.byte(slotStart(number) + 3);
 }
 
 } // namespace wb::fields

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fields/block0.h"
 #include "fields/detailed_timing.h"
 #include "fields/scope.h"
 
@@ -24,10 +25,6 @@ enum class Feature : std::uint8_t {
 bool hasFeature(const Image& image, Feature feature);
 /// Whether the video input is digital.
 bool isDigital(const Image& image);
-/// Whether slot `number` holds a detailed timing: it begins with a pixel clock.
-bool isTimingSlot(const Image& image, std::size_t number);
-/// The kind of the descriptor in slot `number`, or nothing where that holds a timing.
-std::optional<std::uint8_t> descriptorTag(const Image& image, std::size_t number);
 /// The scope of slot `number`: "detailed[1]" to "detailed[4]" for timings, "descriptor[1]" to "descriptor[4]" else.
 Scope slotScope(const Scope& base, std::size_t number);
 

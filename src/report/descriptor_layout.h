@@ -8,6 +8,7 @@
 /// counted from the first of the block.
 namespace wb::report {
 
+inline constexpr CellRange descriptorMarkCells{0, 2}; ///< zeros
 inline constexpr int descriptorTagCell = 3;
 inline constexpr int descriptorReservedCell = 4;
 

@@ -45,6 +45,27 @@ TEST_F(ScrubTest, EveryTextIsBlanked) {
     EXPECT_EQ(read("a.bin"), withSum(expected, 0));
 }
 
+TEST_F(ScrubTest, ATextIsBlankedWhateverTheReservedBytesOfItsDescriptorHold) {
+    for (const int third : {0, 1, 0x7F, 0xFF}) {
+        for (const int fifth : {0, 1, 0xFF}) {
+            const std::string odd = withBytes(withBytes(numbered(), 110, {third}), 112, {fifth});
+            write("a.bin", withSum(odd));
+            const Outcome outcome = shell("edidwb scrub -fo out a.bin");
+            EXPECT_EQ(outcome.status, 0) << outcome.errors;
+            EXPECT_THAT(outcome.output, HasSubstr("a.bin: serial text of descriptor 4 blanked\n"));
+            EXPECT_EQ(read("out/a.bin"), withSum(withBytes(withBytes(unnumbered(), 110, {third}), 112, {fifth})));
+        }
+    }
+}
+
+TEST_F(ScrubTest, WhatHidesBehindTheEndOfATextIsBlankedToo) {
+    std::string image = numbered();
+    image.replace(113, 13, "\nHV19-70211\n ");
+    write("a.bin", withSum(image));
+    EXPECT_EQ(shell("edidwb scrub -o out a.bin").status, 0);
+    EXPECT_EQ(read("out/a.bin"), unnumbered());
+}
+
 TEST_F(ScrubTest, WhatDecodingChangesAtTheScreenStaysInTheImage) {
     std::string image = numbered();
     image[72] = 1;         // a pixel clock, so that the second block is a timing too
@@ -84,6 +105,40 @@ TEST_F(ScrubTest, TellsWhatIsLeft) {
                 HasSubstr("edidwb: a.bin: left as it is: the text of descriptor 3, which may hold a serial number\n"));
     EXPECT_THAT(outcome.errors, HasSubstr("edidwb: a.bin: block 1: the check sum is wrong; repair puts it right\n"));
     EXPECT_EQ(read("out/a.bin").substr(128), extension);
+}
+
+/// The image with an extension that is a DisplayID section of one data block.
+std::string withDataBlock(std::string image, char version, const std::string& dataBlock) {
+    std::string section{'\x70', version, static_cast<char>(dataBlock.size()), '\0', '\0'};
+    section += dataBlock;
+    section.resize(127);
+    image[126] = 1;
+    return withSum(withSum(image) + section + '\0', 1);
+}
+
+TEST_F(ScrubTest, TellsWhatIdentifiesTheMonitorInOtherBlocks) {
+    struct Case {
+        char version;
+        std::string dataBlock;
+        std::string told; ///< empty: nothing
+    };
+    const std::string uuid = "\x01\x23\x45\x67\x89\xAB\xCD\xEF\x01\x23\x45\x67\x89\xAB\xCD\xEF";
+    for (const Case& c : {
+             Case{'\x13', std::string("\x0A\x00\x09SN1234567", 12), ", SN1234567\n"},
+             Case{'\x13', std::string("\x0A\x00\x06   \n \x00", 9), ""},
+             Case{'\x13', std::string("\x0A\x00\x06 \nSN1 ", 9), ", \n"},
+             Case{'\x20', std::string("\x29\x00\x10", 3) + uuid, ", 01234567-89AB-CDEF-0123-456789ABCDEF\n"},
+             Case{'\x20', std::string("\x29\x00\x10", 3) + std::string(16, '\0'), ""},
+             Case{'\x20', std::string("\x29\x00\x02\x12\x34", 5), ", 12 34\n"},
+         }) {
+        const std::string image = withDataBlock(unnumbered(), c.version, c.dataBlock);
+        write("a.bin", image);
+        const Outcome outcome = shell("edidwb scrub -fo out a.bin");
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.errors.find("left as it is") == std::string::npos, c.told.empty()) << outcome.errors;
+        EXPECT_THAT(outcome.errors, HasSubstr(c.told));
+        EXPECT_EQ(read("out/a.bin"), image);
+    }
 }
 
 TEST_F(ScrubTest, ADryRunTellsAndWritesNothing) {

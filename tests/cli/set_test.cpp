@@ -94,6 +94,16 @@ TEST_F(SetTest, TheNameGoesIntoTheFirstFreeDescriptor) {
     EXPECT_EQ(read("zeros.bin"), withSum(withName(monitor(), 90)));
 }
 
+TEST_F(SetTest, ADescriptorIsOneWhateverItsReservedByteHolds) {
+    write("a.bin", withSum(withBytes(monitor(), 92, {7})));
+    EXPECT_EQ(shell("edidwb set -o out a.bin --name 'Desk 3'").status, 0);
+    EXPECT_EQ(read("out/a.bin"), withSum(withBytes(withName(monitor(), 90), 92, {7})));
+    const Outcome outcome = shell("edidwb set -fo out a.bin --timing '3=" + reducedLine + "'");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.errors, HasSubstr("timing 3 takes the place of a descriptor (product name)\n"));
+    EXPECT_EQ(read("out/a.bin"), withSum(withReduced(monitor(), 90)));
+}
+
 TEST_F(SetTest, ATimingKeepsTheSizeOfThePicture) {
     write("a.bin", monitor());
     const Outcome outcome = shell("edidwb set -o out a.bin --timing 1='" + reducedLine + "'");
