@@ -22,21 +22,29 @@ bool isFiller(const fields::Field& field, std::uint8_t byte) {
     return byte == 0 || (isText && ofTexts.find(static_cast<char>(byte)) != std::string_view::npos);
 }
 
-/// Whether a field tells one unit from the others of its model.
-bool identifies(const Image& image, const fields::Field& field) {
-    return field.identifies && std::any_of(field.where.begin(), field.where.end(), [&](const fields::BitRange& range) {
-               const auto bytes = image.bytes().subspan(range.byte, range.count);
-               return !std::all_of(bytes.begin(), bytes.end(),
-                                   [&](std::uint8_t byte) { return isFiller(field, byte); });
-           });
+bool isEmpty(const Image& image, const fields::Field& field) {
+    return std::all_of(field.where.begin(), field.where.end(), [&](const fields::BitRange& range) {
+        const auto bytes = image.bytes().subspan(range.byte, range.count);
+        return std::all_of(bytes.begin(), bytes.end(), [&](std::uint8_t byte) { return isFiller(field, byte); });
+    });
+}
+
+/// Whether a field is the room that an extension leaves, in which some monitors have descriptors.
+bool isSpareRoom(const fields::Field& field) {
+    return field.where.firstByte() >= Image::blockSize && field.path.ends_with(".padding");
 }
 
 /// What is left that may tell one monitor from another.
 std::vector<std::string> leftOf(const Image& image) {
     std::vector<std::string> sentences;
     for (const fields::Field& field : fields::read(image).fields) {
-        if (identifies(image, field)) {
+        if (isEmpty(image, field)) {
+            continue;
+        }
+        if (field.identifies) {
             sentences.push_back("left as it is: " + field.path + ", " + field.text);
+        } else if (isSpareRoom(field)) {
+            sentences.push_back("left as it is: " + field.path + ", which is not empty and may hold a serial number");
         }
     }
     for (std::size_t block = 0; block < detailedBlockCount; ++block) {
@@ -90,7 +98,8 @@ Run addScrub(Syntax& syntax) {
     addRewriteOptions(syntax, *options);
     syntax.footer(
         "The serial number becomes 0 and the texts of serial number descriptors blank, as the panels write them; the\n"
-        "check sum of block 0 is put right. Serial numbers in other blocks stay, and are told.\n\n"
+        "check sum of block 0 is put right. What identifies the monitor in other blocks, serial numbers and\n"
+        "container IDs, stays and is told.\n\n"
         "  edidwb scrub -o share *.bin\n"
         "  edidwb scrub --in-place --backup monitor.bin\n\n"
         "Exit status: 0 all went well, 1 a file was refused or could not be written, 2 wrong usage.");

@@ -141,6 +141,21 @@ TEST_F(ScrubTest, TellsWhatIdentifiesTheMonitorInOtherBlocks) {
     }
 }
 
+TEST_F(ScrubTest, TellsWhatStandsWhereAnExtensionHasNothing) {
+    std::string image = unnumbered();
+    image[126] = 1;
+    std::string extension("\x02\x03\x04", 3);
+    extension.resize(128);
+    write("a.bin", withSum(withSum(image) + extension, 1));
+    const std::string decoding = shell("edidwb scrub -fo out a.bin").errors;
+    EXPECT_EQ(decoding.find("left as it is"), std::string::npos);
+    extension.replace(4, 18, std::string("\0\0\0\xFF\0SN12345\n     ", 18));
+    write("a.bin", withSum(withSum(image) + extension, 1));
+    EXPECT_EQ(
+        shell("edidwb scrub -fo out a.bin").errors,
+        decoding + "edidwb: a.bin: left as it is: cta[1].padding, which is not empty and may hold a serial number\n");
+}
+
 TEST_F(ScrubTest, ADryRunTellsAndWritesNothing) {
     write("a.bin", numbered());
     const Outcome outcome = shell("edidwb scrub --dry-run --in-place a.bin; ls -A");
