@@ -7,6 +7,7 @@
 #include "cli/monitor_watch.h"
 #include "cli/output.h"
 #include "cli/plain_reading.h"
+#include "cli/stored_edid.h"
 #include "cli/syntax.h"
 #include "cli/system.h"
 
@@ -62,11 +63,7 @@ int run(const Options& options) {
         complain(error.what());
         return somethingFailed;
     }
-    const std::vector<std::string> obstacles = obstaclesOf(options.system);
-    for (const std::string& obstacle : obstacles) {
-        complain(obstacle);
-    }
-    return obstacles.empty() ? success : somethingFailed;
+    return complainOfObstacles(options.system) ? success : somethingFailed;
 }
 
 } // namespace

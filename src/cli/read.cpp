@@ -64,9 +64,7 @@ std::string contentOf(const Image& image, const std::string& format, Program& pr
 }
 
 void printImage(const Image& image, Program& program, const Options& options) {
-    const std::string format = options.formatOr("report");
-    const std::string content = contentOf(image, format, program, {});
-    format == "report" ? printText(content) : print(content);
+    printText(contentOf(image, options.formatOr("report"), program, {}));
 }
 
 /// Tells why no image comes from the monitors up to `end`; of the virtual ones nobody expects any.
@@ -124,6 +122,9 @@ int readNamed(const Options& options) {
         Program program(clockOf(options.date));
         printImage(storedImageOf(monitorNamed(places, options.connector)), program, options);
     });
+    if (!read) {
+        complainOfObstacles(options.system);
+    }
     return read ? success : somethingFailed;
 }
 
@@ -206,18 +207,15 @@ int readAll(const Options& options) {
         complain(*options.outputFolder, reasonOf(error));
         return somethingFailed;
     }
-    const std::vector<std::string> obstacles = obstaclesOf(options.system);
-    for (const std::string& obstacle : obstacles) {
-        complain(obstacle);
-    }
-    if (monitors.empty() && obstacles.empty()) {
+    const bool allIsKnown = complainOfObstacles(options.system);
+    if (monitors.empty() && allIsKnown) {
         complain("no monitor is attached");
     }
     Collection collection(options, monitors);
     for (const Monitor& monitor : monitors) {
         collection.take(monitor);
     }
-    return collection.good() && obstacles.empty() ? success : somethingFailed;
+    return collection.good() && allIsKnown ? success : somethingFailed;
 }
 
 void checkOptions(const Options& options) {

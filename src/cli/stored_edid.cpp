@@ -4,6 +4,7 @@
 
 #include "cli/cli_error.h"
 #include "cli/monitor_list.h"
+#include "cli/output.h"
 #include "core/base/text.h"
 
 namespace wb::cli {
@@ -82,6 +83,14 @@ Image storedImageOf(const Monitor& monitor) {
         return *std::move(image);
     }
     throw CliError("the stored EDID is no image: it has " + std::to_string(monitor.edid.size()) + " bytes");
+}
+
+bool complainOfObstacles(const SystemOptions& options) {
+    const std::vector<std::string> obstacles = obstaclesOf(options);
+    for (const std::string& obstacle : obstacles) {
+        complain(obstacle);
+    }
+    return obstacles.empty();
 }
 
 } // namespace wb::cli

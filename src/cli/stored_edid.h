@@ -24,4 +24,7 @@ const Monitor& monitorNamed(const std::vector<Monitor>& places, std::string_view
 /// The image that is stored of a monitor; a CliError tells why there is none.
 Image storedImageOf(const Monitor& monitor);
 
+/// Tells what keeps the system's monitors from being known. Whether nothing does.
+bool complainOfObstacles(const SystemOptions& options);
+
 } // namespace wb::cli

@@ -7,6 +7,7 @@ namespace wb::test {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 
 class ReadTest : public Edidwb {
 protected:
@@ -82,6 +83,30 @@ TEST_F(ReadTest, WhereTheListCannotBeReadTheHelpSaysSo) {
     EXPECT_EQ(outcome.errors, notLocated +
                                   "edidwb: On Linux the kernel stores the EDID, and where it does so cannot be read: " +
                                   sysfs.drm().string() + ": No such file or directory\n");
+}
+
+TEST_F(ReadTest, AConnectorThatIsNotThereMayBeWhereTheListCannotBeRead) {
+    std::filesystem::remove(sysfs.drm());
+    const Outcome outcome = run("read DP-1");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "edidwb: DP-1: no connector has this name, and no other\nedidwb: " +
+                                  sysfs.drm().string() + ": No such file or directory\n");
+}
+
+TEST_F(ReadTest, ShowsControlCharactersOnATerminalAndThereOnly) {
+    std::string image = sample("halvorine-hv19.bin");
+    image[95] = '\x1B'; // in the name, tag FC at byte 93
+    sysfs.addConnector("card0-DP-1", "connected", image);
+    for (const char* const format : {"report", "dat"}) {
+        const std::string command = "read --to " + std::string(format);
+        EXPECT_THAT(run(command).output, HasSubstr("\x1B")) << format;
+        const std::string program = EDIDWB;
+        const std::string shown =
+            shell("script -qec \"" + program + " " + command + " --sysfs " + sysfs.root().string() + "\" /dev/null")
+                .output;
+        EXPECT_THAT(shown, Not(HasSubstr("\x1B"))) << format;
+        EXPECT_THAT(shown, HasSubstr("\\x1B")) << format;
+    }
 }
 
 TEST_F(ReadTest, TakesTheFirstThatHasAnEdidAndTellsWhichWerePassedOver) {
