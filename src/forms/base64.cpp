@@ -1,7 +1,8 @@
-#include <array>
+#include <algorithm>
 
 #include "core/base/image.h"
 #include "forms/found.h"
+#include "forms/lines.h"
 
 namespace wb::forms {
 
@@ -28,17 +29,44 @@ bool separates(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '"' || c == '\\' || c == '>';
 }
 
+bool isBareSeparator(std::string_view text, std::size_t place) {
+    return place >= text.size() || separates(text[place]);
+}
+
+/// How many characters at a place separate digits though their letters are digits of base64 themselves: an escape for
+/// a blank or a line end, and the plus that joins literals.
+std::size_t wrappingLength(std::string_view text, std::size_t place) {
+    const std::string_view escape = text.substr(place, 2);
+    if (escape == "\\n" || escape == "\\r" || escape == "\\t") {
+        return escape.size();
+    }
+    const bool alone = place > 0 && separates(text[place - 1]) && isBareSeparator(text, place + 1);
+    return text[place] == '+' && alone ? 1 : 0;
+}
+
+/// The place behind all that separates digits from `place` on. No escape of another letter or digit is read: what it
+/// stands for is not what it shows.
+std::size_t behindGap(std::string_view text, std::size_t place) {
+    while (place < text.size()) {
+        const std::size_t wrapping = wrappingLength(text, place);
+        const bool separator = separates(text[place]) &&
+                               (text[place] != '\\' || place + 1 >= text.size() || !isWordCharacter(text[place + 1]));
+        if (wrapping == 0 && !separator) {
+            break;
+        }
+        place += std::max<std::size_t>(wrapping, 1);
+    }
+    return place;
+}
+
 /// Decodes from the front of the text up to what is no base64; `length` becomes how much of it that took.
 std::string decode(std::string_view text, std::size_t& length) {
     std::string bytes;
     unsigned bits = 0;
     int count = 0;
-    for (length = 0; length < text.size(); ++length) {
+    for (length = 0; (length = behindGap(text, length)) < text.size(); ++length) {
         const int value = sextet(text[length]);
         if (value < 0) {
-            if (separates(text[length])) {
-                continue;
-            }
             break;
         }
         bits = bits << 6U | static_cast<unsigned>(value);

@@ -408,6 +408,51 @@ TEST(Recogniser, KeepsTheOutputUntilAnotherOneIsNamed) {
     EXPECT_EQ(outputs, (std::vector<std::string>{"", "DP-1", "DP-1", "VGA-2", "VGA-2"}));
 }
 
+/// Each line with what stands around it in a source or another text.
+std::string linesWith(const std::string& before, const std::string& text, const std::string& after) {
+    std::string result;
+    for (std::size_t place = 0; place < text.size();) {
+        const std::size_t end = text.find('\n', place);
+        result += before + text.substr(place, end - place) + after;
+        place = end + 1;
+    }
+    return result;
+}
+
+TEST(Recogniser, CountsNoEscapedLineEndAsADigitOfBase64) {
+    const std::string bytes = sample("zarqo-z40.bin");
+    for (const char* end : {"\\n", "\\r\\n", "\\r", "\\t", "\\n\\t", "\\\\n", "\\n\"\n\"", "\\n\" \\\n  \"",
+                            "\" +\n    \"", "\"+\"", "\\n\"\r\n+ \""}) {
+        for (const std::size_t perRow : {60U, 64U, 75U, 76U}) {
+            SCOPED_TRACE(std::to_string(perRow) + " and " + end);
+            const Recognition result =
+                recognise("{\"edid\": \"" + linesWith("", base64(bytes, perRow), end) + "\", \"size\": 256}");
+            ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+            EXPECT_EQ(result.images[0].content(), bytes);
+            EXPECT_EQ(result.images[0].leftOver(), 0U);
+        }
+    }
+}
+
+TEST(Recogniser, EndsBase64AtAnEscapeOfAnotherCharacter) {
+    const std::string bytes = sample("halvorine-hv19.bin");
+    const std::string digits = base64(bytes, 1000).substr(0, 171); // without the padding
+    for (const char* end : {"\\u003d", "\\u003D\"", "\\x3d", "\\75"}) {
+        SCOPED_TRACE(end);
+        const Recognition result = recognise("\"" + digits + end);
+        ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+        EXPECT_EQ(result.images[0].content(), bytes);
+        EXPECT_EQ(result.images[0].leftOver(), 0U);
+    }
+    std::string escaped = digits.substr(0, 10);
+    for (const char c : digits.substr(10)) {
+        escaped += c == '/' ? "\\/" : std::string(1, c);
+    }
+    const Recognition result = recognise(escaped);
+    ASSERT_EQ(result.images.size(), 1U) << result.refusal;
+    EXPECT_EQ(result.images[0].content(), bytes);
+}
+
 TEST(Recogniser, PassesOverCommentsAndHeadsBetweenTheRows) {
     const std::string bytes = sample("zarqo-z40.bin"); // announces its one extension
     const std::string first = plainRows(bytes.substr(0, 128), "\t", ", ", ",", "0x%02x");
