@@ -29,10 +29,6 @@ bool separates(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '"' || c == '\\' || c == '>';
 }
 
-bool isBareSeparator(std::string_view text, std::size_t place) {
-    return place >= text.size() || separates(text[place]);
-}
-
 /// How many characters at a place separate digits though their letters are digits of base64 themselves: an escape for
 /// a blank or a line end, and the plus that joins literals.
 std::size_t wrappingLength(std::string_view text, std::size_t place) {
@@ -40,44 +36,106 @@ std::size_t wrappingLength(std::string_view text, std::size_t place) {
     if (escape == "\\n" || escape == "\\r" || escape == "\\t") {
         return escape.size();
     }
-    const bool alone = place > 0 && separates(text[place - 1]) && isBareSeparator(text, place + 1);
+    const bool alone =
+        place > 0 && separates(text[place - 1]) && (place + 1 == text.size() || separates(text[place + 1]));
     return text[place] == '+' && alone ? 1 : 0;
 }
 
-/// The place behind all that separates digits from `place` on. No escape of another letter or digit is read: what it
-/// stands for is not what it shows.
-std::size_t behindGap(std::string_view text, std::size_t place) {
-    while (place < text.size()) {
-        const std::size_t wrapping = wrappingLength(text, place);
-        const bool separator = separates(text[place]) &&
-                               (text[place] != '\\' || place + 1 >= text.size() || !isWordCharacter(text[place + 1]));
-        if (wrapping == 0 && !separator) {
+/// What stands between two digits.
+struct Gap {
+    std::size_t end = 0; ///< the place behind it
+    bool endsLine = false;
+};
+
+/// No escape of another letter or digit is passed over: what it stands for is not what it shows.
+Gap gapAt(std::string_view text, std::size_t place) {
+    Gap gap{.end = place};
+    while (gap.end < text.size()) {
+        const char c = text[gap.end];
+        const std::size_t wrapping = wrappingLength(text, gap.end);
+        const bool escapes = c == '\\' && gap.end + 1 < text.size() && isWordCharacter(text[gap.end + 1]);
+        if (wrapping == 0 && (escapes || !separates(c))) {
             break;
         }
-        place += std::max<std::size_t>(wrapping, 1);
+        gap.endsLine = gap.endsLine || c == '\r' || c == '\n' || wrapping == 2;
+        gap.end += std::max<std::size_t>(wrapping, 1);
     }
-    return place;
+    return gap;
 }
 
-/// Decodes from the front of the text up to what is no base64; `length` becomes how much of it that took.
-std::string decode(std::string_view text, std::size_t& length) {
-    std::string bytes;
-    unsigned bits = 0;
-    int count = 0;
-    for (length = 0; (length = behindGap(text, length)) < text.size(); ++length) {
-        const int value = sextet(text[length]);
-        if (value < 0) {
-            break;
+/// Decodes from a header up to what is no base64.
+class Decoder {
+public:
+    Decoder(std::string_view text, std::size_t place) : text_(text), place_(place), run_{.bytes = {}, .place = place} {}
+
+    FoundRun run() {
+        while (takeDigit()) {
+            const Gap gap = gapAt(text_, place_);
+            if (gap.end != place_ && !goesOnBehind(gap)) {
+                break;
+            }
+            place_ = gap.end;
         }
-        bits = bits << 6U | static_cast<unsigned>(value);
-        count += 6;
-        if (count >= 8) {
-            count -= 8;
-            bytes += static_cast<char>(bits >> static_cast<unsigned>(count) & 0xFFU);
-        }
+        return std::move(run_);
     }
-    return bytes;
-}
+
+    /// Where it ended.
+    std::size_t place() const { return place_; }
+
+private:
+    bool takeDigit() {
+        const int value = place_ < text_.size() ? sextet(text_[place_]) : -1;
+        if (value < 0) {
+            return false;
+        }
+        ++place_;
+        ++digits_;
+        bits_ = bits_ << 6U | static_cast<unsigned>(value);
+        pending_ += 6;
+        if (pending_ >= 8) {
+            pending_ -= 8;
+            run_.bytes += static_cast<char>(bits_ >> pending_ & 0xFFU);
+        }
+        return true;
+    }
+
+    bool goesOnBehind(const Gap& gap) {
+        if (gap.endsLine && !isRow(gap.end)) {
+            return false;
+        }
+        // At an edge a header may begin another block; elsewhere it begins another text.
+        const bool atEdge = pending_ == 0 && run_.noteEdge(gap.end);
+        return atEdge || !text_.substr(gap.end).starts_with(encodedHeader);
+    }
+
+    /// Whether the line that goes on at a place is one word of base64, and neither words nor the name of something.
+    bool isRow(std::size_t place) const {
+        std::size_t end = place;
+        while (end < text_.size() && sextet(text_[end]) >= 0) {
+            ++end;
+        }
+        std::size_t padded = end;
+        while (padded < text_.size() && text_[padded] == '=') {
+            ++padded;
+        }
+        if (padded != end) {
+            const bool inFours = (digits_ + padded - place) % 4 == 0;
+            return inFours && (padded == text_.size() || !isWordCharacter(text_[padded]));
+        }
+        while (end < text_.size() && isBlank(text_[end])) {
+            ++end;
+        }
+        return end == text_.size() || wrappingLength(text_, end) != 0 ||
+               (!isWordCharacter(text_[end]) && std::string_view("+/-.:(=").find(text_[end]) == std::string_view::npos);
+    }
+
+    std::string_view text_;
+    std::size_t place_;
+    std::size_t digits_ = 0;
+    unsigned bits_ = 0;
+    unsigned pending_ = 0; ///< of the bits, how many are none of a byte yet
+    FoundRun run_;
+};
 
 } // namespace
 
@@ -85,12 +143,9 @@ std::vector<Found> readBase64(std::string_view text) {
     std::vector<Found> found;
     std::size_t place = text.find(encodedHeader);
     while (place != std::string_view::npos) {
-        std::size_t length = 0;
-        std::string bytes = decode(text.substr(place), length);
-        if (bytes.size() >= Image::blockSize && bytes.starts_with(imageHeader)) {
-            found.push_back({std::move(bytes), place});
-        }
-        place = text.find(encodedHeader, place + std::max<std::size_t>(length, 1));
+        Decoder decoder(text, place);
+        decoder.run().moveImagesTo(found);
+        place = text.find(encodedHeader, decoder.place());
     }
     return found;
 }

@@ -15,6 +15,29 @@ struct Found {
     std::size_t place = 0; ///< where in the text it begins
 };
 
+/// Whether the image has all the blocks that its byte 126 announces.
+bool isComplete(std::string_view image);
+
+/// Bytes that stand together in a text: those of an image, or of several one behind the other.
+struct FoundRun {
+    /// Where whole blocks end and a line or a literal begins.
+    struct Edge {
+        std::size_t offset = 0; ///< in the bytes
+        std::size_t place = 0;  ///< in the text
+    };
+
+    std::string bytes;
+    std::size_t place = 0; ///< where in the text they begin
+    std::vector<Edge> edges{};
+
+    /// A line or a literal begins at that place of the text. Whether an edge is there.
+    bool noteEdge(std::size_t placeInText);
+
+    /// Appends the images, if the bytes begin with the header of one. Behind a complete image, a header at an edge
+    /// begins another; elsewhere blocks may begin with the same bytes.
+    void moveImagesTo(std::vector<Found>& found);
+};
+
 /// The readers of forms. Each gives every image in the text that begins with the header, in order.
 std::vector<Found> readBase64(std::string_view text);
 std::vector<Found> readDecimalLists(std::string_view text);

@@ -3,7 +3,6 @@
 
 #include "core/base/digits.h"
 #include "core/base/image.h"
-#include "core/base/image_layout.h"
 #include "forms/found.h"
 #include "forms/lines.h"
 
@@ -230,7 +229,7 @@ private:
         if (line.text.find_first_not_of(" \t>") == std::string_view::npos) {
             return true;
         }
-        const bool complete = betweenBlocks && isComplete();
+        const bool complete = betweenBlocks && isComplete(image_->bytes);
         if (betweenBlocks && !run.wholeLine && run.bytes.size() < 2 && leavesOpen(line.text)) {
             open_ = true; // such as HKR,EDID_OVERRIDE,"1",0x01,\ in front of the rows of the next block
             afterWords_ = true;
@@ -243,7 +242,7 @@ private:
             return run.filler && !(comment && complete);
         }
         if (betweenBlocks && (complete || afterWords_) && run.bytes.starts_with(imageHeader)) {
-            return false; // another image
+            return false; // another image, whose rows may be made otherwise
         }
         afterWords_ = false;
         const bool fits =
@@ -255,12 +254,6 @@ private:
         image_->bytes += run.bytes;
         open_ = leavesOpen(line.text);
         return image_->bytes.substr(0, imageHeader.size()) == imageHeader.substr(0, image_->bytes.size());
-    }
-
-    /// Whether all the blocks are there that byte 126 announces; an extension may begin with the header too.
-    bool isComplete() const {
-        const std::size_t announced = 1U + static_cast<unsigned char>(image_->bytes[extensionCountCell]);
-        return image_->bytes.size() >= announced * Image::blockSize;
     }
 
     void end() {

@@ -29,10 +29,12 @@ private:
         const char c = text_[place_];
         if (isDecimalDigit(c)) {
             takeNumber();
-        } else if (c == ',' || isBlank(c) || c == '\r' || c == '\n') {
+        } else if (c == ',' || isBlank(c)) {
             ++place_;
+        } else if (c == '\r' || c == '\n') {
+            run_.noteEdge(++place_);
         } else if (c == '*') {
-            run_.clear(); // rows of a dump were left out, and nothing says how many
+            run_ = {}; // rows of a dump were left out, and nothing says how many
             ++place_;
         } else {
             endRun();
@@ -51,21 +53,21 @@ private:
             endRun();
             return;
         }
-        if (run_.empty()) {
-            start_ = start;
+        if (run_.bytes.empty()) {
+            run_.place = start;
         }
-        run_ += static_cast<char>(number);
-        if (run_.size() <= imageHeader.size() && !imageHeader.starts_with(run_)) {
+        run_.bytes += static_cast<char>(number);
+        if (run_.bytes.size() <= imageHeader.size() && !imageHeader.starts_with(run_.bytes)) {
             restart(start, static_cast<char>(number));
         }
     }
 
     /// The number that broke off a header may begin one.
     void restart(std::size_t start, char number) {
-        run_.clear();
+        run_ = {};
         if (number == '\0') {
-            run_ += number;
-            start_ = start;
+            run_.bytes += number;
+            run_.place = start;
         }
     }
 
@@ -79,16 +81,13 @@ private:
     }
 
     void endRun() {
-        if (run_.size() >= Image::blockSize) {
-            found_.push_back({run_, start_});
-        }
-        run_.clear();
+        run_.moveImagesTo(found_);
+        run_ = {};
     }
 
     std::string_view text_;
     std::size_t place_ = 0;
-    std::size_t start_ = 0;
-    std::string run_;
+    FoundRun run_;
     std::vector<Found> found_;
 };
 
@@ -125,11 +124,12 @@ public:
 private:
     /// Literals with nothing but blanks and line ends between them are one. Gives the place behind the last.
     std::size_t takeGroup(std::size_t start) {
-        std::string bytes;
+        FoundRun group{.bytes = {}, .place = start};
         std::size_t end = start;
         std::size_t place = start;
         while (place < text_.size() && (text_[place] == '"' || text_[place] == '\'')) {
-            const std::optional<std::size_t> behind = takeLiteral(place, bytes);
+            group.noteEdge(place);
+            const std::optional<std::size_t> behind = takeLiteral(place, group.bytes);
             if (!behind) {
                 return end == start ? start + 1 : end;
             }
@@ -137,9 +137,7 @@ private:
             place = text_.find_first_not_of(" \t\r\n\\bB", end);
             place = place == std::string_view::npos ? text_.size() : place;
         }
-        if (bytes.size() >= Image::blockSize && bytes.starts_with(imageHeader)) {
-            found_.push_back({std::move(bytes), start});
-        }
+        group.moveImagesTo(found_);
         return end;
     }
 

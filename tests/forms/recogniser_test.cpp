@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <functional>
 
+#include "core/base/image.h"
 #include "core/base/text.h"
 #include "support/temporary_folder.h"
 
@@ -451,6 +452,146 @@ TEST(Recogniser, EndsBase64AtAnEscapeOfAnotherCharacter) {
     const Recognition result = recognise(escaped);
     ASSERT_EQ(result.images.size(), 1U) << result.refusal;
     EXPECT_EQ(result.images[0].content(), bytes);
+}
+
+/// An image of so many blocks, which its byte 126 announces, whose bytes differ from place to place.
+std::string imageOf(std::size_t blocks) {
+    std::string bytes(imageHeader);
+    while (bytes.size() < blocks * 128) {
+        bytes += static_cast<char>(bytes.size() * 37 + bytes.size() / 128 + blocks);
+    }
+    bytes[126] = static_cast<char>(blocks - 1);
+    return bytes;
+}
+
+std::vector<std::string> contentsIn(const std::string& text) {
+    std::vector<std::string> contents;
+    for (const Image& image : recognise(text).images) {
+        EXPECT_EQ(image.leftOver(), 0U);
+        contents.push_back(image.content());
+    }
+    return contents;
+}
+
+struct Row {
+    std::string name; ///< of the form
+    std::string (*write)(const std::string& bytes);
+};
+
+/// Forms whose rows show no end of an image, each a row of its own with its line end.
+std::vector<Row> rowsWithoutEnd() {
+    using S = std::string;
+    return {{"base64", [](const S& b) { return base64(b, 4000); }},
+            {"base64 without padding",
+             [](const S& b) {
+                 const S line = base64(b, 4000);
+                 return line.substr(0, line.find_first_of("=\n")) + '\n';
+             }},
+            {"base64 in literals", [](const S& b) { return linesWith("\"", base64(b, 4000), "\"\n"); }},
+            {"base64 in literals with line ends",
+             [](const S& b) { return linesWith("  \"", base64(b, 4000), "\\n\" +\n"); }},
+            {"decimal", [](const S& b) { return each(b, "%u", " ") + '\n'; }},
+            {"decimal with commas", [](const S& b) { return each(b, "%u", ", ") + ",\r\n"; }},
+            {"string", [](const S& b) { return '"' + each(b, "\\x%02x") + "\"\n"; }},
+            {"byte string", [](const S& b) { return "b'" + each(b, "\\x%02x") + "' \\\n"; }},
+            {"hex", [](const S& b) { return each(b, "%02x") + '\n'; }}};
+}
+
+TEST(Recogniser, TellsImagesApartThatFollowEachOther) {
+    const std::vector<std::string> images = {imageOf(3), imageOf(3), imageOf(1), imageOf(2), imageOf(1), imageOf(1)};
+    for (const Row& row : rowsWithoutEnd()) {
+        SCOPED_TRACE(row.name);
+        std::string text;
+        for (const std::string& image : images) {
+            text += row.write(image);
+        }
+        EXPECT_EQ(contentsIn(text), images);
+    }
+}
+
+TEST(Recogniser, JoinsTheBlocksOfAnImageThatBeginWithTheHeader) {
+    std::string image = imageOf(3);
+    image.replace(128, imageHeader.size(), imageHeader);
+    image.replace(256, imageHeader.size(), imageHeader);
+    const std::string more = imageOf(2).substr(128); // a block that no byte announces
+    for (const Row& row : rowsWithoutEnd()) {
+        if (row.name.starts_with("base64")) {
+            continue; // no block ends where a row of it may
+        }
+        SCOPED_TRACE(row.name);
+        const auto blocks = [&row](const std::string& bytes) {
+            std::string text;
+            for (std::size_t place = 0; place < bytes.size(); place += 128) {
+                text += row.write(bytes.substr(place, 128));
+            }
+            return text;
+        };
+        EXPECT_EQ(contentsIn(blocks(image)), std::vector{image});
+        EXPECT_EQ(contentsIn(blocks(image + more)), std::vector{image + more});
+        EXPECT_EQ(contentsIn(blocks(image + more + image)), (std::vector{image + more, image}));
+    }
+    EXPECT_EQ(contentsIn(base64(imageOf(3) + imageOf(3), 512)), (std::vector{imageOf(3), imageOf(3)}));
+    const std::string announced = imageOf(6).replace(384, imageHeader.size(), imageHeader);
+    EXPECT_EQ(contentsIn(base64(announced, 512)), std::vector{announced});
+}
+
+TEST(Recogniser, KeepsTogetherWhatNoLineOrLiteralParts) {
+    const std::string bytes = imageOf(1) + imageOf(1);
+    const std::vector<std::string> together = {bytes};
+    EXPECT_EQ(contentsIn(bytes), together);
+    EXPECT_EQ(contentsIn(each(bytes, "%02x", " ")), together);
+    EXPECT_EQ(contentsIn(each(bytes, "%u", " ")), together);
+    EXPECT_EQ(contentsIn('"' + each(bytes, "\\x%02x") + '"'), together);
+    EXPECT_EQ(contentsIn(base64(bytes, 1000)), together);
+    EXPECT_EQ(contentsIn(hexWith(bytes, "%08x", "  ", true)), together);
+}
+
+TEST(Recogniser, TellsTheBytesOfAnImageThatDoesNotEndAsLeftOver) {
+    const std::string bytes = imageOf(1);
+    for (const Row& row : rowsWithoutEnd()) {
+        if (row.name != "decimal" && row.name != "string") {
+            continue;
+        }
+        const Recognition result = recognise(row.write(bytes) + row.write(bytes.substr(0, 100)));
+        ASSERT_EQ(result.images.size(), 1U) << row.name;
+        EXPECT_EQ(result.images[0].content(), bytes) << row.name;
+        EXPECT_EQ(result.images[0].leftOver(), 100U) << row.name;
+    }
+}
+
+TEST(Recogniser, NamesTheOutputsOfImagesThatFollowEachOther) {
+    const std::string image = base64(imageOf(3), 4000);
+    const Recognition result = recognise("DP-1\n" + image + image + "VGA1\n" + image + "HDMI-2 connected\n" + image);
+    std::vector<std::string> outputs;
+    for (const Image& each : result.images) {
+        EXPECT_EQ(each.content(), imageOf(3));
+        outputs.push_back(each.origin().output);
+    }
+    EXPECT_EQ(outputs, (std::vector<std::string>{"DP-1", "DP-1", "VGA1", "HDMI-2"}));
+}
+
+TEST(Recogniser, TakesNoWordsBehindBase64AsItsDigits) {
+    const std::vector<std::string> image = {imageOf(3)};
+    for (const char* words : {"HDMI2 connected", "HDMI-2", "HDMI-2 connected", "VGA_2", "edid.bin", "Name: Desk",
+                              "edid = 2", "edid=2", "edid2=\"\"", "Sum (of all)", "sum / all", "https://a"}) {
+        SCOPED_TRACE(words);
+        EXPECT_EQ(contentsIn(base64(image[0], 76) + words + '\n'), image);
+        EXPECT_EQ(contentsIn(base64(image[0], 512) + "\n> " + words), image);
+        EXPECT_EQ(contentsIn("\"" + linesWith("", base64(image[0], 76), "\\n") + words + "\""), image);
+    }
+}
+
+TEST(Recogniser, TakesTheLastRowOfBase64WhateverEndsIt) {
+    const std::vector<std::string> images = {imageOf(3), imageOf(4), imageOf(1)};
+    for (const std::string& image : images) {
+        std::string rows = base64(image, 76);
+        rows.pop_back();
+        for (const char* end : {"", "\n", " ", "  \r\n", "\"", "\";", "\",", "')", "</data>", "%", "|", "`", "\" }",
+                                " \\\n", "\\n\" +", " +\n", "\n\nHDMI-2 connected\n", "\n-----END-----\n"}) {
+            SCOPED_TRACE(end);
+            EXPECT_EQ(contentsIn(rows + end), std::vector{image});
+        }
+    }
 }
 
 TEST(Recogniser, PassesOverCommentsAndHeadsBetweenTheRows) {
