@@ -23,23 +23,32 @@ public:
     InflateStream& operator=(const InflateStream&) = delete;
     ~InflateStream() { inflateEnd(&stream_); }
 
-    /// The next piece of the content; nothing where the data is damaged or ends early.
+    /// The next piece of the content, of all members as one; nothing where the data is damaged or ends early.
     std::optional<std::string> next() {
-        std::array<char, 1U << 14U> buffer{};
-        stream_.next_out = reinterpret_cast<Bytef*>(buffer.data());
-        stream_.avail_out = static_cast<uInt>(buffer.size());
+        stream_.next_out = reinterpret_cast<Bytef*>(buffer_.data());
+        stream_.avail_out = static_cast<uInt>(buffer_.size());
         const int result = good_ ? inflate(&stream_, Z_NO_FLUSH) : Z_DATA_ERROR;
-        ended_ = result == Z_STREAM_END;
-        if (result != Z_OK && !ended_) {
+        if (result == Z_STREAM_END) {
+            endMember();
+        } else if (result != Z_OK) {
             return std::nullopt;
         }
-        return std::string(buffer.data(), buffer.size() - stream_.avail_out);
+        return std::string(buffer_.data(), buffer_.size() - stream_.avail_out);
     }
 
     bool ended() const { return ended_; }
 
 private:
+    /// Behind a member stands another one, or the end with the zeros that fill the last block of a medium. All else
+    /// is refused as damage: gzip passes over it with a warning, but it may be what is left of a member with an image.
+    void endMember() {
+        const std::string_view rest(reinterpret_cast<const char*>(stream_.next_in), stream_.avail_in);
+        ended_ = rest.find_first_not_of('\0') == std::string_view::npos;
+        good_ = inflateReset(&stream_) == Z_OK;
+    }
+
     z_stream stream_{};
+    std::array<char, 1U << 14U> buffer_{};
     bool good_ = false;
     bool ended_ = false;
 };

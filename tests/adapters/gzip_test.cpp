@@ -43,5 +43,39 @@ TEST(Gzip, RefusesMoreThanIsAskedFor) {
     EXPECT_EQ(uncompressGzip(compressed(), 199), std::nullopt);
 }
 
+TEST(Gzip, GivesTheContentOfAllMembers) {
+    EXPECT_EQ(uncompressGzip(compressed() + compressed()), content() + content());
+    std::string members;
+    std::string contents;
+    for (int i = 0; i < 300; ++i) {
+        members += compressed();
+        contents += content();
+    }
+    EXPECT_EQ(uncompressGzip(members), contents);
+}
+
+TEST(Gzip, RefusesWhatIsDamagedOrCutInALaterMember) {
+    std::string damaged = compressed() + compressed();
+    damaged[48] = static_cast<char>(damaged[48] + 1); // the check sum of the second member
+    EXPECT_EQ(uncompressGzip(damaged), std::nullopt);
+    for (std::size_t length = 1; length < compressed().size(); ++length) {
+        EXPECT_EQ(uncompressGzip(compressed() + compressed().substr(0, length)), std::nullopt) << length;
+    }
+}
+
+TEST(Gzip, CountsTheBytesOfAllMembers) {
+    EXPECT_EQ(uncompressGzip(compressed() + compressed(), 400), content() + content());
+    EXPECT_EQ(uncompressGzip(compressed() + compressed(), 399), std::nullopt);
+}
+
+TEST(Gzip, PassesOverZerosBehindTheLastMemberAndRefusesAllElse) {
+    for (const std::size_t zeros : {1U, 20U, 5000U}) {
+        EXPECT_EQ(uncompressGzip(compressed() + std::string(zeros, '\0')), content()) << zeros;
+        EXPECT_EQ(uncompressGzip(compressed() + std::string(zeros, '\0') + compressed()), std::nullopt) << zeros;
+    }
+    EXPECT_EQ(uncompressGzip(compressed() + "image"), std::nullopt);
+    EXPECT_EQ(uncompressGzip(compressed() + '\n'), std::nullopt);
+}
+
 } // namespace
 } // namespace wb::adapters
