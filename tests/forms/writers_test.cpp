@@ -31,6 +31,23 @@ TEST_P(EveryWrittenForm, IsReadBackToTheSameBytes) {
     }
 }
 
+TEST_P(EveryWrittenForm, IsReadBackWithoutTheHeaderWhereAnyWillDoOrRefused) {
+    const WrittenForm& form = writtenForms().at(GetParam());
+    for (const std::size_t blocks : {1U, 2U}) {
+        std::string bytes = imageOf(blocks).content();
+        bytes[0] = '\x01';
+        const std::string written = form.write(*Image::fromBytes(bytes));
+        EXPECT_TRUE(recognise(written).images.empty()) << form.name;
+        const Recognition any = recognise(written, {.anyHeader = true, .form = {}, .inflate = {}});
+        if (form.name == "bin" || form.name == "hex") {
+            ASSERT_EQ(any.images.size(), 1U) << form.name << ": " << any.refusal;
+            EXPECT_EQ(any.images[0].content(), bytes) << form.name;
+        } else {
+            EXPECT_TRUE(any.images.empty()) << form.name;
+        }
+    }
+}
+
 /// Those with the header; a file without it is an image for nobody.
 void expectRoundTrips(const WrittenForm& form, const std::vector<test::MonitorImage>& images) {
     std::size_t tried = 0;
