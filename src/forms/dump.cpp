@@ -195,43 +195,60 @@ private:
         return place;
     }
 
+    /// What stands behind a row.
+    struct Following {
+        std::optional<Row> row; ///< nothing where the dump ends
+        bool repeats = false;   ///< a line "*" stands in front of it
+        std::size_t end = 0;    ///< where the line behind it begins
+    };
+
+    /// Looks for the row behind one of the dump, which begins at that offset. Its own offset tells the length of the
+    /// one in front, as the text column of that may look like units too.
+    Following behind(const Row& row, std::size_t offset) {
+        place_ = nextLine(place_);
+        Line line = lineAt(text_, place_);
+        const bool repeats = line.text == "*";
+        if (repeats) {
+            place_ = nextLine(line.next);
+            line = lineAt(text_, place_);
+        }
+        const std::size_t most = offset + (repeats ? longestRepeat : row.bytes.size());
+        return {.row = rowOf(line.text, offset + 1, most), .repeats = repeats, .end = line.next};
+    }
+
+    /// Appends what a row of the dump shows, as often as a line "*" behind it repeats it. Gives the row behind it;
+    /// nothing where it is the last, with the offset of the end behind it or not. `rowLength` is that of the rows in
+    /// front and becomes its own.
+    std::optional<Row> takeRow(const Row& row, std::size_t& rowLength, std::string& bytes) {
+        Following following = behind(row, bytes.size());
+        if (following.row && !following.repeats) {
+            rowLength = following.row->offset - bytes.size();
+        }
+        const std::string shown = row.bytes.substr(0, rowLength);
+        bytes += shown;
+        if (!following.row) {
+            return std::nullopt;
+        }
+        while (bytes.size() < following.row->offset) {
+            bytes += shown.substr(0, following.row->offset - bytes.size());
+        }
+        place_ = following.end;
+        return following.row->bytes.empty() ? std::nullopt : std::move(following.row);
+    }
+
     /// Takes the dump that begins in this line, or the line alone where none does.
     void takeDump() {
         const Line first = lineAt(text_, place_);
         std::optional<Row> row = rowOf(first.text, 0, 0);
-        if (!row || !row->bytes.starts_with(imageHeader)) {
-            place_ = first.next;
+        const bool begins = row && row->bytes.starts_with(imageHeader);
+        Found dump{.bytes = {}, .place = place_};
+        place_ = first.next;
+        if (!begins) {
             return;
         }
-        Found dump{.bytes = {}, .place = place_};
         std::size_t rowLength = row->bytes.size();
-        place_ = first.next; // behind the last row taken
-        for (;;) {
-            place_ = nextLine(place_);
-            Line next = lineAt(text_, place_);
-            const bool repeats = next.text == "*";
-            if (repeats) {
-                place_ = nextLine(next.next);
-                next = lineAt(text_, place_);
-            }
-            const std::size_t least = dump.bytes.size() + 1;
-            const std::size_t most =
-                repeats ? dump.bytes.size() + longestRepeat : dump.bytes.size() + row->bytes.size();
-            const std::optional<Row> following = rowOf(next.text, least, most);
-            rowLength = following && !repeats ? following->offset - dump.bytes.size() : rowLength;
-            const std::string shown = row->bytes.substr(0, rowLength);
-            dump.bytes += shown;
-            if (!following) {
-                break;
-            }
-            while (dump.bytes.size() < following->offset) {
-                dump.bytes += shown.substr(0, following->offset - dump.bytes.size());
-            }
-            place_ = next.next;
-            if (following->bytes.empty()) { // the offset of the end
-                break;
-            }
-            row = following;
+        while (row) {
+            row = takeRow(*row, rowLength, dump.bytes);
         }
         if (dump.bytes.size() >= Image::blockSize) {
             found_.push_back(std::move(dump));
