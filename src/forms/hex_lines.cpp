@@ -222,38 +222,56 @@ private:
 
     /// Adds a line to the image. False where it is none of its lines.
     bool continues(const Line& line, HexRun run) {
-        const bool betweenBlocks = image_->bytes.size() % Image::blockSize == 0;
-        if (betweenBlocks && !run.wholeLine && run.bytes.size() > lead_) {
-            run.bytes.erase(0, lead_); // the line that begins a block is made like the first
-        }
         if (line.text.find_first_not_of(" \t>") == std::string_view::npos) {
             return true;
         }
+        const bool betweenBlocks = image_->bytes.size() % Image::blockSize == 0;
         const bool complete = betweenBlocks && isComplete(image_->bytes);
-        if (betweenBlocks && !run.wholeLine && run.bytes.size() < 2 && leavesOpen(line.text)) {
-            open_ = true; // such as HKR,EDID_OVERRIDE,"1",0x01,\ in front of the rows of the next block
+        if (betweenBlocks && !run.wholeLine && run.bytes.size() > lead_) {
+            run.bytes.erase(0, lead_); // the line that begins a block is made like the first
+        }
+        if (betweenBlocks && beginsList(line.text, run)) {
+            open_ = true;
             afterWords_ = true;
             return !complete;
         }
         if (run.bytes.empty()) {
-            // Between two rows of a list stand comments and brackets; words end it.
-            const bool comment = line.text.find_first_not_of(fillers) != std::string_view::npos;
-            afterWords_ = afterWords_ || comment;
-            return run.filler && !(comment && complete);
+            return passesOver(line.text, run, complete);
         }
         if (betweenBlocks && (complete || afterWords_) && run.bytes.starts_with(imageHeader)) {
             return false; // another image, whose rows may be made otherwise
         }
+        return takeRow(line.text, run);
+    }
+
+    /// Whether a line is the head of a list, such as HKR,EDID_OVERRIDE,"1",0x01,\ in front of the rows of a block.
+    static bool beginsList(std::string_view line, const HexRun& run) {
+        return !run.wholeLine && run.bytes.size() < 2 && leavesOpen(line);
+    }
+
+    /// Whether a line without bytes may stand between two rows of a list: comments and brackets do, words do not, and
+    /// no comment does behind a complete image.
+    bool passesOver(std::string_view line, const HexRun& run, bool complete) {
+        const bool comment = line.find_first_not_of(fillers) != std::string_view::npos;
+        afterWords_ = afterWords_ || comment;
+        return run.filler && !(comment && complete);
+    }
+
+    /// Adds a row to the image. False where its length is not that of a row, or the bytes begin with no header.
+    bool takeRow(std::string_view line, const HexRun& run) {
         afterWords_ = false;
-        const bool fits =
-            open_ || (anyLength_ && run.wholeLine) || run.bytes.size() == rowLength_ ||
-            (run.bytes.size() < rowLength_ && (image_->bytes.size() + run.bytes.size()) % Image::blockSize == 0);
-        if (!fits) {
+        if (!fits(run)) {
             return false;
         }
         image_->bytes += run.bytes;
-        open_ = leavesOpen(line.text);
+        open_ = leavesOpen(line);
         return image_->bytes.substr(0, imageHeader.size()) == imageHeader.substr(0, image_->bytes.size());
+    }
+
+    /// Whether a row has the length of the first, or ends a block and is shorter; some lists have rows of any length.
+    bool fits(const HexRun& run) const {
+        return open_ || (anyLength_ && run.wholeLine) || run.bytes.size() == rowLength_ ||
+               (run.bytes.size() < rowLength_ && (image_->bytes.size() + run.bytes.size()) % Image::blockSize == 0);
     }
 
     void end() {
