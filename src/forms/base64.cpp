@@ -43,8 +43,8 @@ std::size_t wrappingLength(std::string_view text, std::size_t place) {
 
 /// What stands between two digits.
 struct Gap {
-    std::size_t end = 0; ///< the place behind it
-    bool endsLine = false;
+    std::size_t end = 0;   ///< the place behind it
+    bool endsLine = false; ///< or may, as an escape stands in it
 };
 
 /// No escape of another letter or digit is passed over: what it stands for is not what it shows.
