@@ -63,8 +63,11 @@ std::optional<std::string> uncompressGzip(std::string_view bytes, std::size_t mo
     std::string content;
     while (!stream.ended()) {
         const std::optional<std::string> piece = stream.next();
-        if (!piece || content.size() + piece->size() > most) {
+        if (!piece) {
             return std::nullopt;
+        }
+        if (content.size() + piece->size() > most) {
+            files::failAbove(most);
         }
         content += *piece;
     }

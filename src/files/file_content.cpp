@@ -17,8 +17,8 @@ namespace {
     throw InputError(std::generic_category().message(error));
 }
 
-std::string limitText() {
-    return std::to_string(largestInput) + " bytes, which is the most that is read";
+std::string limitText(std::size_t most) {
+    return std::to_string(most) + " bytes, which is the most that is read";
 }
 
 } // namespace
@@ -51,7 +51,7 @@ std::string readStream(std::FILE* stream) {
             fail(errno);
         }
         if (content.size() > largestInput) {
-            failAboveLargestInput();
+            failAbove();
         }
         if (count < piece) {
             return content;
@@ -63,13 +63,13 @@ bool requireReadableSize(const std::string& path) {
     std::error_code error; // also for all but ordinary files
     const std::uintmax_t size = std::filesystem::file_size(pathOf(path), error);
     if (!error && size > largestInput) {
-        throw InputError("has " + std::to_string(size) + " bytes, more than " + limitText());
+        throw InputError("has " + std::to_string(size) + " bytes, more than " + limitText(largestInput));
     }
     return !error;
 }
 
-void failAboveLargestInput() {
-    throw InputError("has more than " + limitText());
+void failAbove(std::size_t most) {
+    throw InputError("has more than " + limitText(most));
 }
 
 } // namespace wb::files

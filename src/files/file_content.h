@@ -25,7 +25,7 @@ std::string readStream(std::FILE* stream);
 /// An InputError where an ordinary file of that name is above largestInput. Tells whether there is such a file.
 bool requireReadableSize(const std::string& path);
 
-/// For who reads piece by piece: the InputError for more than largestInput.
-[[noreturn]] void failAboveLargestInput();
+/// For who reads piece by piece: the InputError for more than `most` bytes.
+[[noreturn]] void failAbove(std::size_t most = largestInput);
 
 } // namespace wb::files

@@ -81,7 +81,7 @@ bool LineReader::fill() {
     }
     taken_ += count;
     if (taken_ > largestInput) {
-        failAboveLargestInput();
+        failAbove();
     }
     rest_ = {buffer_.data(), count};
     return count > 0;

@@ -212,7 +212,7 @@ private:
             place_ = nextLine(line.next);
             line = lineAt(text_, place_);
         }
-        const std::size_t most = offset + (repeats ? longestRepeat : row.bytes.size());
+        const std::size_t most = repeats ? farthestRepeat : offset + row.bytes.size();
         return {.row = rowOf(line.text, offset + 1, most), .repeats = repeats, .end = line.next};
     }
 
@@ -255,8 +255,8 @@ private:
         }
     }
 
-    /// What a line "*" may stand for: an image has no more bytes.
-    static constexpr std::size_t longestRepeat = Image::blockSize * Image::mostBlocks;
+    /// The offset to which lines "*" may lead: an image has no more bytes.
+    static constexpr std::size_t farthestRepeat = Image::blockSize * Image::mostBlocks;
 
     std::string_view text_;
     const UnitForm& form_;

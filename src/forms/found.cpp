@@ -14,7 +14,9 @@ bool isComplete(std::string_view image) {
 
 bool FoundRun::noteEdge(std::size_t placeInText) {
     const bool isEdge = !bytes.empty() && bytes.size() % Image::blockSize == 0;
-    if (isEdge) {
+    if (isEdge && !edges.empty() && edges.back().offset == bytes.size()) {
+        edges.back().place = placeInText; // an empty line more
+    } else if (isEdge) {
         edges.push_back({bytes.size(), placeInText});
     }
     return isEdge;

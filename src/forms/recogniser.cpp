@@ -5,6 +5,7 @@
 
 #include "core/base/code_page.h"
 #include "core/base/text.h"
+#include "files/file_content.h"
 #include "forms/data_file_form.h"
 #include "forms/found.h"
 #include "forms/outputs.h"
@@ -93,12 +94,19 @@ private:
     bool wants(std::string_view form) const { return options_.form.empty() || options_.form == form; }
 
     Recognition uncompressed() {
-        const std::optional<std::string> inner = options_.inflate ? options_.inflate(content_) : std::nullopt;
+        std::optional<std::string> inner;
+        try {
+            inner = options_.inflate ? options_.inflate(content_) : std::nullopt;
+        } catch (const files::InputError& error) {
+            return refused(std::string("is gzip data that ") + error.what());
+        }
         if (!inner) {
             return refused("is gzip data that cannot be uncompressed");
         }
+        if (inner->starts_with(gzipMark)) {
+            return refused("is gzip data that is compressed twice");
+        }
         RecognitionOptions options = options_;
-        options.inflate = nullptr; // what is compressed twice is no image
         options.form = options.form == "gzip" ? "" : options.form;
         Recognition result = recognise(*inner, options);
         result.uncompressed = inner;

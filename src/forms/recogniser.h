@@ -11,7 +11,8 @@
 /// The forms in which people have images: what a file holds is told by its content, never by its name.
 namespace wb::forms {
 
-/// Uncompresses the content of a gzip file; nothing where it is none or damaged.
+/// Uncompresses the content of a gzip file; nothing where it is none or damaged. What is too large is a
+/// files::InputError.
 using Inflate = std::function<std::optional<std::string>(std::string_view)>;
 
 struct RecognitionOptions {

@@ -8,6 +8,7 @@
 
 #include "core/base/image.h"
 #include "core/base/text.h"
+#include "files/file_content.h"
 #include "support/temporary_folder.h"
 
 namespace wb::forms {
@@ -726,6 +727,19 @@ TEST(Recogniser, SaysWhatItSawInstead) {
     EXPECT_EQ(refusal("\x1F\x8B\x08"), "is gzip data that cannot be uncompressed");
 }
 
+TEST(Recogniser, TellsWhyCompressedContentIsRefused) {
+    const auto refusalOf = [](const Inflate& inflate) {
+        return recognise("\x1F\x8B...", {.anyHeader = false, .form = {}, .inflate = inflate}).refusal;
+    };
+    EXPECT_EQ(refusalOf([](std::string_view) -> std::optional<std::string> {
+                  files::failAbove();
+                  return std::nullopt;
+              }),
+              "is gzip data that has more than 33554432 bytes, which is the most that is read");
+    EXPECT_EQ(refusalOf([](std::string_view content) { return std::optional(std::string(content)); }),
+              "is gzip data that is compressed twice");
+}
+
 TEST(Recogniser, ReadsWhatIsCompressedWithoutItsWrapping) {
     const std::string bytes = sample("zarqo-z40.bin");
     const auto unwrap = [&](std::string_view content) -> std::optional<std::string> {
@@ -754,6 +768,29 @@ TEST(Recogniser, ReadsDataFilesAndSaysWhichCellIsNone) {
     EXPECT_EQ(result.images[0].origin().form, "dat");
     EXPECT_EQ(recognise(head + "| 00 FF ZZ\n" + rows).refusal, "cell 2 is no byte: \"ZZ\"");
     EXPECT_EQ(recognise(head + "| 00 FF\n").refusal, "has 2 bytes; an image has 128 or more");
+}
+
+/// A few rows must not become any number of bytes.
+TEST(Recogniser, TheRepeatsOfADumpEndWithTheLargestImage) {
+    std::string dump = "00000000: 00 ff ff ff ff ff ff 00\n";
+    for (const char* const offset : {"00008000", "00010000", "00018000"}) {
+        dump += std::string("*\n") + offset + ": 00 00 00 00 00 00 00 00\n";
+    }
+    const Recognition result = recognise(dump, {.anyHeader = false, .form = "dump", .inflate = {}});
+    ASSERT_EQ(result.images.size(), 1U);
+    EXPECT_EQ(result.images[0].content().size(), 0x8000U);
+    EXPECT_EQ(result.images[0].leftOver(), 8U);
+}
+
+/// Lines that hold nothing take no room.
+TEST(Recogniser, EmptyLinesBehindAnImageAreNoEdgesOfTheirOwn) {
+    std::string numbers = "0, 255, 255, 255, 255, 255, 255, 0";
+    for (int i = 8; i < 128; ++i) {
+        numbers += ", 0";
+    }
+    const Recognition result = recognise(numbers + std::string(100'000, '\n') + numbers);
+    ASSERT_EQ(result.images.size(), 2U);
+    EXPECT_EQ(result.images[0].content(), result.images[1].content());
 }
 
 } // namespace
