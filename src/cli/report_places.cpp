@@ -37,24 +37,29 @@ ReportPlaces::ReportPlaces(KeptFiles& files, Options options)
     std::sort(inputs_.begin(), inputs_.end());
 }
 
-std::string ReportPlaces::take(const BatchFile& file, const std::string& output) {
-    std::string place = placeOf(file, output);
+std::string ReportPlaces::take(const BatchFile& file, const std::string& output, const std::string& ending) {
+    std::string name = nameFor(file, output);
+    if (!name.ends_with(ending)) {
+        name += ending;
+    }
+    std::string place = nameOf(options_.folder / pathOf(name));
     const auto [other, isNew] = takenBy_.try_emplace(nameKey(place), file.place);
     if (!isNew) {
-        throw CliError("its report '" + place + "' is already that of '" + files_.at(other->second).name + "'");
+        throw CliError("its " + options_.result + " '" + place + "' is already that of '" +
+                       files_.at(other->second).name + "'");
     }
     if (isInput(place)) {
-        throw CliError("its report '" + place + "' would replace a file that is to be read");
+        throw CliError("its " + options_.result + " '" + place + "' would replace a file that is to be read");
     }
     return place;
 }
 
-std::string ReportPlaces::placeOf(const BatchFile& file, const std::string& output) const {
+std::string ReportPlaces::nameFor(const BatchFile& file, const std::string& output) const {
     if (!options_.keepTree) {
-        return nameOf(options_.folder / pathOf(names_.nameOf(file.name, output)));
+        return names_.nameOf(file.name, output);
     }
     const std::string ending = output.empty() ? "" : '-' + output;
-    return nameOf(options_.folder / pathOf(file.below + ending + options_.extension));
+    return file.below + ending + options_.extension;
 }
 
 bool ReportPlaces::isInput(const std::string& place) {

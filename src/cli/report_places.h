@@ -11,25 +11,27 @@
 
 namespace wb::cli {
 
-/// Where the reports of a batch are written, and that none takes the place of another or of a file to be read. It holds
-/// some 70 bytes of each file.
+/// Where the results of a batch are written, reports or new images, and that none takes the place of another or of a
+/// file to be read. It holds some 70 bytes of each file.
 class ReportPlaces {
 public:
     struct Options {
         std::filesystem::path folder;
-        std::string extension; ///< with its point
-        bool keepTree = false; ///< the same folders as those of the input
+        std::string extension;         ///< with its point; empty: there is none that all have
+        bool keepTree = false;         ///< the same folders as those of the input
+        std::string result = "report"; ///< what is written, as messages name it
     };
 
     /// The files are to outlive it.
     ReportPlaces(KeptFiles& files, Options options);
 
-    /// The place for the report of a file, and of one of its outputs where it holds several images. One that is taken
-    /// already, and one of a file that is to be read, are a CliError.
-    std::string take(const BatchFile& file, const std::string& output);
+    /// The place for the result of a file, and of one of its outputs where it holds several images; `ending` goes
+    /// behind a name that does not end with it. One that is taken already, and one of a file that is to be read, are a
+    /// CliError.
+    std::string take(const BatchFile& file, const std::string& output, const std::string& ending = "");
 
 private:
-    std::string placeOf(const BatchFile& file, const std::string& output) const;
+    std::string nameFor(const BatchFile& file, const std::string& output) const;
     bool isInput(const std::string& place);
 
     KeptFiles& files_;

@@ -1,13 +1,12 @@
 #include "cli/rewrite.h"
 
 #include <filesystem>
-#include <map>
 
 #include "cli/attempt.h"
 #include "cli/clock_option.h"
 #include "cli/commands.h"
 #include "cli/output.h"
-#include "cli/report_names.h"
+#include "cli/report_places.h"
 #include "cli/sync_option.h"
 #include "cli/syntax.h"
 #include "core/base/file_names.h"
@@ -90,7 +89,7 @@ bool makeFolder(const RewriteOptions& options) {
 
 /// The form of bytes whose name is the ending of the file's, else binary.
 const forms::WrittenForm& formOfEnding(const std::string& name) {
-    std::string ending = upperCase(fs::path(name).extension().string());
+    const std::string ending = upperCase(nameOf(pathOf(name).extension()));
     for (const forms::WrittenForm& form : forms::writtenForms()) {
         if (ending == '.' + upperCase(form.name)) {
             return form;
@@ -100,28 +99,32 @@ const forms::WrittenForm& formOfEnding(const std::string& name) {
 }
 
 /// All files, before the first is changed: what is written must not be taken for one of them.
-std::vector<std::string> namesOf(const RewriteOptions& options, bool& complete) {
+/// Gives whether every folder could be read.
+bool keepNames(const RewriteOptions& options, KeptFiles& files) {
     FileList list(options.files);
-    std::vector<std::string> names;
     while (const std::optional<BatchFile> file = list.next()) {
         if (options.inPlace && file->name == standardStream) {
             throw UsageError("standard input cannot be changed in place");
         }
-        names.push_back(file->name);
+        files.add(*file);
     }
-    complete = list.complete();
-    return names;
+    return list.complete();
 }
 
 /// Takes one file after the other.
 class Rewriter {
 public:
-    Rewriter(const RewriteOptions& options, const std::vector<std::string>& files, const Changer& change)
-        : options_(options), files_(files), change_(change), names_(files, "") {}
+    Rewriter(const RewriteOptions& options, KeptFiles& files, const Changer& change)
+        : options_(options), change_(change) {
+        if (options.outputFolder) {
+            places_.emplace(files, ReportPlaces::Options{
+                                       .folder = pathOf(*options.outputFolder), .extension = "", .result = "new file"});
+        }
+    }
 
     /// A failure is a CliError.
-    void rewrite(const std::string& name) {
-        const Input input = readInput(name);
+    void rewrite(const BatchFile& file) {
+        const Input input = readInput(file.name);
         const Contents contents = contentsOf(input, options_.images);
         const Image& image = onlyImageOf(contents);
         requireWhole(image);
@@ -131,16 +134,17 @@ public:
         }
         const Change change = change_(image);
         if (!options_.dryRun) {
-            write(input, image, change.image, form);
+            write(file, input, image, change.image, form);
         }
-        tell(name, change);
+        tell(file.name, change);
     }
 
 private:
-    void write(const Input& input, const Image& before, const Image& after, const forms::WrittenForm* form) {
+    void write(const BatchFile& file, const Input& input, const Image& before, const Image& after,
+               const forms::WrittenForm* form) {
         const forms::WrittenForm& written = form != nullptr ? *form : *forms::writtenForm("bin");
         if (!options_.inPlace) {
-            writeBeside(newPlace(input.name, form != nullptr), written.write(after), "");
+            writeBeside(newPlace(file, form != nullptr), written.write(after), "");
         } else if (after.content() != before.content()) {
             if (options_.backup) {
                 keep(input);
@@ -162,32 +166,14 @@ private:
     void keep(const Input& input) const { writeBeside(input.name + backupExtension, input.content, input.name); }
 
     /// The file of the output folder for one of the input; its extension stays where its form does.
-    std::string newPlace(const std::string& file, bool formStays) {
-        const std::string extension =
-            formStays && file != standardStream ? nameOf(pathOf(file).extension()) : std::string(binaryExtension);
-        std::string name = names_.nameOf(file, "");
-        if (!name.ends_with(extension)) {
-            name += extension;
-        }
-        std::string place = nameOf(pathOf(*options_.outputFolder) / pathOf(name));
-        const auto [other, isNew] = writtenBy_.try_emplace(place, file);
-        if (!isNew) {
-            throw CliError("its new file '" + place + "' is already that of '" + other->second + "'");
-        }
-        for (const std::string& input : files_) {
-            std::error_code error;
-            if (fs::equivalent(pathOf(input), pathOf(place), error) && !error) {
-                throw CliError("its new file '" + place + "' would replace one that is to be read");
-            }
-        }
-        return place;
+    std::string newPlace(const BatchFile& file, bool formStays) {
+        const bool extensionStays = formStays && file.name != standardStream;
+        return places_->take(file, "", extensionStays ? nameOf(pathOf(file.name).extension()) : binaryExtension);
     }
 
     const RewriteOptions& options_;
-    const std::vector<std::string>& files_;
     const Changer& change_;
-    ReportNames names_;
-    std::map<std::string, std::string> writtenBy_;
+    std::optional<ReportPlaces> places_; ///< there where the new files go to a folder
 };
 
 } // namespace
@@ -221,15 +207,15 @@ void checkRewriteOptions(const RewriteOptions& options) {
 }
 
 int rewriteFiles(const RewriteOptions& options, const Changer& change) {
-    bool complete = true;
-    const std::vector<std::string> files = namesOf(options, complete);
+    KeptFiles files;
+    const bool complete = keepNames(options, files);
     if (!makeFolder(options)) {
         return somethingFailed;
     }
     Rewriter rewriter(options, files, change);
     int status = complete ? success : somethingFailed;
-    for (const std::string& file : files) {
-        if (!attempt(file, [&] { rewriter.rewrite(file); })) {
+    while (const std::optional<BatchFile> file = files.next()) {
+        if (!attempt(file->name, [&] { rewriter.rewrite(*file); })) {
             status = somethingFailed;
         }
     }
@@ -240,7 +226,7 @@ int writeNewImage(const RewriteOptions& options, const std::string& name, const 
     if (!makeFolder(options)) {
         return somethingFailed;
     }
-    const std::string place = options.outputFolder ? (fs::path(*options.outputFolder) / name).string() : name;
+    const std::string place = options.outputFolder ? nameOf(pathOf(*options.outputFolder) / pathOf(name)) : name;
     const bool made = attempt(place, [&] {
         const Change change = make();
         if (!options.dryRun) {

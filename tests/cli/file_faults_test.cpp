@@ -237,16 +237,31 @@ const std::vector<Scenario> scenarios = {
 INSTANTIATE_TEST_SUITE_P(Commands, FileFaults, testing::ValuesIn(scenarios),
                          [](const auto& scenario) { return std::string(scenario.param.name); });
 
-/// How often a command waits for the disk, in a folder with these files.
-std::size_t waitsOf(const std::vector<std::string>& command, const Files& files) {
+/// How often a command makes calls of these names, in a folder with these files.
+std::size_t callsOf(const std::vector<std::string>& names, const std::vector<std::string>& command,
+                    const Files& files) {
     const TemporaryFolder folder;
     create(folder.file(""), files);
     const TracedRun run =
         runWithFault([&] { return chdir(folder.file("").c_str()) == 0 ? runProgram(command) : EXIT_FAILURE; }, {});
     EXPECT_EQ(run.status, run.traced ? success : -1) << run.errors;
-    return static_cast<std::size_t>(std::count_if(run.calls.begin(), run.calls.end(), [](const FileCall* call) {
-        return std::string_view(call->name) == "fsync";
+    return static_cast<std::size_t>(std::count_if(run.calls.begin(), run.calls.end(), [&](const FileCall* call) {
+        return std::find(names.begin(), names.end(), call->name) != names.end();
     }));
+}
+
+/// How often it waits for the disk.
+std::size_t waitsOf(const std::vector<std::string>& command, const Files& files) {
+    return callsOf({"fsync"}, command, files);
+}
+
+/// How often it looks files up while it changes so many of a folder.
+std::size_t lookUpsForChangesOf(int count) {
+    Files files;
+    for (int i = 0; i < count; ++i) {
+        files["in/" + std::to_string(100 + i)] = {.content = sample("zarqo-z40.bin")};
+    }
+    return callsOf({"stat", "lstat", "newfstatat", "statx", "readlink"}, {"repair", "-r", "in", "-o", "out"}, files);
 }
 
 TEST(FileCalls, WaitForTheDiskUnlessThatIsDeclined) {
@@ -264,6 +279,16 @@ TEST(FileCalls, WaitForTheDiskUnlessThatIsDeclined) {
         command.emplace_back("--no-sync");
         EXPECT_EQ(waitsOf(command, files), 0U);
     }
+}
+
+TEST(FileCalls, LookUpEachFileOfABatchAsOftenHoweverManyThereAre) {
+    if (!runWithFault([] { return 0; }, {}).traced) {
+        GTEST_SKIP() << "no call can be watched here";
+    }
+    const std::size_t few = lookUpsForChangesOf(5);
+    const std::size_t more = lookUpsForChangesOf(10);
+    EXPECT_GT(more, few);
+    EXPECT_EQ(lookUpsForChangesOf(15) - more, more - few);
 }
 
 /// Keeps names in a file and reads them back: 0 where they are what they were, 1 after a CliError, which it prints.

@@ -172,11 +172,32 @@ TEST_F(RepairTest, NoFileReplacesAnother) {
               "edidwb: a.bin: out/a.bin: exists already (--force replaces it)\n");
     EXPECT_EQ(read("out/a.bin"), "old");
     EXPECT_EQ(shell("edidwb repair -o . --force a.bin").errors,
-              "edidwb: a.bin: its new file './a.bin' would replace one that is to be read\n");
+              "edidwb: a.bin: its new file './a.bin' would replace a file that is to be read\n");
     EXPECT_EQ(shell("edidwb repair -o out --force a.bin a.bin").errors,
               "edidwb: a.bin: its new file 'out/a.bin' is already that of 'a.bin'\n");
     EXPECT_EQ(read("out/a.bin"), wholeImage());
     EXPECT_EQ(read("a.bin"), brokenImage());
+}
+
+TEST_F(RepairTest, NoFileReplacesAnInputThatALinkLeadsTo) {
+    write("a.bin", brokenImage());
+    write("z.bin", wholeImage());
+    const Outcome outcome = shell("mkdir out; ln -s ../z.bin out/a.bin; edidwb repair --force -o out a.bin z.bin");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.errors, "edidwb: a.bin: its new file 'out/a.bin' would replace a file that is to be read\n");
+    EXPECT_EQ(read("z.bin"), wholeImage());
+    EXPECT_EQ(read("out/z.bin"), wholeImage());
+}
+
+TEST_F(RepairTest, ManyNamesStandInATemporaryFile) {
+    const std::string list = "for i in {1..300}; do printf '%04000d\\n' $i; done | ";
+    const Outcome kept = shell(list + "edidwb repair --dry-run --files-from /dev/stdin");
+    EXPECT_EQ(kept.status, 1);
+    EXPECT_EQ(std::count(kept.errors.begin(), kept.errors.end(), '\n'), 300);
+    EXPECT_THAT(kept.errors, HasSubstr("300: File name too long\n"));
+    const Outcome refused = shell(list + "TMPDIR=/nowhere edidwb repair --dry-run --files-from /dev/stdin");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.errors, testing::StartsWith("edidwb: no temporary folder: "));
 }
 
 TEST_F(RepairTest, FilesOfOneNameAreToldApart) {
