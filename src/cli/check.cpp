@@ -11,6 +11,7 @@
 #include "cli/syntax.h"
 #include "core/base/text.h"
 #include "core/step.h"
+#include "fields/announced_extensions.h"
 #include "fields/json.h"
 #include "files/data_file.h"
 
@@ -72,7 +73,8 @@ void checkFile(const std::string& name, const ImageOptions& options,
     const Contents contents = contentsOf(readInput(name), options);
     for (const Image& image : imagesOf(contents)) {
         const std::size_t most = contents.isDataFile ? Image::editedBlocks : Image::mostBlocks;
-        Checked checked{checkImage(image, most), fields::read(image)};
+        const std::size_t blocks = std::min(fields::announcedExtensions(image) + 1, most);
+        Checked checked{checkImage(image, blocks), fields::read(image)};
         if (contents.isDataFile) {
             const std::vector<CheckResult> boxes = boxesOf(contents.input);
             checked.results.insert(checked.results.end(), boxes.begin(), boxes.end());

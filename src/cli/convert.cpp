@@ -9,6 +9,7 @@
 #include "cli/program.h"
 #include "cli/read_back.h"
 #include "cli/syntax.h"
+#include "fields/announced_extensions.h"
 
 namespace wb::cli {
 
@@ -28,9 +29,15 @@ struct Options {
 /// What is told of one file on the way.
 using Remarks = std::vector<std::string>;
 
+/// How many blocks are to be there: those that the image announces. A data file is that of the program, which knows
+/// byte 126 alone.
+std::size_t blocksFor(const std::string& format, const Image& image) {
+    return 1 + (isFormOfBytes(format) ? fields::announcedExtensions(image) : image.announcedExtensions());
+}
+
 /// The image as the format can hold it, where the options allow to change it for that.
 Image fitted(const Options& options, Image image, Remarks& remarks) {
-    const std::size_t announced = image.announcedExtensions() + 1;
+    const std::size_t announced = blocksFor(options.format, image);
     if (image.blockCount() < announced) {
         if (!options.pad) {
             throw CliError("announces " + std::to_string(announced) + " blocks and has " +

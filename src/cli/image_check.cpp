@@ -1,6 +1,5 @@
 #include "cli/image_check.h"
 
-#include <algorithm>
 #include <numeric>
 
 #include "core/base/text.h"
@@ -9,9 +8,9 @@ namespace wb::cli {
 
 namespace {
 
-CheckResult checkLength(const Image& image, std::size_t mostBlocks) {
+CheckResult checkLength(const Image& image, std::size_t blocks) {
     const std::size_t length = image.bytes().size() + image.leftOver();
-    const std::size_t expected = std::min(1 + image.announcedExtensions(), mostBlocks) * Image::blockSize;
+    const std::size_t expected = blocks * Image::blockSize;
     const std::string text = "length " + std::to_string(length);
     return length == expected ? CheckResult{true, text + " ok"}
                               : CheckResult{false, text + " should be " + std::to_string(expected)};
@@ -49,10 +48,9 @@ void addSums(const Image& image, std::vector<CheckResult>& results) {
 
 } // namespace
 
-std::vector<CheckResult> checkImage(const Image& image, std::size_t mostBlocks) {
+std::vector<CheckResult> checkImage(const Image& image, std::size_t blocks) {
     const bool headed = image.hasHeader();
-    std::vector<CheckResult> results = {{headed, headed ? "header ok" : "header wrong"},
-                                        checkLength(image, mostBlocks)};
+    std::vector<CheckResult> results = {{headed, headed ? "header ok" : "header wrong"}, checkLength(image, blocks)};
     addSums(image, results);
     return results;
 }

@@ -13,8 +13,8 @@ struct CheckResult {
     std::string text;
 };
 
-/// Checks the header, the length against the extension count in byte 126 (up to `mostBlocks` blocks of 128 bytes), and
-/// the check sum of every block (VESA E-EDID Standard).
-std::vector<CheckResult> checkImage(const Image& image, std::size_t mostBlocks);
+/// Checks the header, the length against that of `blocks` blocks of 128 bytes, and the check sum of every block (VESA
+/// E-EDID Standard).
+std::vector<CheckResult> checkImage(const Image& image, std::size_t blocks);
 
 } // namespace wb::cli

@@ -5,6 +5,7 @@
 #include "adapters/recognise.h"
 #include "cli/cli_error.h"
 #include "cli/syntax.h"
+#include "fields/announced_extensions.h"
 #include "forms/recogniser.h"
 
 namespace wb::cli {
@@ -109,8 +110,7 @@ std::vector<std::string> omissionsOf(const Image& image) {
     if (image.leftOver() != 0) {
         sentences.push_back(std::to_string(image.leftOver()) + " bytes after the last block left out");
     }
-    if (image.announcedExtensions() >= blocks) {
-        const std::size_t last = image.announcedExtensions();
+    if (const std::size_t last = fields::announcedExtensions(image); last >= blocks) {
         sentences.push_back(blocksText(blocks, last) + " announced and missing");
     }
     return sentences;

@@ -42,7 +42,7 @@ const Image& onlyImageOf(const Contents& contents);
 std::string titleOf(const Image& image);
 
 /// What of an image the two blocks that the program edits do not hold: further blocks, bytes behind the last one, and
-/// blocks that byte 126 announces and that are not there. A sentence without an end mark each.
+/// blocks that it announces and that are not there. A sentence without an end mark each.
 std::vector<std::string> omissionsOf(const Image& image);
 
 /// What is wrong with a data file for an image of that many blocks: "3 blocks; a data file holds 2".

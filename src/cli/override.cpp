@@ -13,6 +13,8 @@
 #include "cli/stored_edid.h"
 #include "cli/syntax.h"
 #include "cli/system.h"
+#include "core/base/file_names.h"
+#include "fields/announced_extensions.h"
 
 namespace wb::cli {
 
@@ -92,26 +94,42 @@ std::string fileNameOf(const Options& options, const std::string& connector) {
     return name.ends_with(extension) ? name : name + extension;
 }
 
-/// The commands that do by hand what --install does.
-std::string copyingOf(const Options& options, const Contents& contents, const Image& image, const std::string& place) {
-    const std::string file = shellWord(inOneLine(options.file));
-    if (contents.input.content == image.content() && options.file != standardStream) {
-        return "install -D -m 644 " + file + ' ' + place;
-    }
-    std::string command = "mkdir -p " + fs::path(place).parent_path().generic_string() + "\nedidwb convert --to bin ";
+/// How many blocks the kernel may want: it goes by byte 126, or, where it knows of it, by the override data block.
+std::size_t blocksWanted(const Image& image) {
+    const std::size_t byByte126 = image.announcedExtensions() + 1;
+    return image.blockCount() == byByte126 ? byByte126 : fields::announcedExtensions(image) + 1;
+}
+
+/// What a command is given to find the image in the file.
+std::string inputOf(const Options& options) {
+    std::string words;
     if (!options.images.form.empty()) {
-        command += "--from " + options.images.form + ' ';
+        words += "--from " + options.images.form + ' ';
     }
     if (!options.images.output.empty()) {
-        command += "--output-name " + shellWord(options.images.output) + ' ';
+        words += "--output-name " + shellWord(options.images.output) + ' ';
     }
-    return command + file + ' ' + place;
+    return words + shellWord(inOneLine(options.file));
+}
+
+/// The commands that do by hand what --install does. An image that only a part of the kernels takes for whole is not
+/// for "convert".
+std::string copyingOf(const Options& options, const Contents& contents, const Image& image, const OverridePlan& plan) {
+    const std::string folder = std::string("/") + edidFirmwareFolder;
+    const std::string place = folder + '/' + plan.fileName;
+    if (contents.input.content == image.content() && options.file != standardStream) {
+        return "install -D -m 644 " + shellWord(inOneLine(options.file)) + ' ' + place;
+    }
+    if (image.blockCount() <= fields::announcedExtensions(image)) {
+        return "edidwb override --install --name " + plan.fileName + ' ' + plan.connector + ' ' + inputOf(options);
+    }
+    return "mkdir -p " + folder + "\nedidwb convert --to bin " + inputOf(options) + ' ' + place;
 }
 
 /// What the kernel would refuse is told; whether there is anything.
 bool hasErrors(const Options& options, const Image& image) {
     bool found = false;
-    for (const CheckResult& result : checkImage(image, Image::mostBlocks)) {
+    for (const CheckResult& result : checkImage(image, blocksWanted(image))) {
         if (!result.good) {
             complain(options.file, result.text);
             found = true;
@@ -129,30 +147,30 @@ bool hasErrors(const Options& options, const Image& image) {
 fs::path placeBelow(const fs::path& root, const std::string& fileName) {
     std::error_code error;
     if (!fs::is_directory(root, error)) {
-        throw CliError(root.string() + ": no such directory");
+        throw CliError(nameOf(root) + ": no such directory");
     }
     fs::path place = root / edidFirmwareFolder / fileName;
     const fs::path top = fs::canonical(root, error);
     const fs::path resolved = error ? fs::path() : fs::weakly_canonical(place, error);
     if (error) {
-        throw CliError(place.string() + ": " + error.message());
+        throw CliError(nameOf(place) + ": " + reasonOf(error));
     }
     if (std::mismatch(top.begin(), top.end(), resolved.begin(), resolved.end()).first != top.end()) {
-        throw CliError(place.string() + ": a link leads out of " + root.string());
+        throw CliError(nameOf(place) + ": a link leads out of " + nameOf(root));
     }
     return place;
 }
 
 void install(const Options& options, const Image& image, const std::string& fileName) {
-    const fs::path place = placeBelow(options.root.value_or("/"), fileName);
+    const fs::path place = placeBelow(pathOf(options.root.value_or("/")), fileName);
+    const std::string name = nameOf(place);
     std::error_code error;
     fs::create_directories(place.parent_path(), error);
     if (error) {
-        throw CliError(place.parent_path().string() + ": " + error.message());
+        throw CliError(nameOf(place.parent_path()) + ": " + reasonOf(error));
     }
-    about(place.string(),
-          [&] { writeFile(place.string(), image.content(), options.force ? Existing::Replace : Existing::Refuse); });
-    printText(inOneLine("Written: " + place.string() + ", " + std::to_string(image.bytes().size()) + " bytes") + '\n');
+    about(name, [&] { writeFile(name, image.content(), options.force ? Existing::Replace : Existing::Refuse); });
+    printText(inOneLine("Written: " + name + ", " + std::to_string(image.bytes().size()) + " bytes") + '\n');
 }
 
 int explain(const Options& options) {
@@ -170,7 +188,7 @@ int explain(const Options& options) {
     if (options.install) {
         install(options, image, plan.fileName);
     } else {
-        plan.copying = copyingOf(options, contents, image, std::string("/") + edidFirmwareFolder + '/' + plan.fileName);
+        plan.copying = copyingOf(options, contents, image, plan);
     }
     printText(inOneLine("For " + plan.connector + " the kernel takes " + options.file + " (" +
                         std::to_string(image.bytes().size()) + " bytes, " + edidWords(image.content()) +

@@ -11,6 +11,7 @@
 #include "cli/syntax.h"
 #include "core/base/file_names.h"
 #include "core/base/text.h"
+#include "fields/announced_extensions.h"
 #include "forms/writers.h"
 
 namespace wb::cli {
@@ -52,7 +53,7 @@ const forms::WrittenForm* formOf(const std::string& content, const Image& image)
 }
 
 void requireWhole(const Image& image) {
-    const std::size_t announced = image.announcedExtensions() + 1;
+    const std::size_t announced = fields::announcedExtensions(image) + 1;
     if (image.blockCount() < announced) {
         throw CliError("announces " + std::to_string(announced) + " blocks and has " +
                        std::to_string(image.blockCount()) + "; only whole images are changed");

@@ -69,19 +69,6 @@ std::string_view extensionName(std::uint8_t tag) {
     return kindOf(tag).name;
 }
 
-std::size_t announcedExtensions(const Image& image) {
-    using extensionCells::dataBlocks, extensionCells::timingOffset;
-    constexpr std::array<std::uint8_t, 2> override = {0xE2, 0x78};
-    if (image.blockCount() > 1 && image.block(1)[extensionCells::tag] == ceaTag) {
-        const auto first = image.block(1).subspan(dataBlocks, override.size() + 1);
-        if (image.block(1)[timingOffset] >= dataBlocks + first.size() &&
-            std::equal(override.begin(), override.end(), first.begin())) {
-            return first.back();
-        }
-    }
-    return image.announcedExtensions();
-}
-
 void readExtension(Reading& reading, std::size_t index) {
     const ExtensionKind& kind = kindOf(reading.image.block(index)[0]);
     const Scope block(reading, index * Image::blockSize, numbered(kind.path, index), kind.clause);

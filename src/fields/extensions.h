@@ -8,10 +8,6 @@ namespace wb::fields {
 /// no standard names.
 std::string_view extensionName(std::uint8_t tag);
 
-/// How many extension blocks the image announces: in byte 126, or in the override data block, which stands first in a
-/// CTA-861 extension in block 1 (HDMI 2.1, 10.3.6).
-std::size_t announcedExtensions(const Image& image);
-
 /// Adds the fields, findings and summary of block `index`, which is not block 0.
 void readExtension(Reading& reading, std::size_t index);
 

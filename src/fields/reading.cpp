@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "fields/announced_extensions.h"
 #include "fields/block0.h"
 #include "fields/extensions.h"
 #include "fields/scope.h"

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "cli/changed_image.h"
 #include "cli/edidwb.h"
 
 namespace wb::test {
@@ -48,6 +49,20 @@ TEST_F(CheckTest, Status1WhenAnythingIsWrong) {
               "edidwb: missing: No such file or directory\n");
     EXPECT_EQ(shell("edidwb check sum.bin").status, 1);
     EXPECT_EQ(shell("edidwb check $SAMPLES/zarqo-z40.bin sum.bin $SAMPLES/zarqo-z40.bin").status, 1);
+}
+
+TEST_F(CheckTest, TheOverrideOfTheHdmiForumTellsTheLength) {
+    write("whole.bin", imageWithOverride(4, 3));
+    write("cut.bin", imageWithOverride(2, 3));
+    const Outcome whole = shell("edidwb check --level error whole.bin");
+    EXPECT_EQ(whole.status, 0);
+    EXPECT_EQ(whole.output,
+              "whole.bin: header ok, length 512 ok, check sum of block 0 ok, check sum of block 1 ok, "
+              "check sums of blocks 2 to 3 ok\n");
+    const Outcome cut = shell("edidwb check --level error cut.bin");
+    EXPECT_EQ(cut.status, 1);
+    EXPECT_THAT(cut.output, HasSubstr("cut.bin: header ok, length 256 should be 512, check sum"));
+    EXPECT_THAT(cut.output, HasSubstr("[image.blocks_missing; "));
 }
 
 TEST_F(CheckTest, ADataFileWithTooManyPairsIsWrong) {

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "cli/changed_image.h"
 #include "cli/edidwb.h"
 
 namespace wb::test {
@@ -165,6 +166,28 @@ TEST_F(ConvertTest, ABlockThatIsAnnouncedAndMissingIsAnErrorUnlessItMayBePadded)
     EXPECT_EQ(padded.status, 0);
     EXPECT_EQ(padded.errors, "edidwb: in: block 1 written as zeros\n");
     EXPECT_EQ(read("out"), block + std::string(128, '\0'));
+}
+
+TEST_F(ConvertTest, BlocksOfTheOverrideOfTheHdmiForumAreAnnouncedToo) {
+    const std::string cut = imageWithOverride(2, 3);
+    write("whole", imageWithOverride(4, 3));
+    write("cut", cut);
+    EXPECT_EQ(shell("edidwb convert --to bin whole -").output, read("whole"));
+    EXPECT_EQ(shell("edidwb convert --to bin cut out").errors,
+              "edidwb: cut: announces 4 blocks and has 2; --pad writes the others as zeros\n");
+    EXPECT_FALSE(exists("out"));
+    EXPECT_EQ(shell("edidwb convert --to bin --pad cut out").errors, "edidwb: cut: blocks 2 to 3 written as zeros\n");
+    EXPECT_EQ(read("out"), cut + std::string(256, '\0'));
+    EXPECT_EQ(shell("edidwb convert --to report cut out.txt").errors,
+              "edidwb: cut: blocks 2 to 3 announced and missing\n");
+}
+
+TEST_F(ConvertTest, ADataFileHoldsTwoBlocksWhateverTheOverrideAnnounces) {
+    write("cut", imageWithOverride(2, 3));
+    const Outcome outcome = shell("edidwb convert --to dat cut cut.DAT");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(shell("edidwb convert --to dat cut.DAT -").output, read("cut.DAT"));
 }
 
 TEST_F(ConvertTest, BytesBehindTheLastBlockAreTold) {

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "cli/changed_image.h"
 #include "cli/edidwb.h"
 #include "platform/sysfs_folder.h"
 
@@ -99,6 +100,27 @@ TEST_F(OverrideTest, AnImageWithErrorsIsRefused) {
         EXPECT_THAT(outcome.errors, HasSubstr(std::string("edidwb: ") + c.file + ": " + c.message));
         EXPECT_FALSE(exists("lib")) << c.file;
     }
+}
+
+TEST_F(OverrideTest, TheNumberOfBlocksIsThatOfByte126OrOfTheOverride) {
+    for (const std::size_t blocks : {2, 3, 4}) {
+        write("monitor.bin", imageWithOverride(blocks, 3));
+        const Outcome outcome = run("HDMI-A-1 monitor.bin");
+        EXPECT_EQ(outcome.status, blocks == 3 ? 1 : 0) << blocks << outcome.errors;
+    }
+}
+
+TEST_F(OverrideTest, TheStepsOfAnImageWithoutTheBlocksOfItsOverrideWriteItAsItIs) {
+    const std::string image = imageWithOverride(2, 3);
+    write("monitor.bin", image);
+    shell("od -An -v -tx1 monitor.bin >monitor.hex");
+    EXPECT_THAT(run("--name desk HDMI-A-1 monitor.hex").output,
+                HasSubstr("\n     edidwb override --install --name desk.bin HDMI-A-1 monitor.hex\n"));
+    shell("edidwb override --install --name desk.bin HDMI-A-1 monitor.hex --root .");
+    EXPECT_EQ(read("lib/firmware/edid/desk.bin"), image);
+    write("whole.bin", imageWithOverride(4, 3));
+    shell("od -An -v -tx1 whole.bin >whole.hex");
+    EXPECT_THAT(run("HDMI-A-1 whole.hex").output, HasSubstr("\n     edidwb convert --to bin whole.hex /lib/"));
 }
 
 TEST_F(OverrideTest, InstallsTheFirmwareFileAndNothingElse) {

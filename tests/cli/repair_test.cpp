@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "cli/changed_image.h"
 #include "cli/edidwb.h"
 
 namespace wb::test {
@@ -163,6 +164,14 @@ TEST_F(RepairTest, WhatIsNotWholeIsRefusedAndTheOthersGoOn) {
     EXPECT_EQ(read("short.bin"), sample("zarqo-z40.bin").substr(0, 128));
     EXPECT_EQ(read("long.bin"), brokenImage() + "abc");
     EXPECT_EQ(read("good.bin"), wholeImage());
+}
+
+TEST_F(RepairTest, BlocksOfTheOverrideOfTheHdmiForumAreAnnouncedToo) {
+    write("whole.bin", imageWithOverride(4, 3));
+    write("cut.bin", imageWithOverride(2, 3));
+    const Outcome outcome = shell("edidwb repair --dry-run whole.bin cut.bin");
+    EXPECT_EQ(outcome.output, "whole.bin: every check sum is right\n");
+    EXPECT_EQ(outcome.errors, "edidwb: cut.bin: announces 4 blocks and has 2; only whole images are changed\n");
 }
 
 TEST_F(RepairTest, NoFileReplacesAnother) {

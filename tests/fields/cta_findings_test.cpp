@@ -217,6 +217,12 @@ TEST(CtaFindings, CountBlocksByTheOverrideOfTheHdmiForum) {
     EXPECT_EQ(countIn(image.set(133, {0x00}), "image.blocks_extra"), 1U);
 }
 
+TEST(CtaFindings, PassOverAnOverrideThatTellsOfNoBlocks) {
+    ImageOf image(2);
+    image.set(126, {1}).set(128, {0x02, 0x03, 7, 0, 0xE2, 0x78, 0});
+    EXPECT_EQ(countIn(image, "image.blocks_extra"), 0U);
+}
+
 TEST(CtaFindings, TellOfAnOverrideThatIsNotTheFirstDataBlock) {
     EXPECT_EQ(countIn(ctaWith({0x41, 16, 0xE2, 0x78, 1}), "cta.override_place"), 1U);
     EXPECT_EQ(countIn(ctaWith({0xE2, 0x78, 1, 0x41, 16}), "cta.override_place"), 0U);
