@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <array>
 #include <functional>
+#include <iterator>
 #include <memory>
 
 #include "cli/commands.h"
@@ -10,10 +12,8 @@
 #include "cli/program.h"
 #include "cli/syntax.h"
 #include "core/base/text.h"
-#include "core/step.h"
 #include "fields/announced_extensions.h"
 #include "fields/json.h"
-#include "files/data_file.h"
 
 namespace wb::cli {
 
@@ -26,8 +26,8 @@ using fields::Severity;
 struct Options {
     FileOptions files;
     std::string format = "text";
-    std::string level = "warning";
-    std::string failOn = "error";
+    std::string level{fields::severityName(Severity::Warning)};
+    std::string failOn{fields::severityName(Severity::Error)};
     bool quiet = false;
     ImageOptions images;
 };
@@ -42,27 +42,42 @@ struct Checked {
     }
 };
 
+constexpr std::array severities = {Severity::Error, Severity::Warning, Severity::Note};
+
 std::vector<std::string> levels() {
-    return {"error", "warning", "note"};
+    std::vector<std::string> names;
+    names.reserve(severities.size());
+    for (const Severity severity : severities) {
+        names.emplace_back(fields::severityName(severity));
+    }
+    return names;
 }
 
-Severity severityOf(const std::string& name) {
-    for (const Severity severity : {Severity::Error, Severity::Warning}) {
-        if (name == fields::severityName(severity)) {
-            return severity;
-        }
-    }
-    return Severity::Note;
+/// Of one of levels().
+Severity severityOf(std::string_view level) {
+    return *std::find_if(severities.begin(), severities.end(),
+                         [&](Severity severity) { return fields::severityName(severity) == level; });
+}
+
+CheckResult resultOf(const Box& box) {
+    std::string text = boxText(box);
+    return {.good = false,
+            .text = text,
+            .finding = Finding{.severity = Severity::Error,
+                               .code = "check.box",
+                               .block = 0,
+                               .byte = 0,
+                               .text = "The program shows a box: " + text,
+                               .clause = ""}};
 }
 
 /// The boxes that come up while the program reads a data file.
 std::vector<CheckResult> boxesOf(const Input& input) {
     Program program;
-    const Step step(program.workbench(), "opening the data file");
-    files::readDataFile(program.workbench(), input.content);
+    program.readDataFile(input);
     std::vector<CheckResult> results;
     for (const Box& box : program.boxes().distinct()) {
-        results.push_back({false, boxText(box)});
+        results.push_back(resultOf(box));
     }
     return results;
 }
@@ -90,6 +105,15 @@ std::vector<Finding> findingsFrom(const Checked& checked, Severity level) {
     return findings;
 }
 
+/// Those that it must tell of in any case, as they fail the image, and of which the plain reading has none.
+void addFailures(const Checked& checked, std::vector<Finding>& findings) {
+    for (const CheckResult& result : checked.results) {
+        if (result.finding) {
+            findings.push_back(*result.finding);
+        }
+    }
+}
+
 std::string resultLine(const std::string& name, const std::vector<CheckResult>& results) {
     std::string line = inOneLine(name);
     for (const CheckResult& result : results) {
@@ -113,14 +137,17 @@ std::string findingRow(const std::string& name, const Finding& finding) {
                     std::to_string(finding.byte), finding.path, finding.text, finding.clause});
 }
 
-void tell(const Checked& checked, const std::vector<Finding>& findings, OutputFormat format) {
+/// The text has each result in its first line; the other formats have findings alone.
+void tell(const Checked& checked, std::vector<Finding> findings, OutputFormat format) {
     const std::string name = titleOf(checked.reading.image);
+    if (format == OutputFormat::Text) {
+        print(resultLine(name, checked.results));
+    } else {
+        addFailures(checked, findings);
+    }
     if (format == OutputFormat::Json) {
         print(fields::findingsToJson(checked.reading, findings) + '\n');
         return;
-    }
-    if (format == OutputFormat::Text) {
-        print(resultLine(name, checked.results));
     }
     for (const Finding& finding : findings) {
         print(format == OutputFormat::Text ? findingLine(finding) : findingRow(name, finding));

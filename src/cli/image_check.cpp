@@ -8,12 +8,30 @@ namespace wb::cli {
 
 namespace {
 
+/// Fewer bytes lack a block, which is an error of the plain reading; more are but a warning there.
+fields::Finding tooLong(std::size_t length, std::size_t expected) {
+    return {.severity = fields::Severity::Error,
+            .code = "check.length",
+            .block = 0,
+            .byte = extensionCountCell,
+            .text = "The image has " + std::to_string(length) + " bytes, and the blocks that it announces have " +
+                    std::to_string(expected) +
+                    ", so that careful readers refuse it; correct the count or cut the image.",
+            .clause = "E-EDID 1.4, 3.11"};
+}
+
 CheckResult checkLength(const Image& image, std::size_t blocks) {
     const std::size_t length = image.bytes().size() + image.leftOver();
     const std::size_t expected = blocks * Image::blockSize;
     const std::string text = "length " + std::to_string(length);
-    return length == expected ? CheckResult{true, text + " ok"}
-                              : CheckResult{false, text + " should be " + std::to_string(expected)};
+    if (length == expected) {
+        return {true, text + " ok"};
+    }
+    CheckResult result{false, text + " should be " + std::to_string(expected)};
+    if (length > expected) {
+        result.finding = tooLong(length, expected);
+    }
+    return result;
 }
 
 CheckResult checkSum(const Image& image, std::size_t block) {

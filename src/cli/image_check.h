@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/base/image.h"
+#include "fields/field.h"
 
 namespace wb::cli {
 
@@ -11,6 +13,7 @@ namespace wb::cli {
 struct CheckResult {
     bool good = false;
     std::string text;
+    std::optional<fields::Finding> finding{}; ///< an error, where it is not good and fields::read tells of none
 };
 
 /// Checks the header, the length against that of `blocks` blocks of 128 bytes, and the check sum of every block (VESA

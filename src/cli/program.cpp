@@ -83,6 +83,11 @@ void Program::start(const std::optional<platform::DateTime>& now) {
     workbench_.runAction([&] { shell::Main(workbench_); });
 }
 
+void Program::readDataFile(const Input& input) {
+    const Step step(workbench_, "opening the data file");
+    workbench_.runAction([&] { files::readDataFile(workbench_, input.content); });
+}
+
 void Program::loadDataFile(const Input& input) {
     const Step step(workbench_, "opening the data file");
     bool loaded = false;

@@ -32,6 +32,8 @@ public:
     /// Forgets the boxes that came up so far.
     void clearBoxes() { boxes_.clear(); }
 
+    /// Reads the cells of a data file without opening it; what is wrong with it comes up as boxes.
+    void readDataFile(const Input& input);
     /// Loads a data file as Open does. One that cannot be read is a CliError.
     void loadDataFile(const Input& input);
     /// Loads an image as the stored EDID of a monitor is, which takes its first two blocks.

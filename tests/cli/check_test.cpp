@@ -72,6 +72,43 @@ TEST_F(CheckTest, ADataFileWithTooManyPairsIsWrong) {
     EXPECT_THAT(outcome.output, HasSubstr("check sum of block 1 ok, Subscript out of range (opening the data file)\n"));
 }
 
+TEST_F(CheckTest, WhatFailsIsAnErrorInEveryFormat) {
+    const std::string good = sample("zarqo-z40.bin");
+    write("good", good);
+    write("long", good + "abc");
+    write("more", good + std::string(128, '\0'));
+    write("short", good.substr(0, 128));
+    write("header", withSum(withBytes(good, 7, {1})));
+    write("sum", withBytes(good, 200, {1, 2, 3}));
+    shell("edidwb convert --to dat good box.DAT; echo '| AA' >>box.DAT");
+    const std::string error = R"("severity":"error")";
+    for (const char* file : {"good", "long", "more", "short", "header", "sum", "box.DAT"}) {
+        const std::string check = "edidwb check --any-header --level error " + std::string(file);
+        const Outcome json = shell(check + " --format json");
+        const Outcome rows = shell(check + " --format tsv");
+        EXPECT_EQ(json.status, file == std::string("good") ? 0 : 1) << file;
+        EXPECT_EQ(json.output.find(error) != std::string::npos, json.status == 1) << file << json.output;
+        EXPECT_EQ(rows.output.find("\terror\t") != std::string::npos, rows.status == 1) << file << rows.output;
+    }
+}
+
+TEST_F(CheckTest, TellsOfTheLengthAndOfBoxesOnceInAFormatForPrograms) {
+    write("long.bin", sample("zarqo-z40.bin") + "abc");
+    shell("edidwb convert --to dat $SAMPLES/zarqo-z40.bin z.DAT; echo '| AA' >>z.DAT");
+    const Outcome outcome = shell("edidwb check --level error --format tsv long.bin z.DAT");
+    EXPECT_EQ(outcome.output,
+              "file\tseverity\tcode\tblock\tbyte\tpath\ttext\tclause\n"
+              "long.bin\terror\tcheck.length\t0\t126\t\tThe image has 259 bytes, and the blocks that it announces have "
+              "256, so that careful readers refuse it; correct the count or cut the image.\tE-EDID 1.4, 3.11\n"
+              "z.DAT\terror\tcheck.box\t0\t0\t\tThe program shows a box: Subscript out of range (opening the data "
+              "file)\t\n");
+    EXPECT_THAT(shell("edidwb check --level error long.bin").output, Not(HasSubstr("check.length")));
+    EXPECT_EQ(shell("edidwb check --format json long.bin z.DAT | " WORKBENCH_SOURCE_DIR
+                    "/scripts/validate-json " WORKBENCH_SOURCE_DIR "/docs/edidwb.schema.json check")
+                  .output,
+              "");
+}
+
 TEST_F(CheckTest, TellsFindingsBelowTheirFile) {
     std::string image = sample("halvorine-hv19.bin");
     image.replace(56, 1, 1, '\0'); // no active pixels in the first timing

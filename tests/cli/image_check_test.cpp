@@ -68,6 +68,15 @@ TEST(ImageCheck, CountsWhatIsBehindTheLastBlock) {
               "header ok\nBAD: length 130 should be 128\ncheck sum of block 0 ok\n");
 }
 
+TEST(ImageCheck, ALengthIsAFindingWhereThePlainReadingHasNoError) {
+    const auto isFinding = [](const std::string& bytes, std::size_t blocks) {
+        return check(bytes, blocks)[1].finding.has_value();
+    };
+    EXPECT_TRUE(isFinding(block0(0) + "ab", 1));
+    EXPECT_FALSE(isFinding(block0(0), 1));
+    EXPECT_FALSE(isFinding(block0(1), 2)) << "a missing block";
+}
+
 TEST(ImageCheck, GoesByTheNumberOfBlocksThatItIsGiven) {
     const std::string image = block0(2) + std::string(128, '\0');
     EXPECT_EQ(textOf(check(image, 2)), "header ok\nlength 256 ok\ncheck sum of block 0 ok\ncheck sum of block 1 ok\n");
