@@ -5,6 +5,8 @@
 #include "core/base/digits.h"
 #include "core/base/image_layout.h"
 #include "core/base/text.h"
+#include "fields/announced_extensions.h"
+#include "shell/image_state.h"
 
 namespace wb::shell {
 
@@ -24,10 +26,14 @@ std::string bytesOf(BlockScreen& screen, int first) {
     return bytes;
 }
 
-/// The number of blocks that byte 126 announces; nothing where its cell is no byte.
-std::optional<std::size_t> announcedBlocks(BlockScreen& screen) {
-    const auto extensions = wholeNumber<std::size_t>(screen.txtEdit(extensionCountCell).text(), 16);
-    return extensions ? std::optional(*extensions + 1) : std::nullopt;
+std::size_t announcedBlocks(const Image& image) {
+    return fields::announcedExtensions(image) + 1;
+}
+
+/// The number of blocks that the cells announce; nothing where that of byte 126 is no byte.
+std::optional<std::size_t> announcedBlocks(const Workbench& workbench) {
+    const ImageState cells = ImageState::of(workbench);
+    return hexPair(cells.text(extensionCountCell)) < 0 ? std::nullopt : std::optional(announcedBlocks(cells.bytes()));
 }
 
 FrmEdid& openScreen(const Workbench& workbench) {
@@ -38,10 +44,10 @@ FrmEdid& openScreen(const Workbench& workbench) {
     return *screen;
 }
 
-/// How many blocks are to be written: those that byte 126 announces. Blocks that it did not announce when the image was
+/// How many blocks are to be written: those that are announced. Blocks that were not announced when the image was
 /// loaded stay until a user announces another number.
 std::size_t blockCount(const std::optional<Image>& loaded, std::size_t announced) {
-    const bool asLoaded = loaded && loaded->announcedExtensions() + 1 == announced;
+    const bool asLoaded = loaded && announcedBlocks(*loaded) == announced;
     return asLoaded ? std::max(announced, loaded->blockCount()) : announced;
 }
 
@@ -50,16 +56,17 @@ std::size_t blockCount(const std::optional<Image>& loaded, std::size_t announced
 Image editedImage(const Workbench& workbench) {
     FrmEdid& edid = openScreen(workbench);
     std::string bytes = bytesOf(edid, 0);
-    const std::size_t announced = *announcedBlocks(edid);
     const std::optional<Image> loaded = Image::fromBytes(workbench.LoadedBytes);
     auto* const extension = static_cast<FrmCeaExt*>(workbench.loaded(ScreenId::CeaExt));
     const std::size_t shown = extension == nullptr ? 1 : Image::editedBlocks;
     const std::size_t held = std::max(shown, loaded ? loaded->blockCount() : 0);
-    if (announced > held) {
-        throw NoImage("announces " + std::to_string(announced) + " blocks, and the program holds " +
+    const std::size_t byByte126 = Image::fromBytes(bytes)->announcedExtensions() + 1;
+    if (byByte126 > held) {
+        throw NoImage("announces " + std::to_string(byByte126) + " blocks, and the program holds " +
                       std::to_string(held));
     }
-    for (std::size_t block = 1; block < blockCount(loaded, announced); ++block) {
+    const std::size_t announced = *announcedBlocks(workbench);
+    for (std::size_t block = 1; block < std::min(held, blockCount(loaded, announced)); ++block) {
         if (block < std::min(shown, announced)) {
             bytes += bytesOf(*extension, BlockScreen::cellCount);
         } else {
@@ -75,7 +82,8 @@ std::size_t furtherBlocks(const Workbench& workbench) {
     if (!loaded) {
         return 0;
     }
-    const std::size_t announced = announcedBlocks(openScreen(workbench)).value_or(loaded->announcedExtensions() + 1);
+    openScreen(workbench); // there must be one
+    const std::size_t announced = announcedBlocks(workbench).value_or(announcedBlocks(*loaded));
     const std::size_t count = std::min(loaded->blockCount(), blockCount(loaded, announced));
     return count - std::min(count, Image::editedBlocks);
 }

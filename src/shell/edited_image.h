@@ -14,8 +14,9 @@ public:
 };
 
 /// The bytes of the cells of the open image, block 0 and, where its byte 126 announces one, the extension block, and
-/// behind them the other blocks as they were loaded: all of them, or as many as byte 126 announces where that was
-/// changed. A cell that is no byte is a NoImage, and so is an announced block that the program does not hold.
+/// behind them the other blocks as they were loaded: all of them, or as many as the image announces where that was
+/// changed. A cell that is no byte is a NoImage, and so is a block that byte 126 announces and the program does not
+/// hold. Those that the override data block alone announces may lack: no data file has more than two blocks.
 Image editedImage(const Workbench& workbench);
 
 /// How many blocks of the open image there are that the cells do not hold and editedImage gives. Without an open image

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "cli/changed_image.h"
 #include "cli/edidwb.h"
 
 namespace wb::test {
@@ -191,6 +192,32 @@ TEST_F(ScriptTest, Byte126TellsHowManyBlocksAreSavedWhereItWasChanged) {
         EXPECT_EQ(read("new.bin").size(), c.size) << c.file << c.count;
         EXPECT_TRUE(outcome.errors.ends_with(c.errors)) << outcome.errors;
         EXPECT_EQ(read("new.bin").substr(128), read(c.file).substr(128, c.size - 128)) << "as they were";
+    }
+}
+
+TEST_F(ScriptTest, TheOverrideOfTheHdmiForumTellsHowManyBlocksAreSavedToo) {
+    write("whole.bin", imageWithOverride(4, 3));
+    write("cut.bin", imageWithOverride(2, 3));
+    struct Case {
+        const char* file;
+        const char* poke;
+        std::size_t size;
+        const char* errors;
+    };
+    for (const Case& c :
+         {Case{"whole.bin", "", 512, ""}, Case{"whole.bin", "poke frmEDID.txtEdit(126) \"02\"", 512, ""},
+          Case{"whole.bin", "poke frmCEA_EXT.txtEdit(6) \"02\"", 384, "edidwb: new.bin: block 3 left out\n"},
+          Case{"whole.bin", "poke frmCEA_EXT.txtEdit(6) \"05\"", 512, ""},
+          Case{"whole.bin", "poke frmEDID.txtEdit(126) \"00\"", 128, "edidwb: new.bin: blocks 1 to 3 left out\n"},
+          Case{"cut.bin", "", 256, ""}}) {
+        write("a.script", "open " + std::string(c.file) + "\n" + c.poke + "\nsave new.bin\n");
+        const Outcome outcome = shell("edidwb script a.script");
+        EXPECT_EQ(outcome.status, 0) << outcome.errors;
+        EXPECT_EQ(read("new.bin").size(), c.size) << c.poke;
+        EXPECT_TRUE(outcome.errors.ends_with(c.errors)) << outcome.errors;
+        if (*c.poke == '\0') {
+            EXPECT_EQ(read("new.bin"), read(c.file));
+        }
     }
 }
 

@@ -223,6 +223,13 @@ TEST(CtaFindings, PassOverAnOverrideThatTellsOfNoBlocks) {
     EXPECT_EQ(countIn(image, "image.blocks_extra"), 0U);
 }
 
+TEST(CtaFindings, PassOverAnOverrideInABlockThatIsNotAnnounced) {
+    ImageOf image(2);
+    image.set(126, {0}).set(128, {0x02, 0x03, 7, 0, 0xE2, 0x78, 3});
+    EXPECT_EQ(countIn(image, "image.blocks_missing"), 0U);
+    EXPECT_EQ(countIn(image, "image.blocks_extra"), 1U);
+}
+
 TEST(CtaFindings, TellOfAnOverrideThatIsNotTheFirstDataBlock) {
     EXPECT_EQ(countIn(ctaWith({0x41, 16, 0xE2, 0x78, 1}), "cta.override_place"), 1U);
     EXPECT_EQ(countIn(ctaWith({0xE2, 0x78, 1, 0x41, 16}), "cta.override_place"), 0U);
