@@ -1,5 +1,6 @@
 #include "cli/image_input.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "adapters/recognise.h"
@@ -12,13 +13,15 @@ namespace wb::cli {
 
 namespace {
 
+/// A log can hold thousands.
 std::string outputsOf(const std::vector<Image>& images) {
+    constexpr std::size_t mostNamed = 20;
     std::string names;
-    for (const Image& image : images) {
-        const std::string& output = image.origin().output;
+    for (std::size_t i = 0; i < std::min(images.size(), mostNamed); ++i) {
+        const std::string& output = images[i].origin().output;
         names += (names.empty() ? "" : ", ") + (output.empty() ? "(without a name)" : output);
     }
-    return names;
+    return images.size() > mostNamed ? names + " and " + std::to_string(images.size() - mostNamed) + " more" : names;
 }
 
 std::string helpOfForms() {

@@ -221,6 +221,9 @@ void writeFile(const std::string& name, std::string_view content, const WriteOpt
         fs::exists(statusBy(&fs::symlink_status, path))) { // a link that leads nowhere too
         throw CliError("exists already (--force replaces it)");
     }
+    if (options.existing == Existing::Require && !fs::exists(status)) {
+        throw CliError(std::strerror(ENOENT));
+    }
     if (fs::exists(status) && !fs::is_regular_file(status)) {
         writeDirectly(path, content);
         return;

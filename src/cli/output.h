@@ -54,7 +54,11 @@ std::string withoutControls(std::string_view text, std::string_view kept = {});
 /// A text of the program in one line: line ends become one blank, other control characters are escaped.
 std::string inOneLine(std::string_view text);
 
-enum class Existing { Refuse, Replace };
+enum class Existing {
+    Refuse,
+    Replace, ///< or begin a new one
+    Require, ///< replace it, and begin no new one where it has gone
+};
 
 struct WriteOptions {
     Existing existing = Existing::Refuse;

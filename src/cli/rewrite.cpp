@@ -150,7 +150,7 @@ private:
             if (options_.backup) {
                 keep(input);
             }
-            writeFile(input.name, written.write(after), {.existing = Existing::Replace, .sync = options_.sync});
+            writeFile(input.name, written.write(after), {.existing = Existing::Require, .sync = options_.sync});
         }
     }
 

@@ -45,6 +45,15 @@ TEST(Output, RefusesAnExistingFileUnlessItIsToBeReplaced) {
     EXPECT_EQ(TemporaryFolder::read(folder.file("a")), "new");
 }
 
+TEST(Output, BeginsNoNewFileWhereOneIsToBeReplaced) {
+    const TemporaryFolder folder;
+    EXPECT_THROW(writeFile(folder.file("a"), "new", Existing::Require), CliError);
+    EXPECT_TRUE(std::filesystem::is_empty(folder.file(".")));
+    folder.write("a", "old");
+    writeFile(folder.file("a"), "new", Existing::Require);
+    EXPECT_EQ(TemporaryFolder::read(folder.file("a")), "new");
+}
+
 TEST(Output, KeepsLinksAndPermissionsOfAReplacedFile) {
     namespace fs = std::filesystem;
     const TemporaryFolder folder;

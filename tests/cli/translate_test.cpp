@@ -58,6 +58,10 @@ TEST_F(TranslateTest, TranslatesEveryImageOfAText) {
     EXPECT_EQ(none.errors, "edidwb: xrandr.txt: has no output 'DP-9'; it has DP-1, HDMI-2\n");
     EXPECT_EQ(shell("edidwb convert --to bin xrandr.txt a.bin").errors,
               "edidwb: xrandr.txt: holds 2 images: DP-1, HDMI-2; --output-name picks one\n");
+    const Outcome many =
+        shell("for i in {1..11}; do cat xrandr.txt; done >many.txt; edidwb convert --to bin many.txt -");
+    EXPECT_THAT(many.errors, HasSubstr(": DP-1, HDMI-2, DP-1, "));
+    EXPECT_THAT(many.errors, HasSubstr("HDMI-2 and 2 more; --output-name picks one\n"));
     EXPECT_EQ(shell("edidwb convert --output-name DP-1 --to bin xrandr.txt a.bin").status, 0);
     EXPECT_EQ(read("a.bin"), sample("zarqo-z40.bin"));
 }
