@@ -70,6 +70,8 @@ constexpr std::array<Row, 6> secondaryGtfRows = {{
 constexpr auto aspects = std::to_array<Choice>({{0, "4:3"}, {1, "16:9"}, {2, "16:10"}, {3, "5:4"}, {4, "15:9"}});
 constexpr auto noLimit = std::to_array<Choice>({{0, "no limit"}});
 
+constexpr Row preferredAspectRow = choiceAt({15, 7, 5}, "preferred_aspect", "Preferred aspect ratio", aspects);
+
 /// VESA E-EDID Standard, Release A, section 3.10.3.3.2.
 constexpr std::array<Row, 19> cvtRows = {{
     {.name = "cvt_version", .label = "Version of CVT", .parts = {{11, 7, 4}}},
@@ -92,11 +94,7 @@ constexpr std::array<Row, 19> cvtRows = {{
     flagAt(14, 4, "aspect_5_4", "5:4 supported"),
     flagAt(14, 3, "aspect_15_9", "15:9 supported"),
     reservedAt(14, 2, 0, "cvt_reserved_14"),
-    {.name = "preferred_aspect",
-     .label = "Preferred aspect ratio",
-     .parts = {{15, 7, 5}},
-     .kind = Kind::Choice,
-     .choices = aspects},
+    preferredAspectRow,
     flagAt(15, 4, "reduced_blanking", "Reduced blanking supported"),
     flagAt(15, 3, "standard_blanking", "Standard blanking supported"),
     reservedAt(15, 2, 0, "cvt_reserved_15"),
@@ -129,9 +127,9 @@ RangeLimits readRates(const Scope& range, unsigned offsetByte) {
 
 void checkCvt(const Scope& range) {
     constexpr auto aspectBits = std::to_array<std::uint8_t>({7, 6, 5, 4, 3});
-    const std::uint64_t preferred = range.raw({{15, 7, 5}});
+    const std::uint64_t preferred = range.raw(preferredAspectRow.parts);
     if (preferred < aspectBits.size() && (range.byte(14) >> aspectBits[preferred] & 1U) == 0) {
-        range.tell(Severity::Warning, "range.preferred_aspect_unsupported", 15, "preferred_aspect",
+        range.tell(Severity::Warning, "range.preferred_aspect_unsupported", 15, preferredAspectRow.name,
                    "The preferred aspect ratio is not among those that are supported, so that software makes timings "
                    "of a ratio that the monitor disclaims; set its bit in byte 14 of the descriptor.");
     }
