@@ -13,8 +13,7 @@ constexpr auto signalLevels = std::to_array<Choice>({{0, "0.700 V and -0.300 V (
                                                      {1, "0.714 V and -0.286 V (1.000 V peak to peak)"},
                                                      {2, "1.000 V and -0.400 V (1.400 V peak to peak)"},
                                                      {3, "0.700 V and 0.000 V (0.700 V peak to peak)"}});
-constexpr std::uint64_t reservedDepth = 7;
-constexpr auto bitDepths = std::to_array<Choice>({{0, "not told"}, {reservedDepth, "reserved"}});
+constexpr auto bitDepths = std::to_array<Choice>({{0, "not told"}, reservedChoice(7)});
 constexpr auto interfaces =
     std::to_array<Choice>({{0, "not told"}, {1, "DVI"}, {2, "HDMI-a"}, {3, "HDMI-b"}, {4, "MDDI"}, {5, "DisplayPort"}});
 
@@ -77,9 +76,6 @@ void readInput(const Scope& base, int revision) {
     const Field& depth = input.add(bitDepthRow);
     if (const auto* bits = std::get_if<std::int64_t>(&depth.value)) {
         summary.bitsPerColor = static_cast<int>(*bits);
-    }
-    if (input.raw(bitDepthRow.parts) == reservedDepth) {
-        input.tellReservedValue(bitDepthRow);
     }
     input.add(interfaceRow);
     const std::uint64_t kind = input.raw(interfaceRow.parts);

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "fields/cta_data_blocks.h"
 
 namespace wb::fields {
@@ -28,13 +30,17 @@ constexpr Row latencyFlag = flagAt(8, 7, "latency_present", "Latencies are told"
 constexpr Row interlacedLatencyFlag =
     flagAt(8, 6, "interlaced_latency_present", "Latencies of interlaced formats are told");
 constexpr Row videoFlag = flagAt(8, 5, "video_present", "HDMI video formats are told");
+/// The deepest first.
+constexpr std::array<Row, 3> deepColorRows = {{flagAt(6, 6, "deep_color_48", "Deep colour, 48 bit"),
+                                               flagAt(6, 5, "deep_color_36", "Deep colour, 36 bit"),
+                                               flagAt(6, 4, "deep_color_30", "Deep colour, 30 bit")}};
 constexpr std::array<Row, 18> headRows = {{
     ouiRow(1),
     addressRow,
     flagAt(6, 7, "supports_ai", "Takes ACP, ISRC1 or ISRC2 packets"),
-    flagAt(6, 6, "deep_color_48", "Deep colour, 48 bit"),
-    flagAt(6, 5, "deep_color_36", "Deep colour, 36 bit"),
-    flagAt(6, 4, "deep_color_30", "Deep colour, 30 bit"),
+    deepColorRows[0],
+    deepColorRows[1],
+    deepColorRows[2],
     flagAt(6, 3, "deep_color_444", "Deep colour also in YCbCr 4:4:4"),
     reservedAt(6, 2, 1, "reserved_1"),
     flagAt(6, 0, "dvi_dual", "DVI dual link"),
@@ -49,11 +55,10 @@ constexpr std::array<Row, 18> headRows = {{
     flagAt(8, 0, "content_graphics", "Processes content type graphics"),
 }};
 constexpr std::size_t headEnd = 9;
-constexpr Parts deepColors = {{6, 6, 4}};
 
 /// In steps of 2 ms, of which the first stands for 0 ms.
 constexpr auto latencyWords = std::to_array<Choice>(
-    {{0, "not told"}, {252, "reserved"}, {253, "reserved"}, {254, "reserved"}, {255, "not supported"}});
+    {{0, "not told"}, reservedChoice(252), reservedChoice(253), reservedChoice(254), {255, "not supported"}});
 constexpr Row latencyRow(std::size_t offset, std::string_view name, std::string_view label) {
     return {.name = name,
             .label = label,
@@ -72,8 +77,7 @@ constexpr std::array<Row, 2> interlacedLatencyRows = {
 /// HDMI 1.4b, table 8-17.
 constexpr auto multiWords = std::to_array<Choice>({{0, "none"},
                                                    {1, "structures for the first 16 video descriptors"},
-                                                   {2, "structures for those video descriptors that a mask names"},
-                                                   {3, "reserved"}});
+                                                   {2, "structures for those video descriptors that a mask names"}});
 constexpr auto imageSizes = std::to_array<Choice>({{0, "not told"},
                                                    {1, "of the right aspect ratio in block 0"},
                                                    {2, "right in block 0, in cm"},
@@ -145,7 +149,8 @@ constexpr std::array<Row, 2> detailRows = {{
 }};
 constexpr std::uint64_t firstWithDetail = 8;
 
-enum class Multi { None = 0, All = 1, Masked = 2 };
+/// The reserved value announces neither structures nor a mask.
+enum class Multi { None = 0, All = 1, Masked = 2, Reserved = 3 };
 
 void readMask(const Scope& scope) {
     for (unsigned bit = 0; bit < 16; ++bit) {
@@ -154,81 +159,110 @@ void readMask(const Scope& scope) {
     }
 }
 
-/// The bytes about 3D from `offset` up to `end`.
-void read3d(const Scope& content, std::size_t offset, std::size_t end, Multi multi) {
-    const auto fits = [&] { return end - offset >= 2; };
-    if (multi != Multi::None && fits()) {
-        content.from(offset).add(allStructureRows);
-        offset += 2;
-    }
-    if (multi == Multi::Masked && fits()) {
-        readMask(content.from(offset));
-        offset += 2;
-    }
-    for (std::size_t number = 1; offset < end; ++number) {
-        const Scope entry = content.inner(offset, numbered("three_d", number));
-        const bool detailed = entry.raw(structureRow.parts) >= firstWithDetail && fits();
-        entry.add(structureRows);
-        if (detailed) {
-            entry.add(detailRows);
-        }
-        offset += detailed ? 2 : 1;
-    }
-}
+/// Reads what follows the head of a data block, as far as flags and lengths announce it and it is there.
+class TailReader {
+public:
+    TailReader(const Scope& content, std::size_t end) : content_(content), end_(end) {}
 
-void readVics(const Scope& content, std::size_t offset, std::size_t end) {
-    for (std::size_t number = 1; offset < end; ++number, ++offset) {
-        content.add(
-            {.name = numbered("vic", number), .label = "HDMI video code", .parts = {{offset}}, .read = describeVic});
-        if (const VideoFormat* format = hdmiFormat(content.byte(offset))) {
-            content.summary().modes.push_back(modeOf(*format, false));
+    void read() {
+        readLatencies(latencyFlag, latencyRows);
+        readLatencies(interlacedLatencyFlag, interlacedLatencyRows);
+        if (content_.raw(videoFlag.parts) != 0 && has(videoHeadSize, end_)) {
+            readVideo();
+        }
+        content_.addBytes(offset_, end_, "padding", "Further bytes");
+        if (isCut_) {
+            content_.tell(Severity::Error, "cta.hdmi_short", 0, "oui",
+                          "The HDMI data block ends before all that its flags and lengths announce, so that readers "
+                          "refuse or misread it; complete it or clear the flags.");
         }
     }
-}
 
-void tellOfCut(const Scope& content) {
-    content.tell(Severity::Error, "cta.hdmi_short", 0, "oui",
-                 "The HDMI data block ends before all that its flags and lengths announce, so that readers refuse or "
-                 "misread it; complete it or clear the flags.");
-}
+private:
+    /// Whether that many bytes, which are announced, stand before `end`.
+    bool has(std::size_t count, std::size_t end) {
+        const bool isThere = offset_ + count <= end;
+        isCut_ = isCut_ || !isThere;
+        return isThere;
+    }
 
-/// Video formats and 3D; tells the offset after them.
-std::size_t readVideo(const Scope& content, std::size_t offset, std::size_t end) {
-    if (end - offset < 2) {
-        tellOfCut(content);
-        return offset;
-    }
-    const Scope head = content.from(offset);
-    head.add(videoRows);
-    const std::size_t vics = offset + 2;
-    const std::size_t start3d = vics + head.raw(vicLengthRow.parts);
-    const std::size_t end3d = start3d + head.raw(lengthRow3d.parts);
-    if (end3d > end) {
-        tellOfCut(content);
-    }
-    readVics(content, vics, std::min(start3d, end));
-    if (start3d < end) {
-        read3d(content, start3d, std::min(end3d, end), static_cast<Multi>(head.raw(multiRow.parts)));
-    }
-    return std::min(end3d, end);
-}
+    /// Where that many bytes end, which are announced and may be cut.
+    std::size_t endOf(std::size_t count) { return has(count, end_) ? offset_ + count : end_; }
 
-/// What follows the head, as far as its flags announce it; tells the offset after that.
-std::size_t readTail(const Scope& content, std::size_t end) {
-    std::size_t offset = headEnd;
-    const auto readLatencies = [&](const Row& flag, std::span<const Row> rows) {
-        if (content.raw(flag.parts) != 0) {
-            content.from(offset).add(rows, end - offset);
-            if (end - offset < rows.size()) {
-                tellOfCut(content);
+    void readLatencies(const Row& flag, std::span<const Row> rows) {
+        if (content_.raw(flag.parts) != 0) {
+            content_.from(offset_).add(rows, end_ - offset_);
+            offset_ = endOf(rows.size());
+        }
+    }
+
+    /// Video formats and 3D.
+    void readVideo() {
+        const Scope head = content_.from(offset_);
+        head.add(videoRows);
+        offset_ += videoHeadSize;
+        readVics(endOf(head.raw(vicLengthRow.parts)));
+        read3d(endOf(head.raw(lengthRow3d.parts)), static_cast<Multi>(head.raw(multiRow.parts)));
+    }
+
+    void readVics(std::size_t end) {
+        for (std::size_t number = 1; offset_ < end; ++number, ++offset_) {
+            content_.add({.name = numbered("vic", number),
+                          .label = "HDMI video code",
+                          .parts = {{offset_}},
+                          .read = describeVic});
+            if (const VideoFormat* format = hdmiFormat(content_.byte(offset_))) {
+                content_.summary().modes.push_back(modeOf(*format, false));
             }
-            offset = std::min(offset + rows.size(), end);
         }
-    };
-    readLatencies(latencyFlag, latencyRows);
-    readLatencies(interlacedLatencyFlag, interlacedLatencyRows);
-    return content.raw(videoFlag.parts) != 0 ? readVideo(content, offset, end) : offset;
-}
+    }
+
+    void read3d(std::size_t end, Multi multi) {
+        const bool isMasked = multi == Multi::Masked;
+        const bool isWhole = (!isMasked && multi != Multi::All) || readCommon(end, isMasked);
+        if (isWhole) {
+            readStructures(end);
+        }
+        content_.addBytes(offset_, end, "three_d_rest", "Further bytes about 3D");
+        offset_ = end;
+    }
+
+    /// The structures that formats have in common, and which formats these are; tells whether all of it is there.
+    bool readCommon(std::size_t end, bool isMasked) {
+        if (!has(pairSize, end)) {
+            return false;
+        }
+        content_.from(offset_).add(allStructureRows);
+        offset_ += pairSize;
+        if (isMasked && has(pairSize, end)) {
+            readMask(content_.from(offset_));
+            offset_ += pairSize;
+            return true;
+        }
+        return !isMasked;
+    }
+
+    void readStructures(std::size_t end) {
+        for (std::size_t number = 1; offset_ < end; ++number) {
+            const Scope entry = content_.inner(offset_, numbered("three_d", number));
+            const bool isDetailed = entry.raw(structureRow.parts) >= firstWithDetail && has(pairSize, end);
+            entry.add(structureRows);
+            if (isDetailed) {
+                entry.add(detailRows);
+            }
+            offset_ += isDetailed ? pairSize : 1;
+        }
+    }
+
+    static constexpr std::size_t videoHeadSize = 2;
+    /// Bytes of the common structures, of the mask, and of a structure with its detail.
+    static constexpr std::size_t pairSize = 2;
+
+    const Scope& content_;
+    std::size_t end_;
+    std::size_t offset_ = headEnd;
+    bool isCut_ = false;
+};
 
 void checkAddress(const Scope& content) {
     const auto raw = static_cast<unsigned>(content.raw(addressRow.parts));
@@ -253,9 +287,10 @@ void checkAddress(const Scope& content) {
 
 void checkHead(const Scope& content, std::size_t end) {
     checkAddress(content);
-    const bool deepColor = end > 6 && content.raw(deepColors) != 0;
-    if (deepColor && (end <= 7 || content.byte(7) == 0)) {
-        content.tell(Severity::Warning, "cta.deep_color_without_clock", 6, "deep_color_36",
+    const auto* deepest = std::find_if(deepColorRows.begin(), deepColorRows.end(),
+                                       [&](const Row& row) { return end > 6 && content.raw(row.parts) != 0; });
+    if (deepest != deepColorRows.end() && (end <= 7 || content.byte(7) == 0)) {
+        content.tell(Severity::Warning, "cta.deep_color_without_clock", 6, deepest->name,
                      "Deep colour is told but no highest TMDS clock, so that sources keep to 165 MHz and do not use "
                      "it; tell the clock.");
     }
@@ -287,8 +322,8 @@ void readHdmi(const DataBlock& block) {
     }
     checkHead(content, block.end);
     summarize(content, block.end);
-    if (block.end > headEnd) {
-        content.addBytes(readTail(content, block.end), block.end, "padding", "Further bytes");
+    if (block.end >= headEnd) {
+        TailReader(content, block.end).read();
     }
 }
 

@@ -45,12 +45,17 @@ constexpr auto interfaces = std::to_array<Choice>({{0x00, "analog, VGA connector
                                                    {0xB0, "M1, analog"},
                                                    {0xC0, "M1, digital"}});
 
+void describeInterface(const Scope& scope, std::uint64_t raw, Field& field);
+constexpr Row interfaceRow = {.name = "interface", .label = "Interface", .parts = {{2}}, .read = describeInterface};
+
 /// The low digit counts lanes or links, but for analog interfaces.
-void describeInterface(const Scope&, std::uint64_t raw, Field& field) {
+void describeInterface(const Scope& scope, std::uint64_t raw, Field& field) {
     const bool analog = raw < 0x10;
     const std::string_view words = choiceText(interfaces, analog ? raw : raw & 0xF0U);
     field.text = words.empty() ? "reserved (" + std::to_string(raw) + ")" : std::string(words);
-    if (!analog && !words.empty()) {
+    if (words.empty()) {
+        scope.tellReservedValue(interfaceRow);
+    } else if (!analog) {
         field.text += ", lanes or links: " + std::to_string(raw & 15U);
     }
     field.value = field.text;
@@ -63,8 +68,8 @@ constexpr auto rotations = std::to_array<Choice>(
     {{0, "none"}, {1, "90 degrees clockwise"}, {2, "90 degrees counterclockwise"}, {3, "90 degrees either way"}});
 constexpr auto zeroPixels =
     std::to_array<Choice>({{0, "upper left"}, {1, "upper right"}, {2, "lower left"}, {3, "lower right"}});
-constexpr auto scanDirections = std::to_array<Choice>(
-    {{0, "not defined"}, {1, "fast along the long side"}, {2, "fast along the short side"}, {3, "reserved"}});
+constexpr auto scanDirections =
+    std::to_array<Choice>({{0, "not defined"}, {1, "fast along the long side"}, {2, "fast along the short side"}});
 constexpr auto ditherings = std::to_array<Choice>({{0, "none"}, {1, "spatial"}, {2, "temporal"}, {3, "both"}});
 constexpr auto conversions =
     std::to_array<Choice>({{0, "none"}, {1, "one buffer"}, {2, "two buffers"}, {3, "between frames"}});
@@ -83,7 +88,7 @@ constexpr auto responses = std::to_array<Choice>({{0, "black to white"}, {1, "wh
 
 /// VESA Display Device Data Block Standard, version 1.
 constexpr std::array<Row, 36> deviceRows = {{
-    {.name = "interface", .label = "Interface", .parts = {{2}}, .read = describeInterface},
+    interfaceRow,
     {.name = "interface_version", .label = "Version of the interface", .parts = {{3}}, .read = describeVersion},
     choiceAt({4}, "content_protection", "Content protection", protections),
     {.name = "min_clock", .label = "Least clock", .parts = {{5, 7, 2}}, .unit = "MHz"},

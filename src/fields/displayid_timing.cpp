@@ -7,7 +7,7 @@ namespace wb::fields {
 
 namespace {
 
-constexpr auto stereos = std::to_array<Choice>({{0, "none"}, {1, "stereo"}, {2, "as the user wants"}, {3, "reserved"}});
+constexpr auto stereos = std::to_array<Choice>({{0, "none"}, {1, "stereo"}, {2, "as the user wants"}});
 constexpr auto aspects = std::to_array<Choice>({{0, "1:1"},
                                                 {1, "5:4"},
                                                 {2, "4:3"},

@@ -72,6 +72,17 @@ std::size_t cutOf(std::span<const Row> rows, std::size_t end) {
     return cut;
 }
 
+const Choice* choiceOf(std::span<const Choice> choices, std::uint64_t raw) {
+    const auto found =
+        std::find_if(choices.begin(), choices.end(), [&](const Choice& choice) { return choice.raw == raw; });
+    return found == choices.end() ? nullptr : &*found;
+}
+
+bool isReservedValue(const Row& row, std::uint64_t raw) {
+    const Choice* choice = choiceOf(row.choices, raw);
+    return choice == nullptr ? row.kind == Kind::Choice : choice->isReserved;
+}
+
 void readText(const std::string& characters, Field& field) {
     field.value = codePageToUtf8(characters);
     field.text = printable(characters);
@@ -156,7 +167,7 @@ Field& Scope::add(const Row& row) const {
     }
     if (row.kind == Kind::Reserved) {
         checkReserved(row);
-    } else if (row.kind == Kind::Choice && choiceText(row.choices, bits).empty()) {
+    } else if (isReservedValue(row, bits)) {
         tellReservedValue(row);
     }
     reading_->fields.push_back(std::move(field));
@@ -195,9 +206,8 @@ void Scope::checkReserved(const Row& row) const {
 }
 
 std::string_view choiceText(std::span<const Choice> choices, std::uint64_t raw) {
-    const auto found =
-        std::find_if(choices.begin(), choices.end(), [&](const Choice& choice) { return choice.raw == raw; });
-    return found == choices.end() ? std::string_view() : found->text;
+    const Choice* choice = choiceOf(choices, raw);
+    return choice == nullptr ? std::string_view() : choice->text;
 }
 
 bool allZero(std::span<const std::uint8_t> bytes) {

@@ -39,10 +39,17 @@ private:
 struct Choice {
     std::uint64_t raw;
     std::string_view text;
+    bool isReserved = false; ///< whether no standard gave it a meaning
 };
 
+/// A value among those of a Number to which no standard gave a meaning.
+constexpr Choice reservedChoice(std::uint64_t raw) {
+    return {raw, "reserved", true};
+}
+
 enum class Kind {
-    Number,   ///< raw * scale + bias; a raw value that `choices` names has that text instead, and no value
+    Number,   ///< raw * scale + bias; a raw value that `choices` names has that text instead, and no value, and is
+              ///< told as a finding where it is reserved
     Signed,   ///< the same, the raw value in two's complement
     Flag,     ///< one bit, "yes" or "no"
     Choice,   ///< one of `choices`; any other raw value is reserved, which is told as a finding

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <ostream>
 
@@ -34,6 +35,13 @@ ImageOf withBits(const ImageOf& image, std::size_t place, unsigned high, unsigne
     return ImageOf(image).set(place, {static_cast<int>(others | value << low)});
 }
 
+/// Whether a finding tells that the value of the field has no meaning.
+bool isToldAsReserved(const Reading& reading, const std::string& path) {
+    return std::any_of(reading.findings.begin(), reading.findings.end(), [&](const Finding& finding) {
+        return finding.code == "field.reserved_value" && finding.path == path;
+    });
+}
+
 class ChoiceFields : public testing::TestWithParam<Choices> {};
 
 TEST_P(ChoiceFields, HaveWordsForTheValuesOfTheStandardAlone) {
@@ -41,8 +49,9 @@ TEST_P(ChoiceFields, HaveWordsForTheValuesOfTheStandardAlone) {
     for (unsigned value = 0; value < 1U << (tried.high - tried.low + 1); ++value) {
         const Reading reading = withBits(tried.image, tried.place, tried.high, tried.low, value).reading();
         const auto words = tried.words.find(value);
-        EXPECT_EQ(fieldOf(reading, tried.path).text,
-                  words == tried.words.end() ? "reserved (" + std::to_string(value) + ")" : words->second);
+        const std::string& text = fieldOf(reading, tried.path).text;
+        EXPECT_EQ(text, words == tried.words.end() ? "reserved (" + std::to_string(value) + ")" : words->second);
+        EXPECT_EQ(isToldAsReserved(reading, tried.path), text.starts_with("reserved")) << text;
     }
 }
 
@@ -248,8 +257,7 @@ const std::vector<Choices> cta = {
      5,
      {{0, "none"},
       {1, "structures for the first 16 video descriptors"},
-      {2, "structures for those video descriptors that a mask names"},
-      {3, "reserved"}}},
+      {2, "structures for those video descriptors that a mask names"}}},
     {"cta[1].hdmi.image_size",
      hdmi,
      141,
@@ -353,7 +361,7 @@ const std::vector<Choices> vesa = {
      144,
      1,
      0,
-     {{0, "not defined"}, {1, "fast along the long side"}, {2, "fast along the short side"}, {3, "reserved"}}},
+     {{0, "not defined"}, {1, "fast along the long side"}, {2, "fast along the short side"}}},
     {"cta[1].display_device.subpixels",
      device,
      145,
@@ -420,7 +428,7 @@ const std::vector<Choices> displayId = {
      139,
      6,
      5,
-     {{0, "none"}, {1, "stereo"}, {2, "as the user wants"}, {3, "reserved"}}},
+     {{0, "none"}, {1, "stereo"}, {2, "as the user wants"}}},
     {"displayid[1].type_i.timing[1].aspect_ratio",
      displayIdTiming,
      139,
@@ -502,6 +510,7 @@ TEST(NumbersWithWords, HaveThemForTheValuesOfTheStandard) {
         for (const auto& [value, text] : tried.words) {
             const Reading reading = ImageOf(tried.image).set(tried.place, {static_cast<int>(value)}).reading();
             EXPECT_EQ(fieldOf(reading, tried.path).text, text) << tried.path << " of " << value;
+            EXPECT_EQ(isToldAsReserved(reading, tried.path), text == "reserved") << tried.path << " of " << value;
         }
     }
 }

@@ -166,6 +166,24 @@ TEST(CtaHdmi, IsReadToItsLastBit) {
     EXPECT_EQ(countOf(reading, "cta.hdmi_short"), 0U);
 }
 
+TEST(CtaHdmi, HasNoCommonStructuresByAReservedValue) {
+    const Reading reading =
+        ctaWith({0x6D, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x00, 0x3C, 0x20, 0x60, 0x02, 0x01, 0x16, 0x00}).reading();
+    expectTexts(reading, {{"hdmi.three_d_multi", "reserved (3)"},
+                          {"hdmi.three_d[1].video", "1"},
+                          {"hdmi.three_d[1].structure", "field alternative"},
+                          {"hdmi.three_d[2].video", "2"},
+                          {"hdmi.three_d[2].structure", "top and bottom"}});
+    EXPECT_FALSE(hasField(reading, "cta[1].hdmi.three_d_all.side_by_side_half"));
+}
+
+TEST(CtaHdmi, AddsTheFormatsOfItsCodesToTheModes) {
+    const ImageOf image =
+        ctaWith({0x6F, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x00, 0x3C, 0x20, 0x00, 0xA0, 0x01, 0x02, 0x03, 0x04, 0x05});
+    EXPECT_EQ(modesOf(image.reading()),
+              (Modes{"3840x2160@30000", "3840x2160@25000", "3840x2160@24000", "4096x2160@24000"}));
+}
+
 TEST(CtaHdmi, OfTheForumIsReadToItsLastBit) {
     const Reading reading =
         ctaWith({0x65, 0x03, 0x0C, 0x00, 0x10, 0x00, //

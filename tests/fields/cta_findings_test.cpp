@@ -171,6 +171,16 @@ TEST(CtaFindings, TellOfDeepColourWithoutAClock) {
     EXPECT_EQ(countIn(ctaWith({0x66, 0x03, 0x0C, 0x00, 0x10, 0x00, 0x80}), "cta.deep_color_without_clock"), 0U);
 }
 
+TEST(CtaFindings, NameTheDeepestColourThatIsToldWithoutAClock) {
+    const auto pathOf = [](int flags) {
+        return findingOf(ctaWith({0x66, 0x03, 0x0C, 0x00, 0x10, 0x00, flags}).reading(), "cta.deep_color_without_clock")
+            .path;
+    };
+    EXPECT_EQ(pathOf(0x70), "cta[1].hdmi.deep_color_48");
+    EXPECT_EQ(pathOf(0x30), "cta[1].hdmi.deep_color_36");
+    EXPECT_EQ(pathOf(0x10), "cta[1].hdmi.deep_color_30");
+}
+
 TEST(CtaFindings, TellOfLatenciesOfInterlacedFormatsAlone) {
     EXPECT_EQ(countIn(ctaWith({0x6A, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x40, 1, 1}), "cta.latency_flags"), 1U);
     EXPECT_EQ(countIn(ctaWith({0x6C, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0xC0, 1, 1, 1, 1}), "cta.latency_flags"), 0U);
@@ -181,6 +191,40 @@ TEST(CtaFindings, TellOfAnHdmiBlockThatEndsBeforeWhatItAnnounces) {
     EXPECT_EQ(countIn(ctaWith({0x6A, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x80, 1, 1}), "cta.hdmi_short"), 0U);
     EXPECT_EQ(countIn(ctaWith({0x6B, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x20, 0, 0x40, 1}), "cta.hdmi_short"), 1U);
     EXPECT_EQ(countIn(ctaWith({0x6C, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 0, 0x20, 0, 0x40, 1, 2}), "cta.hdmi_short"), 0U);
+}
+
+TEST(CtaFindings, TellOfAnHdmiBlockThatEndsAtItsFlags) {
+    const auto withFlags = [](int flags) {
+        return countIn(ctaWith({0x68, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 60, flags}), "cta.hdmi_short");
+    };
+    EXPECT_EQ(withFlags(0x00), 0U);
+    EXPECT_EQ(withFlags(0x0F), 0U);
+    EXPECT_EQ(withFlags(0x80), 1U);
+    EXPECT_EQ(withFlags(0x20), 1U);
+    // Once, however much is missing.
+    EXPECT_EQ(withFlags(0xE0), 1U);
+}
+
+TEST(CtaFindings, TellOfBytesAbout3dThatAreCut) {
+    const auto with3d = [](std::initializer_list<int> tail) {
+        ImageOf image = ctaWith({0x6F, 0x03, 0x0C, 0x00, 0x10, 0x00, 0, 60, 0x20, 0, 0, 0, 0, 0, 0, 0});
+        return image.set(132, {0x68 + static_cast<int>(tail.size())}).set(141, tail);
+    };
+    const auto isCut = [&](std::initializer_list<int> tail) { return countIn(with3d(tail), "cta.hdmi_short"); };
+    // The detail of a structure that has one.
+    EXPECT_EQ(isCut({0x80, 0x01, 0x28}), 1U);
+    EXPECT_EQ(isCut({0x80, 0x02, 0x28, 0x10}), 0U);
+    EXPECT_EQ(isCut({0x80, 0x01, 0x26}), 0U);
+    // Structures of all formats, and the mask.
+    EXPECT_EQ(isCut({0xA0, 0x00}), 1U);
+    EXPECT_EQ(isCut({0xA0, 0x01, 0x00}), 1U);
+    EXPECT_EQ(isCut({0xA0, 0x02, 0x00, 0x41}), 0U);
+    EXPECT_EQ(isCut({0xC0, 0x03, 0x00, 0x41, 0x00}), 1U);
+    EXPECT_EQ(isCut({0xC0, 0x04, 0x00, 0x41, 0x00, 0x03}), 0U);
+    // What is left of them is no structure of one format.
+    const Reading cut = with3d({0xC0, 0x03, 0x00, 0x41, 0x05}).reading();
+    EXPECT_EQ(textOf(cut, "cta[1].hdmi.three_d_rest"), "05");
+    EXPECT_FALSE(hasField(cut, "cta[1].hdmi.three_d[1].structure"));
 }
 
 TEST(CtaFindings, TellOfTheHdmiForumWithoutHdmi) {
