@@ -72,12 +72,13 @@ void tellOfSync(const Scope& scope, const Row& porch, const Row& sync, const Row
     }
 }
 
+/// Lines count those of a whole picture, also where it is interlaced.
 Mode modeOf(const Scope& scope, std::int64_t clockKilohertz) {
     const auto number = [&](const Row& row) { return static_cast<int>(scope.raw(row.parts)) + 1; };
     const bool interlaced = scope.raw(interlacedRow.parts) != 0;
     const int total = number(hActive) + number(hBlank);
     const int lines = number(vActive) + number(vBlank);
-    const double pixels = static_cast<double>(total) * lines;
+    const double pixels = static_cast<double>(total) * lines / (interlaced ? 2 : 1);
     return {.source = ModeSource::Detailed,
             .width = number(hActive),
             .height = number(vActive),

@@ -41,6 +41,14 @@ TEST(DisplayId, ReadsTimings) {
     EXPECT_TRUE(reading.summary.modes[0].native);
 }
 
+TEST(DisplayId, CountsTheFieldsOfInterlacedTimings) {
+    // 1920 x 1080 at 74.25 MHz of 2200 x 1125: 7425 - 1 = 0x1D00.
+    const Reading reading = displayIdWith(0x12, typeI).set(136, {0x00, 0x1D, 0x00, 0x14}).reading();
+    EXPECT_EQ(textOf(reading, "displayid[1].type_i.timing[1].interlaced"), "yes");
+    EXPECT_EQ(modesOf(reading), Modes{"1920x1080i@60000"});
+    EXPECT_EQ(reading.summary.modes.at(0).verticalTotal, 1125);
+}
+
 TEST(DisplayId, ReadsProducts) {
     const Reading first =
         displayIdWith(0x12, {0x00, 0, 15, 'A', 'B', 'C', 0x34, 0x12, 0x01, 0x02, 0x00, 0x00, 12, 20, 3, 'X', 'y', '1'})
