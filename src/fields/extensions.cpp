@@ -30,6 +30,9 @@ constexpr auto kinds = std::to_array<ExtensionKind>({
     {0x50, "localized string extension"},
     {0x60, "microdisplay interface extension"},
     {0x70, "DisplayID extension", "displayid", "DisplayID 1.3, 3", readDisplayId},
+    {0xA7, "display transfer characteristics extension"},
+    {0xAF, "display transfer characteristics extension"},
+    {0xBF, "display transfer characteristics extension"},
     {blockMapTag, "block map", "map", "E-EDID 1.4, 3.14", readBlockMap},
     {0xFF, "manufacturer's extension"},
 });

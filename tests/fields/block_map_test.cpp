@@ -42,6 +42,12 @@ TEST(Extensions, OfAnUnknownTagAreTold) {
     EXPECT_EQ(countOf(ImageOf(2).set(128, {0x33}).reading(), "extension.unknown"), 1U);
     EXPECT_EQ(countOf(ImageOf(2).set(128, {0x40}).reading(), "extension.unknown"), 0U);
     EXPECT_EQ(textOf(ImageOf(2).set(128, {0x40}).reading(), "extension[1].tag"), "64");
+    for (const int tag : {0xA7, 0xAF, 0xBF}) {
+        const Reading transfer = ImageOf(2).set(128, {tag}).reading();
+        EXPECT_EQ(countOf(transfer, "extension.unknown"), 0U);
+        EXPECT_EQ(transfer.blocks.at(1).name, "display transfer characteristics extension");
+    }
+    EXPECT_EQ(countOf(ImageOf(2).set(128, {0xA8}).reading(), "extension.unknown"), 1U);
 }
 
 } // namespace
