@@ -33,7 +33,7 @@ void checkEntry(const Scope& block, std::size_t offset, const std::string& name)
 
 } // namespace
 
-void readBlockMap(const Scope& block) {
+void readBlockMap(const Scope& block, CtaExtensions& /*before*/) {
     block.add({.name = "tag", .label = "Extension tag", .parts = {{0}}});
     for (std::size_t offset = 1; offset <= lastEntry; ++offset) {
         const std::string name = numbered("block", block.block() + offset);

@@ -116,7 +116,7 @@ void checkKind(const Scope& header, const DataBlockKind& kind, std::size_t begin
                         " bytes of content, so that readers refuse or misread it; complete it or take it out.",
                     kind.clause);
     }
-    if (kind.once && state.kinds[kind.name] > 1) {
+    if (kind.once && state.kinds[kind.name] + state.earlierKinds[kind.name] > 1) {
         header.tell(Severity::Warning, "cta.data_block_repeated", 0, "tag",
                     "The " + nameOf(header, kind) +
                         " is not the first of its kind, and readers differ in which one they take; keep a single one.",

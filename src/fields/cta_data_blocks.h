@@ -18,11 +18,12 @@ struct ReadVideoCode {
 struct CtaState {
     std::string_view limit;  ///< what sets the end of the data blocks
     unsigned flags = 0;      ///< byte 3 of the extension
-    std::size_t timings = 0; ///< detailed timings of block 0 and of the extension
+    std::size_t timings = 0; ///< detailed timings of block 0, of the extensions before and of this one
     std::size_t dataBlocks = 0;
-    std::map<std::string_view, std::size_t> kinds{}; ///< how many of each kind, by the name of the kind
-    std::vector<ReadVideoCode> videoCodes{};         ///< of the short video descriptors in their order
-    std::vector<ReadVideoCode> videoCodes420{};      ///< of those for YCbCr 4:2:0 alone
+    std::map<std::string_view, std::size_t> kinds{};        ///< how many of each kind, by the name of the kind
+    std::map<std::string_view, std::size_t> earlierKinds{}; ///< the same of the extensions before
+    std::vector<ReadVideoCode> videoCodes{};                ///< of the short video descriptors in their order
+    std::vector<ReadVideoCode> videoCodes420{};             ///< of those for YCbCr 4:2:0 alone
     std::size_t audioDescriptors = 0;
     int mostPcmChannels = 0; ///< of the descriptors of L-PCM
     std::size_t preferences = 0;
@@ -42,9 +43,6 @@ struct DataBlock {
 };
 
 bool hasCode(const std::vector<ReadVideoCode>& codes, std::uint8_t code);
-
-/// The rules that hold between the parts of an extension; `header` is the scope of its header.
-void checkCta(const Scope& extension, const Scope& header, const CtaState& state);
 
 /// Reads the data blocks from `offset` of the extension up to `end`.
 void readDataBlocks(const Scope& extension, std::size_t offset, std::size_t end, CtaState& state);

@@ -73,33 +73,48 @@ std::size_t timingsOfBlock0(const Image& image) {
     return count;
 }
 
-void readBody(const Scope& block, const Scope& header, unsigned revision, unsigned offset) {
+/// What an extension starts from, after those before it.
+CtaState stateAfter(const CtaExtensions& before, const Image& image) {
     CtaState state{.limit = "the timing offset"};
-    state.flags = revision >= flagRevision ? block.byte(extensionCells::support) : 0;
+    if (before.empty()) {
+        state.timings = timingsOfBlock0(image);
+        return state;
+    }
+    const CtaState& last = before.back().state;
+    state.timings = last.timings;
+    state.earlierKinds = last.earlierKinds;
+    for (const auto& [kind, count] : last.kinds) {
+        state.earlierKinds[kind] += count;
+    }
+    return state;
+}
+
+void readBody(const Scope& block, const Scope& header, unsigned revision, CtaExtensions& before) {
+    const std::size_t offset = block.byte(extensionCells::timingOffset);
     if (offset > 0 && offset < firstByte) {
         block.addBytes(firstByte, lastEnd, "bytes", "Bytes without a place for timings");
         return;
     }
+    CtaState state = stateAfter(before, block.reading().image);
+    state.flags = revision >= flagRevision ? block.byte(extensionCells::support) : 0;
     const std::size_t dataEnd = offset == 0 ? firstByte : std::min<std::size_t>(offset, lastEnd);
     if (revision < dataBlockRevision) {
         block.addBytes(firstByte, dataEnd, "reserved", "Reserved", Kind::Reserved);
     } else {
         readDataBlocks(block, firstByte, dataEnd, state);
     }
-    const std::size_t timingsBefore = timingsOfBlock0(block.reading().image);
     const std::size_t native = revision >= flagRevision ? header.raw(nativeCountRow.parts) : 0;
-    state.timings = timingsBefore;
     if (offset == 0) {
         readPadding(block, firstByte, "cta.padding_not_zero", "the header, with no offset of timings,");
     } else {
-        state.timings += readTimings(block, dataEnd, native > timingsBefore ? native - timingsBefore : 0);
+        state.timings += readTimings(block, dataEnd, native > state.timings ? native - state.timings : 0);
     }
-    checkCta(block, header, state);
+    before.push_back({block, std::move(state)});
 }
 
 } // namespace
 
-void readCta(const Scope& block) {
+void readCta(const Scope& block, CtaExtensions& before) {
     const Scope header = block.inner(0, "header");
     const unsigned revision = block.byte(extensionCells::version);
     const unsigned offset = block.byte(extensionCells::timingOffset);
@@ -110,7 +125,7 @@ void readCta(const Scope& block) {
         header.add(noFlagsRow);
     }
     checkHead(header, revision, offset);
-    readBody(block, header, revision, offset);
+    readBody(block, header, revision, before);
 }
 
 } // namespace wb::fields

@@ -388,7 +388,7 @@ void describeVersion(const Scope&, std::uint64_t raw, Field& field) {
     field.value = field.text;
 }
 
-void readDisplayId(const Scope& block) {
+void readDisplayId(const Scope& block, CtaExtensions& /*before*/) {
     const Scope header = block.inner(0, "header");
     header.add(headRows);
     header.add(block.byte(1) < firstVersion2 ? typeRow : useRow);

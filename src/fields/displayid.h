@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fields/scope.h"
+#include "fields/extensions.h"
 
 namespace wb::fields {
 
@@ -15,6 +15,6 @@ void readDisplayIdTiming(const Scope& scope, int kilohertz);
 void describeVersion(const Scope& scope, std::uint64_t raw, Field& field);
 
 /// A DisplayID section in an extension block (VESA DisplayID 1.3 and 2.0).
-void readDisplayId(const Scope& block);
+void readDisplayId(const Scope& block, CtaExtensions& before);
 
 } // namespace wb::fields

@@ -10,14 +10,14 @@ namespace wb::fields {
 
 namespace {
 
-void readBytes(const Scope& block);
+void readBytes(const Scope& block, CtaExtensions& before);
 
 struct ExtensionKind {
     std::uint8_t tag;
     std::string_view name;
     std::string_view path = "extension";
     std::string_view clause = "E-EDID 1.4, 2.2.1";
-    void (*read)(const Scope& block) = readBytes;
+    void (*read)(const Scope& block, CtaExtensions& before) = readBytes;
 };
 
 /// VESA E-EDID Standard, Release A, section 2.2.1 and the tags that VESA gave out since.
@@ -41,7 +41,7 @@ constexpr ExtensionKind unknownKind = {0, "unknown extension"};
 constexpr Row tagRow = {.name = "tag", .label = "Extension tag", .parts = {{0}}};
 constexpr Row checksumRow = {.name = "checksum", .label = "Check sum", .parts = {{checksumCell}}};
 
-void readBytes(const Scope& block) {
+void readBytes(const Scope& block, CtaExtensions& /*before*/) {
     block.add(tagRow);
     block.addBytes(1, checksumCell, "bytes", "Content of the block");
 }
@@ -66,16 +66,10 @@ void checkLeadingMap(const Scope& block) {
     }
 }
 
-} // namespace
-
-std::string_view extensionName(std::uint8_t tag) {
-    return kindOf(tag).name;
-}
-
-void readExtension(Reading& reading, std::size_t index) {
+void readExtension(Reading& reading, std::size_t index, CtaExtensions& before) {
     const ExtensionKind& kind = kindOf(reading.image.block(index)[0]);
     const Scope block(reading, index * Image::blockSize, numbered(kind.path, index), kind.clause);
-    kind.read(block);
+    kind.read(block, before);
     block.add(checksumRow);
     if (index == 1) {
         checkLeadingMap(block);
@@ -85,6 +79,21 @@ void readExtension(Reading& reading, std::size_t index) {
                    "No standard gives the tag of this extension block a meaning, so that readers pass over it; a dump "
                    "that went wrong may be the cause: compare it with the monitor.");
     }
+    reading.summary.extensions.push_back(reading.blocks[index].name);
+}
+
+} // namespace
+
+std::string_view extensionName(std::uint8_t tag) {
+    return kindOf(tag).name;
+}
+
+void readExtensions(Reading& reading) {
+    CtaExtensions extensions;
+    for (std::size_t index = 1; index < reading.image.blockCount(); ++index) {
+        readExtension(reading, index, extensions);
+    }
+    checkCta(extensions);
 }
 
 void readPadding(const Scope& block, std::size_t offset, std::string_view code, std::string_view after) {

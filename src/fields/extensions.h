@@ -1,6 +1,8 @@
 #pragma once
 
-#include "fields/scope.h"
+#include <vector>
+
+#include "fields/cta_data_blocks.h"
 
 namespace wb::fields {
 
@@ -8,13 +10,24 @@ namespace wb::fields {
 /// no standard names.
 std::string_view extensionName(std::uint8_t tag);
 
-/// Adds the fields, findings and summary of block `index`, which is not block 0.
-void readExtension(Reading& reading, std::size_t index);
+/// Adds the fields, findings and summary of all blocks but block 0.
+void readExtensions(Reading& reading);
 
-// The readers of each kind: all of a block but its last byte, the check sum. `block` begins with its tag.
-void readCta(const Scope& block);
-void readVideoTimingBlock(const Scope& block);
-void readBlockMap(const Scope& block);
+/// A CTA-861 extension and what it told.
+struct CtaExtension {
+    Scope block;
+    CtaState state;
+};
+using CtaExtensions = std::vector<CtaExtension>;
+
+/// The rules that hold between the parts of all CTA-861 extensions of an image together.
+void checkCta(const CtaExtensions& extensions);
+
+// The readers of each kind: all of a block but its last byte, the check sum. `block` begins with its tag; `before` are
+// the CTA-861 extensions before it, to which one more is added.
+void readCta(const Scope& block, CtaExtensions& before);
+void readVideoTimingBlock(const Scope& block, CtaExtensions& before);
+void readBlockMap(const Scope& block, CtaExtensions& before);
 
 /// Bytes from `offset` up to the check sum of the block, which should be 0; `code` tells where they are not. `after`
 /// names what they follow.

@@ -116,10 +116,7 @@ Reading read(const Image& image) {
     tellOfBlocks(reading);
     tellOfEarlyEnd(reading);
     readBlock0(reading);
-    for (std::size_t i = 1; i < image.blockCount(); ++i) {
-        readExtension(reading, i);
-        reading.summary.extensions.push_back(reading.blocks[i].name);
-    }
+    readExtensions(reading);
     sortByPlace(reading.fields);
     std::stable_sort(reading.findings.begin(), reading.findings.end(),
                      [](const Finding& a, const Finding& b) { return a.byte < b.byte; });

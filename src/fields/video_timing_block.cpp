@@ -63,7 +63,7 @@ std::size_t readList(const Scope& block, const List& list, std::size_t start) {
 
 } // namespace
 
-void readVideoTimingBlock(const Scope& block) {
+void readVideoTimingBlock(const Scope& block, CtaExtensions& /*before*/) {
     block.add(headRows);
     std::size_t place = firstTiming;
     for (const List& list : lists) {

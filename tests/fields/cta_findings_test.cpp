@@ -234,6 +234,75 @@ TEST(CtaFindings, TellOfTheHdmiForumWithoutHdmi) {
               0U);
 }
 
+/// The same with a second extension in block 2, which has these data blocks.
+ImageOf twoCtaWith(std::initializer_list<int> first, int firstFlags, std::initializer_list<int> second,
+                   int secondFlags) {
+    const auto offsetOf = [](const auto& dataBlocks) { return 4 + static_cast<int>(dataBlocks.size()); };
+    return ImageOf(3)
+        .set(128, {0x02, 0x03, offsetOf(first), firstFlags})
+        .set(132, first)
+        .set(256, {0x02, 0x03, offsetOf(second), secondFlags})
+        .set(260, second);
+}
+
+TEST(CtaFindings, TakeAllExtensionsOfAnImageTogether) {
+    const std::initializer_list<int> hdmi = {0x65, 0x03, 0x0C, 0x00, 0x10, 0x00};
+    const std::initializer_list<int> forum = {0x67, 0xD8, 0x5D, 0xC4, 1, 0, 0x80, 0};
+    const std::initializer_list<int> surround = {0x23, 0x0F, 0x07, 0x07};
+    const std::initializer_list<int> speakers = {0x83, 0x4F, 0, 0};
+    EXPECT_EQ(countIn(twoCtaWith(hdmi, 0, forum, 0), "cta.hdmi_missing"), 0U);
+    EXPECT_EQ(findingOf(twoCtaWith({}, 0, forum, 0).reading(), "cta.hdmi_missing").byte, 256U);
+    const ImageOf sound = twoCtaWith(surround, basicAudio, speakers, basicAudio);
+    EXPECT_EQ(countIn(sound, "cta.speakers_missing"), 0U);
+    EXPECT_EQ(countIn(sound, "cta.audio_block_missing"), 0U);
+    EXPECT_EQ(countIn(twoCtaWith(speakers, basicAudio, surround, 0), "cta.speakers_missing"), 0U);
+    EXPECT_EQ(countIn(twoCtaWith(surround, basicAudio, {}, 0), "cta.speakers_missing"), 1U);
+    EXPECT_EQ(countIn(twoCtaWith({}, basicAudio, {}, 0), "cta.audio_block_missing"), 1U);
+    EXPECT_EQ(countIn(twoCtaWith(surround, 0, speakers, basicAudio), "cta.basic_audio_missing"), 0U);
+    EXPECT_EQ(findingOf(twoCtaWith({}, 0, surround, 0).reading(), "cta.basic_audio_missing").byte, 259U);
+    EXPECT_EQ(findingOf(twoCtaWith(hdmi, 0, {}, ycbcr444).reading(), "cta.ycbcr_flags").path,
+              "cta[2].header.ycbcr_444");
+}
+
+TEST(CtaFindings, TellOfASecondDataBlockInALaterExtension) {
+    const std::initializer_list<int> hdmi = {0x65, 0x03, 0x0C, 0x00, 0x10, 0x00};
+    const Reading reading = twoCtaWith(hdmi, 0, hdmi, 0).reading();
+    EXPECT_EQ(countOf(reading, "cta.data_block_repeated"), 1U);
+    EXPECT_EQ(findingOf(reading, "cta.data_block_repeated").byte, 260U);
+    // Paths count within their extension.
+    EXPECT_EQ(textOf(reading, "cta[2].hdmi.physical_address"), "1.0.0.0");
+    EXPECT_EQ(countIn(twoCtaWith({0x41, 16}, 0, {0x41, 31}, 0), "cta.data_block_repeated"), 0U);
+    // Also where others stand between them.
+    ImageOf third(4);
+    third.set(128, {0x02, 0x03, 10, 0}).set(132, hdmi).set(256, {0x02, 0x03, 4, 0}).set(384, {0x02, 0x03, 10, 0});
+    EXPECT_EQ(findingOf(third.set(388, hdmi).reading(), "cta.data_block_repeated").byte, 388U);
+}
+
+TEST(CtaFindings, CountNativeTimingsOverAllExtensions) {
+    const auto withTimings = [](int firstNative, int secondNative) {
+        return twoCtaWith({}, firstNative, {}, secondNative).set(132, {1, 0x1D}).set(260, {1, 0x1D, 0, 0, 0, 0, 0, 0});
+    };
+    EXPECT_EQ(countIn(withTimings(2, 2), "cta.native_count"), 0U);
+    EXPECT_EQ(findingOf(withTimings(3, 2).reading(), "cta.native_count").path, "cta[1].header.native_count");
+    EXPECT_EQ(findingOf(withTimings(2, 3).reading(), "cta.native_count").path, "cta[2].header.native_count");
+    // The first timings of the image are the native ones.
+    ImageOf image = twoCtaWith({}, 1, {}, 1);
+    for (const std::size_t place : {132U, 260U}) {
+        image.set(place, {0x02, 0x3A, 0x80, 0x18, 0x71, 0x38, 0x2D, 0x40, 0x58, 0x2C, 0x45, 0, 0, 0, 0, 0, 0, 0x1E});
+    }
+    const Reading reading = image.reading();
+    ASSERT_EQ(reading.summary.modes.size(), 2U);
+    EXPECT_TRUE(reading.summary.modes[0].native);
+    EXPECT_FALSE(reading.summary.modes[1].native);
+}
+
+TEST(CtaFindings, LookForVideoCodesInAllExtensions) {
+    EXPECT_EQ(countIn(twoCtaWith({0x41, 97}, 0, {0xE2, 0x0E, 97}, 0), "cta.video_420_repeated"), 1U);
+    EXPECT_EQ(countIn(twoCtaWith({0x41, 96}, 0, {0xE2, 0x0E, 97}, 0), "cta.video_420_repeated"), 0U);
+    EXPECT_EQ(countIn(twoCtaWith({0x41, 16}, 0, {0x41, 31, 0xE2, 0x0F, 0x02}, 0), "cta.capability_map_long"), 0U);
+    EXPECT_EQ(countIn(twoCtaWith({0x41, 16}, 0, {0x41, 31, 0xE2, 0x0F, 0x04}, 0), "cta.capability_map_long"), 1U);
+}
+
 TEST(CtaFindings, TellOfRatesOfTheHdmiForumThatCannotBe) {
     const auto withRate = [](int rate) { return ctaWith({0x67, 0xD8, 0x5D, 0xC4, 1, rate, 0x80, 0}); };
     EXPECT_EQ(countIn(withRate(68), "cta.hdmi_forum_rate"), 1U);
