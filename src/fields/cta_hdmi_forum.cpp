@@ -122,6 +122,10 @@ void readCapabilities(const DataBlock& block) {
 void describeBlockCount(const Scope&, std::uint64_t raw, Field& field) {
     field.text += raw == 1 ? " block" : " blocks";
 }
+constexpr std::array<Row, 1> overrideRows = {{{.name = "extension_count",
+                                               .label = "Extension blocks, in place of byte 126",
+                                               .parts = {{2}},
+                                               .read = describeBlockCount}}};
 
 } // namespace
 
@@ -137,11 +141,7 @@ void readHdmiForumSinkCapability(const DataBlock& block) {
 }
 
 void readExtensionOverride(const DataBlock& block) {
-    constexpr std::array<Row, 1> rows = {{{.name = "extension_count",
-                                           .label = "Extension blocks, in place of byte 126",
-                                           .parts = {{2}},
-                                           .read = describeBlockCount}}};
-    block.content.fill(rows, block.end);
+    block.content.fill(overrideRows, block.end);
     constexpr std::size_t wantedPlace = Image::blockSize + 4;
     if (block.content.place(0) != wantedPlace) {
         block.content.tell(Severity::Warning, "cta.override_place", 0, "",

@@ -16,10 +16,16 @@ void describeOui(const Scope&, std::uint64_t raw, Field& field) {
     field.text = ouiText(bytes);
 }
 
+namespace {
+
+constexpr std::array<Row, 1> headRows = {{ouiRow(0)}};
+constexpr std::size_t headSize = 3;
+
+} // namespace
+
 void readVendor(const DataBlock& block) {
-    const std::size_t payload = std::min(block.begin + 3, block.end);
-    const std::array<Row, 1> rows = {{ouiRow(block.begin)}};
-    block.content.fill(rows, payload);
+    const std::size_t payload = std::min(block.begin + headSize, block.end);
+    block.content.from(block.begin).fill(headRows, payload - block.begin);
     block.content.addBytes(payload, block.end, "payload", "What the organization defines");
 }
 

@@ -174,7 +174,7 @@ constexpr std::array<Row, 4> tiledRows1 = tiledRows(describeLetters);
 constexpr std::array<Row, 4> tiledRows2 = tiledRows(describeVendorNumber);
 constexpr std::size_t tiledEnd = 25;
 
-void readTiled(const Entry& entry, std::span<const Row> rows) {
+void readTiled(const Entry& entry, WholeRows rows) {
     const std::size_t end = std::min(entry.end, tiledEnd);
     if (end > dataBlockHead) {
         entry.content.fill(rows, end);

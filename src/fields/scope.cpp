@@ -48,25 +48,17 @@ std::string charactersOf(std::span<const std::uint8_t> bytes) {
     return text;
 }
 
-/// Where the rows that stand before `end` stop: no row has bytes on both sides.
+/// Where the rows that stand before `end` stop: no row has bytes on both sides. In the order of their first bytes, a
+/// row that is left out moves the cut for those before it alone.
 std::size_t cutOf(std::span<const Row> rows, std::size_t end) {
     std::size_t cut = 0;
     for (const Row& row : rows) {
-        for (const Part& part : row.parts) {
-            cut = std::max(cut, part.offset + row.length);
-        }
+        cut = std::max(cut, endOf(row));
     }
     cut = std::min(cut, end);
-    for (bool moved = true; moved;) {
-        moved = false;
-        for (const Row& row : rows) {
-            const auto beyond = [&](const Part& part) { return part.offset + row.length > cut; };
-            if (std::any_of(row.parts.begin(), row.parts.end(), beyond)) {
-                for (const Part& part : row.parts) {
-                    moved = moved || part.offset < cut;
-                    cut = std::min(cut, part.offset);
-                }
-            }
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        if (endOf(*row) > cut) {
+            cut = std::min(cut, firstByteOf(*row));
         }
     }
     return cut;
@@ -127,9 +119,9 @@ void Scope::add(std::span<const Row> rows, std::size_t end) const {
     }
 }
 
-void Scope::fill(std::span<const Row> rows, std::size_t end) const {
-    const std::size_t cut = cutOf(rows, end);
-    add(rows, cut);
+void Scope::fill(WholeRows table, std::size_t end) const {
+    const std::size_t cut = cutOf(table.rows(), end);
+    add(table.rows(), cut);
     addBytes(cut, end, "rest", "Further bytes");
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -91,6 +94,56 @@ constexpr Row choiceAt(Part part, std::string_view name, std::string_view label,
     return {.name = name, .label = label, .parts = {part}, .kind = Kind::Choice, .choices = choices};
 }
 
+/// The first byte of its structure that a row has bits in, and the one behind the last.
+constexpr std::size_t firstByteOf(const Row& row) {
+    return std::min_element(row.parts.begin(), row.parts.end(),
+                            [](const Part& a, const Part& b) { return a.offset < b.offset; })
+        ->offset;
+}
+constexpr std::size_t endOf(const Row& row) {
+    std::size_t end = 0;
+    for (const Part& part : row.parts) {
+        end = std::max(end, part.offset + row.length);
+    }
+    return end;
+}
+
+/// Whether the rows cover whole bytes without gaps, each bit once, and stand in the order of their first bytes.
+constexpr bool coverWholeBytes(std::span<const Row> rows) {
+    std::array<unsigned, Image::blockSize> covered{};
+    const std::size_t first = firstByteOf(rows.front());
+    std::size_t end = first;
+    std::size_t bits = 0;
+    for (const Row& row : rows) {
+        for (const Part& part : row.parts) {
+            for (std::size_t byte = part.offset; byte < part.offset + row.length; ++byte) {
+                covered.at(byte) |= (2U << part.high) - (1U << part.low);
+                bits += part.high - part.low + 1U;
+            }
+        }
+        end = std::max(end, endOf(row));
+    }
+    const auto isWhole = [](unsigned byte) { return byte == 0xFF; };
+    return bits == 8 * (end - first) && std::all_of(covered.data() + first, covered.data() + end, isWhole) &&
+           std::is_sorted(rows.begin(), rows.end(),
+                          [](const Row& a, const Row& b) { return firstByteOf(a) < firstByteOf(b); });
+}
+
+/// A table of rows that coverWholeBytes; another does not compile.
+class WholeRows {
+public:
+    template <std::size_t size>
+    consteval WholeRows(const std::array<Row, size>& rows) : rows_(rows) {
+        if (!coverWholeBytes(rows)) {
+            throw std::logic_error("The rows leave gaps, overlap or are out of order.");
+        }
+    }
+    std::span<const Row> rows() const { return rows_; }
+
+private:
+    std::span<const Row> rows_;
+};
+
 /// Writes the fields of one structure of the image, in a table or one by one. Paths are put behind the structure's own.
 class Scope {
 public:
@@ -123,8 +176,8 @@ public:
     /// Adds a field for every row. Rows whose bytes reach past `end` (an offset) are left out.
     void add(std::span<const Row> rows, std::size_t end = Image::blockSize) const;
     /// Adds a field for every row that stands before `end`, and the bytes that are then left over before it as one
-    /// named "rest". The rows must cover whole bytes from some offset on without gaps, and there must be one.
-    void fill(std::span<const Row> rows, std::size_t end) const;
+    /// named "rest".
+    void fill(WholeRows table, std::size_t end) const;
     /// Adds one; it may be changed until the next is added.
     Field& add(const Row& row) const;
     /// Bytes from `offset` up to `end` as one field; none where there are none.

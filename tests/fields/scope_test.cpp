@@ -50,5 +50,40 @@ TEST(Scope, TellsWhatNoChoiceNames) {
     EXPECT_EQ(reading.fields.back().text, "reserved (2)");
 }
 
+TEST(Scope, TellsWhichTablesCoverWholeBytes) {
+    const Row top = flagAt(1, 7, "top", "Top");
+    const Row others = reservedAt(1, 6, 0, "others");
+    const Row next = {.name = "next", .label = "Next", .parts = {{2}}, .kind = Kind::Bytes, .length = 2};
+    EXPECT_TRUE(coverWholeBytes(std::to_array<Row>({top, others, next})));
+    EXPECT_FALSE(coverWholeBytes(std::to_array<Row>({others, next}))) << "a bit is missing";
+    EXPECT_FALSE(coverWholeBytes(std::to_array<Row>({top, next}))) << "seven bits are missing";
+    EXPECT_FALSE(coverWholeBytes(std::to_array<Row>({top, others, others}))) << "bits stand twice";
+    EXPECT_FALSE(coverWholeBytes(std::to_array<Row>({next, top, others}))) << "out of order";
+    EXPECT_FALSE(coverWholeBytes(std::to_array<Row>({top, others, reservedAt(3, 7, 0, "far")}))) << "a byte is missing";
+}
+
+constexpr std::array<Row, 3> mixedRows = {{
+    {.name = "low", .label = "Low", .parts = {{0, 3, 0}}},
+    {.name = "high", .label = "High", .parts = {{0, 7, 4}, {1}}},
+    {.name = "last", .label = "Last", .parts = {{2}}},
+}};
+
+TEST(Scope, LeavesRowsThatAreCutAsBytes) {
+    const auto pathsUpTo = [](std::size_t end) {
+        Reading reading = withBytes({1, 2, 3, 4});
+        Scope(reading, 8, "a", "C").fill(mixedRows, end);
+        std::string paths;
+        for (const Field& field : reading.fields) {
+            paths += field.path + ' ' + std::to_string(field.where.front().count) + ' ';
+        }
+        return paths;
+    };
+    EXPECT_EQ(pathsUpTo(0), "");
+    EXPECT_EQ(pathsUpTo(1), "a.rest 1 ");
+    EXPECT_EQ(pathsUpTo(2), "a.low 1 a.high 1 ");
+    EXPECT_EQ(pathsUpTo(3), "a.low 1 a.high 1 a.last 1 ");
+    EXPECT_EQ(pathsUpTo(4), "a.low 1 a.high 1 a.last 1 a.rest 1 ");
+}
+
 } // namespace
 } // namespace wb::fields
