@@ -86,8 +86,7 @@ TEST(Reading, MarksTheFieldsThatTellOneUnitFromTheOthersOfItsModel) {
               (Paths{"base.vendor.serial_number", "base.descriptor[4].serial_text"}));
     const auto section = [](int version, std::initializer_list<int> dataBlocks) {
         Paths paths = identifyingPaths(displayIdWith(version, dataBlocks).reading());
-        EXPECT_EQ(paths.front(), "base.vendor.serial_number");
-        paths.erase(paths.begin());
+        std::erase(paths, "base.vendor.serial_number");
         return paths;
     };
     EXPECT_EQ(section(0x12, {0x00, 0, 12, 'A', 'B', 'C', 0, 0, 1, 0, 0, 0, 12, 20, 0}),
