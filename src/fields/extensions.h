@@ -24,7 +24,7 @@ using CtaExtensions = std::vector<CtaExtension>;
 void checkCta(const CtaExtensions& extensions);
 
 // The readers of each kind: all of a block but its last byte, the check sum. `block` begins with its tag; `before` are
-// the CTA-861 extensions before it, to which one more is added.
+// the CTA-861 extensions before it, to which readCta adds its own.
 void readCta(const Scope& block, CtaExtensions& before);
 void readVideoTimingBlock(const Scope& block, CtaExtensions& before);
 void readBlockMap(const Scope& block, CtaExtensions& before);
