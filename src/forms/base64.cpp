@@ -103,9 +103,11 @@ private:
         if (gap.endsLine && !isRow(gap.end)) {
             return false;
         }
-        // At an edge a header may begin another block; elsewhere it begins another text.
+        // A header begins another text behind a complete image and where no byte begins. At an edge it may begin
+        // another block, and inside an image its bytes may be any.
         const bool atEdge = pending_ == 0 && run_.noteEdge(gap.end);
-        return atEdge || !text_.substr(gap.end).starts_with(encodedHeader);
+        const bool mayEnd = pending_ != 0 || isComplete(run_.bytes);
+        return atEdge || !mayEnd || !text_.substr(gap.end).starts_with(encodedHeader);
     }
 
     /// Whether the line that goes on at a place is one word of base64, and neither words nor the name of something.

@@ -9,7 +9,7 @@
 namespace wb::forms {
 
 /// A form of bytes that an image can be written in. Each is read back to the same bytes where the image begins with the
-/// header and no block behind those that it announces does, which rows would show as another image. Without the
+/// header and no block behind those that it announces holds one, which rows would show as another image. Without the
 /// header "bin" and "hex" alone are read back, and where any header is taken only.
 struct WrittenForm {
     std::string_view name; ///< as in formNames() where the recogniser has it as a form of its own

@@ -7,8 +7,10 @@
 #include <functional>
 
 #include "core/base/image.h"
+#include "core/base/image_layout.h"
 #include "core/base/text.h"
 #include "files/file_content.h"
+#include "forms/writers.h"
 #include "support/temporary_folder.h"
 
 namespace wb::forms {
@@ -768,6 +770,20 @@ TEST(Recogniser, ReadsDataFilesAndSaysWhichCellIsNone) {
     EXPECT_EQ(result.images[0].origin().form, "dat");
     EXPECT_EQ(recognise(head + "| 00 FF ZZ\n" + rows).refusal, "cell 2 is no byte: \"ZZ\"");
     EXPECT_EQ(recognise(head + "| 00 FF\n").refusal, "has 2 bytes; an image has 128 or more");
+}
+
+/// At the beginning of a row such bytes look like another text.
+TEST(Recogniser, TheBytesOfAHeaderMayStandInsideAnImage) {
+    const std::string header("\x00\xFF\xFF\xFF\xFF\xFF\xFF\x00", 8);
+    const std::string original = sample("zarqo-z40.bin");
+    for (std::size_t place = header.size(); place + header.size() < extensionCountCell; ++place) {
+        const Image image = *Image::fromBytes(std::string(original).replace(place, header.size(), header));
+        for (const WrittenForm& form : writtenForms()) {
+            const Recognition back = recognise(form.write(image));
+            ASSERT_EQ(back.images.size(), 1U) << form.name << ' ' << place << ' ' << back.refusal;
+            EXPECT_EQ(back.images[0].content(), image.content()) << form.name << ' ' << place;
+        }
+    }
 }
 
 /// A few rows must not become any number of bytes.
