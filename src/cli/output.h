@@ -47,8 +47,8 @@ void complain(std::string_view file, std::string_view message);
 /// The same without a look at standard output, which may be out of order: for who ends the program.
 void complainAtTheEnd(std::string_view message);
 
-/// Control characters as "\\x1B", byte by byte, all but those of `kept`. Beside those of ASCII they are U+0080 to U+009F
-/// in UTF-8, which terminals obey too.
+/// Control characters as "\\x1B", byte by byte, all but those of `kept`. Beside those of ASCII they are U+0080 to
+/// U+009F in UTF-8, which terminals obey too.
 std::string withoutControls(std::string_view text, std::string_view kept = {});
 
 /// A text of the program in one line: line ends become one blank, other control characters are escaped.
