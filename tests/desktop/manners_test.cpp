@@ -66,6 +66,17 @@ TEST_F(Find, GoesFromPlaceToPlaceAndMarksThemAll) {
     EXPECT_EQ(focused(), "frmDocument.rtftext");
 }
 
+TEST_F(Find, FindsInTheTextAsItIsAlsoWhileTheBarIsHidden) {
+    open();
+    type("two");
+    press(Qt::Key_Escape);
+    program.act([&] { report().setText("none\r\none two"); });
+    press(Qt::Key_F3);
+    EXPECT_EQ(found(), "1: two");
+    EXPECT_TRUE(bar().isHidden());
+    EXPECT_TRUE(page().extraSelections().isEmpty());
+}
+
 TEST_F(Find, MatchesTheCaseWhereAsked) {
     open();
     type("Two");
@@ -83,7 +94,7 @@ TEST_F(Find, TellsWhereThereIsNone) {
     for (const QLabel* label : bar().findChildren<QLabel*>()) {
         texts += label->text();
     }
-    EXPECT_TRUE(texts.contains("not found"));
+    EXPECT_TRUE(texts.contains("Not found"));
 }
 
 TEST_F(Find, GivesTheFocusBackWhenItCloses) {

@@ -211,6 +211,7 @@ TEST(DialogFilter, IsWrittenAsQtDoes) {
     EXPECT_EQ(desktop::dialogFilter("EDID/DDC Data Files (*.DAT)|*.DAT"), "EDID/DDC Data Files (*.DAT)");
     EXPECT_EQ(desktop::dialogFilter("Pictures|*.png;*.jpg"), "Pictures (*.png *.jpg)");
     EXPECT_EQ(desktop::dialogFilter("All"), "All");
+    EXPECT_EQ(desktop::dialogFilter("Any form (*.*)|*.*"), "Any form (*)") << "files without an ending too";
 }
 
 } // namespace

@@ -189,9 +189,15 @@ TEST_F(States, TellWhatWasWritten) {
     choose(frame().ExportHex);
     EXPECT_FALSE(takeBoxes().empty());
     EXPECT_EQ(notice(), "Saved c.hex (256 bytes)") << "nothing was written";
+    program.platform.queueFileName(folder.file("%1%2%3.hex"));
+    choose(frame().ExportHex);
+    EXPECT_EQ(notice(), "Exported %1%2%3.hex (256 bytes)");
+    program.platform.queueFileName(folder.file("missing/d.hex"));
+    choose(frame().ExportHex);
+    EXPECT_FALSE(takeBoxes().empty());
     choose(frame().mnuFileSave); // the name of the failed export
     EXPECT_EQ(takeBoxes(), std::vector<std::string>{"Path/File access error"});
-    EXPECT_EQ(notice(), "Saved c.hex (256 bytes)");
+    EXPECT_EQ(notice(), "Exported %1%2%3.hex (256 bytes)");
 }
 
 TEST_F(States, KeepTheWidthOfTheFrameWhateverWasWritten) {

@@ -26,7 +26,8 @@ QString dialogFilter(const std::string& filter) {
     }
     QString words = parts[0];
     words.remove('(' + parts[1] + ')');
-    return words.trimmed() + " (" + QString(parts[1]).replace(';', ' ') + ')';
+    const bool isAny = parts[1] == "*.*"; // which Qt takes at its word, though many files have no ending
+    return words.trimmed() + " (" + (isAny ? "*" : QString(parts[1]).replace(';', ' ')) + ')';
 }
 
 std::string QtDialogs::openFile(const platform::FileDialogRequest& request) {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/workbench.h"
+#include "desktop/base/counted.h"
 #include "desktop/base/text_codec.h"
 #include "desktop/tools/import_ways.h"
 #include "shell/export_image.h"
@@ -105,7 +106,8 @@ void EditMenu::nameSteps() {
 
 void EditMenu::paste(Workbench& workbench) {
     const shell::Pasted pasted = shell::pasteBytes(workbench, clipboardText());
-    frame_.tell(QString(pasted.all ? "Pasted %1 bytes" : "Pasted %1 bytes, the rest is left").arg(pasted.pairs));
+    const QString bytes = counted(static_cast<qsizetype>(pasted.pairs), "byte");
+    frame_.tell("Pasted " + bytes + (pasted.all ? "" : ", the rest is left"));
 }
 
 void EditMenu::find() {

@@ -126,7 +126,7 @@ QVariant FieldModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant FieldModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    static constexpr const char* heads[columns] = {"Field", "Value", "Bytes"};
+    static constexpr const char* heads[columns] = {"Field", "Value", "Bytes (hex)"};
     return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(heads[section]) : QVariant();
 }
 

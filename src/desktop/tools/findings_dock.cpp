@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "desktop/base/byte_words.h"
+#include "desktop/base/counted.h"
 #include "desktop/tools/focused_byte.h"
 
 namespace wb::desktop {
@@ -35,10 +36,6 @@ QString lineOf(const fields::Finding& finding) {
     QString severity = severityText(finding.severity);
     severity[0] = severity[0].toUpper();
     return severity + ": " + bytePlace(finding.byte) + ". " + QString::fromStdString(finding.text);
-}
-
-QString counted(qsizetype count, const QString& what) {
-    return QString("%1 %2").arg(count).arg(count == 1 ? what : what + 's');
 }
 
 QListWidgetItem* makeItem(const fields::Finding& finding, const QStyle& style) {

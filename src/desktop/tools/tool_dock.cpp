@@ -67,7 +67,12 @@ void ToolDock::refresh() {
         showImage(live);
         tell(live.complaint());
     }
-    if (const auto byte = focusedByte(frame_.screen()->workbench())) {
+    const auto byte = focusedByte(frame_.screen()->workbench());
+    if (refused_ && byte != refusedAt_) {
+        refused_ = false;
+        tell(live.complaint());
+    }
+    if (byte) {
         follow(*byte);
     }
 }
@@ -87,6 +92,8 @@ void ToolDock::goToByte(std::size_t byte) {
     frame_.act([dock = QPointer(this), byte](Screen& screen) {
         const bool done = shell::goToByte(screen.workbench(), static_cast<int>(byte));
         if (dock != nullptr) {
+            dock->refused_ = !done;
+            dock->refusedAt_ = focusedByte(screen.workbench());
             dock->tell(done ? dock->frame_.liveReading().complaint() : refusal(byte));
             dock->frame_.giveFocusBack();
         }

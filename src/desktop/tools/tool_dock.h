@@ -3,6 +3,8 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <cstddef>
+#include <optional>
 
 #include "desktop/windows/main_view.h"
 
@@ -37,7 +39,9 @@ private:
     MainView& frame_;
     QVBoxLayout* column_;
     QLabel* note_;
-    bool stale_ = true; ///< the image has been read anew since it was shown
+    bool stale_ = true;    ///< the image has been read anew since it was shown
+    bool refused_ = false; ///< the note is a refusal, which goes when the focus leaves this byte
+    std::optional<std::size_t> refusedAt_;
 };
 
 } // namespace wb::desktop

@@ -26,7 +26,8 @@ FindBar::FindBar(QPlainTextEdit& text)
     markOwnFocus(*this);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(row->spacing(), row->spacing(), row->spacing(), row->spacing());
-    auto* words = new QLabel("&Find:");
+    // Alt+F is the File menu of the frame.
+    auto* words = new QLabel("Fin&d:");
     words->setBuddy(box_);
     box_->setAccessibleName("Find in the report");
     box_->setClearButtonEnabled(true);
@@ -73,8 +74,7 @@ void FindBar::hideEvent(QHideEvent* event) {
     text_.setExtraSelections({});
 }
 
-/// Looks for the text and selects the place at the cursor or the next one.
-void FindBar::look() {
+void FindBar::collect() {
     places_.clear();
     QTextCursor place(text_.document());
     const QTextDocument::FindFlags how =
@@ -82,6 +82,11 @@ void FindBar::look() {
     while (!box_->text().isEmpty() && !(place = text_.document()->find(box_->text(), place, how)).isNull()) {
         places_.append(place);
     }
+}
+
+/// Looks for the text and selects the place at the cursor or the next one.
+void FindBar::look() {
+    collect();
     mark();
     const int from = text_.textCursor().selectionStart();
     for (int i = 0; i < places_.size(); ++i) {
@@ -93,8 +98,12 @@ void FindBar::look() {
     select(0);
 }
 
-/// Goes on to the next or the previous place, and from the last one to the first.
+/// Goes on to the next or the previous place, and from the last one to the first. While the bar is hidden nothing
+/// follows the text.
 void FindBar::step(int by) {
+    if (!isVisible()) {
+        collect();
+    }
     const auto count = static_cast<int>(places_.size());
     if (count == 0) {
         return;
@@ -114,7 +123,7 @@ void FindBar::step(int by) {
 
 void FindBar::select(int place) {
     if (places_.isEmpty()) {
-        outcome_->setText(box_->text().isEmpty() ? QString() : QString("not found"));
+        outcome_->setText(box_->text().isEmpty() ? QString() : QString("Not found"));
         return;
     }
     text_.setTextCursor(places_[place]);

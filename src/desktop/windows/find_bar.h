@@ -24,6 +24,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void collect();
     void look();
     void step(int by);
     void select(int place);

@@ -214,21 +214,23 @@ void MainView::makeNotice() {
     notice_->setTextFormat(Qt::PlainText);
     notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name must not widen the frame
     window_->statusBar()->addWidget(notice_, 2);
+    notice_->hide();
 }
 
 void MainView::tellWritten(const WrittenFile& file) {
     const QString name = fromFileNameBytes(file.name);
     const bool isData = file.kind == WrittenFile::Kind::DataFile;
     notice_->setText(QString(isData ? "Saved %1 (%2 bytes) at %3" : "Exported %1 (%2 bytes) at %3")
-                         .arg(QFileInfo(name).fileName())
-                         .arg(file.blocks * BlockScreen::cellCount)
-                         .arg(QLocale::system().toString(QTime::currentTime(), QLocale::ShortFormat)));
+                         .arg(QFileInfo(name).fileName(), QString::number(file.blocks * BlockScreen::cellCount),
+                              QLocale::system().toString(QTime::currentTime(), QLocale::ShortFormat)));
     notice_->setToolTip(name.toHtmlEscaped());
+    notice_->show();
 }
 
 void MainView::tell(const QString& notice) {
     notice_->setText(notice);
     notice_->setToolTip({});
+    notice_->setVisible(!notice.isEmpty()); // the byte beside it has the room
 }
 
 void MainView::makeClock() {
