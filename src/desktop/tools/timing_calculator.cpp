@@ -163,7 +163,6 @@ void TimingCalculator::takeShownTiming() {
 
 void TimingCalculator::compute() {
     timing_.reset();
-    fits_ = false;
     complaint_.clear();
     outcome_.clear();
     try {
@@ -171,8 +170,7 @@ void TimingCalculator::compute() {
                                          .height = height_->value(),
                                          .refreshHertz = rate_->value(),
                                          .reducedBlanking = reduced_->isChecked()});
-        fields::timingBytes(*timing_);
-        fits_ = true;
+        fields::timingBytes(*timing_); // which throws where the bytes cannot hold it
     } catch (const fields::ModelineError& error) {
         complaint_ = QString::fromUtf8(error.what());
         complaint_[0] = complaint_[0].toUpper();

@@ -55,7 +55,6 @@ private:
     std::optional<TimingTarget> target_;
     QString complaint_; ///< why there is no timing, or why it does not fit the cells
     QString outcome_;   ///< of entering it
-    bool fits_ = false;
 };
 
 } // namespace wb::desktop
