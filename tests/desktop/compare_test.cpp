@@ -8,6 +8,7 @@
 
 #include "core/base/text.h"
 #include "desktop/desktop_test.h"
+#include "desktop/shown_tip.h"
 #include "desktop/tools/compare_window.h"
 #include "support/temporary_folder.h"
 
@@ -92,6 +93,24 @@ TEST_F(Compare, ListsTheFieldsThatDiffer) {
     window()->findChild<QCheckBox*>()->click();
     EXPECT_GT(table().model()->rowCount(), 100);
     EXPECT_TRUE(says("2 fields differ."));
+}
+
+TEST_F(Compare, ToolTipsAreTheTextsAsTheyAre) {
+    program.openSample("zarqo-z40.bin");
+    for (const std::string name : {"R&D \"3\" > 2", "<b>LCD"}) {
+        std::string other = sample();
+        other.replace(95, 13, (name + '\n' + std::string(12, ' ')).substr(0, 13)); // the name of the monitor
+        const std::string file = folder.write(name + ".bin", other);
+        compareWith(file);
+        const QModelIndex value = table().model()->index(0, desktop::CompareModel::Theirs);
+        ASSERT_NE(value.data().toString().toStdString().find(name), std::string::npos) << name;
+        EXPECT_EQ(shownTip(value.data(Qt::ToolTipRole).toString()), value.data().toString().toStdString());
+        bool found = false;
+        for (const QLabel* label : window()->findChildren<QLabel*>()) {
+            found = found || shownTip(label->toolTip()) == file;
+        }
+        EXPECT_TRUE(found) << file;
+    }
 }
 
 TEST_F(Compare, StandsOnTheScreenAndBesideTheFrameWhereThereIsRoom) {

@@ -7,6 +7,7 @@
 #include <array>
 #include <random>
 
+#include "desktop/shown_tip.h"
 #include "desktop/tools/field_filter.h"
 #include "support/temporary_folder.h"
 
@@ -52,6 +53,22 @@ QString valueAt(const QAbstractItemModel& model, const QStringList& labels) {
 }
 
 const QStringList pixelClock{"Block 0: base EDID", "Detailed timing 1", "Pixel clock"};
+
+TEST(FieldModel, ToolTipsAreLabelAndValueAsTheyAre) {
+    for (const std::string name : {"R&D \"3\"", "<b>LCD</b>"}) {
+        std::string bytes = sample();
+        bytes.replace(95, 13, (name + '\n' + std::string(12, ' ')).substr(0, 13)); // the name of the monitor
+        FieldModel model;
+        const fields::Reading reading = readingOf(bytes);
+        model.show(&reading);
+        const QModelIndex text = model.indexOf(*fields::fieldAt(reading, 95, 0));
+        ASSERT_NE(text.siblingAtColumn(FieldModel::Value).data().toString().toStdString().find(name),
+                  std::string::npos);
+        EXPECT_EQ(shownTip(text.data(Qt::ToolTipRole).toString()),
+                  QString(text.data().toString() + ": " + text.siblingAtColumn(FieldModel::Value).data().toString())
+                      .toStdString());
+    }
+}
 
 TEST(FieldModel, HasBlocksGroupsAndFields) {
     FieldModel model;

@@ -2,6 +2,7 @@
 
 #include "desktop/base/text_codec.h"
 #include "desktop/desktop_test.h"
+#include "desktop/shown_tip.h"
 #include "support/temporary_folder.h"
 
 namespace wb::test {
@@ -53,6 +54,16 @@ TEST_F(FileEntriesTest, ImportAndOpenARecentFileAgain) {
     DesktopProgram::settle();
     EXPECT_EQ(edid().caption(), name);
     EXPECT_EQ(recent(), (QStringList{"&1 a.bin", "&2 b.bin"}));
+}
+
+TEST_F(FileEntriesTest, TellWholeFileNamesAsTheyAre) {
+    for (const char* name : {"R&D.bin", "<b>.bin"}) {
+        const std::string file = folder.write(name, sample);
+        import(file);
+        recent();
+        const QAction* latest = program.frame().window().findChild<QMenu*>("fileRecent")->actions().front();
+        EXPECT_EQ(shownTip(latest->toolTip()), file);
+    }
 }
 
 TEST_F(FileEntriesTest, OpenWhatTheProgramIsStartedWithInWhateverForm) {

@@ -5,6 +5,8 @@
 #include <array>
 #include <utility>
 
+#include "desktop/base/tool_tip.h"
+
 namespace wb::desktop {
 
 namespace {
@@ -73,8 +75,8 @@ QVariant CompareModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
             return *texts[static_cast<std::size_t>(index.column())];
-        case Qt::ToolTipRole: // which would read it as rich text
-            return texts[static_cast<std::size_t>(index.column())]->toHtmlEscaped();
+        case Qt::ToolTipRole:
+            return toolTipOf(*texts[static_cast<std::size_t>(index.column())]);
         case Qt::FontRole:
             if (row.differs && (index.column() == Mine || index.column() == Theirs)) {
                 QFont bold;

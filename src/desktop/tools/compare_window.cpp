@@ -11,6 +11,7 @@
 
 #include "desktop/base/own_focus.h"
 #include "desktop/base/text_codec.h"
+#include "desktop/base/tool_tip.h"
 #include "desktop/tools/beside.h"
 #include "shell/go_to_byte.h"
 
@@ -110,7 +111,7 @@ void CompareWindow::show(std::vector<Image> images) {
     const ImageOrigin& origin = images_.front().origin();
     const QFileInfo file(fromFileNameBytes(origin.file));
     file_->setText("The open image and " + file.fileName());
-    file_->setToolTip(file.filePath().toHtmlEscaped());
+    file_->setToolTip(toolTipOf(file.filePath()));
     choice_->clear();
     for (std::size_t i = 0; i < images_.size(); ++i) {
         choice_->addItem(titleOf(images_[i], i));

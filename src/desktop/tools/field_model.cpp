@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "desktop/base/tool_tip.h"
+
 namespace wb::desktop {
 
 namespace {
@@ -110,7 +112,7 @@ int FieldModel::columnCount(const QModelIndex& /*parent*/) const {
 QVariant FieldModel::data(const QModelIndex& index, int role) const {
     const FieldNode& node = nodeOf(index);
     if (role == Qt::ToolTipRole) { // the columns may be narrow
-        return QString(node.value.isEmpty() ? node.label : node.label + ": " + node.value).toHtmlEscaped();
+        return toolTipOf(node.value.isEmpty() ? node.label : node.label + ": " + node.value);
     }
     if (role != Qt::DisplayRole) {
         return {};

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "desktop/base/text_codec.h"
+#include "desktop/base/tool_tip.h"
 #include "desktop/tools/import_ways.h"
 #include "forms/writers.h"
 #include "shell/export_image.h"
@@ -114,7 +115,7 @@ void FileEntries::listRecent() {
     for (const QString& name : names_) {
         const QString title = QFileInfo(name).fileName().replace('&', QLatin1String("&&"));
         QAction* entry = recent_->addAction(QString("&%1 %2").arg(++number).arg(title));
-        entry->setToolTip(name.toHtmlEscaped());
+        entry->setToolTip(toolTipOf(name));
         QObject::connect(entry, &QAction::triggered, &frame_, [this, name] { reopen(name); });
     }
     recent_->setToolTipsVisible(true);

@@ -7,6 +7,7 @@
 #include "core/input.h"
 #include "core/screen.h"
 #include "desktop/base/text_codec.h"
+#include "desktop/base/tool_tip.h"
 #include "desktop/drawing/colours.h"
 #include "desktop/views/keys.h"
 
@@ -65,7 +66,7 @@ void ControlView::adopt(QWidget& widget) {
         tip += " (" + keys.toString(QKeySequence::NativeText) + ')';
     }
     if (model.kind() != ControlKind::Frame) { // one would stand over all that is inside
-        widget.setToolTip(tip.toHtmlEscaped());
+        widget.setToolTip(toolTipOf(tip));
     }
     widget.installEventFilter(this);
 }

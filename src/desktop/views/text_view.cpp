@@ -7,12 +7,12 @@
 #include <QPointer>
 #include <QScopeGuard>
 #include <QSignalBlocker>
-#include <QTextDocument>
 #include <limits>
 
 #include "core/input.h"
 #include "core/screen.h"
 #include "desktop/base/text_codec.h"
+#include "desktop/base/tool_tip.h"
 #include "desktop/drawing/colours.h"
 #include "desktop/drawing/fonts.h"
 #include "desktop/views/cell_steps.h"
@@ -120,7 +120,7 @@ void TextView::refreshText() {
 }
 
 void TextView::setTip(const QString& tip) {
-    tip_ = Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal) : tip;
+    tip_ = tip;
     refreshTip();
 }
 
@@ -128,7 +128,7 @@ void TextView::refreshTip() {
     constexpr qsizetype longest = 200;
     const QString text = box_->text();
     const bool cut = place().look != Look::Cell && box_->fontMetrics().horizontalAdvance(text) > innerWidth(*box_);
-    box_->setToolTip(cut ? tip_ + ": " + text.left(longest).toHtmlEscaped() : tip_);
+    box_->setToolTip(toolTipOf(cut ? tip_ + ": " + text.left(longest) : tip_));
 }
 
 void TextView::refreshSelection() {

@@ -22,6 +22,7 @@
 #include "desktop/base/own_focus.h"
 #include "desktop/base/text_codec.h"
 #include "desktop/base/titles.h"
+#include "desktop/base/tool_tip.h"
 #include "desktop/drawing/icons.h"
 #include "desktop/drawing/pictures.h"
 #include "desktop/views/menu_view.h"
@@ -223,7 +224,7 @@ void MainView::tellWritten(const WrittenFile& file) {
     notice_->setText(QString(isData ? "Saved %1 (%2 bytes) at %3" : "Exported %1 (%2 bytes) at %3")
                          .arg(QFileInfo(name).fileName(), QString::number(file.blocks * BlockScreen::cellCount),
                               QLocale::system().toString(QTime::currentTime(), QLocale::ShortFormat)));
-    notice_->setToolTip(name.toHtmlEscaped());
+    notice_->setToolTip(toolTipOf(name));
     notice_->show();
 }
 
