@@ -163,6 +163,21 @@ TEST_F(Compare, LeadsToTheCell) {
     EXPECT_EQ(program.workbench.windows.activeChild()->name(), "frmCEA_EXT");
 }
 
+TEST_F(Compare, LeadsToTheFirstCellOfAField) {
+    program.openSample("zarqo-z40.bin");
+    std::string other = sample();
+    other[10] = 0; // the lower byte of the product code, which stands before the upper one
+    other[54] = 0; // that of the clock of the first timing
+    compareWith(folder.write("other.bin", other));
+    ASSERT_EQ(text(0, 3), "base.vendor.product_code");
+    for (const auto& [row, cell] : {std::pair(0, "frmEDID.txtEdit(10)"), std::pair(1, "frmEDID.txtEdit(54)")}) {
+        choose(row);
+        go().click();
+        DesktopProgram::settle();
+        EXPECT_EQ(focused(), cell) << text(row, 3);
+    }
+}
+
 TEST_F(Compare, TakesNoPartInTheFocusOfTheProgram) {
     program.openSample("zarqo-z40.bin");
     focus(edid().txtEdit(40));

@@ -26,7 +26,7 @@ CompareModel::Row CompareModel::rowFor(const fields::FieldPair& pair) {
             std::nullopt,
             pair.differ()};
     if (pair.first.field != nullptr) {
-        row.byte = static_cast<int>(pair.first.field->where.front().byte);
+        row.byte = static_cast<int>(pair.first.field->where.firstByte());
     }
     return row;
 }
