@@ -6,13 +6,6 @@ namespace wb::shell {
 
 namespace {
 
-/// The cell of the byte on a loaded screen, or null.
-Control* cellOf(const Workbench& workbench, int byte) {
-    const ScreenId id = byte < blockSize ? ScreenId::Edid : ScreenId::CeaExt;
-    auto* screen = static_cast<BlockScreen*>(workbench.loaded(id));
-    return screen != nullptr && byte >= 0 && byte < imageSize ? &screen->txtEdit(byte % blockSize) : nullptr;
-}
-
 /// With Auto Cell Seek the focus goes on from a cell to the input box of its panel.
 bool arrivedAt(const Control& cell) {
     const Control* holder = cell.screen().workbench().focus.current();
@@ -43,12 +36,21 @@ bool goToByte(Workbench& workbench, int byte) {
     return arrivedAt(*cell);
 }
 
-std::optional<int> focusedByte(const Workbench& workbench) {
-    const Control* control = workbench.focus.current();
+Control* cellOf(const Workbench& workbench, int byte) {
+    const ScreenId id = byte < blockSize ? ScreenId::Edid : ScreenId::CeaExt;
+    auto* screen = static_cast<BlockScreen*>(workbench.loaded(id));
+    return screen != nullptr && byte >= 0 && byte < imageSize ? &screen->txtEdit(byte % blockSize) : nullptr;
+}
+
+std::optional<int> byteOf(const Control* control) {
     if (control == nullptr || control->name() != "txtEdit") {
         return std::nullopt;
     }
     return control->index() + (control->screen().id() == ScreenId::Edid ? 0 : blockSize);
+}
+
+std::optional<int> focusedByte(const Workbench& workbench) {
+    return byteOf(workbench.focus.current());
 }
 
 } // namespace wb::shell

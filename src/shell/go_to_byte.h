@@ -12,6 +12,12 @@ namespace wb::shell {
 /// screen is out of reach, and where the focus is called back.
 bool goToByte(Workbench& workbench, int byte);
 
+/// The cell of byte `byte` of the image; null where there is no such byte and where its screen does not exist.
+Control* cellOf(const Workbench& workbench, int byte);
+
+/// The byte of the image, 0 to 255, whose cell `control` is; nothing where it is none, or null.
+std::optional<int> byteOf(const Control* control);
+
 /// The byte of the image whose cell has the focus; nothing where no cell has it.
 std::optional<int> focusedByte(const Workbench& workbench);
 

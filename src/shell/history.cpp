@@ -10,6 +10,7 @@
 #include "report/definitions.h"
 #include "shell/change_name.h"
 #include "shell/frame.h"
+#include "shell/go_to_byte.h"
 #include "shell/image_state.h"
 
 namespace wb::shell {
@@ -18,23 +19,10 @@ namespace {
 
 constexpr std::size_t wholeCell = 2; ///< characters
 
-struct CellId {
-    ScreenId screen;
-    int index;
-    bool operator==(const CellId&) const = default;
-};
-
-std::optional<CellId> cellOf(const Control* control) {
-    if (control == nullptr || control->name() != "txtEdit") {
-        return std::nullopt;
-    }
-    return CellId{control->screen().id(), control->index()};
-}
-
 struct Step {
     ImageState before;
     ImageState after;
-    std::optional<CellId> cell; ///< the last one that had the focus when the action began
+    std::optional<int> byte; ///< that of the last cell that had the focus when the action began
     Deed deed;
 };
 
@@ -58,24 +46,24 @@ private:
     void beginAnew();
     void add(ImageState after);
     bool continuesTyping() const;
-    void goTo(const ImageState& state, const std::optional<CellId>& cell);
-    void giveFocus(const CellId& cell);
+    void goTo(const ImageState& state, std::optional<int> byte);
+    void giveFocus(int byte);
     bool withinReach() const;
     static std::string nameOf(const Step& step);
 
     Workbench& workbench_;
     std::vector<Step> steps_;
-    std::size_t done_ = 0; ///< steps from there on have been taken back
-    ImageState clean_;     ///< the image that was loaded or saved last
-    std::optional<CellId> visited_;
+    std::size_t done_ = 0;       ///< steps from there on have been taken back
+    ImageState clean_;           ///< the image that was loaded or saved last
+    std::optional<int> visited_; ///< the byte whose cell had the focus last
 
     // The action that runs, or ran last.
     ImageState before_;
-    std::optional<CellId> visitedBefore_;
-    std::optional<CellId> keyed_; ///< the cell that its key went to
+    std::optional<int> visitedBefore_;
+    std::optional<int> keyed_; ///< the byte whose cell its key went to
     Deed deed_ = Deed::Other;
-    bool replaced_ = false;        ///< it has loaded another image
-    std::optional<CellId> typing_; ///< the cell whose keys make up the last step
+    bool replaced_ = false;     ///< it has loaded another image
+    std::optional<int> typing_; ///< the byte whose keys make up the last step
 };
 
 void History::beginAnew() {
@@ -89,7 +77,7 @@ void History::actionBegins(Deed deed, const Control* control) {
     before_ = ImageState::of(workbench_);
     visitedBefore_ = visited_;
     deed_ = deed;
-    keyed_ = deed == Deed::Key ? cellOf(control) : std::nullopt;
+    keyed_ = deed == Deed::Key ? byteOf(control) : std::nullopt;
     replaced_ = false;
 }
 
@@ -120,7 +108,7 @@ void History::add(ImageState after) {
             steps_.pop_back();
         }
     } else {
-        steps_.push_back({.before = before_, .after = std::move(after), .cell = visitedBefore_, .deed = deed_});
+        steps_.push_back({.before = before_, .after = std::move(after), .byte = visitedBefore_, .deed = deed_});
     }
     done_ = steps_.size();
     typing_ = keyed_;
@@ -131,13 +119,12 @@ bool History::continuesTyping() const {
     if (steps_.empty() || !keyed_ || typing_ != keyed_) {
         return false;
     }
-    const int first = keyed_->screen == ScreenId::Edid ? 0 : blockSize;
-    return before_.text(first + keyed_->index).size() != wholeCell;
+    return before_.text(*keyed_).size() != wholeCell;
 }
 
 void History::focusEntered(const Control& control) {
-    if (const auto cell = cellOf(&control)) {
-        visited_ = cell;
+    if (const auto byte = byteOf(&control)) {
+        visited_ = byte;
     }
 }
 
@@ -156,7 +143,7 @@ bool History::undo() {
         return false;
     }
     const Step& step = steps_[--done_];
-    workbench_.runAction([&] { goTo(step.before, step.cell); });
+    workbench_.runAction([&] { goTo(step.before, step.byte); });
     return true;
 }
 
@@ -165,11 +152,11 @@ bool History::redo() {
         return false;
     }
     const Step& step = steps_[done_++];
-    workbench_.runAction([&] { goTo(step.after, step.cell); });
+    workbench_.runAction([&] { goTo(step.after, step.byte); });
     return true;
 }
 
-void History::goTo(const ImageState& state, const std::optional<CellId>& cell) {
+void History::goTo(const ImageState& state, std::optional<int> byte) {
     typing_.reset();
     const std::string extensions = ImageState::of(workbench_).text(extensionCountCell);
     state.restore(workbench_);
@@ -183,20 +170,21 @@ void History::goTo(const ImageState& state, const std::optional<CellId>& cell) {
         trapped(workbench_, [&] { block0::UpdateExtensionButton(workbench_); });
     }
     workbench_.EDIDRedecodeNeeded = flagTrue; // the visit below makes an open report anew
-    if (cell) {
-        trapped(workbench_, [&] { giveFocus(*cell); });
+    if (byte) {
+        trapped(workbench_, [&] { giveFocus(*byte); });
     }
     workbench_.EDIDModified = flag(!ImageState::of(workbench_).sameImage(clean_));
 }
 
 /// A cell that has the focus gets it anew, as its events are what fills the panel.
-void History::giveFocus(const CellId& cell) {
-    if (cell.screen == ScreenId::CeaExt && workbench_.CEAScreenOpen == flagFalse) {
+void History::giveFocus(int byte) {
+    const ScreenId id = byte < blockSize ? ScreenId::Edid : ScreenId::CeaExt;
+    if (id == ScreenId::CeaExt && workbench_.CEAScreenOpen == flagFalse) {
         Command4_Click(workbench_);
     }
-    auto& screen = static_cast<BlockScreen&>(workbench_.touch(cell.screen));
+    auto& screen = static_cast<BlockScreen&>(workbench_.touch(id));
     workbench_.focus.clear();
-    workbench_.focus.moveTo(screen.txtEdit(cell.index));
+    workbench_.focus.moveTo(screen.txtEdit(byte % blockSize));
 }
 
 std::string History::nameOf(const Step& step) {

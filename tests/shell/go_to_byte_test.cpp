@@ -41,6 +41,21 @@ TEST_F(GoToByte, OpensTheExtensionByItsButton) {
     EXPECT_EQ(focused(), "frmCEA_EXT.txtEdit(127)");
 }
 
+TEST_F(GoToByte, KnowsTheCellsOfBothScreensByTheirBytes) {
+    EXPECT_EQ(cellOf(workbench, 5), nullptr) << "nothing is open";
+    EXPECT_EQ(byteOf(nullptr), std::nullopt);
+    newImage(platform::Answer::Yes);
+    for (const int byte : {0, 5, 127, 128, 133, 255}) {
+        ASSERT_TRUE(goToByte(workbench, byte)) << byte;
+        EXPECT_EQ(cellOf(workbench, byte), workbench.focus.current());
+        EXPECT_EQ(byteOf(cellOf(workbench, byte)), byte);
+        EXPECT_EQ(focusedByte(workbench), byte);
+    }
+    EXPECT_EQ(cellOf(workbench, -1), nullptr);
+    EXPECT_EQ(cellOf(workbench, 256), nullptr);
+    EXPECT_EQ(byteOf(&workbench.frmEDID().txtBrand), std::nullopt);
+}
+
 TEST_F(GoToByte, GoesNowhereWhereNoScreenHoldsTheByte) {
     EXPECT_FALSE(goToByte(workbench, 0)) << "nothing is open";
     newImage(platform::Answer::No);

@@ -5,7 +5,7 @@
 #include <QTextDocument>
 
 #include "desktop/base/byte_words.h"
-#include "desktop/tools/focused_byte.h"
+#include "shell/go_to_byte.h"
 
 namespace wb::desktop {
 
@@ -49,7 +49,7 @@ BytePanel::BytePanel(MainView& frame) : frame_(frame), label_(new CutLabel) {
 
 void BytePanel::refresh() {
     if (frame_.screen() != nullptr) {
-        const auto now = focusedByte(frame_.screen()->workbench());
+        const auto now = shell::focusedByte(frame_.screen()->workbench());
         byte_ = now ? now : byte_;
         label_->show(words());
     }
@@ -57,8 +57,10 @@ void BytePanel::refresh() {
 
 QString BytePanel::words() const {
     const fields::Reading* reading = frame_.liveReading().readingBesides();
-    const Control* cell = byte_ ? cellOf(frame_.screen()->workbench(), *byte_) : nullptr;
-    return reading != nullptr && cell != nullptr ? byteWords(*reading, *byte_, cell->text()).line() : QString();
+    const Control* cell = byte_ ? shell::cellOf(frame_.screen()->workbench(), *byte_) : nullptr;
+    return reading != nullptr && cell != nullptr
+               ? byteWords(*reading, static_cast<std::size_t>(*byte_), cell->text()).line()
+               : QString();
 }
 
 } // namespace wb::desktop

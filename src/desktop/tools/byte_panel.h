@@ -37,7 +37,7 @@ private:
 
     MainView& frame_;
     CutLabel* label_;
-    std::optional<std::size_t> byte_;
+    std::optional<int> byte_;
 };
 
 } // namespace wb::desktop

@@ -7,7 +7,7 @@
 
 #include "desktop/base/byte_words.h"
 #include "desktop/base/counted.h"
-#include "desktop/tools/focused_byte.h"
+#include "shell/go_to_byte.h"
 
 namespace wb::desktop {
 
@@ -152,7 +152,8 @@ void FindingsDock::step(int by) {
     if (bytes.empty()) {
         return;
     }
-    const auto here = focusedByte(frame().screen()->workbench());
+    const std::optional<int> focused = shell::focusedByte(frame().screen()->workbench());
+    const auto here = focused ? std::optional(static_cast<std::size_t>(*focused)) : std::nullopt;
     if (by > 0) {
         const auto next = std::upper_bound(bytes.begin(), bytes.end(), here.value_or(bytes.back()));
         goToByte(next == bytes.end() ? bytes.front() : *next);

@@ -6,7 +6,6 @@
 
 #include "desktop/base/byte_words.h"
 #include "desktop/base/own_focus.h"
-#include "desktop/tools/focused_byte.h"
 #include "shell/go_to_byte.h"
 
 namespace wb::desktop {
@@ -67,13 +66,13 @@ void ToolDock::refresh() {
         showImage(live);
         tell(live.complaint());
     }
-    const auto byte = focusedByte(frame_.screen()->workbench());
+    const auto byte = shell::focusedByte(frame_.screen()->workbench());
     if (refused_ && byte != refusedAt_) {
         refused_ = false;
         tell(live.complaint());
     }
     if (byte) {
-        follow(*byte);
+        follow(static_cast<std::size_t>(*byte));
     }
 }
 
@@ -93,7 +92,7 @@ void ToolDock::goToByte(std::size_t byte) {
         const bool done = shell::goToByte(screen.workbench(), static_cast<int>(byte));
         if (dock != nullptr) {
             dock->refused_ = !done;
-            dock->refusedAt_ = focusedByte(screen.workbench());
+            dock->refusedAt_ = shell::focusedByte(screen.workbench());
             dock->tell(done ? dock->frame_.liveReading().complaint() : refusal(byte));
             dock->frame_.giveFocusBack();
         }

@@ -41,7 +41,7 @@ private:
     QLabel* note_;
     bool stale_ = true;    ///< the image has been read anew since it was shown
     bool refused_ = false; ///< the note is a refusal, which goes when the focus leaves this byte
-    std::optional<std::size_t> refusedAt_;
+    std::optional<int> refusedAt_;
 };
 
 } // namespace wb::desktop
