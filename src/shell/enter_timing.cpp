@@ -1,5 +1,7 @@
 #include "shell/enter_timing.h"
 
+#include <algorithm>
+
 #include "block0/panel_detailed_timing.h"
 #include "core/base/digits.h"
 #include "core/base/numbers.h"
@@ -19,6 +21,11 @@ using fields::TimingBytes;
 constexpr std::size_t firstSizeCell = 12;
 constexpr std::size_t lastSizeCell = 14;
 
+/// What a cell holds; 0 where that is no byte.
+std::uint8_t byteIn(const Control& cell) {
+    return static_cast<std::uint8_t>(std::max(hexPair(cell.text()), 0));
+}
+
 /// The panel of one timing, and what its cells are to hold.
 class Entry {
 public:
@@ -29,7 +36,7 @@ public:
 
 private:
     int base() const { return firstByte_ % blockSize; }
-    int byteOfCell(int cell) const;
+    int byteOfCell(int cell) const { return byteIn(screen_.txtEdit(base() + cell)); }
     int wantedOf(int cell) const { return wanted_[static_cast<std::size_t>(cell)]; }
     bool isRight(int cell) const { return screen_.txtEdit(base() + cell).text() == ByteToHex2(wantedOf(cell)); }
     bool allRight() const;
@@ -46,11 +53,6 @@ private:
     int firstByte_;
     const TimingBytes& wanted_;
 };
-
-/// What a cell holds; 0 where that is no byte.
-int Entry::byteOfCell(int cell) const {
-    return wholeNumber<std::uint8_t>(screen_.txtEdit(base() + cell).text(), 16).value_or(0);
-}
 
 bool Entry::allRight() const {
     for (int cell = 0; cell < detailedBlockSize; ++cell) {
@@ -118,10 +120,7 @@ bool Entry::run() {
 
 /// With what a modeline does not tell, as the cells have it; those without a pixel clock hold no timing.
 void keepSizeAndStereo(BlockScreen& screen, int base, TimingBytes& bytes) {
-    const auto now = [&](std::size_t cell) {
-        const std::string& text = screen.txtEdit(base + static_cast<int>(cell)).text();
-        return wholeNumber<std::uint8_t>(text, 16).value_or(0);
-    };
+    const auto now = [&](std::size_t cell) { return byteIn(screen.txtEdit(base + static_cast<int>(cell))); };
     if (now(0) == 0 && now(1) == 0) {
         return;
     }

@@ -49,7 +49,7 @@ TEST_F(LiveReadingTest, IsMadeOnceForEachReturnToTheEventLoop) {
 TEST_F(LiveReadingTest, NamesTheFirstCellThatHoldsNoByte) {
     program.openSample("zarqo-z40.bin");
     const desktop::LiveReading& shown = program.view.liveReading();
-    for (const char* text : {"", "7", "ZZ", "-1", "+1", " 1", "123"}) {
+    for (const char* text : {"", "5", "7", "ZZ", "-1", "+1", " 1", "123"}) {
         set(edid().txtEdit(30), text);
         EXPECT_EQ(shown.reading(), nullptr) << text;
         EXPECT_EQ(shown.complaint().toStdString(), std::string("Cell 30 of block 0 holds \"") + text +

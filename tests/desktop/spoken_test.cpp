@@ -97,6 +97,9 @@ TEST_F(Spoken, ACellWithoutAByteSaysSo) {
     type("2");
     EXPECT_EQ(program.widget(edid().txtEdit(54))->toolTip().section(" \u2014 ", 0, 0).toStdString(),
               "Byte 54 (36h): \"2\", which is no byte");
+    type("G");
+    EXPECT_EQ(program.widget(edid().txtEdit(54))->toolTip().section(" \u2014 ", 0, 0).toStdString(),
+              "Byte 54 (36h): \"2G\", which is no byte");
     EXPECT_EQ(program.widget(edid().txtEdit(53))->toolTip().section(" \u2014 ", 0, 0).toStdString(),
               "Byte 53 (35h): 01h, 1, 0000 0001");
 }

@@ -125,6 +125,25 @@ TEST_F(EnterTiming, KeepsTheKindOfStereo) {
     EXPECT_EQ(program.cell(71), "7A");
 }
 
+TEST_F(EnterTiming, TakesACellOfOneDigitForNoByte) {
+    workbench.frmEDID().txtEdit(54 + 12).setText("5"); // the lower byte of the width in millimetres
+    EXPECT_TRUE(enterTiming(workbench, 54, reduced));
+    EXPECT_EQ(block0(54), "1A 36 80 A0 70 38 1F 40 30 20 35 00 00 F4 31 00 00 1A");
+}
+
+TEST_F(EnterTiming, GoesToThePanelOfACellOfOneDigit) {
+    // The pulse of 5 lines is the lower digit of cell 64, its front porch of 3 the upper one of it.
+    EXPECT_TRUE(enterTiming(workbench, 54, reduced));
+    ASSERT_EQ(program.cell(64), "35");
+    const Modeline fewer{"", 138500, {1920, 1968, 2000, 2080, true}, {1080, 1080, 1085, 1111, false}, false};
+    workbench.frmEDID().txtEdit(64).setText("5");
+    WaysToThePanel ways(workbench);
+    EXPECT_TRUE(enterTiming(workbench, 54, fewer));
+    EXPECT_EQ(program.cell(64), "05");
+    EXPECT_EQ(ways.from, std::vector<std::string>{"frmEDID.txtEdit(65)"})
+        << "to the box of the pulse, which is that of the cell of its upper bits";
+}
+
 TEST_F(EnterTiming, TakesAnInterlacedOne) {
     // Half of 1080, 1084, 1094 and 1124 lines of the whole: 540 (21C), blanking 22 (16), 2 and 5.
     const Modeline interlaced{"", 74250, {1920, 2008, 2052, 2200, true}, {1080, 1084, 1094, 1125, true}, true};

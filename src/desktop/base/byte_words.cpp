@@ -44,17 +44,15 @@ QString both(const fields::Field& field) {
 }
 
 QString numberOf(const std::string& cell) {
-    constexpr std::size_t digits = 2;
-    constexpr int hexadecimal = 16;
     constexpr int binary = 2;
     constexpr int bits = 8;
-    const auto number = cell.size() == digits ? wholeNumber<std::uint8_t>(cell, hexadecimal) : std::nullopt;
-    if (!number) {
+    const int number = hexPair(cell);
+    if (number < 0) {
         return '"' + toUnicode(cell) + "\", which is no byte";
     }
-    QString bitText = QString("%1").arg(*number, bits, binary, QChar('0'));
+    QString bitText = QString("%1").arg(number, bits, binary, QChar('0'));
     bitText.insert(bits / 2, ' ');
-    return QString("%1h, %2, ").arg(QString::fromStdString(cell).toUpper()).arg(*number) + bitText;
+    return QString("%1h, %2, ").arg(QString::fromStdString(cell).toUpper()).arg(number) + bitText;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "desktop/base/live_reading.h"
 
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
 #include "core/base/digits.h"
@@ -13,11 +14,6 @@
 namespace wb::desktop {
 
 namespace {
-
-std::optional<std::uint8_t> byteIn(const std::string& cell) {
-    constexpr std::size_t digits = 2;
-    return cell.size() == digits ? wholeNumber<std::uint8_t>(cell, 16) : std::nullopt;
-}
 
 void addCells(BlockScreen& screen, std::vector<std::string>& cells) {
     for (int i = 0; i < BlockScreen::cellCount; ++i) {
@@ -38,7 +34,7 @@ std::vector<std::string> imageCells(const Workbench& workbench) {
     if (auto* block0 = static_cast<BlockScreen*>(workbench.loaded(ScreenId::Edid))) {
         addCells(*block0, cells);
         auto* extension = static_cast<BlockScreen*>(workbench.loaded(ScreenId::CeaExt));
-        if (extension != nullptr && byteIn(cells[extensionCountCell]) != 0) {
+        if (extension != nullptr && hexPair(cells[extensionCountCell]) != 0) {
             addCells(*extension, cells);
             addFurtherBlocks(workbench.LoadedBytes, cells);
         }
@@ -87,11 +83,11 @@ void LiveReading::read(const std::vector<std::string>& cells) {
     complaint_.clear();
     std::string bytes;
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        const auto byte = byteIn(cells[i]);
-        if (!byte && complaint_.isEmpty()) {
+        const int byte = hexPair(cells[i]);
+        if (byte < 0 && complaint_.isEmpty()) {
             complaint_ = complaintAbout(i, cells[i]);
         }
-        bytes += static_cast<char>(byte.value_or(0));
+        bytes += static_cast<char>(std::max(byte, 0));
     }
     if (const auto image = Image::fromBytes(bytes)) {
         reading_.emplace(fields::read(*image));
