@@ -12,14 +12,14 @@ namespace wb::shell {
 
 namespace {
 
-/// The bytes of the cells of one screen, the first of which is byte `first` of the image.
-std::string bytesOf(BlockScreen& screen, int first) {
+/// The bytes of the cells of one screen, which `owner` names behind their numbers.
+std::string bytesOf(BlockScreen& screen, const std::string& owner) {
     std::string bytes;
     for (int i = 0; i < BlockScreen::cellCount; ++i) {
         const std::string& text = screen.txtEdit(i).text();
         const int byte = hexPair(text);
         if (byte < 0) {
-            throw NoImage("cell " + std::to_string(first + i) + " is no byte: " + quoted(text));
+            throw NoImage("cell " + std::to_string(i) + owner + " is no byte: " + quoted(text));
         }
         bytes += static_cast<char>(byte);
     }
@@ -55,7 +55,7 @@ std::size_t blockCount(const std::optional<Image>& loaded, std::size_t announced
 
 Image editedImage(const Workbench& workbench) {
     FrmEdid& edid = openScreen(workbench);
-    std::string bytes = bytesOf(edid, 0);
+    std::string bytes = bytesOf(edid, "");
     const std::optional<Image> loaded = Image::fromBytes(workbench.LoadedBytes);
     auto* const extension = static_cast<FrmCeaExt*>(workbench.loaded(ScreenId::CeaExt));
     const std::size_t shown = extension == nullptr ? 1 : Image::editedBlocks;
@@ -68,7 +68,7 @@ Image editedImage(const Workbench& workbench) {
     const std::size_t announced = *announcedBlocks(workbench);
     for (std::size_t block = 1; block < std::min(held, blockCount(loaded, announced)); ++block) {
         if (block < std::min(shown, announced)) {
-            bytes += bytesOf(*extension, BlockScreen::cellCount);
+            bytes += bytesOf(*extension, " of the extension block");
         } else {
             const auto kept = loaded->block(block);
             bytes.append(kept.begin(), kept.end());

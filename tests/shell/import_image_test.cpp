@@ -174,6 +174,12 @@ TEST_F(Import, AnExportTellsACellThatIsNoByte) {
     exportImage(workbench, *forms::writtenForm("bin"));
     EXPECT_EQ(program.takeBoxes(), Texts{"The image cannot be written: cell 16 is no byte: \"1Z\""});
     EXPECT_EQ(imageText(workbench, *forms::writtenForm("hex")), "");
+    import(folder.write("b.bin", imageOf(0x12, 2)));
+    program.takeBoxes();
+    workbench.frmCEA_EXT().txtEdit(5).setText("5");
+    exportImage(workbench, *forms::writtenForm("bin"));
+    EXPECT_EQ(program.takeBoxes(),
+              Texts{"The image cannot be written: cell 5 of the extension block is no byte: \"5\""});
 }
 
 TEST_F(Import, FieldsAreCopiedInWords) {
