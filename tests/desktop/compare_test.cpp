@@ -178,6 +178,37 @@ TEST_F(Compare, LeadsToTheFirstCellOfAField) {
     }
 }
 
+TEST_F(Compare, TellsWhereACellIsOutOfReach) {
+    std::string mine = sample() + std::string(128, '\0');
+    mine[126] = 2;
+    mine[127] = static_cast<char>(mine[127] - 1);
+    mine[256] = 0x40;
+    program.platform.queueFileName(folder.write("mine.bin", mine));
+    program.frame().window().findChild<QAction*>("fileImport")->trigger();
+    DesktopProgram::settle();
+    std::string other = mine;
+    other[23] = 100;
+    other[128 + 3] = 0; // the flags of the extension: F2 in the sample
+    other[256] = 0x50;
+    compareWith(folder.write("other.bin", other));
+    ASSERT_EQ(text(0, 3), "base.basic.gamma");
+    choose(table().model()->rowCount() - 1);
+    EXPECT_FALSE(go().isEnabled());
+    emit table().activated(table().currentIndex());
+    DesktopProgram::settle();
+    EXPECT_TRUE(says("Block 2 has no screen: its bytes can only be read."));
+    choose(0);
+    go().click();
+    DesktopProgram::settle();
+    EXPECT_EQ(focused(), "frmEDID.txtEdit(23)");
+    EXPECT_TRUE(says(QString("%1 fields differ.").arg(table().model()->rowCount()))) << "and no refusal any more";
+    program.act([&] { frame().Command4.setEnabled(false); });
+    choose(1);
+    go().click();
+    DesktopProgram::settle();
+    EXPECT_TRUE(says("Byte 3 (03h) of block 1 is out of reach now.")) << text(1, 3);
+}
+
 TEST_F(Compare, TakesNoPartInTheFocusOfTheProgram) {
     program.openSample("zarqo-z40.bin");
     focus(edid().txtEdit(40));

@@ -66,6 +66,12 @@ QString bytePlace(std::size_t byte) {
     return block == 0 ? place : place + QString(" of block %1").arg(block);
 }
 
+QString outOfReach(std::size_t byte) {
+    const std::size_t block = byte / Image::blockSize;
+    return block < Image::editedBlocks ? bytePlace(byte) + " is out of reach now."
+                                       : QString("Block %1 has no screen: its bytes can only be read.").arg(block);
+}
+
 ByteWords byteWords(const fields::Reading& reading, std::size_t byte, const std::string& cell) {
     const FieldList found = fieldsIn(reading, byte);
     QStringList labels;

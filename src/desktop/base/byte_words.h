@@ -9,6 +9,8 @@ namespace wb::desktop {
 
 /// "Byte 54 (36h)" in block 0, "Byte 5 (05h) of block 1" in another one: counted as the cells of its screen are.
 QString bytePlace(std::size_t byte);
+/// One sentence that tells why the focus did not get to the cell of a byte.
+QString outOfReach(std::size_t byte);
 
 /// What a byte of the image is, in words: the same for the status bar, tool tips and screen readers.
 struct ByteWords {

@@ -4,11 +4,13 @@
 #include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <utility>
 
+#include "desktop/base/byte_words.h"
 #include "desktop/base/own_focus.h"
 #include "desktop/base/text_codec.h"
 #include "desktop/base/tool_tip.h"
@@ -167,9 +169,13 @@ void CompareWindow::refreshGo() {
 
 void CompareWindow::goToCell() {
     if (const auto byte = model_.byteOf(table_->currentIndex().row())) {
-        frame_.act([&frame = frame_, number = *byte](Screen& screen) {
-            if (shell::goToByte(screen.workbench(), number)) {
+        frame_.act([&frame = frame_, window = QPointer(this), number = *byte](Screen& screen) {
+            const bool done = shell::goToByte(screen.workbench(), number);
+            if (done) {
                 frame.window().activateWindow();
+            }
+            if (window != nullptr) {
+                window->outcome_->setText(done ? window->outcome() : outOfReach(static_cast<std::size_t>(number)));
             }
         });
     }

@@ -12,12 +12,6 @@ namespace wb::desktop {
 
 namespace {
 
-QString refusal(std::size_t byte) {
-    const std::size_t block = byte / Image::blockSize;
-    return block < Image::editedBlocks ? bytePlace(byte) + " is out of reach now."
-                                       : QString("Block %1 has no screen: its bytes can only be read.").arg(block);
-}
-
 class Page : public QWidget {
 public:
     QSize sizeHint() const override {
@@ -93,7 +87,7 @@ void ToolDock::goToByte(std::size_t byte) {
         if (dock != nullptr) {
             dock->refused_ = !done;
             dock->refusedAt_ = shell::focusedByte(screen.workbench());
-            dock->tell(done ? dock->frame_.liveReading().complaint() : refusal(byte));
+            dock->tell(done ? dock->frame_.liveReading().complaint() : outOfReach(byte));
             dock->frame_.giveFocusBack();
         }
     });
