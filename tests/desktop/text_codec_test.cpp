@@ -48,6 +48,11 @@ TEST(TextCodec, TellsCharactersThatThePageDoesNotHave) {
     EXPECT_EQ(fromUnicode(QString::fromUtf8("a\xC5\x82z")), "a?z");
 }
 
+TEST(TextCodec, ReadsUtf8ToTheEndOfTheView) {
+    EXPECT_EQ(fromUtf8(std::string_view("a\xC3\xA9z!").substr(0, 4)), QString::fromUtf16(u"a\u00E9z"));
+    EXPECT_EQ(fromUtf8({}), QString());
+}
+
 TEST(TextCodec, ShowsFileNamesInTitlesAsTheyAre) {
     EXPECT_EQ(titleText("caf\xC3\xA9.DAT"), QString::fromUtf8("caf\xC3\xA9.DAT"));
     EXPECT_EQ(titleText("caf\xE9"), QString::fromUtf8("caf\xC3\xA9"));

@@ -29,10 +29,6 @@ FieldList fieldsIn(const fields::Reading& reading, std::size_t byte) {
     return found;
 }
 
-QString labelOf(const fields::Field& field) {
-    return QString::fromUtf8(field.label.data(), static_cast<qsizetype>(field.label.size()));
-}
-
 /// A long run of bytes without a meaning is heard cell by cell anyway.
 bool isShort(const fields::Field& field) {
     constexpr std::size_t longest = 60;
@@ -40,7 +36,7 @@ bool isShort(const fields::Field& field) {
 }
 
 QString both(const fields::Field& field) {
-    return isShort(field) ? labelOf(field) + ": " + QString::fromStdString(field.text) : labelOf(field);
+    return isShort(field) ? fromUtf8(field.label) + ": " + QString::fromStdString(field.text) : fromUtf8(field.label);
 }
 
 QString numberOf(const std::string& cell) {
@@ -78,7 +74,7 @@ ByteWords byteWords(const fields::Reading& reading, std::size_t byte, const std:
     QStringList values;
     QStringList fields;
     for (std::size_t i = 0; i < found.size() && i < toldFields; ++i) {
-        labels += labelOf(*found[i]);
+        labels += fromUtf8(found[i]->label);
         fields += both(*found[i]);
         if (isShort(*found[i])) {
             values += QString::fromStdString(found[i]->text);

@@ -29,6 +29,10 @@ std::optional<char> toCharacter(QChar character) {
     return unicodeToCodePage(character.unicode());
 }
 
+QString fromUtf8(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
 std::string fileNameBytes(const QString& name) {
     return QFile::encodeName(name).toStdString();
 }

@@ -16,6 +16,9 @@ std::string fromUnicode(const QString& text);
 /// The 8-bit character, or nothing where the code page does not have it.
 std::optional<char> toCharacter(QChar character);
 
+/// For texts that are UTF-8 from the start, such as the names of fields.
+QString fromUtf8(std::string_view text);
+
 /// File names travel through the program as the bytes that the system uses for them.
 std::string fileNameBytes(const QString& name);
 QString fromFileNameBytes(std::string_view bytes);

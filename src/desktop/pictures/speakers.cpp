@@ -1,6 +1,7 @@
 #include <QStringList>
 #include <array>
 
+#include "desktop/base/text_codec.h"
 #include "desktop/pictures/painters.h"
 #include "desktop/pictures/sketch.h"
 
@@ -76,7 +77,7 @@ Picture drawSpeakers(const Values& values, const Canvas& canvas) {
         const fields::Field* field = values.field(speaker.field);
         const bool present = values.flag(speaker.field);
         if (present) {
-            told += QString::fromUtf8(field->label.data(), static_cast<qsizetype>(field->label.size()));
+            told += fromUtf8(field->label);
         } else if (speaker.check == noCheck) {
             continue;
         }

@@ -5,17 +5,10 @@
 #include <array>
 #include <utility>
 
+#include "desktop/base/text_codec.h"
 #include "desktop/base/tool_tip.h"
 
 namespace wb::desktop {
-
-namespace {
-
-QString fromUtf8(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-} // namespace
 
 CompareModel::Row CompareModel::rowFor(const fields::FieldPair& pair) {
     const auto [mine, theirs] = pair.texts();

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <tuple>
 
+#include "desktop/base/text_codec.h"
 #include "fields/place_text.h"
 
 namespace wb::desktop {
@@ -41,10 +42,6 @@ constexpr auto titles = std::to_array<Title>({
     {"video", "Video format"},
     {"video_420", "Video format in 4:2:0 only"},
 });
-
-QString fromUtf8(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// "detailed[2]" is "Detailed timing 2".
 QString titleOf(const QString& part) {
