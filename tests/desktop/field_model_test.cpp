@@ -163,6 +163,14 @@ TEST(FieldModel, GoesFromImageToImageAndToNone) {
     EXPECT_EQ(model.rowCount(), 0);
 }
 
+TEST(FieldModel, SaysInWhichNumbersTheBytesAre) {
+    const FieldModel model;
+    EXPECT_EQ(model.headerData(FieldModel::Bytes, Qt::Horizontal, Qt::DisplayRole), "Bytes");
+    EXPECT_TRUE(
+        model.headerData(FieldModel::Bytes, Qt::Horizontal, Qt::ToolTipRole).toString().contains("hexadecimal"));
+    EXPECT_EQ(model.headerData(FieldModel::Value, Qt::Horizontal, Qt::ToolTipRole), QVariant());
+}
+
 class FieldSearch : public testing::Test {
 protected:
     FieldSearch() {

@@ -128,8 +128,14 @@ QVariant FieldModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant FieldModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    static constexpr const char* heads[columns] = {"Field", "Value", "Bytes (hex)"};
-    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(heads[section]) : QVariant();
+    static constexpr const char* heads[columns] = {"Field", "Value", "Bytes"};
+    if (orientation != Qt::Horizontal) {
+        return {};
+    }
+    if (role == Qt::ToolTipRole && section == Bytes) {
+        return "In hexadecimal, from the start of the block; bits in brackets";
+    }
+    return role == Qt::DisplayRole ? QVariant(heads[section]) : QVariant();
 }
 
 } // namespace wb::desktop
