@@ -104,11 +104,11 @@ std::string blocksText(std::size_t first, std::size_t last) {
                          : "blocks " + std::to_string(first) + " to " + std::to_string(last);
 }
 
-std::vector<std::string> omissionsOf(const Image& image) {
+std::vector<std::string> omissionsOf(const Image& image, std::size_t held) {
     std::vector<std::string> sentences;
     const std::size_t blocks = image.blockCount();
-    if (blocks > Image::editedBlocks) {
-        sentences.push_back(blocksText(Image::editedBlocks, blocks - 1) + " left out");
+    if (blocks > held) {
+        sentences.push_back(blocksText(held, blocks - 1) + " left out");
     }
     if (image.leftOver() != 0) {
         sentences.push_back(std::to_string(image.leftOver()) + " bytes after the last block left out");

@@ -41,9 +41,10 @@ const Image& onlyImageOf(const Contents& contents);
 /// The name of the file as the user gave it, with the output of the image in brackets where there is one.
 std::string titleOf(const Image& image);
 
-/// What of an image the two blocks that the program edits do not hold: further blocks, bytes behind the last one, and
-/// blocks that it announces and that are not there. A sentence without an end mark each.
-std::vector<std::string> omissionsOf(const Image& image);
+/// What is left out of an image where its first `held` blocks are taken, as many as the program edits or more: further
+/// blocks, bytes behind the last one, and blocks that it announces and that are not there. A sentence without an
+/// end mark each.
+std::vector<std::string> omissionsOf(const Image& image, std::size_t held = Image::editedBlocks);
 
 /// What is wrong with a data file for an image of that many blocks: "3 blocks; a data file holds 2".
 std::string tooManyBlocks(std::size_t blocks);

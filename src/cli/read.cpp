@@ -37,27 +37,19 @@ struct Options {
     std::string formatOr(const std::string& other) const { return format.value_or(other); }
 };
 
-/// What a format leaves out of an image. A form of bytes holds the further blocks, which are told first elsewhere.
-std::vector<std::string> omissionsIn(const std::string& format, const Image& image) {
-    std::vector<std::string> omissions = omissionsOf(image);
-    if (isFormOfBytes(format) && image.blockCount() > Image::editedBlocks) {
-        omissions.erase(omissions.begin());
-    }
-    return omissions;
-}
-
 /// The content of an image in a format. What the program shows meanwhile, and what the format leaves out, is told;
 /// `name` is that of its monitor where there are several.
 std::string contentOf(const Image& image, const std::string& format, Program& program, const std::string& name) {
+    const bool takesAll = isFormOfBytes(format);
     std::string content;
-    if (isFormOfBytes(format)) {
+    if (takesAll) {
         content = contentAs(format, image);
     } else {
         program.load(image);
         content = contentAs(format, program);
     }
     complainOfBoxes(name, program.boxes());
-    for (const std::string& omission : omissionsIn(format, image)) {
+    for (const std::string& omission : omissionsOf(image, takesAll ? image.blockCount() : Image::editedBlocks)) {
         name.empty() ? complain(omission) : complain(name, omission);
     }
     return content;
